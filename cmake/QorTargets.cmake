@@ -1,0 +1,138 @@
+# The kinds of target this project has: DLLs, programs, test programs, benchmarks.
+include_guard(GLOBAL)
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_SHARED_LIBRARY_PREFIX "")
+set(CMAKE_SHARED_MODULE_PREFIX "")
+
+# winedbg and addr2line read line tables up to DWARF 4.
+add_compile_options("$<$<COMPILE_LANGUAGE:C,CXX>:-gdwarf-4>")
+if(NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
+    add_compile_options("$<$<COMPILE_LANGUAGE:C,CXX>:-g1>")
+endif()
+add_compile_definitions(UNICODE _UNICODE STRICT WINVER=0x0601 _WIN32_WINNT=0x0601 _WIN32_IE=0x0800)
+add_compile_definitions("$<$<CONFIG:Debug>:_DEBUG>")
+# Traces and messages must not hold the paths of the machine that built them.
+add_compile_options("$<$<COMPILE_LANGUAGE:C,CXX>:-fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=>")
+
+# The options of our own code; libraries fetched for the build are compiled without them.
+add_library(qor_options INTERFACE)
+target_compile_options(qor_options INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Werror>")
+target_include_directories(qor_options INTERFACE "$<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}>")
+set_target_properties(qor_options PROPERTIES EXPORT_NAME Options)
+
+# windres: sources are UTF-8.
+set(CMAKE_RC_FLAGS "${CMAKE_RC_FLAGS} -c 65001")
+
+# The compiler's run-time DLLs, shared by every program and DLL of ours so that exceptions and type
+# information cross their borders.
+function(_qor_find_runtime out)
+    set(found "")
+    foreach(dll libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+        execute_process(COMMAND "${CMAKE_CXX_COMPILER}" -print-file-name=${dll} OUTPUT_VARIABLE path
+                        OUTPUT_STRIP_TRAILING_WHITESPACE)
+        if(NOT EXISTS "${path}")
+            find_file(path_${dll} ${dll} PATHS /usr/x86_64-w64-mingw32/lib NO_CMAKE_FIND_ROOT_PATH)
+            set(path "${path_${dll}}")
+        endif()
+        if(NOT EXISTS "${path}")
+            message(FATAL_ERROR "The compiler's run-time library ${dll} was not found: "
+                                "is g++-mingw-w64-x86-64-posix installed?")
+        endif()
+        list(APPEND found "${path}")
+    endforeach()
+    set(${out} "${found}" PARENT_SCOPE)
+endfunction()
+if(NOT QOR_RUNTIME_DLLS)
+    _qor_find_runtime(_runtime)
+    set(QOR_RUNTIME_DLLS "${_runtime}" CACHE INTERNAL "Run-time DLLs of the compiler")
+endif()
+file(MAKE_DIRECTORY "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+foreach(_dll IN LISTS QOR_RUNTIME_DLLS)
+    configure_file("${_dll}" "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}" COPYONLY)
+endforeach()
+
+macro(_qor_parse)
+    cmake_parse_arguments(ARG "GUI;X11;CONSOLE" "RC;TIMEOUT" "SOURCES;LIBS;DEFINES;DEPENDS" ${ARGN})
+    if(ARG_UNPARSED_ARGUMENTS)
+        message(FATAL_ERROR "Unknown arguments: ${ARG_UNPARSED_ARGUMENTS}")
+    endif()
+endmacro()
+
+function(_qor_finish name)
+    cmake_parse_arguments(ARG "" "RC" "LIBS;DEFINES" ${ARGN})
+    if(ARG_RC)
+        target_sources(${name} PRIVATE "${ARG_RC}")
+        # The resource compiler does not report what its script includes.
+        get_filename_component(dir "${ARG_RC}" DIRECTORY)
+        file(GLOB_RECURSE parts CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${dir}/*.bmp"
+             "${CMAKE_CURRENT_SOURCE_DIR}/${dir}/*.png" "${CMAKE_CURRENT_SOURCE_DIR}/${dir}/*.avi"
+             "${CMAKE_CURRENT_SOURCE_DIR}/${dir}/*.ico" "${CMAKE_CURRENT_SOURCE_DIR}/${dir}/*.manifest"
+             "${CMAKE_CURRENT_SOURCE_DIR}/${dir}/*.h" "${CMAKE_CURRENT_SOURCE_DIR}/${dir}/*.rc")
+        set_property(SOURCE "${ARG_RC}" APPEND PROPERTY OBJECT_DEPENDS "${parts}")
+    endif()
+    target_link_libraries(${name} PUBLIC ${ARG_LIBS} PRIVATE qor_options)
+    if(ARG_DEFINES)
+        target_compile_definitions(${name} PRIVATE ${ARG_DEFINES})
+    endif()
+endfunction()
+
+# qor_dll(<name> SOURCES ... LIBS ... [RC file.rc] [DEFINES ...])
+function(qor_dll name)
+    _qor_parse(${ARGN})
+    add_library(${name} SHARED ${ARG_SOURCES})
+    _qor_finish(${name} RC "${ARG_RC}" LIBS ${ARG_LIBS} DEFINES ${ARG_DEFINES})
+    set_target_properties(${name} PROPERTIES PREFIX "" IMPORT_PREFIX "lib" CXX_VISIBILITY_PRESET hidden)
+    target_include_directories(${name} PUBLIC "$<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}>")
+endfunction()
+
+# qor_exe(<name> SOURCES ... LIBS ... [RC file.rc] [DEFINES ...] [GUI])
+function(qor_exe name)
+    _qor_parse(${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    _qor_finish(${name} RC "${ARG_RC}" LIBS ${ARG_LIBS} DEFINES ${ARG_DEFINES})
+    if(ARG_GUI)
+        set_target_properties(${name} PROPERTIES WIN32_EXECUTABLE ON)
+    endif()
+    target_link_options(${name} PRIVATE -municode)
+    target_compile_options(${name} PRIVATE -municode)
+endfunction()
+
+# qor_test(<name> SOURCES ... LIBS ... [RC file.rc] [DEFINES ...] [DEPENDS targets] [X11] [TIMEOUT seconds])
+# A GoogleTest program that CTest runs under Wine: on the null graphics driver, with X11 on a virtual display.
+function(qor_test name)
+    _qor_parse(${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    _qor_finish(${name} RC "${ARG_RC}" LIBS ${ARG_LIBS} qor_test_support DEFINES ${ARG_DEFINES})
+    target_link_options(${name} PRIVATE -municode)
+    if(ARG_DEPENDS)
+        add_dependencies(${name} ${ARG_DEPENDS})
+    endif()
+    add_test(NAME ${name} COMMAND ${name})
+    if(NOT ARG_TIMEOUT)
+        set(ARG_TIMEOUT 300)
+    endif()
+    math(EXPR limit "${ARG_TIMEOUT} + 60")
+    set(env "QOR_TIMEOUT=${ARG_TIMEOUT}" "QOR_WINEPREFIX=${QOR_TEST_PREFIX}")
+    if(ARG_X11)
+        set_tests_properties(${name} PROPERTIES LABELS x11)
+        list(APPEND env "QOR_X11=1")
+    endif()
+    # All programs of one prefix share one desktop, and with it the foreground window and the pointer.
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${limit} ENVIRONMENT "${env}" RESOURCE_LOCK desktop)
+endfunction()
+
+# qor_bench(<name> SOURCES ... LIBS ...)
+function(qor_bench name)
+    _qor_parse(${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    _qor_finish(${name} RC "${ARG_RC}" LIBS ${ARG_LIBS} qor::benchmark DEFINES ${ARG_DEFINES})
+    target_link_options(${name} PRIVATE -municode)
+    set_property(GLOBAL APPEND PROPERTY QOR_BENCHMARKS ${name})
+endfunction()
+set(QOR_TEST_PREFIX "${CMAKE_BINARY_DIR}/wine" CACHE PATH "Wine prefix of the test run")

@@ -1,0 +1,18 @@
+# The same libraries as ThirdParty.cmake, found as packages (vcpkg on Windows).
+include_guard(GLOBAL)
+
+find_package(pugixml CONFIG REQUIRED)
+add_library(qor::pugixml ALIAS pugixml::pugixml)
+find_package(unofficial-sqlite3 CONFIG REQUIRED)
+add_library(qor::sqlite3 ALIAS unofficial::sqlite3::sqlite3)
+find_package(ZLIB REQUIRED)
+add_library(qor::zlib ALIAS ZLIB::ZLIB)
+find_package(unofficial-minizip CONFIG REQUIRED)
+add_library(qor::minizip ALIAS unofficial::minizip::minizip)
+if(QOR_BUILD_TESTS)
+    find_package(GTest CONFIG REQUIRED)
+endif()
+if(QOR_BUILD_BENCHMARKS)
+    find_package(benchmark CONFIG REQUIRED)
+    add_library(qor::benchmark ALIAS benchmark::benchmark)
+endif()
