@@ -1,0 +1,91 @@
+#include "Template.h"
+
+#include <QorUI/res/resource.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <string>
+
+struct BitmapSize
+{
+    UINT id;
+    LONG width, height;
+};
+
+namespace
+{
+constexpr BitmapSize kBitmaps[] = {
+    {200, 78, 13}, {201, 78, 13}, {202, 6, 17},  {203, 6, 17},   {204, 6, 17},   {205, 6, 17},   {210, 105, 15},
+    {211, 30, 15}, {212, 8, 18},  {213, 5, 16},  {220, 104, 17}, {221, 100, 17}, {222, 168, 17}, {223, 168, 17},
+    {230, 48, 48}, {231, 6, 42},  {232, 6, 24},  {233, 6, 30},   {234, 6, 20},   {235, 6, 42},   {236, 6, 24},
+    {261, 32, 16}, {262, 72, 72}, {263, 16, 17}, {264, 32, 16},
+};
+
+std::string Text(UINT id, LPCWSTR type)
+{
+    const std::vector<BYTE> bytes = ResourceBytes(id, type);
+    return {bytes.begin(), bytes.end()};
+}
+} // namespace
+
+class BitmapTest : public testing::TestWithParam<BitmapSize>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(All, BitmapTest, testing::ValuesIn(kBitmaps),
+                         [](const auto& which) { return std::to_string(which.param.id); });
+
+TEST_P(BitmapTest, HasItsSizeAnd24Bits)
+{
+    const std::vector<BYTE> bytes = ResourceBytes(GetParam().id, RT_BITMAP);
+    BITMAPINFOHEADER header = {};
+    ASSERT_GE(bytes.size(), sizeof(header));
+    std::memcpy(&header, bytes.data(), sizeof(header));
+    EXPECT_EQ(GetParam().width, header.biWidth);
+    EXPECT_EQ(GetParam().height, header.biHeight);
+    EXPECT_EQ(24, header.biBitCount);
+    EXPECT_EQ(static_cast<DWORD>(BI_RGB), header.biCompression);
+}
+
+TEST(ProgressPattern, IsABitmapResourceOf472Bytes)
+{
+    EXPECT_EQ(472u, ResourceBytes(IDB_PROGRESS, RT_BITMAP).size());
+}
+
+TEST(PngPictures, AreThereUnderTheirType)
+{
+    for (UINT id : {281u, 282u, 283u})
+        EXPECT_EQ("\x89PNG\r\n\x1a\n", Text(id, L"PNG").substr(0, 8)) << id;
+    const std::string bar = Text(283, L"PNG");
+    ASSERT_GT(bar.size(), 24u);
+    EXPECT_EQ(200, static_cast<BYTE>(bar[19])) << "width";
+    EXPECT_EQ(20, static_cast<BYTE>(bar[23])) << "height";
+}
+
+// The frame's banner band is 84 pixels high, 64 with the application flag; the picture starts at y = 9.
+TEST(PngPictures, FitTheBandsOfTheFrame)
+{
+    EXPECT_LE(9 + static_cast<BYTE>(Text(281, L"PNG").at(23)), 84);
+    EXPECT_LE(9 + static_cast<BYTE>(Text(282, L"PNG").at(23)), 64);
+}
+
+TEST(Animation, IsAnAviResource)
+{
+    const std::string avi = Text(280, L"AVI");
+    EXPECT_EQ("RIFF", avi.substr(0, 4));
+    EXPECT_EQ("AVI ", avi.substr(8, 4));
+}
+
+TEST(Manifest, AsksForTheVersion6CommonControlsUnderTheNumberOfALibrary)
+{
+    const std::string manifest = Text(2, RT_MANIFEST);
+    EXPECT_NE(std::string::npos, manifest.find("Microsoft.Windows.Common-Controls"));
+    EXPECT_NE(std::string::npos, manifest.find("version=\"6.0.0.0\""));
+}
+
+TEST(Version, IsThere)
+{
+    EXPECT_GT(ResourceBytes(1, RT_VERSION).size(), 100u);
+}
