@@ -123,8 +123,8 @@ function(qor_test name)
         set_tests_properties(${name} PROPERTIES LABELS x11)
         list(APPEND env "QOR_X11=1")
     endif()
-    # All programs of one prefix share one desktop, and with it the foreground window and the pointer.
-    set_tests_properties(${name} PROPERTIES TIMEOUT ${limit} ENVIRONMENT "${env}" RESOURCE_LOCK desktop)
+    # Programs that run at the same time get a Wine prefix each, and with it a desktop of their own.
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${limit} ENVIRONMENT "${env}")
 endfunction()
 
 # qor_bench(<name> SOURCES ... LIBS ...)
@@ -132,7 +132,5 @@ function(qor_bench name)
     _qor_parse(${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     _qor_finish(${name} RC "${ARG_RC}" LIBS ${ARG_LIBS} qor::benchmark DEFINES ${ARG_DEFINES})
-    target_link_options(${name} PRIVATE -municode)
-    set_property(GLOBAL APPEND PROPERTY QOR_BENCHMARKS ${name})
 endfunction()
 set(QOR_TEST_PREFIX "${CMAKE_BINARY_DIR}/wine" CACHE PATH "Wine prefix of the test run")
