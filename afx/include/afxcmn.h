@@ -1,0 +1,8 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <afx/cmnctrl.h>
+#include <afx/draglist.h>
+#include <afx/imagelist.h>
+#include <afx/richedit.h>

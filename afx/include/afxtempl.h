@@ -1,0 +1,4 @@
+#pragma once
+
+#include <afx/coll.h>
+#include <afx/templ.h>

@@ -1,0 +1,6 @@
+#pragma once
+
+/** @file
+ *  Dates and times in the automation format. */
+
+#include <afx/oledate.h>
