@@ -1,0 +1,128 @@
+#include "Store.h"
+
+#include <memory>
+#include <new>
+
+namespace
+{
+
+/** What one thread has opened. */
+struct ThreadLink
+{
+    int depth = 0;
+    CDatabase db;
+};
+
+/** The threads' links, each dropped when its thread ends. */
+class CLinkTable
+{
+  public:
+    CLinkTable() : m_index(FlsAlloc(Drop)) {}
+    ~CLinkTable()
+    {
+        if (IsProcessEnding())
+            return;
+        if (m_index != FLS_OUT_OF_INDEXES)
+            FlsFree(m_index);
+        sqlite3_shutdown();
+    }
+    CLinkTable(const CLinkTable&) = delete;
+    CLinkTable& operator=(const CLinkTable&) = delete;
+
+    /** The calling thread's link, or null. */
+    ThreadLink* Find() const
+    {
+        return m_index == FLS_OUT_OF_INDEXES ? nullptr : static_cast<ThreadLink*>(FlsGetValue(m_index));
+    }
+    bool Set(ThreadLink* link) const { return m_index != FLS_OUT_OF_INDEXES && FlsSetValue(m_index, link); }
+
+  private:
+    // While the process ends its other threads are gone, perhaps with SQLite's locks: then everything is left to the
+    // system, and the next process that opens the store takes over its log.
+    static bool IsProcessEnding()
+    {
+        using Query = BOOLEAN(NTAPI*)();
+        const auto query = reinterpret_cast<Query>(
+            reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "RtlDllShutdownInProgress")));
+        return query && query();
+    }
+    static void CALLBACK Drop(void* link)
+    {
+        if (!IsProcessEnding())
+            delete static_cast<ThreadLink*>(link);
+    }
+
+    DWORD m_index;
+};
+
+CLinkTable& GetLinks()
+{
+    static CLinkTable links;
+    return links;
+}
+
+DWORD RunInTransaction(CDatabase& db, bool write, StoreWork work, void* context)
+{
+    DWORD status = db.Begin(write);
+    if (status != 0)
+        return status;
+    try {
+        status = work(db, context);
+    } catch (CException* exception) {
+        exception->Delete();
+        status = ERROR_NOT_ENOUGH_MEMORY;
+    } catch (const std::bad_alloc&) {
+        status = ERROR_NOT_ENOUGH_MEMORY;
+    }
+    // A failed statement counts, whatever the work made of it.
+    if (db.GetStatus() != 0)
+        status = db.GetStatus();
+    if (status == 0)
+        status = db.Commit();
+    if (status != 0)
+        db.Rollback();
+    return status;
+}
+
+} // namespace
+
+DWORD RunOnStore(bool write, StoreWork work, void* context)
+{
+    const std::wstring path = QorGetStorePath().GetString();
+    ThreadLink* link = GetLinks().Find();
+    if (!link || link->depth == 0) {
+        CDatabase db;
+        const DWORD status = db.Open(path);
+        return status ? status : RunInTransaction(db, write, work, context);
+    }
+    if (!link->db.IsOpen() || link->db.GetPath() != path) {
+        if (const DWORD status = link->db.Open(path))
+            return status;
+    }
+    return RunInTransaction(link->db, write, work, context);
+}
+
+DWORD QorOpen()
+{
+    ThreadLink* link = GetLinks().Find();
+    if (!link) {
+        auto fresh = std::unique_ptr<ThreadLink>(new (std::nothrow) ThreadLink);
+        if (!fresh || !GetLinks().Set(fresh.get()))
+            return ERROR_NOT_ENOUGH_MEMORY;
+        link = fresh.release();
+    }
+    const std::wstring path = QorGetStorePath().GetString();
+    if (!link->db.IsOpen() || link->db.GetPath() != path) {
+        if (const DWORD status = link->db.Open(path))
+            return status;
+    }
+    ++link->depth;
+    return 0;
+}
+
+void QorClose()
+{
+    ThreadLink* link = GetLinks().Find();
+    if (link && link->depth > 0 && --link->depth == 0)
+        link->db.Close();
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Store.h"
+
+/** The records kept as they are, in the tables `snapshot` and `task`: one per number. */
+class CRecordTable
+{
+  public:
+    /** @param recordSize bytes of a record. @param first, last numbers that a record may have. */
+    constexpr CRecordTable(const char* name, size_t recordSize, WORD first, WORD last)
+        : m_name(name), m_recordSize(recordSize), m_first(first), m_last(last)
+    {
+    }
+
+    /** @return ERROR_NOT_FOUND, or the database's status. */
+    DWORD Load(CDatabase& db, WORD number, void* record) const;
+    DWORD Store(CDatabase& db, WORD number, const void* record) const;
+    /** @return ERROR_NOT_FOUND, or the database's status. */
+    DWORD Delete(CDatabase& db, WORD number) const;
+    /** The lowest free number. @return ERROR_NOT_ENOUGH_QUOTA when all are in use. */
+    DWORD FindFree(CDatabase& db, WORD& number) const;
+
+  private:
+    std::string Sql(const char* before, const char* after) const { return before + std::string(m_name) + after; }
+
+    const char* m_name;
+    size_t m_recordSize;
+    WORD m_first;
+    WORD m_last;
+};
+
+constexpr CRecordTable SNAPSHOT_TABLE("snapshot", sizeof(_QORVEX_SNAP), 1, QORSNAP_MAX);
+constexpr CRecordTable TASK_TABLE("task", sizeof(_QORVEX_TASK), 0, QORTASK_MAX);

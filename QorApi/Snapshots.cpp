@@ -1,0 +1,95 @@
+#include "Names.h"
+#include "Records.h"
+#include "Session.h"
+
+namespace
+{
+
+bool IsNoTime(const _QORTIME& time)
+{
+    const _QORTIME none = {};
+    return memcmp(&time, &none, sizeof(time)) == 0;
+}
+
+/** The record as it is kept: only what has a meaning, completed. */
+DWORD Clean(const _QORVEX_SNAP& snapshot, _QORVEX_SNAP& clean)
+{
+    CString name;
+    if (!ReadField(snapshot.szName, name) || name.IsEmpty())
+        return ERROR_INVALID_NAME;
+    WriteField(clean.szName, name);
+    clean.wFlags = snapshot.wFlags & QORSNAP_LOCKED;
+    clean.nSize = snapshot.nSize;
+    SYSTEMTIME time = {};
+    if (IsNoTime(snapshot.time))
+        GetLocalTime(&time);
+    else if (!QorTime2SysTime(snapshot.time, time))
+        return ERROR_INVALID_TIME;
+    return SysTime2QorTime(time, clean.time) ? 0 : ERROR_INVALID_TIME;
+}
+
+/** Changes one snapshot with the right to take them. */
+template <class Change>
+DWORD ChangeSnapshot(WORD number, Change change)
+{
+    return WriteStore([&](CDatabase& db) {
+        _QORVEX_SNAP snapshot;
+        DWORD status = NeedRights(db, QORRIGHT_TAKESNAP);
+        if (status == 0)
+            status = SNAPSHOT_TABLE.Load(db, number, &snapshot);
+        if (status != 0)
+            return status;
+        change(snapshot);
+        return SNAPSHOT_TABLE.Store(db, number, &snapshot);
+    });
+}
+
+} // namespace
+
+DWORD QorAddSnapshot(_QORVEX_SNAP& snapshot)
+{
+    _QORVEX_SNAP clean = {};
+    DWORD status = Clean(snapshot, clean);
+    if (status != 0)
+        return status;
+    status = WriteStore([&](CDatabase& db) {
+        WORD number = 0;
+        DWORD result = NeedRights(db, QORRIGHT_TAKESNAP);
+        if (result == 0)
+            result = SNAPSHOT_TABLE.FindFree(db, number);
+        clean.wNumber = number;
+        return result ? result : SNAPSHOT_TABLE.Store(db, number, &clean);
+    });
+    if (status == 0)
+        snapshot = clean;
+    return status;
+}
+
+DWORD QorDeleteSnapshot(WORD number)
+{
+    return WriteStore([&](CDatabase& db) {
+        _QORVEX_SNAP snapshot;
+        DWORD status = NeedRights(db, QORRIGHT_DELSNAP);
+        if (status == 0)
+            status = SNAPSHOT_TABLE.Load(db, number, &snapshot);
+        if (status != 0)
+            return status;
+        return snapshot.wFlags & QORSNAP_LOCKED ? static_cast<DWORD>(ERROR_LOCKED) : SNAPSHOT_TABLE.Delete(db, number);
+    });
+}
+
+DWORD QorRenameSnapshot(WORD number, LPCWSTR name)
+{
+    CString trimmed(name ? name : L"");
+    trimmed.Trim();
+    if (trimmed.IsEmpty() || trimmed.GetLength() >= static_cast<int>(std::size(_QORVEX_SNAP().szName)))
+        return ERROR_INVALID_NAME;
+    return ChangeSnapshot(number, [&](_QORVEX_SNAP& snapshot) { WriteField(snapshot.szName, trimmed); });
+}
+
+DWORD QorLockSnapshot(WORD number, BOOL lock)
+{
+    return ChangeSnapshot(number, [=](_QORVEX_SNAP& snapshot) {
+        snapshot.wFlags = lock ? snapshot.wFlags | QORSNAP_LOCKED : snapshot.wFlags & ~QORSNAP_LOCKED;
+    });
+}

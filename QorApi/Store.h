@@ -1,0 +1,99 @@
+#pragma once
+
+#include <QorApi/QorApi.h>
+
+#include <sqlite3.h>
+
+#include <string>
+#include <vector>
+
+/** One connection to the store. The first failure stays its status until Begin(). */
+class CDatabase
+{
+  public:
+    CDatabase() = default;
+    ~CDatabase();
+    CDatabase(const CDatabase&) = delete;
+    CDatabase& operator=(const CDatabase&) = delete;
+
+    /** Opens the store, which is made when the file is missing or has no content. A store that is refused stays as it
+     * is. */
+    DWORD Open(const std::wstring& path);
+    void Close();
+    bool IsOpen() const { return m_db != nullptr; }
+    const std::wstring& GetPath() const { return m_path; }
+
+    DWORD Begin(bool write);
+    DWORD Commit();
+    void Rollback();
+
+    /** Status of everything since Begin(): 0 or the first failure. */
+    DWORD GetStatus() const { return m_status; }
+    /** Notes that what was read makes no sense. */
+    DWORD SetDamaged();
+
+  private:
+    friend class CQuery;
+
+    DWORD OpenFile(bool create, bool readOnly);
+    DWORD Check(bool fresh);
+    DWORD MakeSchema();
+    DWORD Execute(const char* sql);
+    long long QueryNumber(const char* sql);
+    bool IsIntact();
+    bool IsEmpty();
+    DWORD Note(int code);
+
+    sqlite3* m_db = nullptr;
+    std::wstring m_path;
+    DWORD m_status = 0;
+};
+
+/** One statement with its parameters (from 1) and its result columns (from 0). Failures go to the database's status. */
+class CQuery
+{
+  public:
+    CQuery(CDatabase& db, const char* sql);
+    ~CQuery();
+    CQuery(const CQuery&) = delete;
+    CQuery& operator=(const CQuery&) = delete;
+
+    CQuery& Bind(int index, long long value);
+    CQuery& Bind(int index, LPCWSTR text);
+    /** A null pointer binds NULL. */
+    CQuery& Bind(int index, const void* data, size_t size);
+
+    /** Goes to the next row; false behind the last and after a failure. */
+    bool Next();
+    /** Runs a statement without result. @return the database's status. */
+    DWORD Run();
+
+    long long GetNumber(int column) const;
+    CString GetText(int column) const;
+    std::vector<BYTE> GetBlob(int column) const;
+    /** A blob of exactly the size; any other notes the store as damaged and gives zeros. */
+    void GetRecord(int column, void* record, size_t size) const;
+
+  private:
+    CDatabase& m_db;
+    sqlite3_stmt* m_statement = nullptr;
+};
+
+/** Work on the store within one transaction; a status other than 0 undoes it. */
+using StoreWork = DWORD (*)(CDatabase& db, void* context);
+
+DWORD RunOnStore(bool write, StoreWork work, void* context);
+
+template <class Work>
+DWORD ReadStore(Work work)
+{
+    return RunOnStore(
+        false, [](CDatabase& db, void* context) { return (*static_cast<Work*>(context))(db); }, &work);
+}
+
+template <class Work>
+DWORD WriteStore(Work work)
+{
+    return RunOnStore(
+        true, [](CDatabase& db, void* context) { return (*static_cast<Work*>(context))(db); }, &work);
+}
