@@ -551,7 +551,7 @@ CString COleDateTime::Format(DWORD dwFlags, LCID lcid) const
     if (m_status != valid || FAILED(::VarBstrFromDate(m_dt, lcid, dwFlags, &text))) {
         return kInvalidDate;
     }
-    const CString result(text);
+    CString result(text);
     ::SysFreeString(text);
     return result;
 }

@@ -503,8 +503,7 @@ int CRgn::CopyRgn(const CRgn* pRgnSrc)
 
 BOOL CRgn::EqualRgn(const CRgn* pRgn) const
 {
-    const BOOL nEqual = ::EqualRgn(*this, RegionOf(pRgn));
-    return nEqual != ERROR && nEqual;
+    return ::EqualRgn(*this, RegionOf(pRgn));
 }
 
 int CRgn::OffsetRgn(int x, int y)

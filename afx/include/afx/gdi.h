@@ -33,7 +33,7 @@ class AFX_LIB CGdiObject : public CObject
     CGdiObject() = default;
     CGdiObject(const CGdiObject&) = delete;
     CGdiObject& operator=(const CGdiObject&) = delete;
-    virtual ~CGdiObject();
+    ~CGdiObject() override;
 
     operator HGDIOBJ() const;
     HGDIOBJ GetSafeHandle() const;
@@ -241,7 +241,7 @@ class AFX_LIB CDC : public CObject
     CDC() = default;
     CDC(const CDC&) = delete;
     CDC& operator=(const CDC&) = delete;
-    virtual ~CDC();
+    ~CDC() override;
 
     static CDC* PASCAL FromHandle(HDC hDC);
     static void PASCAL DeleteTempMap();
@@ -561,7 +561,7 @@ class AFX_LIB CClientDC : public CDC
 
   public:
     explicit CClientDC(CWnd* pWnd);
-    virtual ~CClientDC();
+    ~CClientDC() override;
 
   protected:
     HWND m_hWnd; ///< The window the context is given back to.
@@ -574,7 +574,7 @@ class AFX_LIB CWindowDC : public CDC
 
   public:
     explicit CWindowDC(CWnd* pWnd);
-    virtual ~CWindowDC();
+    ~CWindowDC() override;
 
   protected:
     HWND m_hWnd; ///< The window the context is given back to.
@@ -587,7 +587,7 @@ class AFX_LIB CPaintDC : public CDC
 
   public:
     explicit CPaintDC(CWnd* pWnd);
-    virtual ~CPaintDC();
+    ~CPaintDC() override;
 
     PAINTSTRUCT m_ps; ///< What BeginPaint said: the rectangle to paint, whether to erase.
 

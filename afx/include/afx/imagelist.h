@@ -19,7 +19,7 @@ class AFX_LIB CImageList : public CObject
     CImageList() = default;
     CImageList(const CImageList&) = delete;
     CImageList& operator=(const CImageList&) = delete;
-    virtual ~CImageList();
+    ~CImageList() override;
 
     /** @param cx,cy picture size in pixels. @param nFlags ILC_... */
     BOOL Create(int cx, int cy, UINT nFlags, int nInitial, int nGrow);

@@ -21,7 +21,7 @@ class AFX_LIB CMenu : public CObject
     CMenu() = default;
     CMenu(const CMenu&) = delete;
     CMenu& operator=(const CMenu&) = delete;
-    virtual ~CMenu();
+    ~CMenu() override;
 
     BOOL CreateMenu();
     BOOL CreatePopupMenu();

@@ -1,0 +1,292 @@
+#include <afxdisp.h>
+#include <atlcomtime.h>
+#include <ctime>
+#include <tests/support/Support.h>
+#include <vector>
+
+namespace
+{
+
+constexpr double kSecond = 1.0 / 86400;
+
+COleDateTime Date(int year, int month, int day, int hour = 0, int minute = 0, int second = 0)
+{
+    return COleDateTime(year, month, day, hour, minute, second);
+}
+
+std::vector<int> PartsOf(const COleDateTime& date)
+{
+    return {date.GetYear(), date.GetMonth(), date.GetDay(), date.GetHour(), date.GetMinute(), date.GetSecond()};
+}
+
+COleDateTime WithStatus(COleDateTime::DateTimeStatus status)
+{
+    COleDateTime date(40000.0);
+    date.SetStatus(status);
+    return date;
+}
+
+const COleDateTime kInvalid = WithStatus(COleDateTime::invalid);
+const COleDateTime kNull = WithStatus(COleDateTime::null);
+
+} // namespace
+
+TEST(OleDateTime, DefaultIsTheValidStartOfTheFormat)
+{
+    const COleDateTime date;
+    EXPECT_EQ(COleDateTime::valid, date.GetStatus());
+    EXPECT_EQ(0.0, date.m_dt);
+    EXPECT_EQ((std::vector{1899, 12, 30, 0, 0, 0}), PartsOf(date));
+}
+
+TEST(OleDateTime, PartsComeBackFromAllDaysOfManyYears)
+{
+    for (int day = -657434; day < 2958466; day += 97) {
+        const DATE value = day < 0 ? day - 0.75 : day + 0.75;
+        SYSTEMTIME expected;
+        ASSERT_TRUE(VariantTimeToSystemTime(value, &expected));
+        const COleDateTime date(value);
+        ASSERT_EQ((std::vector<int>{expected.wYear, expected.wMonth, expected.wDay, 18, 0, 0}), PartsOf(date)) << day;
+        ASSERT_EQ(expected.wDayOfWeek + 1, date.GetDayOfWeek()) << day;
+    }
+}
+
+TEST(OleDateTime, ComponentsMakeTheSystemsValue)
+{
+    for (const int year : {100, 1582, 1899, 1900, 1970, 2000, 2009, 9999}) {
+        SYSTEMTIME parts = {static_cast<WORD>(year), 12, 0, 31, 23, 59, 58, 0};
+        DATE expected = 0;
+        ASSERT_TRUE(SystemTimeToVariantTime(&parts, &expected));
+        EXPECT_NEAR(expected, Date(year, 12, 31, 23, 59, 58).m_dt, 1e-8) << year;
+    }
+}
+
+TEST(OleDateTime, DaysBeforeTheStartCountTheTimeForwards)
+{
+    const COleDateTime date(-1.25);
+    EXPECT_EQ((std::vector{1899, 12, 29, 6, 0, 0}), PartsOf(date));
+    EXPECT_EQ(-1.25, Date(1899, 12, 29, 6).m_dt);
+}
+
+TEST(OleDateTime, FirstAndLastDayAreValidAndTheirNeighboursAreNot)
+{
+    EXPECT_EQ(COleDateTime::valid, COleDateTime(-657434.0).GetStatus());
+    EXPECT_EQ((std::vector{100, 1, 1, 0, 0, 0}), PartsOf(COleDateTime(-657434.0)));
+    EXPECT_EQ(COleDateTime::invalid, COleDateTime(-657435.0).GetStatus());
+    EXPECT_EQ(COleDateTime::valid, COleDateTime(2958465.0).GetStatus());
+    EXPECT_EQ((std::vector{9999, 12, 31, 0, 0, 0}), PartsOf(COleDateTime(2958465.0)));
+    EXPECT_EQ(COleDateTime::invalid, COleDateTime(2958466.0).GetStatus());
+}
+
+TEST(OleDateTime, LastHalfSecondStaysInTheLastYear)
+{
+    EXPECT_EQ((std::vector{9999, 12, 31, 23, 59, 59}), PartsOf(COleDateTime(2958465.999999)));
+}
+
+TEST(OleDateTime, HalfASecondRoundsUpAndLessRoundsDown)
+{
+    EXPECT_EQ(31, COleDateTime(40000 + 30.6 * kSecond).GetSecond());
+    EXPECT_EQ(30, COleDateTime(40000 + 30.4 * kSecond).GetSecond());
+    EXPECT_EQ((std::vector{2009, 7, 7, 0, 0, 0}), PartsOf(COleDateTime(40001 - 0.3 * kSecond)));
+}
+
+TEST(OleDateTime, ImpossibleComponentsAreInvalid)
+{
+    EXPECT_EQ(COleDateTime::invalid, Date(2009, 2, 29).GetStatus());
+    EXPECT_EQ(COleDateTime::valid, Date(2008, 2, 29).GetStatus());
+    EXPECT_EQ(COleDateTime::invalid, Date(1900, 2, 29).GetStatus());
+    EXPECT_EQ(COleDateTime::valid, Date(2000, 2, 29).GetStatus());
+    EXPECT_EQ(COleDateTime::invalid, Date(2009, 13, 1).GetStatus());
+    EXPECT_EQ(COleDateTime::invalid, Date(2009, 0, 1).GetStatus());
+    EXPECT_EQ(COleDateTime::invalid, Date(2009, 4, 31).GetStatus());
+    EXPECT_EQ(COleDateTime::invalid, Date(2009, 4, 0).GetStatus());
+    EXPECT_EQ(COleDateTime::invalid, Date(99, 1, 1).GetStatus());
+    EXPECT_EQ(COleDateTime::invalid, Date(10000, 1, 1).GetStatus());
+    EXPECT_EQ(COleDateTime::invalid, Date(2009, 1, 1, 24).GetStatus());
+    EXPECT_EQ(COleDateTime::invalid, Date(2009, 1, 1, 0, 60).GetStatus());
+    EXPECT_EQ(COleDateTime::invalid, Date(2009, 1, 1, 0, 0, 60).GetStatus());
+    EXPECT_EQ(COleDateTime::invalid, Date(2009, 1, 1, -1).GetStatus());
+}
+
+TEST(OleDateTime, PartsOfWhatIsNotValidAreMinusOne)
+{
+    for (const COleDateTime& date : {kInvalid, kNull}) {
+        EXPECT_EQ((std::vector{-1, -1, -1, -1, -1, -1}), PartsOf(date));
+        EXPECT_EQ(-1, date.GetDayOfWeek());
+        EXPECT_EQ(-1, date.GetDayOfYear());
+        SYSTEMTIME time = {1, 2, 3, 4, 5, 6, 7, 8};
+        EXPECT_FALSE(date.GetAsSystemTime(time));
+        EXPECT_EQ(1, time.wYear);
+        UDATE udate = {};
+        EXPECT_FALSE(date.GetAsUDATE(udate));
+    }
+}
+
+TEST(OleDateTime, WeekdaysBeginWithSundayAsOne)
+{
+    EXPECT_EQ(1, Date(2009, 3, 1).GetDayOfWeek());
+    EXPECT_EQ(7, Date(2009, 3, 7).GetDayOfWeek());
+    EXPECT_EQ(7, COleDateTime().GetDayOfWeek());
+}
+
+TEST(OleDateTime, DaysOfTheYearBeginWithOne)
+{
+    EXPECT_EQ(1, Date(2009, 1, 1).GetDayOfYear());
+    EXPECT_EQ(365, Date(2009, 12, 31).GetDayOfYear());
+    EXPECT_EQ(366, Date(2008, 12, 31).GetDayOfYear());
+}
+
+TEST(OleDateTime, SystemTimeGoesThereAndBackWithoutMilliseconds)
+{
+    const SYSTEMTIME source = {2009, 3, 0, 14, 15, 16, 17, 999};
+    const COleDateTime date(source);
+    SYSTEMTIME back;
+    ASSERT_TRUE(date.GetAsSystemTime(back));
+    EXPECT_EQ((std::vector<WORD>{2009, 3, 6, 14, 15, 16, 17, 0}),
+              (std::vector<WORD>{back.wYear, back.wMonth, back.wDayOfWeek, back.wDay, back.wHour, back.wMinute,
+                                 back.wSecond, back.wMilliseconds}));
+}
+
+TEST(OleDateTime, UdateHasTheDayOfTheYear)
+{
+    UDATE udate = {};
+    ASSERT_TRUE(Date(2009, 2, 1, 1, 2, 3).GetAsUDATE(udate));
+    EXPECT_EQ(32, udate.wDayOfYear);
+    EXPECT_EQ(2009, udate.st.wYear);
+    COleDateTime date;
+    date = udate;
+    EXPECT_TRUE(date == Date(2009, 2, 1, 1, 2, 3));
+}
+
+TEST(OleDateTime, SecondsSince1970BecomeLocalTime)
+{
+    const __time64_t time = 1236988800;
+    const tm* local = _localtime64(&time);
+    const std::vector expected = {local->tm_year + 1900, local->tm_mon + 1, local->tm_mday,
+                                  local->tm_hour,        local->tm_min,     local->tm_sec};
+    EXPECT_EQ(expected, PartsOf(COleDateTime(time)));
+    EXPECT_EQ(expected, PartsOf(COleDateTime(static_cast<__time32_t>(time))));
+    EXPECT_EQ(COleDateTime::invalid, COleDateTime(static_cast<__time64_t>(-1)).GetStatus());
+}
+
+TEST(OleDateTime, FileTimeBecomesLocalTime)
+{
+    const SYSTEMTIME universal = {2009, 7, 0, 14, 15, 16, 17, 0};
+    SYSTEMTIME local;
+    ASSERT_TRUE(SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local));
+    FILETIME file;
+    ASSERT_TRUE(SystemTimeToFileTime(&universal, &file));
+    EXPECT_TRUE(COleDateTime(local) == COleDateTime(file));
+    const FILETIME impossible = {0xFFFFFFFF, 0xFFFFFFFF};
+    EXPECT_EQ(COleDateTime::invalid, COleDateTime(impossible).GetStatus());
+}
+
+TEST(OleDateTime, DosDateAndTime)
+{
+    const WORD date = (29 << 9) | (3 << 5) | 14;
+    const WORD time = (15 << 11) | (16 << 5) | 9;
+    EXPECT_EQ((std::vector{2009, 3, 14, 15, 16, 18}), PartsOf(COleDateTime(date, time)));
+    EXPECT_EQ(COleDateTime::invalid, COleDateTime(static_cast<WORD>(0), time).GetStatus());
+}
+
+TEST(OleDateTime, VariantsAreConverted)
+{
+    VARIANT value;
+    VariantInit(&value);
+    value.vt = VT_DATE;
+    value.date = 40000.5;
+    EXPECT_EQ(40000.5, COleDateTime(value).m_dt);
+    value.vt = VT_NULL;
+    EXPECT_EQ(COleDateTime::null, COleDateTime(value).GetStatus());
+    value.vt = VT_BSTR;
+    value.bstrVal = SysAllocString(L"no date");
+    EXPECT_EQ(COleDateTime::invalid, COleDateTime(value).GetStatus());
+    VariantClear(&value);
+}
+
+TEST(OleDateTime, CurrentTimeIsTheLocalTime)
+{
+    SYSTEMTIME before;
+    SYSTEMTIME after;
+    GetLocalTime(&before);
+    const COleDateTime now = COleDateTime::GetCurrentTime();
+    GetLocalTime(&after);
+    EXPECT_TRUE(COleDateTime(before) <= now);
+    EXPECT_TRUE(now <= COleDateTime(after));
+}
+
+TEST(OleDateTime, SettersTellTheStatus)
+{
+    COleDateTime date;
+    EXPECT_EQ(0, date.SetDate(2009, 3, 14));
+    EXPECT_TRUE(date == Date(2009, 3, 14));
+    EXPECT_EQ(0, date.SetTime(15, 16, 17));
+    EXPECT_EQ((std::vector{1899, 12, 30, 15, 16, 17}), PartsOf(date));
+    EXPECT_EQ(1, date.SetDateTime(2009, 2, 30, 0, 0, 0));
+    EXPECT_EQ(COleDateTime::invalid, date.GetStatus());
+    EXPECT_EQ(0, date.SetDateTime(2009, 2, 28, 1, 2, 3));
+    EXPECT_EQ(COleDateTime::valid, date.GetStatus());
+}
+
+TEST(OleDateTime, OrderHoldsAcrossTheStartOfTheFormat)
+{
+    const COleDateTime early(-1.75);   // 29 December, 18:00
+    const COleDateTime earlier(-1.25); // 29 December, 6:00
+    EXPECT_TRUE(earlier < early);
+    EXPECT_TRUE(early > earlier);
+    EXPECT_TRUE(early < COleDateTime());
+    EXPECT_TRUE(early <= early && early >= early);
+    EXPECT_FALSE(early < early || early > early);
+    EXPECT_TRUE(early == COleDateTime(-1.75));
+    EXPECT_TRUE(early != earlier);
+}
+
+TEST(OleDateTime, WhatIsNotValidHasNoOrder)
+{
+    const COleDateTime date(1.0);
+    for (const COleDateTime& other : {kInvalid, kNull}) {
+        EXPECT_FALSE(other < date || other > date || other <= date || other >= date);
+        EXPECT_FALSE(date < other || date > other || date <= other || date >= other);
+        EXPECT_FALSE(date == other);
+    }
+    EXPECT_TRUE(kInvalid == WithStatus(COleDateTime::invalid));
+    EXPECT_FALSE(kInvalid == kNull);
+}
+
+TEST(OleDateTime, AddingDaysGoesAcrossTheStartOfTheFormat)
+{
+    EXPECT_TRUE(Date(1899, 12, 28, 6) == Date(1899, 12, 31, 6) - COleDateTimeSpan(3));
+    EXPECT_TRUE(Date(1899, 12, 31, 6) == Date(1899, 12, 28, 6) + COleDateTimeSpan(3));
+    COleDateTime date = Date(2008, 2, 28);
+    date += COleDateTimeSpan(2);
+    EXPECT_TRUE(date == Date(2008, 3, 1));
+    date -= COleDateTimeSpan(1);
+    EXPECT_TRUE(date == Date(2008, 2, 29));
+}
+
+TEST(OleDateTime, DifferenceIsASpan)
+{
+    EXPECT_EQ(3.0, (Date(1899, 12, 31, 6) - Date(1899, 12, 28, 6)).m_span);
+    EXPECT_EQ(-365.5, (Date(2009, 1, 1) - Date(2010, 1, 1, 12)).m_span);
+    EXPECT_EQ(2958465.0 + 657434, (Date(9999, 12, 31) - Date(100, 1, 1)).m_span);
+}
+
+TEST(OleDateTime, LeavingTheRangeMakesAnInvalidDate)
+{
+    EXPECT_EQ(COleDateTime::invalid, (Date(9999, 12, 31) + COleDateTimeSpan(1)).GetStatus());
+    EXPECT_EQ(COleDateTime::invalid, (Date(100, 1, 1) - COleDateTimeSpan(1)).GetStatus());
+}
+
+TEST(OleDateTime, NullWinsOverInvalidInArithmetic)
+{
+    COleDateTimeSpan invalidSpan;
+    invalidSpan.SetStatus(COleDateTimeSpan::invalid);
+    COleDateTimeSpan nullSpan;
+    nullSpan.SetStatus(COleDateTimeSpan::null);
+    EXPECT_EQ(COleDateTime::null, (kNull + invalidSpan).GetStatus());
+    EXPECT_EQ(COleDateTime::null, (kInvalid + nullSpan).GetStatus());
+    EXPECT_EQ(COleDateTime::invalid, (kInvalid + COleDateTimeSpan(1)).GetStatus());
+    EXPECT_EQ(COleDateTime::invalid, (COleDateTime() - invalidSpan).GetStatus());
+    EXPECT_EQ(COleDateTimeSpan::null, (kNull - kInvalid).GetStatus());
+    EXPECT_EQ(COleDateTimeSpan::invalid, (COleDateTime() - kInvalid).GetStatus());
+}

@@ -1,0 +1,18 @@
+#define IDD_SIMPLE 100
+#define IDD_EXCHANGE 101
+#define IDD_PLACED 102
+#define IDD_EXTENDED 103
+#define IDD_HIDDEN 104
+
+#define IDC_NAME 1001
+#define IDC_AGE 1002
+#define IDC_CHECK 1003
+#define IDC_RADIO1 1004
+#define IDC_RADIO2 1005
+#define IDC_RADIO3 1006
+#define IDC_LIST 1007
+#define IDC_COMBO 1008
+#define IDC_REAL 1009
+#define IDC_ACTION 1010
+#define IDC_LABEL 1011
+#define IDS_GREETING 200
