@@ -1,0 +1,193 @@
+#include "Draw.h"
+
+#include "GdiSavers.h"
+
+#include <QorPub/QorPub.h>
+
+#include <cstring>
+
+namespace
+{
+
+constexpr COLORREF kBoxOuterLight = RGB(168, 168, 152);
+constexpr COLORREF kBoxOuterDark = RGB(248, 252, 248);
+constexpr COLORREF kBoxInnerLight = RGB(112, 108, 96);
+constexpr COLORREF kBoxInnerDark = RGB(240, 236, 224);
+constexpr COLOR16 kRuleBlue = 0xC800;
+constexpr COLOR16 kRuleWhite = 0xFF00;
+
+void DrawLine(HDC dc, POINT from, POINT to)
+{
+    ::MoveToEx(dc, from.x, from.y, nullptr);
+    ::LineTo(dc, to.x, to.y);
+}
+
+void DrawEdge(HDC dc, const CRect& rect, COLORREF topLeft, COLORREF bottomRight)
+{
+    const POINT leftTop = {rect.left, rect.top};
+    const POINT rightTop = {rect.right, rect.top};
+    const POINT leftBottom = {rect.left, rect.bottom};
+    const POINT rightBottom = {rect.right, rect.bottom};
+    {
+        CPen pen(PS_SOLID, 1, topLeft);
+        const CSelectSaver select(dc, pen.GetSafeHandle());
+        DrawLine(dc, leftTop, rightTop);
+        DrawLine(dc, leftTop, leftBottom);
+    }
+    CPen pen(PS_SOLID, 1, bottomRight);
+    const CSelectSaver select(dc, pen.GetSafeHandle());
+    DrawLine(dc, rightBottom, rightTop);
+    DrawLine(dc, rightBottom, leftBottom);
+}
+
+COLORREF GrayOf(COLORREF pixel)
+{
+    const auto gray = static_cast<BYTE>(GetRValue(pixel) * 0.299 + GetGValue(pixel) * 0.587 + GetBValue(pixel) * 0.114);
+    return RGB(gray, gray, gray);
+}
+
+void CopyGray(HDC target, HDC source, int width, int height)
+{
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            const COLORREF pixel = ::GetPixel(source, x, y);
+            if (pixel != 0) {
+                ::SetPixel(target, x, y, GrayOf(pixel));
+            }
+        }
+    }
+}
+
+/** Whether a bitmap resource has no extent: loaded, it turns into a bitmap of one pixel. */
+bool IsWithoutPixels(HINSTANCE module, UINT id)
+{
+    DWORD size = 0;
+    const void* data = QorLoadResource(module, MAKEINTRESOURCEW(id), RT_BITMAP, size);
+    BITMAPINFOHEADER header = {};
+    if (!data || size < sizeof(header)) {
+        return false;
+    }
+    std::memcpy(&header, data, sizeof(header));
+    return header.biSize >= sizeof(header) && (header.biWidth == 0 || header.biHeight == 0);
+}
+
+void MoveToItem(const CWnd& control, const RECT* item, CPoint& point)
+{
+    point = item ? CRect(*item).CenterPoint() : CPoint(0, 0);
+    ::ClientToScreen(control.m_hWnd, &point);
+}
+
+bool GivenByMouse(const CPoint& point)
+{
+    return point.x >= 0 && point.y >= 0;
+}
+
+} // namespace
+
+void QorDrawBox(HDC dc, int x, int y, int cx, int cy, COLORREF fill)
+{
+    CRect rect(x, y, x + cx, y + cy);
+    DrawEdge(dc, rect, kBoxOuterLight, kBoxOuterDark);
+    rect.DeflateRect(1, 1);
+    DrawEdge(dc, rect, kBoxInnerLight, kBoxInnerDark);
+    rect.DeflateRect(1, 1);
+    CBrush brush(fill);
+    ::FillRect(dc, &rect, static_cast<HBRUSH>(brush.GetSafeHandle()));
+}
+
+void QorDrawGradientLine(CDC* dc, CPoint start, int length)
+{
+    if (!dc) {
+        return;
+    }
+    TRIVERTEX ends[] = {{start.x, start.y - 1, 0, 0, kRuleBlue, 0},
+                        {start.x + length, start.y, kRuleWhite, kRuleWhite, kRuleWhite, 0}};
+    GRADIENT_RECT rect = {0, 1};
+    dc->GradientFill(ends, 2, &rect, 1, GRADIENT_FILL_RECT_H);
+}
+
+HBITMAP QorCreateGrayBmp(HBITMAP source)
+{
+    BITMAP header = {};
+    if (::GetObjectType(source) != OBJ_BITMAP || ::GetObjectW(source, sizeof(header), &header) == 0) {
+        return nullptr;
+    }
+    const CScreenDc screen;
+    const CMemoryDc from(screen.get());
+    const CMemoryDc to(screen.get());
+    if (!screen.get() || !from.get() || !to.get()) {
+        return nullptr;
+    }
+    CBitmap copy;
+    copy.CreateBitmap(header.bmWidth, header.bmHeight, header.bmPlanes, header.bmBitsPixel, nullptr);
+    {
+        const CSelectSaver selectSource(from.get(), source);
+        const CSelectSaver selectCopy(to.get(), copy.GetSafeHandle());
+        if (!selectSource || !selectCopy) {
+            return nullptr;
+        }
+        CopyGray(to.get(), from.get(), header.bmWidth, header.bmHeight);
+    }
+    return static_cast<HBITMAP>(copy.Detach());
+}
+
+HICON QorCreateGrayIcon(HICON source)
+{
+    ICONINFO info = {};
+    if (!::GetIconInfo(source, &info)) {
+        return nullptr;
+    }
+    CBitmap mask;
+    mask.Attach(info.hbmMask);
+    CBitmap colour;
+    colour.Attach(info.hbmColor);
+    CBitmap gray;
+    if (!gray.Attach(QorCreateGrayBmp(info.hbmColor))) {
+        return nullptr;
+    }
+    info.hbmColor = gray;
+    return ::CreateIconIndirect(&info);
+}
+
+int QorCreateImageList(CImageList& list, UINT bitmapId, HINSTANCE inst, COLORREF mask, UINT* imageSize)
+{
+    const HINSTANCE module = inst ? inst : ::GetModuleHandleW(nullptr);
+    CBitmap strip;
+    if (!strip.Attach(::LoadBitmapW(module, MAKEINTRESOURCEW(bitmapId)))) {
+        return 0;
+    }
+    BITMAP header = {};
+    strip.GetBitmap(&header);
+    if (header.bmWidth == 0 || header.bmHeight == 0 || IsWithoutPixels(module, bitmapId)) {
+        return 0;
+    }
+    const int size = header.bmHeight;
+    if (!list.Create(size, size, ILC_COLORDDB | ILC_MASK, header.bmWidth / size, 1)) {
+        return 0;
+    }
+    if (imageSize) {
+        *imageSize = static_cast<UINT>(size);
+    }
+    list.Add(&strip, mask);
+    return list.GetImageCount();
+}
+
+void QorGetTreePopupPoint(CTreeCtrl& tree, CPoint& point)
+{
+    if (GivenByMouse(point)) {
+        return;
+    }
+    const HTREEITEM item = tree.GetSelectedItem();
+    CRect rect;
+    MoveToItem(tree, item && tree.GetItemRect(item, &rect, TRUE) ? &rect : nullptr, point);
+}
+
+void QorGetListPopupPoint(CListCtrl& list, CPoint& point)
+{
+    if (GivenByMouse(point)) {
+        return;
+    }
+    const int item = list.GetNextItem(-1, LVNI_SELECTED);
+    CRect rect;
+    MoveToItem(list, item >= 0 && list.GetItemRect(item, &rect, LVIR_LABEL) ? &rect : nullptr, point);
+}

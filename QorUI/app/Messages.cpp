@@ -1,0 +1,3 @@
+#include "Messages.h"
+
+const UINT WM_QOR_TASKBARCREATED = ::RegisterWindowMessageW(L"TaskbarCreated");

@@ -1,0 +1,20 @@
+#pragma once
+
+/** @file
+ * Export macro of the user-interface library.
+ *
+ * `QORUI_EXPORTS` is defined while QorUI.dll itself is built, `QORUI_STATIC` when its sources are compiled straight
+ * into a program; everybody else imports.
+ */
+
+#include <afxwin.h>
+
+#include <afxcmn.h>
+
+#if defined(QORUI_EXPORTS)
+#define QORUI_API __declspec(dllexport)
+#elif defined(QORUI_STATIC)
+#define QORUI_API
+#else
+#define QORUI_API __declspec(dllimport)
+#endif

@@ -1,0 +1,45 @@
+#include "Triangle.h"
+
+#include "GdiSavers.h"
+
+#include <array>
+#include <optional>
+
+namespace
+{
+
+/** Corners of a triangle; none for an unknown direction. */
+std::optional<std::array<POINT, 3>> TriangleCorners(const RECT& rect, int direction)
+{
+    const LONG midX = (rect.left + rect.right) / 2;
+    const LONG midY = (rect.top + rect.bottom) / 2;
+    switch (direction) {
+    case QOR_TRIANGLE_UP:
+        return {{{{midX, rect.top}, {rect.right, rect.bottom}, {rect.left, rect.bottom}}}};
+    case QOR_TRIANGLE_DOWN:
+        return {{{{rect.left, rect.top}, {rect.right, rect.top}, {midX, rect.bottom}}}};
+    case QOR_TRIANGLE_LEFT:
+        return {{{{rect.right, rect.top}, {rect.left, midY}, {rect.right, rect.bottom}}}};
+    case QOR_TRIANGLE_RIGHT:
+        return {{{{rect.left, rect.top}, {rect.right, midY}, {rect.left, rect.bottom}}}};
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+void QorDrawTriangle(CDC* dc, const RECT& rect, int direction, COLORREF colour)
+{
+    const auto corners = TriangleCorners(rect, direction);
+    if (!dc || !corners) {
+        return;
+    }
+    CBrush brush(colour);
+    CPen pen(PS_SOLID, 1, colour);
+    const CSelectSaver selectBrush(dc->m_hDC, brush.GetSafeHandle());
+    const CSelectSaver selectPen(dc->m_hDC, pen.GetSafeHandle());
+    const int fillMode = ::SetPolyFillMode(dc->m_hDC, WINDING);
+    ::Polygon(dc->m_hDC, corners->data(), static_cast<int>(corners->size()));
+    ::SetPolyFillMode(dc->m_hDC, fillMode);
+}

@@ -1,0 +1,98 @@
+#include "BmpBtn.h"
+
+#include "ButtonState.h"
+
+#include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/HotTrack.h>
+#include <QorUI/app/Look.h>
+#include <QorUI/app/SysLook.h>
+
+BEGIN_MESSAGE_MAP(CBmpBtn, CButton)
+    ON_WM_DESTROY()
+    ON_WM_MOUSEMOVE()
+    ON_WM_ERASEBKGND()
+    ON_MESSAGE(WM_MOUSELEAVE, &CBmpBtn::OnMouseLeave)
+END_MESSAGE_MAP()
+
+CBmpBtn::CBmpBtn() : m_bHot(FALSE), m_clrTransparent(CLR_NONE) {}
+
+BOOL CBmpBtn::Create(const RECT& rect, CWnd* parent, UINT id)
+{
+    return CButton::Create(nullptr, WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, rect, parent, id);
+}
+
+BOOL CBmpBtn::SetImage(HINSTANCE inst, UINT id, LPCWSTR type, COLORREF transparent)
+{
+    m_bmp.DeleteObject();
+    if (!(type ? m_bmp.Load(inst, id, type) : m_bmp.Attach(::LoadBitmapW(inst, MAKEINTRESOURCEW(id))))) {
+        return FALSE;
+    }
+    m_clrTransparent = transparent;
+    if (m_hWnd) {
+        Invalidate(TRUE);
+    }
+    return TRUE;
+}
+
+void CBmpBtn::PreSubclassWindow()
+{
+    ModifyStyle(0, BS_OWNERDRAW);
+}
+
+void CBmpBtn::DrawItem(LPDRAWITEMSTRUCT item)
+{
+    CRect rect(item->rcItem);
+    DrawFrame(item->hDC, rect, QorButtonState(item->itemState, m_bHot));
+    DrawCaption(CDC::FromHandle(item->hDC), rect, (item->itemState & ODS_DISABLED) != 0);
+}
+
+void CBmpBtn::DrawFrame(HDC dc, const CRect& rect, UINT frame)
+{
+    if (!m_bmp.GetSafeHandle()) {
+        return;
+    }
+    const CMemoryDc memory(dc);
+    const CSelectSaver select(memory.get(), m_bmp.GetSafeHandle());
+    const int width = rect.Width();
+    const int height = rect.Height();
+    const int left = width * static_cast<int>(frame);
+    if (m_clrTransparent == CLR_NONE) {
+        ::BitBlt(dc, 0, 0, width, height, memory.get(), left, 0, SRCCOPY);
+        return;
+    }
+    ::GdiTransparentBlt(dc, 0, 0, width, height, memory.get(), left, 0, width, height, m_clrTransparent);
+}
+
+void CBmpBtn::DrawCaption(CDC* dc, CRect& rect, BOOL disabled)
+{
+    CString text;
+    GetWindowText(text);
+    if (text.IsEmpty()) {
+        return;
+    }
+    const CSelectSaver selectFont(dc->m_hDC, ::GetStockObject(DEFAULT_GUI_FONT));
+    const CTextModeSaver textMode(dc->m_hDC, disabled ? QorSysLook.m_clrGrayText : QorLook::kCaptionText, TRANSPARENT);
+    dc->DrawText(text, &rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+}
+
+void CBmpBtn::OnDestroy()
+{
+    CButton::OnDestroy();
+    m_bmp.DeleteObject();
+}
+
+void CBmpBtn::OnMouseMove(UINT flags, CPoint point)
+{
+    QorHot::Enter(*this, m_bHot);
+    CButton::OnMouseMove(flags, point);
+}
+
+BOOL CBmpBtn::OnEraseBkgnd(CDC*)
+{
+    return TRUE;
+}
+
+LRESULT CBmpBtn::OnMouseLeave(WPARAM, LPARAM)
+{
+    return QorHot::Leave(*this, m_bHot);
+}

@@ -1,0 +1,348 @@
+#include "CheckRadio.h"
+
+#include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/HotTrack.h>
+#include <QorUI/app/Look.h>
+#include <QorUI/app/QorUIApp.h>
+#include <QorUI/app/SysLook.h>
+#include <QorUI/res/resource.h>
+
+#include <algorithm>
+#include <vector>
+
+BEGIN_MESSAGE_MAP(CCheckBox, CButton)
+    ON_WM_KEYUP()
+    ON_WM_PAINT()
+    ON_WM_ENABLE()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONUP()
+    ON_WM_LBUTTONDOWN()
+    ON_MESSAGE(BM_SETCHECK, &CCheckBox::OnSetCheck)
+    ON_MESSAGE(WM_MOUSELEAVE, &CCheckBox::OnMouseLeave)
+END_MESSAGE_MAP()
+
+BEGIN_MESSAGE_MAP(CRadioBox, CButton)
+    ON_WM_PAINT()
+    ON_WM_ENABLE()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONUP()
+    ON_MESSAGE(BM_SETCHECK, &CRadioBox::OnSetCheck)
+    ON_MESSAGE(WM_MOUSELEAVE, &CRadioBox::OnMouseLeave)
+END_MESSAGE_MAP()
+
+namespace
+{
+
+/** What a change of state repaints: kept smaller than the glyph. */
+constexpr RECT kStateRect = {2, 2, 13, 13};
+
+constexpr int kTextMargin = 2;
+constexpr int kTextIndent = 17; // past the glyph
+constexpr UINT kTextFormat = DT_WORDBREAK | DT_EDITCONTROL;
+
+/** Style bits of which owner-drawn and automatic radio buttons have at least one. */
+constexpr DWORD kRadioStyles = 9;
+
+enum TextMode : UINT
+{
+    TEXT_DRAW = 1,
+    TEXT_FOCUS = 2
+};
+
+void DrawLabel(CWnd& button, CDC& dc, UINT mode, UINT state)
+{
+    CString text;
+    button.GetWindowText(text);
+    if (text.IsEmpty()) {
+        return;
+    }
+    CRect rect;
+    button.GetClientRect(&rect);
+    rect.DeflateRect(kTextMargin, kTextMargin);
+    rect.left += kTextIndent;
+    const CSelectSaver selectFont(dc.m_hDC, reinterpret_cast<HFONT>(button.SendMessage(WM_GETFONT)));
+    const CTextModeSaver textMode(dc.m_hDC, QorSysLook.TextColor(state == QOR_GLYPH_DISABLED), TRANSPARENT);
+    if (mode & TEXT_DRAW) {
+        dc.DrawText(text, &rect, kTextFormat);
+    }
+    if (mode & TEXT_FOCUS) {
+        dc.DrawText(text, &rect, DT_CALCRECT | kTextFormat);
+        rect.InflateRect(1, 1);
+        dc.DrawFocusRect(&rect);
+    }
+}
+
+template <class Button>
+void DrawFocusOf(Button& button)
+{
+    CWindowDC dc(&button);
+    button.DrawText(dc, TEXT_FOCUS, QOR_GLYPH_NORMAL);
+}
+
+template <class Button>
+void Paint(Button& button, BOOL hot)
+{
+    UINT state = hot ? QOR_GLYPH_HOT : QOR_GLYPH_NORMAL;
+    if (!button.IsWindowEnabled()) {
+        state = QOR_GLYPH_DISABLED;
+    }
+    const bool focused = ::GetFocus() == button.m_hWnd;
+    CPaintDC dc(&button);
+    CRect client;
+    button.GetClientRect(&client);
+    dc.FillSolidRect(&client, QorLook::kDlgBody);
+    button.DrawCheck(dc, state);
+    button.DrawText(dc, focused ? TEXT_DRAW | TEXT_FOCUS : TEXT_DRAW, state);
+}
+
+/** Left edge of a glyph in its strip. */
+int GlyphLeft(UINT state, BOOL checked)
+{
+    return static_cast<int>(state + (checked ? QOR_GLYPH_CHECKED : 0)) * QorLook::kGlyphSize;
+}
+
+void RepaintAfterEnable(CWnd& button, BOOL enable)
+{
+    button.EnableWindow(enable);
+    button.Invalidate(FALSE);
+}
+
+void NotifyClicked(CWnd& button)
+{
+    const WPARAM id = MAKEWPARAM(::GetDlgCtrlID(button.m_hWnd), BN_CLICKED);
+    ::SendMessageW(::GetParent(button.m_hWnd), WM_COMMAND, id, reinterpret_cast<LPARAM>(button.m_hWnd));
+}
+
+bool IsSwallowed(UINT message)
+{
+    switch (message) {
+    case WM_ERASEBKGND:
+    case WM_KEYDOWN:
+    case WM_CHAR:
+    case WM_UPDATEUISTATE:
+    case WM_LBUTTONDBLCLK:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool IsFocusChange(UINT message)
+{
+    return message == WM_SETFOCUS || message == WM_KILLFOCUS;
+}
+
+/** The other controls of a control's dialog group, in dialog order. */
+std::vector<HWND> OthersOfGroup(HWND control)
+{
+    std::vector<HWND> others;
+    const HWND parent = ::GetParent(control);
+    HWND next = ::GetNextDlgGroupItem(parent, control, FALSE);
+    // From a hidden or disabled control the walk goes round without ever coming back to it.
+    while (next && next != control && std::find(others.begin(), others.end(), next) == others.end()) {
+        others.push_back(next);
+        next = ::GetNextDlgGroupItem(parent, next, FALSE);
+    }
+    return others;
+}
+
+void SetTabStop(HWND control, bool tabStop)
+{
+    const LONG_PTR style = ::GetWindowLongPtrW(control, GWL_STYLE);
+    const LONG_PTR wanted = tabStop ? style | WS_TABSTOP : style & ~static_cast<LONG_PTR>(WS_TABSTOP);
+    if (wanted != style) {
+        ::SetWindowLongPtrW(control, GWL_STYLE, wanted);
+    }
+}
+
+} // namespace
+
+CCheckBox::CCheckBox() : m_bHot(FALSE), m_bChecked(FALSE), m_bSecondClick(FALSE) {}
+
+LRESULT CCheckBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (IsFocusChange(message)) {
+        DrawFocus();
+        return 1;
+    }
+    if (IsSwallowed(message)) {
+        m_bSecondClick = m_bSecondClick || message == WM_LBUTTONDBLCLK;
+        return 1;
+    }
+    if (message == BM_GETCHECK) {
+        return m_bChecked ? BST_CHECKED : BST_UNCHECKED;
+    }
+    return CButton::WindowProc(message, wParam, lParam);
+}
+
+void CCheckBox::DrawCheck(CDC& dc, UINT state)
+{
+    const CMemoryDc strip(dc.m_hDC);
+    const CSelectSaver select(strip.get(), g_QorUIApp.m_bmpCheck.GetSafeHandle());
+    if (!select) {
+        return;
+    }
+    const BOOL checked = SendMessage(BM_GETCHECK) == BST_CHECKED;
+    ::BitBlt(dc.m_hDC, QorLook::kGlyphPos, QorLook::kGlyphPos, QorLook::kGlyphSize, QorLook::kGlyphSize, strip.get(),
+             GlyphLeft(state, checked), 0, SRCCOPY);
+}
+
+void CCheckBox::DrawText(CDC& dc, UINT mode, UINT state)
+{
+    DrawLabel(*this, dc, mode, state);
+}
+
+void CCheckBox::DrawFocus()
+{
+    DrawFocusOf(*this);
+}
+
+void CCheckBox::Toggle()
+{
+    m_bChecked = !m_bChecked;
+    InvalidateRect(&kStateRect, FALSE);
+    NotifyClicked(*this);
+}
+
+void CCheckBox::OnKeyUp(UINT key, UINT, UINT)
+{
+    if (key == VK_SPACE) {
+        Toggle();
+    }
+}
+
+void CCheckBox::OnPaint()
+{
+    Paint(*this, m_bHot);
+}
+
+void CCheckBox::OnEnable(BOOL enable)
+{
+    RepaintAfterEnable(*this, enable);
+}
+
+void CCheckBox::OnMouseMove(UINT, CPoint)
+{
+    QorHot::Enter(*this, m_bHot, &kStateRect);
+}
+
+void CCheckBox::OnLButtonUp(UINT, CPoint)
+{
+    if (!m_bSecondClick) {
+        Toggle();
+    }
+    m_bSecondClick = FALSE;
+}
+
+void CCheckBox::OnLButtonDown(UINT, CPoint)
+{
+    m_bSecondClick = FALSE;
+    SetFocus();
+}
+
+LRESULT CCheckBox::OnSetCheck(WPARAM state, LPARAM)
+{
+    m_bChecked = state == BST_CHECKED;
+    InvalidateRect(&kStateRect, FALSE);
+    return 0;
+}
+
+LRESULT CCheckBox::OnMouseLeave(WPARAM, LPARAM)
+{
+    return QorHot::Leave(*this, m_bHot, &kStateRect);
+}
+
+CRadioBox::CRadioBox() : m_bChecked(FALSE), m_bHot(FALSE) {}
+
+LRESULT CRadioBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (IsFocusChange(message)) {
+        DrawFocus();
+        return 1;
+    }
+    if (IsSwallowed(message) || message == WM_KEYUP) {
+        return 1;
+    }
+    if (message == BM_GETCHECK) {
+        return m_bChecked ? BST_CHECKED : BST_UNCHECKED;
+    }
+    return CButton::WindowProc(message, wParam, lParam);
+}
+
+void CRadioBox::DrawCheck(CDC& dc, UINT state)
+{
+    const CMemoryDc strip(dc.m_hDC);
+    const CSelectSaver select(strip.get(), g_QorUIApp.m_bmpRadio.GetSafeHandle());
+    if (!select) {
+        return;
+    }
+    const BOOL checked = SendMessage(BM_GETCHECK) == BST_CHECKED;
+    ::GdiTransparentBlt(dc.m_hDC, QorLook::kGlyphPos, QorLook::kGlyphPos, QorLook::kGlyphSize, QorLook::kGlyphSize,
+                        strip.get(), GlyphLeft(state, checked), 0, QorLook::kGlyphSize, QorLook::kGlyphSize,
+                        QorLook::kGlyphKey);
+}
+
+void CRadioBox::DrawText(CDC& dc, UINT mode, UINT state)
+{
+    DrawLabel(*this, dc, mode, state);
+}
+
+void CRadioBox::DrawFocus()
+{
+    DrawFocusOf(*this);
+}
+
+void CRadioBox::UncheckOtherRadio()
+{
+    for (const HWND other : OthersOfGroup(m_hWnd)) {
+        if (::GetWindowLongPtrW(other, GWL_STYLE) & kRadioStyles) {
+            ::SendMessageW(other, BM_SETCHECK, BST_UNCHECKED, 0);
+            SetTabStop(other, false);
+        }
+    }
+}
+
+void CRadioBox::OnPaint()
+{
+    Paint(*this, m_bHot);
+}
+
+void CRadioBox::OnEnable(BOOL enable)
+{
+    RepaintAfterEnable(*this, enable);
+}
+
+void CRadioBox::OnMouseMove(UINT, CPoint)
+{
+    QorHot::Enter(*this, m_bHot, &kStateRect);
+}
+
+void CRadioBox::OnLButtonUp(UINT, CPoint)
+{
+    if (!m_bChecked) {
+        OnSetCheck(BST_CHECKED, 0);
+    }
+    NotifyClicked(*this);
+}
+
+void CRadioBox::OnLButtonDown(UINT, CPoint)
+{
+    SetFocus();
+}
+
+LRESULT CRadioBox::OnSetCheck(WPARAM state, LPARAM)
+{
+    m_bChecked = state == BST_CHECKED;
+    if (m_bChecked) {
+        UncheckOtherRadio();
+        SetTabStop(m_hWnd, true);
+    }
+    InvalidateRect(&kStateRect, FALSE);
+    return 0;
+}
+
+LRESULT CRadioBox::OnMouseLeave(WPARAM, LPARAM)
+{
+    return QorHot::Leave(*this, m_bHot, &kStateRect);
+}

@@ -1,0 +1,164 @@
+#include "CmdBtn.h"
+
+#include <QorUI/app/Draw.h>
+#include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/HotTrack.h>
+#include <QorUI/app/Look.h>
+#include <QorUI/app/SysLook.h>
+
+BEGIN_MESSAGE_MAP(CCmdBtn, CButton)
+    ON_WM_DESTROY()
+    ON_WM_MOUSEMOVE()
+    ON_WM_ERASEBKGND()
+    ON_MESSAGE(WM_MOUSELEAVE, &CCmdBtn::OnMouseLeave)
+END_MESSAGE_MAP()
+
+namespace
+{
+
+constexpr UINT kFirstNonId = 0x10000;
+constexpr int kIconPos = 6;
+constexpr int kIconSize = 32;
+constexpr int kTextMargin = 5;
+constexpr int kTextIndent = 38; // past the icon
+
+enum TextMode : UINT
+{
+    TEXT_DRAW = 1,
+    TEXT_FOCUS = 2
+};
+
+} // namespace
+
+CCmdBtn::CCmdBtn() : m_bHot(FALSE), m_hIcon(nullptr), m_hGrayIcon(nullptr) {}
+
+CCmdBtn::~CCmdBtn()
+{
+    FreeGrayIcon();
+}
+
+BOOL CCmdBtn::Create(UINT iconId, LPCWSTR description, const RECT& rect, CWnd* parent, UINT id)
+{
+    return CButton::Create(nullptr, WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, rect, parent, id) &&
+           SetBtn(iconId, description);
+}
+
+BOOL CCmdBtn::SetBtn(UINT iconId, LPCWSTR description)
+{
+    if (iconId < kFirstNonId) {
+        const HICON icon = ::LoadIconW(AfxGetInstanceHandle(), MAKEINTRESOURCEW(iconId));
+        if (!icon) {
+            return FALSE;
+        }
+        m_hIcon = icon;
+        FreeGrayIcon();
+    }
+    if (description) {
+        m_strDescription = description;
+    }
+    if (m_hWnd) {
+        Invalidate(TRUE);
+    }
+    return TRUE;
+}
+
+void CCmdBtn::PreSubclassWindow()
+{
+    ModifyStyle(0, BS_OWNERDRAW);
+}
+
+void CCmdBtn::DrawItem(LPDRAWITEMSTRUCT item)
+{
+    CDC* dc = CDC::FromHandle(item->hDC);
+    CRect rect(item->rcItem);
+    const BOOL disabled = (item->itemState & ODS_DISABLED) != 0;
+    UINT mode = TEXT_FOCUS;
+    if ((item->itemAction & ODA_FOCUS) == 0) {
+        DrawFace(dc, rect, disabled);
+        mode = (item->itemState & ODS_FOCUS) ? TEXT_DRAW | TEXT_FOCUS : TEXT_DRAW;
+    }
+    const COLORREF oldColour = dc->SetTextColor(QorSysLook.TextColor(disabled != FALSE));
+    DrawText(dc, rect, mode);
+    dc->SetTextColor(oldColour);
+}
+
+void CCmdBtn::DrawFace(CDC* dc, CRect& rect, BOOL disabled)
+{
+    if (m_bHot) {
+        DrawRect(dc, rect);
+    } else {
+        dc->PatBlt(rect.left, rect.top, rect.Width(), rect.Height(), PATCOPY);
+    }
+    if (const HICON icon = IconFor(disabled)) {
+        ::DrawIconEx(dc->m_hDC, kIconPos, kIconPos, icon, kIconSize, kIconSize, 0, nullptr, DI_NORMAL);
+    }
+}
+
+HICON CCmdBtn::IconFor(BOOL disabled)
+{
+    if (!disabled) {
+        return m_hIcon;
+    }
+    if (!m_hGrayIcon) {
+        m_hGrayIcon = QorCreateGrayIcon(m_hIcon);
+    }
+    return m_hGrayIcon ? m_hGrayIcon : m_hIcon;
+}
+
+void CCmdBtn::DrawRect(CDC* dc, CRect& rect)
+{
+    CPen pen(PS_SOLID, 1, QorLook::kCmdHotBorder);
+    CBrush brush(QorLook::kCmdHotFill);
+    const CSelectSaver selectPen(dc->m_hDC, pen.GetSafeHandle());
+    const CSelectSaver selectBrush(dc->m_hDC, brush.GetSafeHandle());
+    dc->RoundRect(&rect, CPoint(QorLook::kButtonRound, QorLook::kButtonRound));
+}
+
+void CCmdBtn::DrawText(CDC* dc, CRect& rect, UINT mode)
+{
+    rect.DeflateRect(kTextMargin, kTextMargin);
+    rect.left += kTextIndent;
+    CString title;
+    GetWindowText(title);
+    CRect titleRect(rect);
+    dc->DrawText(title, &titleRect, DT_CALCRECT | DT_SINGLELINE);
+    if (mode & TEXT_DRAW) {
+        dc->DrawText(title, &titleRect, DT_SINGLELINE);
+        rect.top += titleRect.Height();
+        dc->DrawText(m_strDescription, &rect, DT_WORDBREAK | DT_EDITCONTROL | DT_HIDEPREFIX);
+    }
+    if (mode & TEXT_FOCUS) {
+        titleRect.InflateRect(1, 1);
+        dc->DrawFocusRect(&titleRect);
+    }
+}
+
+void CCmdBtn::FreeGrayIcon()
+{
+    if (m_hGrayIcon) {
+        ::DestroyIcon(m_hGrayIcon);
+        m_hGrayIcon = nullptr;
+    }
+}
+
+void CCmdBtn::OnDestroy()
+{
+    CButton::OnDestroy();
+    FreeGrayIcon();
+}
+
+void CCmdBtn::OnMouseMove(UINT flags, CPoint point)
+{
+    QorHot::Enter(*this, m_bHot);
+    CButton::OnMouseMove(flags, point);
+}
+
+BOOL CCmdBtn::OnEraseBkgnd(CDC*)
+{
+    return TRUE;
+}
+
+LRESULT CCmdBtn::OnMouseLeave(WPARAM, LPARAM)
+{
+    return QorHot::Leave(*this, m_bHot);
+}

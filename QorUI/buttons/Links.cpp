@@ -1,0 +1,282 @@
+#include "Links.h"
+
+#include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/Look.h>
+#include <QorUI/app/Messages.h>
+
+#include <shellapi.h>
+
+BEGIN_MESSAGE_MAP(CQorLink, CStatic)
+    ON_WM_PAINT()
+    ON_WM_MOUSEMOVE()
+    ON_WM_SETCURSOR()
+    ON_CONTROL_REFLECT(STN_CLICKED, &CQorLink::OnClicked)
+END_MESSAGE_MAP()
+
+BEGIN_MESSAGE_MAP(CTextLink, CStatic)
+    ON_WM_PAINT()
+    ON_WM_SETCURSOR()
+END_MESSAGE_MAP()
+
+namespace
+{
+
+constexpr COLORREF kLink = RGB(0, 0, 238);
+constexpr COLORREF kVisited = RGB(85, 26, 139);
+constexpr UINT kTipId = 1;
+constexpr INT_PTR kLastShellError = 32;
+
+BOOL ShowHand()
+{
+    const HCURSOR hand = ::LoadCursorW(nullptr, IDC_HAND);
+    if (!hand) {
+        return FALSE;
+    }
+    ::SetCursor(hand);
+    return TRUE;
+}
+
+CSize TextExtent(HWND wnd, HGDIOBJ font)
+{
+    CString text;
+    CWnd::FromHandle(wnd)->GetWindowText(text);
+    CClientDC dc(CWnd::FromHandle(wnd));
+    const CSelectSaver selectFont(dc.m_hDC, font);
+    CSize size(0, 0);
+    ::GetTextExtentPoint32W(dc.m_hDC, text, text.GetLength(), &size);
+    return size;
+}
+
+/** Shrinks a rectangle to the size of a text, towards where the style of a static control aligns it. */
+void FitRect(CRect& rect, CSize extent, DWORD style)
+{
+    if (style & SS_CENTERIMAGE) {
+        rect.top += (rect.Height() - extent.cy) / 2;
+    }
+    rect.bottom = rect.top + extent.cy;
+    switch (style & SS_TYPEMASK) {
+    case SS_CENTER:
+        rect.left += (rect.Width() - extent.cx) / 2;
+        rect.right = rect.left + extent.cx;
+        break;
+    case SS_RIGHT:
+        rect.left = rect.right - extent.cx;
+        break;
+    default:
+        rect.right = rect.left + extent.cx;
+        break;
+    }
+}
+
+} // namespace
+
+CQorLink::CQorLink()
+    : m_clrLink(kLink),
+      m_clrVisited(kVisited),
+      m_clrHover(::GetSysColor(COLOR_HIGHLIGHT)),
+      m_bOver(FALSE),
+      m_bVisited(FALSE),
+      m_bUnderline(FALSE),
+      m_bAutoSize(TRUE)
+{
+}
+
+void CQorLink::SetURL(LPCWSTR url)
+{
+    m_strUrl = url;
+    if (!m_hWnd) {
+        return;
+    }
+    PositionWindow();
+    if (m_tip.m_hWnd) {
+        m_tip.UpdateTipText(m_strUrl, this, kTipId);
+    }
+}
+
+void CQorLink::SetColors(COLORREF link, COLORREF visited, COLORREF hover)
+{
+    m_clrLink = link;
+    m_clrVisited = visited;
+    m_clrHover = hover == CLR_NONE ? ::GetSysColor(COLOR_HIGHLIGHT) : hover;
+    if (m_hWnd) {
+        Invalidate(TRUE);
+    }
+}
+
+void CQorLink::SetVisited(BOOL visited)
+{
+    m_bVisited = visited;
+}
+
+void CQorLink::SetAutoSize(BOOL autoSize)
+{
+    m_bAutoSize = autoSize;
+    PositionWindow();
+}
+
+void CQorLink::SetUnderline(BOOL underline)
+{
+    m_bUnderline = underline;
+    if (m_hWnd) {
+        MakeLinkFont();
+        Invalidate(TRUE);
+    }
+}
+
+void CQorLink::PreSubclassWindow()
+{
+    ModifyStyle(0, SS_NOTIFY);
+    CString text;
+    GetWindowText(text);
+    if (m_strUrl.IsEmpty()) {
+        m_strUrl = text;
+    }
+    if (text.IsEmpty()) {
+        SetWindowText(m_strUrl);
+    }
+    MakeLinkFont();
+    PositionWindow();
+    MakeTooltip();
+    Invalidate(TRUE); // the font was set before this object paints
+    CStatic::PreSubclassWindow();
+}
+
+BOOL CQorLink::PreTranslateMessage(MSG* msg)
+{
+    if (m_tip.m_hWnd) {
+        m_tip.RelayEvent(msg);
+    }
+    return CStatic::PreTranslateMessage(msg);
+}
+
+void CQorLink::MakeLinkFont()
+{
+    HGDIOBJ current = reinterpret_cast<HGDIOBJ>(SendMessage(WM_GETFONT));
+    LOGFONTW description = {};
+    if (!current) {
+        current = ::GetStockObject(SYSTEM_FONT); // what a control without a font of its own draws with
+    }
+    if (::GetObjectW(current, sizeof(description), &description) == 0) {
+        return;
+    }
+    description.lfUnderline = m_bUnderline != FALSE;
+    CFont font;
+    if (font.CreateFontIndirect(&description)) {
+        SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(font.GetSafeHandle()), TRUE);
+        m_font.DeleteObject();
+        m_font.Attach(font.Detach());
+    }
+}
+
+void CQorLink::MakeTooltip()
+{
+    CRect client;
+    GetClientRect(&client);
+    if (m_tip.Create(this)) {
+        m_tip.AddTool(this, m_strUrl, &client, kTipId);
+    }
+}
+
+void CQorLink::PositionWindow()
+{
+    if (!m_bAutoSize || !m_hWnd) {
+        return;
+    }
+    CRect rect;
+    GetWindowRect(&rect);
+    ::MapWindowPoints(nullptr, ::GetParent(m_hWnd), reinterpret_cast<POINT*>(&rect), 2);
+    FitRect(rect, TextExtent(m_hWnd, m_font.GetSafeHandle()), GetStyle());
+    SetWindowPos(nullptr, rect.left, rect.top, rect.Width(), rect.Height(), SWP_NOZORDER);
+}
+
+void CQorLink::OnPaint()
+{
+    CPaintDC dc(this);
+    CString text;
+    GetWindowText(text);
+    if (text.IsEmpty()) {
+        return;
+    }
+    const COLORREF unhovered = m_bVisited ? m_clrVisited : m_clrLink;
+    const CTextModeSaver textMode(dc.m_hDC, m_bOver ? m_clrHover : unhovered, TRANSPARENT);
+    const CSelectSaver selectFont(dc.m_hDC, m_font.GetSafeHandle());
+    CRect client;
+    GetClientRect(&client);
+    dc.DrawText(text, &client, DT_WORDBREAK | DT_EDITCONTROL);
+}
+
+void CQorLink::SetOver(BOOL over)
+{
+    m_bOver = over;
+    if (!over) {
+        ::ReleaseCapture();
+    }
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    if (over) {
+        SetCapture();
+    }
+}
+
+void CQorLink::OnMouseMove(UINT flags, CPoint point)
+{
+    CStatic::OnMouseMove(flags, point);
+    if (!m_bOver) {
+        SetOver(TRUE);
+        return;
+    }
+    CRect client;
+    GetClientRect(&client);
+    if (!client.PtInRect(point)) {
+        SetOver(FALSE);
+    }
+}
+
+BOOL CQorLink::OnSetCursor(CWnd*, UINT, UINT)
+{
+    return ShowHand();
+}
+
+void CQorLink::OnClicked()
+{
+    const HINSTANCE result = ::ShellExecuteW(nullptr, L"open", m_strUrl, nullptr, nullptr, SW_SHOW);
+    m_bVisited = reinterpret_cast<INT_PTR>(result) > kLastShellError;
+    if (m_bVisited && m_hWnd) {
+        Invalidate(TRUE);
+    }
+}
+
+CTextLink::CTextLink() = default;
+
+BOOL CTextLink::GetExtent(CSize& size)
+{
+    size = CSize(0, 0);
+    if (!m_hWnd) {
+        return FALSE;
+    }
+    size = TextExtent(m_hWnd, ::GetStockObject(DEFAULT_GUI_FONT));
+    return TRUE;
+}
+
+void CTextLink::OnPaint()
+{
+    CPaintDC dc(this);
+    if (const HWND parent = ::GetParent(m_hWnd)) {
+        ::SendMessageW(parent, WM_DRAWPARENTBACK, reinterpret_cast<WPARAM>(static_cast<CDC*>(&dc)),
+                       reinterpret_cast<LPARAM>(this));
+    }
+    CString text;
+    GetWindowText(text);
+    if (text.IsEmpty()) {
+        return;
+    }
+    const CTextModeSaver textMode(dc.m_hDC, QorLook::kCaptionText, TRANSPARENT);
+    const CSelectSaver selectFont(dc.m_hDC, ::GetStockObject(DEFAULT_GUI_FONT));
+    CRect client;
+    GetClientRect(&client);
+    dc.DrawText(text, &client, DT_WORDBREAK | DT_EDITCONTROL | DT_HIDEPREFIX);
+}
+
+BOOL CTextLink::OnSetCursor(CWnd*, UINT, UINT)
+{
+    return ShowHand();
+}

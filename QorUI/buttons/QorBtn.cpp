@@ -1,0 +1,103 @@
+#include "QorBtn.h"
+
+#include "ButtonState.h"
+
+#include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/HotTrack.h>
+#include <QorUI/app/Look.h>
+#include <QorUI/app/SysLook.h>
+
+BEGIN_MESSAGE_MAP(CQorBtn, CButton)
+    ON_WM_MOUSEMOVE()
+    ON_WM_ERASEBKGND()
+    ON_MESSAGE(BM_SETSTYLE, &CQorBtn::OnSetStyle)
+    ON_MESSAGE(WM_MOUSELEAVE, &CQorBtn::OnMouseLeave)
+END_MESSAGE_MAP()
+
+namespace
+{
+
+/** Draws a rounded rectangle with a one-pixel line; without a brush its inside stays as it is. */
+void DrawRounded(HDC dc, const RECT& rect, COLORREF line, HGDIOBJ brush)
+{
+    const CSelectSaver selectPen(dc, ::GetStockObject(DC_PEN));
+    const CSelectSaver selectBrush(dc, brush ? brush : ::GetStockObject(NULL_BRUSH));
+    const COLORREF oldLine = ::SetDCPenColor(dc, line);
+    ::RoundRect(dc, rect.left, rect.top, rect.right, rect.bottom, QorLook::kButtonRound, QorLook::kButtonRound);
+    ::SetDCPenColor(dc, oldLine);
+}
+
+} // namespace
+
+CQorBtn::CQorBtn() : m_bHot(FALSE) {}
+
+void CQorBtn::PreSubclassWindow()
+{
+    ModifyStyle(0, BS_OWNERDRAW);
+    CRect rect;
+    GetWindowRect(&rect);
+    ::MapWindowPoints(nullptr, ::GetParent(m_hWnd), reinterpret_cast<POINT*>(&rect), 2);
+    SetWindowPos(nullptr, rect.left, rect.top, rect.Width(), QorLook::kButtonHeight, SWP_NOZORDER);
+}
+
+void CQorBtn::DrawItem(LPDRAWITEMSTRUCT item)
+{
+    CDC* dc = CDC::FromHandle(item->hDC);
+    CRect rect(item->rcItem);
+    DrawBack(dc, rect, QorButtonState(item->itemState, m_bHot), (item->itemState & ODS_FOCUS) != 0);
+    DrawText(dc, rect, (item->itemState & ODS_DISABLED) != 0);
+}
+
+void CQorBtn::DrawBack(CDC* dc, CRect& rect, UINT row, BOOL focus)
+{
+    if (!dc || row >= g_BtnStyles.size()) {
+        return;
+    }
+    const QorBtnStyle& style = g_BtnStyles[row];
+    DrawRounded(dc->m_hDC, rect, style.outer, nullptr);
+    rect.DeflateRect(1, 1);
+    POINT origin = {};
+    // The pattern's first row comes just under the top border.
+    ::SetBrushOrgEx(dc->m_hDC, rect.left, rect.top + 1, &origin);
+    DrawRounded(dc->m_hDC, rect, style.inner, style.brush.GetSafeHandle());
+    ::SetBrushOrgEx(dc->m_hDC, origin.x, origin.y, nullptr);
+    if (focus) {
+        rect.DeflateRect(1, 1);
+        dc->DrawFocusRect(&rect);
+    }
+}
+
+void CQorBtn::DrawText(CDC* dc, CRect& rect, BOOL disabled)
+{
+    if (!dc) {
+        return;
+    }
+    CString text;
+    GetWindowText(text);
+    const CSelectSaver selectFont(dc->m_hDC, reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
+    const CTextModeSaver textMode(dc->m_hDC, QorSysLook.TextColor(disabled != FALSE), TRANSPARENT);
+    dc->DrawText(text, &rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+}
+
+void CQorBtn::OnMouseMove(UINT flags, CPoint point)
+{
+    QorHot::Enter(*this, m_bHot);
+    CButton::OnMouseMove(flags, point);
+}
+
+BOOL CQorBtn::OnEraseBkgnd(CDC*)
+{
+    return TRUE;
+}
+
+LRESULT CQorBtn::OnSetStyle(WPARAM, LPARAM)
+{
+    // The dialog manager marks the default button by its style: this one would lose its look.
+    ModifyStyle(0, BS_OWNERDRAW);
+    return 0;
+}
+
+LRESULT CQorBtn::OnMouseLeave(WPARAM, LPARAM)
+{
+    return QorHot::Leave(*this, m_bHot);
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QorUI/app/QorUIDef.h>
+
+/**
+ * The ordinary push button of dialogs: rounded and bevelled, with a hot look under the mouse.
+ *
+ * It is 21 pixels high whatever its template says, and stays owner-drawn when the dialog moves the default button.
+ */
+class QORUI_API CQorBtn : public CButton
+{
+  public:
+    CQorBtn();
+
+    void PreSubclassWindow() override;
+    void DrawItem(LPDRAWITEMSTRUCT item) override;
+
+    /**
+     * Draws frame and face.
+     * @param rect the button; afterwards what lies inside the frame.
+     * @param row row of the button style table: 0 normal, 1 hot, 2 pressed, 3 disabled; another one draws nothing.
+     * @param focus whether to draw the focus rectangle inside.
+     */
+    void DrawBack(CDC* dc, CRect& rect, UINT row, BOOL focus);
+
+    /** Draws the window text in the middle of a rectangle. */
+    void DrawText(CDC* dc, CRect& rect, BOOL disabled);
+
+  protected:
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg LRESULT OnSetStyle(WPARAM style, LPARAM redraw);
+    afx_msg LRESULT OnMouseLeave(WPARAM, LPARAM);
+    DECLARE_MESSAGE_MAP()
+
+  private:
+    BOOL m_bHot; // the mouse is over the button and a leave notification is pending
+};

@@ -1,0 +1,448 @@
+#include <cmath>
+#include <gtest/gtest.h>
+#include <QorUI/app/Draw.h>
+#include <tests/app/Drawn.h>
+#include <tests/app/res/resource.h>
+
+namespace
+{
+
+constexpr COLORREF kUsed = RGB(200, 100, 50);
+constexpr COLORREF kFree = RGB(40, 80, 240);
+
+// Tops are darkened channel by channel: trunc(c x 0.4 + floor(c / 2)).
+constexpr COLORREF kUsedTop = RGB(180, 90, 45);
+constexpr COLORREF kFreeTop = RGB(36, 72, 216);
+constexpr COLORREF kPieOutline = RGB(128, 128, 128);
+
+HINSTANCE Program()
+{
+    return ::GetModuleHandleW(nullptr);
+}
+
+TEST(DrawBox, OuterEdgeIsDarkAtTopAndLeftAndLightAtBottomAndRight)
+{
+    const ts::Picture picture = Drawn(60, 40, [](CDC& dc) { QorDrawBox(dc, 5, 6, 40, 20, RGB(9, 8, 7)); });
+    EXPECT_EQ(RGB(168, 168, 152), picture.At(5, 6));
+    EXPECT_EQ(RGB(168, 168, 152), picture.At(44, 6));
+    EXPECT_EQ(RGB(168, 168, 152), picture.At(5, 25));
+    EXPECT_EQ(RGB(248, 252, 248), picture.At(45, 26));
+    EXPECT_EQ(RGB(248, 252, 248), picture.At(45, 7));
+    EXPECT_EQ(RGB(248, 252, 248), picture.At(6, 26));
+}
+
+TEST(DrawBox, EdgeLinesExcludeTheirEndPoints)
+{
+    const ts::Picture picture = Drawn(60, 40, [](CDC& dc) { QorDrawBox(dc, 5, 6, 40, 20, RGB(9, 8, 7)); });
+    EXPECT_EQ(kPaper, picture.At(45, 6));
+    EXPECT_EQ(kPaper, picture.At(5, 26));
+}
+
+TEST(DrawBox, InnerEdgeLiesOnePixelFurtherIn)
+{
+    const ts::Picture picture = Drawn(60, 40, [](CDC& dc) { QorDrawBox(dc, 5, 6, 40, 20, RGB(9, 8, 7)); });
+    EXPECT_EQ(RGB(112, 108, 96), picture.At(6, 7));
+    EXPECT_EQ(RGB(112, 108, 96), picture.At(43, 7));
+    EXPECT_EQ(RGB(112, 108, 96), picture.At(6, 24));
+    EXPECT_EQ(RGB(240, 236, 224), picture.At(44, 25));
+    EXPECT_EQ(RGB(240, 236, 224), picture.At(44, 8));
+    EXPECT_EQ(RGB(240, 236, 224), picture.At(7, 25));
+    EXPECT_EQ(kPaper, picture.At(44, 7));
+    EXPECT_EQ(kPaper, picture.At(6, 25));
+}
+
+TEST(DrawBox, FillsTheInside)
+{
+    const ts::Picture picture = Drawn(60, 40, [](CDC& dc) { QorDrawBox(dc, 5, 6, 40, 20, RGB(9, 8, 7)); });
+    EXPECT_EQ(36 * 16, picture.Count(RGB(9, 8, 7)));
+    EXPECT_EQ(RGB(9, 8, 7), picture.At(7, 8));
+    EXPECT_EQ(RGB(9, 8, 7), picture.At(42, 23));
+    EXPECT_NE(RGB(9, 8, 7), picture.At(43, 24));
+}
+
+TEST(DrawBox, StaysInsideItsRectangle)
+{
+    const ts::Picture picture = Drawn(60, 40, [](CDC& dc) { QorDrawBox(dc, 5, 6, 40, 20, RGB(9, 8, 7)); });
+    EXPECT_EQ(CRect(5, 6, 46, 27), CRect(picture.BoundsOfOthers(kPaper)));
+}
+
+TEST(DrawBox, NullDeviceContextDoesNothing)
+{
+    const ts::Picture picture = Drawn(20, 20, [](CDC&) { QorDrawBox(nullptr, 0, 0, 10, 10, 0); });
+    EXPECT_EQ(400, picture.Count(kPaper));
+}
+
+TEST(DrawPie, FillsABoxOf160By76)
+{
+    const ts::Picture picture = Drawn(200, 120, [](CDC& dc) { QorDrawPie(dc, 10, 20, kUsed, kFree, 0.5); });
+    const CRect bounds = CRect(picture.BoundsOfOthers(kPaper));
+    EXPECT_NEAR(10, bounds.left, 1);
+    EXPECT_NEAR(20, bounds.top, 1);
+    EXPECT_NEAR(170, bounds.right - 1, 1);
+    EXPECT_NEAR(96, bounds.bottom - 1, 1);
+}
+
+/** What the middle of a share's top looks like: halfway along its middle ray. */
+COLORREF TopAt(const ts::Picture& picture, double turn)
+{
+    const double angle = turn * 2 * 3.14159265358979;
+    return picture.At(static_cast<int>(80 + 40 * std::cos(angle)), static_cast<int>(30 + 15 * std::sin(angle)));
+}
+
+TEST(DrawPie, QuarterIsClockwiseFromThreeOClock)
+{
+    const ts::Picture picture = Drawn(161, 77, [](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, 0.25); });
+    EXPECT_EQ(kUsedTop, TopAt(picture, 0.03));
+    EXPECT_EQ(kUsedTop, TopAt(picture, 0.125));
+    EXPECT_EQ(kUsedTop, TopAt(picture, 0.22));
+    EXPECT_EQ(kFreeTop, TopAt(picture, 0.28));
+    EXPECT_EQ(kFreeTop, TopAt(picture, 0.625));
+    EXPECT_EQ(kFreeTop, TopAt(picture, 0.97));
+}
+
+/** Whether a rim pixel is a mixture of a share's colour and the grey sheen over it. */
+bool IsRimOf(COLORREF pixel, COLORREF share)
+{
+    const auto between = [](int value, int from) {
+        // The sheen has alpha 100 and is between 128 and 255.
+        const int low = from + (128 - from) * 100 / 255;
+        const int high = from + (255 - from) * 100 / 255;
+        return value >= (std::min)(low, high) - 2 && value <= (std::max)(low, high) + 2;
+    };
+    return between(GetRValue(pixel), GetRValue(share)) && between(GetGValue(pixel), GetGValue(share)) &&
+           between(GetBValue(pixel), GetBValue(share));
+}
+
+/** A pixel in the middle of the rim below the edge of the disc at a column. */
+COLORREF RimAt(const ts::Picture& picture, int x)
+{
+    const double part = (x - 80) / 80.0;
+    return picture.At(x, static_cast<int>(30 + 30 * std::sqrt(1 - part * part) + 8));
+}
+
+TEST(DrawPie, QuarterHasTheUsedRimFrom0To90AndTheFreeRimFrom90To180)
+{
+    const ts::Picture picture = Drawn(161, 77, [](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, 0.25); });
+    EXPECT_TRUE(IsRimOf(RimAt(picture, 140), kUsed));
+    EXPECT_TRUE(IsRimOf(RimAt(picture, 84), kUsed));
+    EXPECT_TRUE(IsRimOf(RimAt(picture, 76), kFree));
+    EXPECT_TRUE(IsRimOf(RimAt(picture, 20), kFree));
+}
+
+void ExpectAll(const ts::Picture& picture, COLORREF top, COLORREF otherTop, COLORREF rim)
+{
+    for (const double turn : {0.02, 0.125, 0.375, 0.625, 0.875})
+        EXPECT_EQ(top, TopAt(picture, turn)) << turn;
+    EXPECT_EQ(0, picture.Count(otherTop));
+    for (const int x : {12, 40, 80, 120, 148})
+        EXPECT_TRUE(IsRimOf(RimAt(picture, x), rim)) << x;
+}
+
+TEST(DrawPie, RatioZeroIsAllFree)
+{
+    const ts::Picture picture = Drawn(161, 77, [](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, 0); });
+    ExpectAll(picture, kFreeTop, kUsedTop, kFree);
+}
+
+TEST(DrawPie, RatioOneIsAllUsed)
+{
+    const ts::Picture picture = Drawn(161, 77, [](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, 1); });
+    ExpectAll(picture, kUsedTop, kFreeTop, kUsed);
+}
+
+TEST(DrawPie, RatioAboveOneIsAsOne)
+{
+    const ts::Picture picture = Drawn(161, 77, [](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, 2.5); });
+    const ts::Picture one = Drawn(161, 77, [](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, 1); });
+    EXPECT_TRUE(ts::SamePicture(one, picture));
+    EXPECT_NE(0, one.Count(kUsedTop));
+}
+
+TEST(DrawPie, NegativeRatioAndNoNumberAreAsZero)
+{
+    const ts::Picture zero = Drawn(161, 77, [](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, 0); });
+    for (const double ratio : {-0.3, std::nan("")}) {
+        const ts::Picture picture = Drawn(161, 77, [&](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, ratio); });
+        EXPECT_TRUE(ts::SamePicture(zero, picture)) << ratio;
+    }
+    EXPECT_NE(0, zero.Count(kFreeTop));
+}
+
+TEST(DrawPie, MoreThanHalfHasNoFreeRim)
+{
+    const ts::Picture picture = Drawn(161, 77, [](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, 0.75); });
+    for (const int x : {12, 40, 80, 120, 148})
+        EXPECT_TRUE(IsRimOf(RimAt(picture, x), kUsed)) << x;
+    EXPECT_EQ(kUsedTop, TopAt(picture, 0.7));
+    EXPECT_EQ(kFreeTop, TopAt(picture, 0.8));
+}
+
+TEST(DrawPie, IsOutlinedInGrey)
+{
+    const ts::Picture picture = Drawn(161, 77, [](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, 0.25); });
+    EXPECT_GT(picture.Count(kPieOutline), 200);
+}
+
+TEST(DrawPie, NullDeviceContextDoesNothing)
+{
+    const ts::Picture picture = Drawn(20, 20, [](CDC&) { QorDrawPie(nullptr, 0, 0, kUsed, kFree, 0.5); });
+    EXPECT_EQ(400, picture.Count(kPaper));
+}
+
+TEST(DrawGradientLine, IsTheRowAboveItsStart)
+{
+    const ts::Picture picture = Drawn(120, 10, [](CDC& dc) { QorDrawGradientLine(&dc, CPoint(10, 5), 100); });
+    EXPECT_EQ(CRect(10, 4, 110, 5), CRect(picture.BoundsOfOthers(kPaper)));
+}
+
+TEST(DrawGradientLine, FadesFromBlueToWhite)
+{
+    const ts::Picture picture = Drawn(120, 10, [](CDC& dc) { QorDrawGradientLine(&dc, CPoint(10, 5), 100); });
+    const auto expectNear = [](COLORREF expected, COLORREF pixel) {
+        EXPECT_NEAR(GetRValue(expected), GetRValue(pixel), 4);
+        EXPECT_NEAR(GetGValue(expected), GetGValue(pixel), 4);
+        EXPECT_NEAR(GetBValue(expected), GetBValue(pixel), 4);
+    };
+    expectNear(RGB(0, 0, 200), picture.At(10, 4));
+    expectNear(RGB(127, 127, 227), picture.At(60, 4));
+    expectNear(RGB(255, 255, 255), picture.At(109, 4));
+}
+
+TEST(DrawGradientLine, NullDeviceContextDoesNothing)
+{
+    const ts::Picture picture = Drawn(20, 20, [](CDC&) { QorDrawGradientLine(nullptr, CPoint(1, 1), 10); });
+    EXPECT_EQ(400, picture.Count(kPaper));
+}
+
+/** A bitmap of the screen's depth with one pixel of each colour. */
+class ColourRow
+{
+  public:
+    explicit ColourRow(std::initializer_list<COLORREF> colours)
+    {
+        CClientDC screen(nullptr);
+        m_bitmap.CreateCompatibleBitmap(&screen, static_cast<int>(colours.size()), 1);
+        CDC dc;
+        dc.CreateCompatibleDC(nullptr);
+        const HGDIOBJ old = ::SelectObject(dc.m_hDC, m_bitmap.GetSafeHandle());
+        int x = 0;
+        for (const COLORREF colour : colours)
+            ::SetPixel(dc.m_hDC, x++, 0, colour);
+        ::SelectObject(dc.m_hDC, old);
+    }
+    HBITMAP Handle() { return m_bitmap; }
+
+  private:
+    CBitmap m_bitmap;
+};
+
+std::vector<COLORREF> PixelsOf(HBITMAP bitmap)
+{
+    const ts::Picture picture = ts::PictureOf(bitmap);
+    std::vector<COLORREF> pixels;
+    for (int y = 0; y < picture.Height(); ++y)
+        for (int x = 0; x < picture.Width(); ++x)
+            pixels.push_back(picture.At(x, y));
+    return pixels;
+}
+
+TEST(GrayBmp, WeighsTheColoursAndCutsOff)
+{
+    ColourRow source({RGB(255, 255, 255), RGB(255, 0, 0), RGB(250, 0, 0), RGB(0, 250, 0), RGB(0, 0, 250)});
+    CBitmap gray;
+    ASSERT_TRUE(gray.Attach(QorCreateGrayBmp(source.Handle())));
+    const std::vector<COLORREF> expected = {RGB(255, 255, 255), RGB(76, 76, 76), RGB(74, 74, 74), RGB(146, 146, 146),
+                                            RGB(28, 28, 28)};
+    EXPECT_EQ(expected, PixelsOf(gray));
+}
+
+TEST(GrayBmp, BlackStaysBlack)
+{
+    ColourRow source({0, RGB(255, 0, 0), 0});
+    CBitmap gray;
+    ASSERT_TRUE(gray.Attach(QorCreateGrayBmp(source.Handle())));
+    EXPECT_EQ((std::vector<COLORREF>{0, RGB(76, 76, 76), 0}), PixelsOf(gray));
+}
+
+TEST(GrayBmp, HasTheSizeAndDepthOfTheSourceAndLeavesItAlone)
+{
+    ColourRow source({RGB(255, 0, 0), RGB(0, 255, 0)});
+    CBitmap gray;
+    ASSERT_TRUE(gray.Attach(QorCreateGrayBmp(source.Handle())));
+    BITMAP of = {};
+    BITMAP copy = {};
+    ::GetObjectW(source.Handle(), sizeof(of), &of);
+    gray.GetBitmap(&copy);
+    EXPECT_EQ(of.bmWidth, copy.bmWidth);
+    EXPECT_EQ(of.bmHeight, copy.bmHeight);
+    EXPECT_EQ(of.bmPlanes, copy.bmPlanes);
+    EXPECT_EQ(of.bmBitsPixel, copy.bmBitsPixel);
+    EXPECT_EQ((std::vector<COLORREF>{RGB(255, 0, 0), RGB(0, 255, 0)}), PixelsOf(source.Handle()));
+}
+
+TEST(GrayBmp, NoBitmapGivesNull)
+{
+    EXPECT_EQ(nullptr, QorCreateGrayBmp(nullptr));
+    EXPECT_EQ(nullptr, QorCreateGrayBmp(static_cast<HBITMAP>(::GetStockObject(WHITE_BRUSH))));
+}
+
+TEST(GrayIcon, IsDrawnGreyWithTheSameMask)
+{
+    const HICON icon = ::LoadIconW(Program(), MAKEINTRESOURCEW(IDI_SQUARE));
+    const HICON gray = QorCreateGrayIcon(icon);
+    ASSERT_NE(nullptr, gray);
+    ICONINFO info = {};
+    ASSERT_TRUE(::GetIconInfo(gray, &info));
+    CBitmap mask;
+    mask.Attach(info.hbmMask);
+    CBitmap colour;
+    colour.Attach(info.hbmColor);
+    const std::vector<COLORREF> pixels = PixelsOf(colour);
+    ASSERT_EQ(1024u, pixels.size());
+    EXPECT_EQ(RGB(76, 76, 76), pixels[0]);
+    EXPECT_EQ(RGB(255, 255, 255), pixels[31]);
+    EXPECT_EQ(0u, pixels[992]);
+    EXPECT_EQ(1024u, PixelsOf(mask).size());
+    EXPECT_EQ(0u, PixelsOf(mask)[0]);
+    ::DestroyIcon(gray);
+    ICONINFO still = {};
+    EXPECT_TRUE(::GetIconInfo(icon, &still)) << "the source icon lives on";
+    ::DeleteObject(still.hbmColor);
+    ::DeleteObject(still.hbmMask);
+}
+
+TEST(GrayIcon, NoIconGivesNull)
+{
+    EXPECT_EQ(nullptr, QorCreateGrayIcon(nullptr));
+}
+
+TEST(ImageList, StripOf80By16GivesFiveSquareImages)
+{
+    CImageList list;
+    UINT size = 0;
+    EXPECT_EQ(5, QorCreateImageList(list, IDB_ICONS, Program(), RGB(255, 255, 255), &size));
+    EXPECT_EQ(16u, size);
+    int cx = 0;
+    int cy = 0;
+    ASSERT_TRUE(::ImageList_GetIconSize(list.m_hImageList, &cx, &cy));
+    EXPECT_EQ(16, cx);
+    EXPECT_EQ(16, cy);
+}
+
+TEST(ImageList, NullModuleMeansTheProgram)
+{
+    CImageList list;
+    EXPECT_EQ(5, QorCreateImageList(list, IDB_ICONS, nullptr, RGB(255, 255, 255), nullptr));
+}
+
+TEST(ImageList, MaskColourIsTransparent)
+{
+    CImageList list;
+    ASSERT_EQ(5, QorCreateImageList(list, IDB_ICONS, Program(), RGB(255, 255, 255), nullptr));
+    const ts::Picture picture =
+        Drawn(16, 16, [&](CDC& dc) { ::ImageList_Draw(list.m_hImageList, 1, dc, 0, 0, ILD_TRANSPARENT); });
+    EXPECT_EQ(kPaper, picture.At(0, 5));
+    EXPECT_EQ(RGB(0, 255, 0), picture.At(1, 5));
+}
+
+TEST(ImageList, MissingBitmapGivesNoImages)
+{
+    CImageList list;
+    UINT size = 77;
+    EXPECT_EQ(0, QorCreateImageList(list, IDB_MISSING, Program(), 0, &size));
+    EXPECT_EQ(77u, size);
+    EXPECT_EQ(nullptr, list.m_hImageList);
+}
+
+TEST(ImageList, StripWithoutHeightGivesNoImages)
+{
+    CImageList list;
+    EXPECT_EQ(0, QorCreateImageList(list, IDB_FLAT, Program(), 0, nullptr));
+}
+
+/** A tree and a list, each with items, in a window. */
+class PopupPoint : public testing::Test
+{
+  protected:
+    void SetUp() override
+    {
+        m_tree.SubclassWindow(m_host.Add(WC_TREEVIEWW, L"", WS_CHILD | WS_VISIBLE, 10, 20, 150, 200, 1));
+        m_list.SubclassWindow(
+            m_host.Add(WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_LIST | LVS_SHOWSELALWAYS, 200, 30, 150, 200, 2));
+        m_tree.InsertItem(L"first");
+        m_second = m_tree.InsertItem(L"second");
+        m_list.InsertItem(0, L"first");
+        m_list.InsertItem(1, L"second");
+        m_list.InsertItem(2, L"third");
+    }
+    void TearDown() override
+    {
+        m_tree.UnsubclassWindow();
+        m_list.UnsubclassWindow();
+    }
+
+    static CPoint ScreenCentre(const CWnd& wnd, CRect rect)
+    {
+        CPoint centre((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
+        ::ClientToScreen(wnd.m_hWnd, &centre);
+        return centre;
+    }
+
+    ts::HostWindow m_host;
+    CTreeCtrl m_tree;
+    CListCtrl m_list;
+    HTREEITEM m_second = nullptr;
+};
+
+TEST_F(PopupPoint, MousePointIsKept)
+{
+    for (const CPoint given : {CPoint(0, 0), CPoint(7, 9)}) {
+        CPoint point = given;
+        QorGetTreePopupPoint(m_tree, point);
+        EXPECT_EQ(given, point);
+        QorGetListPopupPoint(m_list, point);
+        EXPECT_EQ(given, point);
+    }
+}
+
+TEST_F(PopupPoint, KeyboardOverTreeGivesTheMiddleOfTheSelectedItem)
+{
+    m_tree.SelectItem(m_second);
+    CRect item;
+    ASSERT_TRUE(m_tree.GetItemRect(m_second, &item, TRUE));
+    for (const CPoint given : {CPoint(-1, 5), CPoint(5, -1), CPoint(-1, -1)}) {
+        CPoint point = given;
+        QorGetTreePopupPoint(m_tree, point);
+        EXPECT_EQ(ScreenCentre(m_tree, item), point);
+    }
+}
+
+TEST_F(PopupPoint, KeyboardOverTreeWithoutSelectionGivesItsCorner)
+{
+    m_tree.SelectItem(nullptr);
+    CPoint point(-1, -1);
+    QorGetTreePopupPoint(m_tree, point);
+    EXPECT_EQ(ScreenCentre(m_tree, CRect(0, 0, 0, 0)), point);
+}
+
+TEST_F(PopupPoint, KeyboardOverListGivesTheMiddleOfTheFirstSelectedLabel)
+{
+    m_list.SetItemState(1, LVIS_SELECTED, LVIS_SELECTED);
+    m_list.SetItemState(2, LVIS_SELECTED, LVIS_SELECTED);
+    CRect label;
+    ASSERT_TRUE(m_list.GetItemRect(1, &label, LVIR_LABEL));
+    for (const CPoint given : {CPoint(-1, 5), CPoint(5, -1)}) {
+        CPoint point = given;
+        QorGetListPopupPoint(m_list, point);
+        EXPECT_EQ(ScreenCentre(m_list, label), point);
+    }
+}
+
+TEST_F(PopupPoint, KeyboardOverListWithoutSelectionGivesItsCorner)
+{
+    CPoint point(-1, -1);
+    QorGetListPopupPoint(m_list, point);
+    EXPECT_EQ(ScreenCentre(m_list, CRect(0, 0, 0, 0)), point);
+}
+
+} // namespace

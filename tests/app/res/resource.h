@@ -1,0 +1,18 @@
+#pragma once
+
+#define IDB_FRAMES 1000
+#define IDB_KEYED 1001
+#define IDB_ICONS 1002
+#define IDB_FLAT 1003
+#define IDB_MISSING 1099
+#define IDR_FRAMES 1100
+#define IDR_UPRIGHT 1101
+#define IDR_DAMAGED 1102
+#define IDI_SQUARE 1200
+#define IDI_OTHER 1201
+#define IDI_MISSING 1299
+#define IDD_BUTTONS 1300
+#define IDC_FIRST 1301
+#define IDC_SECOND 1302
+#define IDC_THIRD 1303
+#define IDC_FOURTH 1304

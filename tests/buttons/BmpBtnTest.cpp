@@ -1,0 +1,224 @@
+#include "Buttons.h"
+
+#include <QorUI/buttons/BmpBtn.h>
+
+namespace
+{
+
+constexpr COLORREF kRed = RGB(255, 0, 0);
+constexpr COLORREF kGreen = RGB(0, 255, 0);
+constexpr COLORREF kBlue = RGB(0, 0, 255);
+constexpr COLORREF kYellow = RGB(255, 255, 0);
+constexpr COLORREF kKey = RGB(255, 0, 255);
+
+/** A button of 20 x 10, as large as a frame of the test strips. */
+class BmpBtn : public testing::Test
+{
+  protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_button.Create(CRect(30, 40, 50, 50), &m_host, 9));
+        ASSERT_TRUE(m_button.SetImage(Program(), IDB_FRAMES, nullptr, CLR_NONE));
+        ts::ParkMouse();
+    }
+
+    ts::AfxHost m_host{300, 120};
+    CBmpBtn m_button;
+};
+
+TEST_F(BmpBtn, IsCreatedVisibleOwnerDrawnAndWithoutText)
+{
+    const auto style = static_cast<DWORD>(::GetWindowLongPtrW(m_button, GWL_STYLE));
+    EXPECT_EQ(DWORD{WS_CHILD | WS_VISIBLE | BS_OWNERDRAW}, style);
+    EXPECT_EQ(9, ::GetDlgCtrlID(m_button));
+    EXPECT_EQ(0, m_button.GetWindowTextLength());
+    EXPECT_EQ(CRect(30, 40, 50, 50), PlaceIn(m_host, m_button));
+}
+
+TEST_F(BmpBtn, SubclassingMakesItOwnerDrawnAndKeepsItsSize)
+{
+    CBmpBtn button;
+    ASSERT_TRUE(button.SubclassWindow(AddButton(m_host, L"", CRect(1, 2, 31, 42), 5)));
+    EXPECT_EQ(UINT{BS_OWNERDRAW}, TypeOf(button));
+    EXPECT_EQ(CRect(1, 2, 31, 42), PlaceIn(m_host, button));
+}
+
+TEST_F(BmpBtn, StateChoosesTheFrame)
+{
+    EXPECT_EQ(200, DrawnItem(m_button, 20, 10, 0).Count(kRed));
+    EXPECT_EQ(200, DrawnItem(m_button, 20, 10, ODS_SELECTED).Count(kBlue));
+    EXPECT_EQ(200, DrawnItem(m_button, 20, 10, ODS_DISABLED).Count(kYellow));
+    EXPECT_EQ(200, DrawnItem(m_button, 20, 10, ODS_DISABLED | ODS_SELECTED).Count(kYellow));
+}
+
+TEST_F(BmpBtn, FocusHasNoFrame)
+{
+    EXPECT_EQ(200, DrawnItem(m_button, 20, 10, ODS_FOCUS).Count(kRed));
+}
+
+TEST_F(BmpBtn, IsHotWhileTheMouseIsOverIt)
+{
+    EXPECT_EQ(200, Look(m_button).Count(kRed));
+    ts::MoveMouse(m_button);
+    EXPECT_EQ(200, Look(m_button).Count(kGreen));
+    EXPECT_EQ(200, DrawnItem(m_button, 20, 10, ODS_SELECTED).Count(kBlue)) << "pressed wins over hot";
+    EXPECT_EQ(200, DrawnItem(m_button, 20, 10, ODS_DISABLED).Count(kYellow)) << "disabled wins over hot";
+    ts::ParkMouse();
+    EXPECT_TRUE(ts::PumpUntil([this] { return Look(m_button).Count(kRed) == 200; }));
+}
+
+TEST_F(BmpBtn, IsPressedWhileTheMouseButtonIsDown)
+{
+    ts::MoveMouse(m_button);
+    ts::MouseDown();
+    EXPECT_EQ(200, Look(m_button).Count(kBlue));
+    ts::MouseUp();
+    EXPECT_EQ(1u, m_host.Log().Count(ts::Command(9, BN_CLICKED)));
+}
+
+TEST_F(BmpBtn, LeaveMessageReturnsOneAndEraseMessageTrue)
+{
+    EXPECT_EQ(1, m_button.SendMessage(WM_MOUSELEAVE));
+    const ts::Picture picture = Drawn(20, 10, [this](CDC& dc) {
+        const auto handle = reinterpret_cast<WPARAM>(dc.m_hDC);
+        EXPECT_EQ(TRUE, m_button.SendMessage(WM_ERASEBKGND, handle));
+    });
+    EXPECT_EQ(200, picture.Count(kPaper));
+}
+
+TEST_F(BmpBtn, ColourKeyLetsThroughWhatIsBehind)
+{
+    ASSERT_TRUE(m_button.SetImage(Program(), IDB_KEYED, nullptr, kKey));
+    const ts::Picture picture = DrawnItem(m_button, 20, 10, ODS_SELECTED);
+    EXPECT_TRUE(ts::AreaIs(picture, CRect(0, 0, 1, 10), kPaper));
+    EXPECT_TRUE(ts::AreaIs(picture, CRect(1, 0, 20, 10), kBlue));
+}
+
+TEST_F(BmpBtn, WithoutColourKeyTheStripIsOpaque)
+{
+    ASSERT_TRUE(m_button.SetImage(Program(), IDB_KEYED, nullptr, CLR_NONE));
+    const ts::Picture picture = DrawnItem(m_button, 20, 10, 0);
+    EXPECT_TRUE(ts::AreaIs(picture, CRect(0, 0, 1, 10), kKey));
+    EXPECT_TRUE(ts::AreaIs(picture, CRect(1, 0, 20, 10), kRed));
+}
+
+TEST_F(BmpBtn, ResourceTypeLoadsACompressedPicture)
+{
+    ASSERT_TRUE(m_button.SetImage(Program(), IDR_FRAMES, L"PNG", CLR_NONE));
+    EXPECT_EQ(200, DrawnItem(m_button, 20, 10, ODS_DISABLED).Count(kYellow));
+}
+
+TEST_F(BmpBtn, WithoutResourceTypeOnlyABitmapResourceIsLoaded)
+{
+    EXPECT_FALSE(m_button.SetImage(Program(), IDR_FRAMES, nullptr, CLR_NONE));
+}
+
+TEST_F(BmpBtn, FailedSetImageLeavesAnEmptyButton)
+{
+    EXPECT_FALSE(m_button.SetImage(Program(), IDB_MISSING, nullptr, CLR_NONE));
+    EXPECT_EQ(200, DrawnItem(m_button, 20, 10, 0).Count(kPaper));
+    ASSERT_TRUE(m_button.SetImage(Program(), IDB_FRAMES, nullptr, CLR_NONE));
+    EXPECT_FALSE(m_button.SetImage(Program(), IDR_DAMAGED, L"PNG", CLR_NONE));
+    EXPECT_EQ(200, DrawnItem(m_button, 20, 10, 0).Count(kPaper));
+}
+
+TEST_F(BmpBtn, EmptyButtonStillDrawsItsCaption)
+{
+    m_button.SetImage(Program(), IDB_MISSING, nullptr, CLR_NONE);
+    m_button.SetWindowText(L"X");
+    const ts::Picture picture = DrawnItem(m_button, 20, 10, 0);
+    EXPECT_NE(0, picture.Count(RGB(255, 255, 255)));
+    EXPECT_EQ(200, picture.Count(RGB(255, 255, 255)) + picture.Count(kPaper));
+}
+
+TEST_F(BmpBtn, SetImageInvalidatesWithErase)
+{
+    ::UpdateWindow(m_button);
+    ::ValidateRect(m_button, nullptr);
+    ASSERT_TRUE(m_button.SetImage(Program(), IDB_KEYED, nullptr, kKey));
+    CRect dirty;
+    EXPECT_TRUE(::GetUpdateRect(m_button, &dirty, FALSE));
+    EXPECT_EQ(CRect(0, 0, 20, 10), dirty);
+}
+
+TEST_F(BmpBtn, SetImageWorksBeforeTheWindow)
+{
+    CBmpBtn button;
+    EXPECT_TRUE(button.SetImage(Program(), IDB_FRAMES, nullptr, CLR_NONE));
+    EXPECT_FALSE(button.SetImage(Program(), IDB_MISSING, nullptr, CLR_NONE));
+}
+
+TEST_F(BmpBtn, WiderButtonShowsSlicesOfTheWrongFrames)
+{
+    m_button.MoveWindow(30, 40, 40, 10);
+    const ts::Picture normal = DrawnItem(m_button, 40, 10, 0);
+    EXPECT_TRUE(ts::AreaIs(normal, CRect(0, 0, 20, 10), kRed));
+    EXPECT_TRUE(ts::AreaIs(normal, CRect(20, 0, 40, 10), kGreen));
+    const ts::Picture look = Look(m_button);
+    EXPECT_TRUE(ts::AreaIs(look, CRect(20, 0, 40, 10), kGreen));
+}
+
+ts::Picture ExpectedCaption(const wchar_t* text, COLORREF colour)
+{
+    return Drawn(60, 24, [&](CDC& dc) {
+        const HGDIOBJ old = ::SelectObject(dc, ::GetStockObject(DEFAULT_GUI_FONT));
+        ::SetTextColor(dc, colour);
+        ::SetBkMode(dc, TRANSPARENT);
+        RECT rect = {0, 0, 60, 24};
+        ::DrawTextW(dc, text, -1, &rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+        ::SelectObject(dc, old);
+    });
+}
+
+TEST_F(BmpBtn, CaptionIsCentredInWhiteAndGreyWhenDisabled)
+{
+    m_button.SetImage(Program(), IDB_MISSING, nullptr, CLR_NONE);
+    m_button.SetWindowText(L"Text");
+    EXPECT_TRUE(ts::SamePicture(ExpectedCaption(L"Text", RGB(255, 255, 255)), DrawnItem(m_button, 60, 24, 0)));
+    EXPECT_TRUE(ts::SamePicture(ExpectedCaption(L"Text", ::GetSysColor(COLOR_GRAYTEXT)),
+                                DrawnItem(m_button, 60, 24, ODS_DISABLED)));
+}
+
+TEST_F(BmpBtn, DrawingLeavesTheDeviceContextAsItWas)
+{
+    m_button.SetWindowText(L"Text");
+    Drawn(20, 10, [this](CDC& dc) {
+        dc.SetTextColor(RGB(9, 9, 9));
+        dc.SetBkMode(OPAQUE);
+        const HGDIOBJ font = ::GetCurrentObject(dc, OBJ_FONT);
+        DRAWITEMSTRUCT request = DrawRequest(m_button, dc, CRect(0, 0, 20, 10), 0);
+        m_button.DrawItem(&request);
+        EXPECT_EQ(RGB(9, 9, 9), dc.GetTextColor());
+        EXPECT_EQ(OPAQUE, dc.GetBkMode());
+        EXPECT_EQ(font, ::GetCurrentObject(dc, OBJ_FONT));
+    });
+}
+
+TEST_F(BmpBtn, DestroyingTheWindowDeletesTheImage)
+{
+    m_button.DestroyWindow();
+    ASSERT_TRUE(m_button.Create(CRect(30, 40, 50, 50), &m_host, 9));
+    EXPECT_EQ(200, DrawnItem(m_button, 20, 10, 0).Count(kPaper));
+}
+
+TEST_F(BmpBtn, CloseButtonStripHasFourFramesOf42By17)
+{
+    const ts::Picture strip = ResourcePicture(Library(), 223);
+    EXPECT_EQ(168, strip.Width());
+    EXPECT_EQ(17, strip.Height());
+}
+
+TEST_F(BmpBtn, ShowingPaintingAndClosingLeavesNothingBehind)
+{
+    EXPECT_TRUE(ts::NoLeak([this] {
+        CBmpBtn button;
+        button.Create(CRect(100, 40, 120, 50), &m_host, 10);
+        button.SetImage(Program(), IDR_FRAMES, L"PNG", kKey);
+        button.SetImage(Program(), IDB_KEYED, nullptr, kKey);
+        button.SetWindowText(L"Text");
+        button.RedrawWindow();
+        button.DestroyWindow();
+    }));
+}
+
+} // namespace

@@ -1,0 +1,498 @@
+#include "Buttons.h"
+
+#include <QorUI/buttons/CheckRadio.h>
+
+namespace
+{
+
+constexpr COLORREF kBody = RGB(236, 245, 250);
+const CRect kGlyph(2, 2, 15, 15);
+
+/** A frame of a glyph strip as it looks on the body; a colour key shows the body. */
+ts::Picture Frame(UINT strip, int frame, COLORREF key = CLR_NONE)
+{
+    const ts::Picture all = ResourcePicture(Library(), strip);
+    std::vector<COLORREF> pixels;
+    for (int y = 0; y < 13; ++y)
+        for (int x = 0; x < 13; ++x) {
+            const COLORREF pixel = all.At(frame * 13 + x, y);
+            pixels.push_back(pixel == key ? kBody : pixel);
+        }
+    return ts::Picture(13, 13, std::move(pixels));
+}
+
+ts::Picture CheckFrame(int frame)
+{
+    return Frame(201, frame);
+}
+
+ts::Picture RadioFrame(int frame)
+{
+    return Frame(200, frame, RGB(255, 255, 255));
+}
+
+template <class Control>
+class Checkable : public testing::Test
+{
+  protected:
+    ts::Picture Glyph() { return Look(m_control).Crop(kGlyph); }
+
+    bool IsChecked(const CWnd& control) { return control.SendMessage(BM_GETCHECK) == BST_CHECKED; }
+    bool IsChecked() { return IsChecked(m_control); }
+
+    size_t Clicks() { return m_host.Log().Count(ts::Command(11, BN_CLICKED)); }
+
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_control.SubclassWindow(AddButton(m_host, L"Text", CRect(20, 10, 140, 40), 11, Style())));
+        ts::ParkMouse();
+    }
+
+    static DWORD Style();
+
+    ts::AfxHost m_host{300, 160};
+    Control m_control;
+};
+
+template <>
+DWORD Checkable<CCheckBox>::Style()
+{
+    return BS_AUTOCHECKBOX;
+}
+
+template <>
+DWORD Checkable<CRadioBox>::Style()
+{
+    return BS_AUTORADIOBUTTON;
+}
+
+using CheckBox = Checkable<CCheckBox>;
+using RadioBox = Checkable<CRadioBox>;
+
+/** What the label looks like beside the glyph. */
+ts::Picture ExpectedLook(const ts::Picture& glyph, COLORREF colour, bool focus = false)
+{
+    const ts::Picture text = ts::DrawTo(
+        120, 30,
+        [&](HDC dc) {
+            const HGDIOBJ old = ::SelectObject(dc, ::GetStockObject(DEFAULT_GUI_FONT));
+            ::SetTextColor(dc, colour);
+            ::SetBkMode(dc, TRANSPARENT);
+            RECT rect = {19, 2, 118, 28};
+            ::DrawTextW(dc, L"Text", -1, &rect, DT_WORDBREAK | DT_EDITCONTROL);
+            if (focus) {
+                ::DrawTextW(dc, L"Text", -1, &rect, DT_CALCRECT | DT_WORDBREAK | DT_EDITCONTROL);
+                ::InflateRect(&rect, 1, 1);
+                ::DrawFocusRect(dc, &rect);
+            }
+            ::SelectObject(dc, old);
+        },
+        kBody);
+    std::vector<COLORREF> pixels;
+    for (int y = 0; y < 30; ++y)
+        for (int x = 0; x < 120; ++x)
+            pixels.push_back(kGlyph.PtInRect(CPoint(x, y)) ? glyph.At(x - 2, y - 2) : text.At(x, y));
+    return ts::Picture(120, 30, std::move(pixels));
+}
+
+TEST_F(CheckBox, ShowsBodyGlyphAndText)
+{
+    EXPECT_TRUE(ts::SamePicture(ExpectedLook(CheckFrame(0), ::GetSysColor(COLOR_BTNTEXT)), Look(m_control)));
+}
+
+TEST_F(RadioBox, ShowsBodyGlyphAndText)
+{
+    EXPECT_TRUE(ts::SamePicture(ExpectedLook(RadioFrame(0), ::GetSysColor(COLOR_BTNTEXT)), Look(m_control)));
+}
+
+TEST_F(CheckBox, WithoutTextShowsTheGlyphOnly)
+{
+    m_control.SetWindowText(L"");
+    m_control.Invalidate();
+    const ts::Picture look = Look(m_control);
+    EXPECT_TRUE(ts::AreaIs(look, CRect(15, 0, 120, 30), kBody));
+    EXPECT_TRUE(ts::SamePicture(CheckFrame(0), look.Crop(kGlyph)));
+}
+
+TEST_F(CheckBox, UsesTheFontOfTheControl)
+{
+    CFont font;
+    font.CreatePointFont(140, L"Tahoma");
+    m_control.SetFont(&font);
+    m_control.Invalidate();
+    EXPECT_GT(Look(m_control).Count(::GetSysColor(COLOR_BTNTEXT)), 20);
+    EXPECT_FALSE(ts::SamePicture(ExpectedLook(CheckFrame(0), ::GetSysColor(COLOR_BTNTEXT)), Look(m_control)));
+}
+
+TEST_F(CheckBox, CheckedStateChoosesTheFrame)
+{
+    m_control.SendMessage(BM_SETCHECK, BST_CHECKED);
+    EXPECT_TRUE(ts::SamePicture(CheckFrame(3), Glyph()));
+    m_control.SendMessage(BM_SETCHECK, BST_UNCHECKED);
+    EXPECT_TRUE(ts::SamePicture(CheckFrame(0), Glyph()));
+}
+
+TEST_F(RadioBox, CheckedStateChoosesTheFrame)
+{
+    m_control.SendMessage(BM_SETCHECK, BST_CHECKED);
+    m_control.Invalidate();
+    EXPECT_TRUE(ts::SamePicture(RadioFrame(3), Glyph()));
+    m_control.SendMessage(BM_SETCHECK, BST_UNCHECKED);
+    m_control.Invalidate();
+    EXPECT_TRUE(ts::SamePicture(RadioFrame(0), Glyph()));
+}
+
+TEST_F(CheckBox, IsHotWhileTheMouseIsOverIt)
+{
+    ts::MoveMouse(m_control);
+    m_control.Invalidate();
+    EXPECT_TRUE(ts::SamePicture(CheckFrame(1), Glyph()));
+    m_control.SendMessage(BM_SETCHECK, BST_CHECKED);
+    m_control.Invalidate();
+    EXPECT_TRUE(ts::SamePicture(CheckFrame(4), Glyph()));
+    ts::ParkMouse();
+    EXPECT_TRUE(ts::PumpUntil([this] {
+        m_control.Invalidate();
+        return Glyph() == CheckFrame(3);
+    }));
+}
+
+TEST_F(RadioBox, IsHotWhileTheMouseIsOverIt)
+{
+    ts::MoveMouse(m_control);
+    m_control.Invalidate();
+    EXPECT_TRUE(ts::SamePicture(RadioFrame(1), Glyph()));
+    ts::ParkMouse();
+    EXPECT_TRUE(ts::PumpUntil([this] {
+        m_control.Invalidate();
+        return Glyph() == RadioFrame(0);
+    }));
+}
+
+TEST_F(CheckBox, DisabledControlDrawsFrame2Or5AndGreyText)
+{
+    m_control.EnableWindow(FALSE);
+    EXPECT_TRUE(ts::SamePicture(ExpectedLook(CheckFrame(2), ::GetSysColor(COLOR_GRAYTEXT)), Look(m_control)));
+    m_control.SendMessage(BM_SETCHECK, BST_CHECKED);
+    m_control.Invalidate();
+    EXPECT_TRUE(ts::SamePicture(ExpectedLook(CheckFrame(5), ::GetSysColor(COLOR_GRAYTEXT)), Look(m_control)));
+}
+
+TEST_F(RadioBox, DisabledControlDrawsFrame2Or5AndGreyText)
+{
+    m_control.EnableWindow(FALSE);
+    EXPECT_TRUE(ts::SamePicture(ExpectedLook(RadioFrame(2), ::GetSysColor(COLOR_GRAYTEXT)), Look(m_control)));
+    m_control.SendMessage(BM_SETCHECK, BST_CHECKED);
+    m_control.Invalidate();
+    EXPECT_TRUE(ts::SamePicture(ExpectedLook(RadioFrame(5), ::GetSysColor(COLOR_GRAYTEXT)), Look(m_control)));
+}
+
+TEST_F(CheckBox, DisabledWinsOverHot)
+{
+    ts::MoveMouse(m_control);
+    m_control.EnableWindow(FALSE);
+    EXPECT_TRUE(ts::SamePicture(CheckFrame(2), Glyph()));
+}
+
+TEST_F(CheckBox, EnablingRepaintsTheWholeControl)
+{
+    ::UpdateWindow(m_control);
+    m_control.EnableWindow(FALSE);
+    CRect dirty;
+    EXPECT_TRUE(::GetUpdateRect(m_control, &dirty, FALSE));
+    EXPECT_EQ(CRect(0, 0, 120, 30), dirty);
+    EXPECT_FALSE(::IsWindowEnabled(m_control));
+}
+
+TEST_F(CheckBox, StateChangesRepaintTheStatedRectangle)
+{
+    const auto dirtyAfter = [this](UINT message, WPARAM wParam, LPARAM lParam) {
+        ::UpdateWindow(m_control);
+        ::ValidateRect(m_control, nullptr);
+        m_control.SendMessage(message, wParam, lParam);
+        CRect dirty(0, 0, 0, 0);
+        ::GetUpdateRect(m_control, &dirty, FALSE);
+        return dirty;
+    };
+    const CRect stated(2, 2, 13, 13);
+    EXPECT_EQ(stated, dirtyAfter(BM_SETCHECK, BST_CHECKED, 0));
+    EXPECT_EQ(stated, dirtyAfter(WM_MOUSELEAVE, 0, 0));
+    EXPECT_EQ(stated, dirtyAfter(WM_LBUTTONUP, 0, MAKELPARAM(3, 3)));
+    ts::MoveMouse(m_control);
+    m_control.SendMessage(WM_MOUSELEAVE);
+    EXPECT_EQ(stated, dirtyAfter(WM_MOUSEMOVE, 0, MAKELPARAM(3, 3)));
+    EXPECT_EQ(CRect(0, 0, 0, 0), dirtyAfter(WM_MOUSEMOVE, 0, MAKELPARAM(4, 3))) << "hot already";
+}
+
+template <class Control>
+void ExpectSwallowed(Control& control, std::initializer_list<UINT> messages)
+{
+    for (const UINT message : messages)
+        EXPECT_EQ(1, control.SendMessage(message, VK_SPACE)) << ts::MessageName(message);
+}
+
+TEST_F(CheckBox, AnswersOneToWhatItSwallows)
+{
+    ExpectSwallowed(m_control, {WM_ERASEBKGND, WM_KEYDOWN, WM_CHAR, WM_UPDATEUISTATE, WM_LBUTTONDBLCLK, WM_SETFOCUS,
+                                WM_KILLFOCUS, WM_MOUSELEAVE});
+    EXPECT_FALSE(IsChecked());
+}
+
+TEST_F(RadioBox, AnswersOneToWhatItSwallows)
+{
+    ExpectSwallowed(m_control, {WM_ERASEBKGND, WM_KEYDOWN, WM_KEYUP, WM_CHAR, WM_UPDATEUISTATE, WM_LBUTTONDBLCLK,
+                                WM_SETFOCUS, WM_KILLFOCUS, WM_MOUSELEAVE});
+    EXPECT_FALSE(IsChecked());
+    EXPECT_EQ(0u, Clicks());
+}
+
+TEST_F(CheckBox, SetCheckKnowsTwoStates)
+{
+    EXPECT_EQ(0, m_control.SendMessage(BM_GETCHECK));
+    EXPECT_EQ(0, m_control.SendMessage(BM_SETCHECK, BST_CHECKED));
+    EXPECT_EQ(1, m_control.SendMessage(BM_GETCHECK));
+    EXPECT_EQ(0, m_control.SendMessage(BM_SETCHECK, BST_INDETERMINATE));
+    EXPECT_EQ(0, m_control.SendMessage(BM_GETCHECK));
+    EXPECT_TRUE(ts::SamePicture(CheckFrame(0), Glyph()));
+    EXPECT_EQ(0u, Clicks());
+}
+
+TEST_F(CheckBox, ClickTogglesAndNotifies)
+{
+    ts::Click(m_control);
+    EXPECT_TRUE(IsChecked());
+    EXPECT_EQ(1u, Clicks());
+    EXPECT_TRUE(
+        m_host.Log().Has(ts::Msg(WM_COMMAND, MAKEWPARAM(11, BN_CLICKED), reinterpret_cast<LPARAM>(m_control.m_hWnd))));
+}
+
+TEST_F(CheckBox, SecondClickUnchecks)
+{
+    m_control.SendMessage(BM_SETCHECK, BST_CHECKED);
+    ts::Click(m_control);
+    EXPECT_FALSE(IsChecked());
+    EXPECT_EQ(1u, Clicks());
+}
+
+TEST_F(CheckBox, PressTakesTheFocusAndNoCapture)
+{
+    ts::MoveMouse(m_control);
+    ts::MouseDown();
+    EXPECT_EQ(m_control.m_hWnd, ::GetFocus());
+    EXPECT_EQ(nullptr, ::GetCapture());
+    EXPECT_FALSE(IsChecked());
+    ts::MouseUp();
+    EXPECT_TRUE(IsChecked());
+}
+
+TEST_F(CheckBox, WhereTheButtonGoesUpDoesNotMatter)
+{
+    m_control.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    m_control.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(-100, 400));
+    EXPECT_TRUE(IsChecked());
+}
+
+TEST_F(CheckBox, DoubleClickTogglesOnce)
+{
+    ts::DoubleClick(m_control, 8, 8);
+    EXPECT_TRUE(IsChecked());
+    EXPECT_EQ(1u, Clicks());
+    ts::Click(m_control);
+    EXPECT_FALSE(IsChecked()) << "the next click counts again";
+}
+
+TEST_F(CheckBox, SpaceTogglesWhenItIsReleased)
+{
+    m_control.SetFocus();
+    ts::KeyDown(VK_SPACE);
+    EXPECT_FALSE(IsChecked());
+    ts::KeyUp(VK_SPACE);
+    EXPECT_TRUE(IsChecked());
+    EXPECT_EQ(1u, Clicks());
+}
+
+TEST_F(CheckBox, OtherKeysDoNothing)
+{
+    m_control.SetFocus();
+    ts::Key(VK_RETURN);
+    ts::Key('X');
+    EXPECT_FALSE(IsChecked());
+    EXPECT_EQ(0u, Clicks());
+}
+
+TEST_F(RadioBox, SpaceDoesNothing)
+{
+    m_control.SetFocus();
+    ts::Key(VK_SPACE);
+    EXPECT_FALSE(IsChecked());
+    EXPECT_EQ(0u, Clicks());
+}
+
+TEST_F(CheckBox, FocusDrawsItsRectangleAndLosingItRemovesIt)
+{
+    const ts::Picture unfocused = Look(m_control);
+    m_control.SetFocus();
+    const ts::Picture focused = Look(m_control);
+    EXPECT_TRUE(ts::SamePicture(ExpectedLook(CheckFrame(0), ::GetSysColor(COLOR_BTNTEXT), true), focused));
+    m_host.SetFocus();
+    EXPECT_TRUE(ts::SamePicture(unfocused, Look(m_control)));
+}
+
+TEST_F(CheckBox, FocusedControlPaintsItsRectangle)
+{
+    m_control.SetFocus();
+    m_control.Invalidate();
+    EXPECT_TRUE(ts::SamePicture(ExpectedLook(CheckFrame(0), ::GetSysColor(COLOR_BTNTEXT), true), Look(m_control)));
+}
+
+TEST_F(RadioBox, FocusDrawsItsRectangleAndLosingItRemovesIt)
+{
+    const ts::Picture unfocused = Look(m_control);
+    m_control.SetFocus();
+    EXPECT_TRUE(ts::SamePicture(ExpectedLook(RadioFrame(0), ::GetSysColor(COLOR_BTNTEXT), true), Look(m_control)));
+    m_host.SetFocus();
+    EXPECT_TRUE(ts::SamePicture(unfocused, Look(m_control)));
+}
+
+TEST_F(CheckBox, SystemsOwnButtonStateIsNotUsed)
+{
+    m_control.SendMessage(BM_SETCHECK, BST_CHECKED);
+    EXPECT_EQ(UINT{BST_CHECKED}, ::IsDlgButtonChecked(m_host, 11));
+    ::CheckDlgButton(m_host, 11, BST_UNCHECKED);
+    EXPECT_FALSE(IsChecked());
+}
+
+/** Three radio boxes in a group, between a text and a plain push button that begins the next group. */
+class RadioGroup : public testing::Test
+{
+  protected:
+    void SetUp() override
+    {
+        for (int i = 0; i < 3; ++i) {
+            const DWORD style = BS_AUTORADIOBUTTON | (i == 0 ? WS_GROUP : 0);
+            const HWND button = AddButton(m_host, L"Text", CRect(20, 10 + 30 * i, 140, 35 + 30 * i), 21 + i, style);
+            ASSERT_TRUE(m_radio[i].SubclassWindow(button));
+        }
+        m_next = AddButton(m_host, L"Next", CRect(150, 10, 200, 35), 24, BS_AUTORADIOBUTTON | WS_GROUP);
+        ::SendMessageW(m_next, BM_SETCHECK, BST_CHECKED, 0);
+        ts::ParkMouse();
+    }
+
+    bool IsChecked(int index) { return m_radio[index].SendMessage(BM_GETCHECK) == BST_CHECKED; }
+    bool IsTabStop(int index) { return (m_radio[index].GetStyle() & WS_TABSTOP) != 0; }
+
+    void ExpectOnly(int index)
+    {
+        for (int i = 0; i < 3; ++i) {
+            EXPECT_EQ(i == index, IsChecked(i)) << i;
+            EXPECT_EQ(i == index, IsTabStop(i)) << i;
+        }
+    }
+
+    ts::AfxHost m_host{300, 160};
+    CRadioBox m_radio[3];
+    HWND m_next = nullptr;
+};
+
+TEST_F(RadioGroup, CheckingOneUnchecksTheOthersAndMakesItTheOnlyTabStop)
+{
+    for (const int index : {1, 2, 0}) {
+        EXPECT_EQ(0, m_radio[index].SendMessage(BM_SETCHECK, BST_CHECKED));
+        ExpectOnly(index);
+    }
+}
+
+TEST_F(RadioGroup, NextGroupIsLeftAlone)
+{
+    m_radio[1].SendMessage(BM_SETCHECK, BST_CHECKED);
+    EXPECT_EQ(BST_CHECKED, ::SendMessageW(m_next, BM_GETCHECK, 0, 0));
+    EXPECT_TRUE(::GetWindowLongPtrW(m_next, GWL_STYLE) & WS_TABSTOP);
+}
+
+TEST_F(RadioGroup, UncheckingLeavesTheOthersAlone)
+{
+    m_radio[1].SendMessage(BM_SETCHECK, BST_CHECKED);
+    m_radio[0].SendMessage(BM_SETCHECK, BST_UNCHECKED);
+    ExpectOnly(1);
+    m_radio[1].SendMessage(BM_SETCHECK, BST_UNCHECKED);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_FALSE(IsChecked(i));
+}
+
+TEST_F(RadioGroup, SetCheckSendsNoNotification)
+{
+    m_radio[1].SendMessage(BM_SETCHECK, BST_CHECKED);
+    EXPECT_FALSE(m_host.Log().Has(ts::Command(22, BN_CLICKED)));
+}
+
+TEST_F(RadioGroup, IndeterminateCountsAsUnchecked)
+{
+    m_radio[1].SendMessage(BM_SETCHECK, BST_INDETERMINATE);
+    EXPECT_FALSE(IsChecked(1));
+}
+
+TEST_F(RadioGroup, ClickChecksAndNotifies)
+{
+    m_radio[0].SendMessage(BM_SETCHECK, BST_CHECKED);
+    ts::Click(m_radio[2]);
+    ExpectOnly(2);
+    EXPECT_EQ(1u, m_host.Log().Count(ts::Command(23, BN_CLICKED)));
+    EXPECT_EQ(m_radio[2].m_hWnd, ::GetFocus());
+}
+
+TEST_F(RadioGroup, ClickOnACheckedOneNotifiesAgainWithoutChange)
+{
+    ts::Click(m_radio[2]);
+    ts::Click(m_radio[2], 60, 12);
+    ExpectOnly(2);
+    EXPECT_EQ(2u, m_host.Log().Count(ts::Command(23, BN_CLICKED)));
+}
+
+TEST_F(RadioGroup, OwnerDrawnButtonsOfTheGroupAreUncheckedToo)
+{
+    m_radio[2].ModifyStyle(BS_TYPEMASK, BS_OWNERDRAW);
+    m_radio[2].SendMessage(BM_SETCHECK, BST_CHECKED);
+    m_radio[0].SendMessage(BM_SETCHECK, BST_CHECKED);
+    ExpectOnly(0);
+}
+
+TEST_F(RadioGroup, ControlsWithoutEitherStyleBitAreSkipped)
+{
+    m_radio[2].ModifyStyle(BS_TYPEMASK, BS_RADIOBUTTON); // 4: neither bit 0 nor bit 3
+    m_radio[2].SendMessage(BM_SETCHECK, BST_CHECKED);
+    m_radio[0].SendMessage(BM_SETCHECK, BST_CHECKED);
+    EXPECT_TRUE(IsChecked(2));
+    EXPECT_TRUE(IsTabStop(2));
+    EXPECT_FALSE(IsChecked(1));
+}
+
+TEST_F(RadioGroup, DisabledOrHiddenOneCanBeCheckedWithoutAnEndlessWalk)
+{
+    m_radio[1].EnableWindow(FALSE);
+    m_radio[1].SendMessage(BM_SETCHECK, BST_CHECKED);
+    EXPECT_TRUE(IsChecked(1));
+    m_radio[2].ShowWindow(SW_HIDE);
+    m_radio[2].SendMessage(BM_SETCHECK, BST_CHECKED);
+    EXPECT_TRUE(IsChecked(2));
+    EXPECT_FALSE(IsChecked(0));
+}
+
+TEST_F(CheckBox, ShowingPaintingAndClosingLeavesNothingBehind)
+{
+    EXPECT_TRUE(ts::NoLeak([this] {
+        CCheckBox check;
+        check.SubclassWindow(AddButton(m_host, L"Text", CRect(20, 60, 140, 80), 31, BS_AUTOCHECKBOX));
+        CRadioBox radio;
+        radio.SubclassWindow(AddButton(m_host, L"Text", CRect(20, 90, 140, 110), 32, BS_AUTORADIOBUTTON));
+        check.SetFocus();
+        check.SendMessage(BM_SETCHECK, BST_CHECKED);
+        radio.SendMessage(BM_SETCHECK, BST_CHECKED);
+        radio.EnableWindow(FALSE);
+        check.RedrawWindow();
+        radio.RedrawWindow();
+        check.DestroyWindow();
+        radio.DestroyWindow();
+    }));
+}
+
+} // namespace

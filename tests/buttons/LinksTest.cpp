@@ -1,0 +1,427 @@
+#include "Buttons.h"
+
+#include <QorUI/app/Messages.h>
+#include <QorUI/buttons/Links.h>
+
+namespace
+{
+
+constexpr COLORREF kLink = RGB(0, 0, 238);
+constexpr COLORREF kVisited = RGB(85, 26, 139);
+constexpr COLORREF kBack = RGB(240, 241, 242);
+constexpr wchar_t kProgram[] = L"C:\\windows\\system32\\hostname.exe"; ///< opens, does nothing and ends
+constexpr wchar_t kMissing[] = L"C:\\no such folder\\no such file.zzz";
+
+CSize Extent(const wchar_t* text, HGDIOBJ font)
+{
+    CSize size(0, 0);
+    Drawn(1, 1, [&](CDC& dc) {
+        const HGDIOBJ old = ::SelectObject(dc, font);
+        ::GetTextExtentPoint32W(dc, text, static_cast<int>(wcslen(text)), &size);
+        ::SelectObject(dc, old);
+    });
+    return size;
+}
+
+class Links : public testing::Test
+{
+  protected:
+    void SetUp() override { ts::ParkMouse(); }
+
+    /** A static control of 150 x 40 at (20, 10), to be taken over before it is shown, as in a dialog. */
+    HWND AddStatic(const wchar_t* text, DWORD style)
+    {
+        const HWND control = ::CreateWindowW(L"STATIC", text, WS_CHILD | style, 20, 10, 150, 40, m_host.m_hWnd,
+                                             reinterpret_cast<HMENU>(15), nullptr, nullptr);
+        ::SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(Gui()), FALSE);
+        return control;
+    }
+
+    static HGDIOBJ Gui() { return ::GetStockObject(DEFAULT_GUI_FONT); }
+
+    ts::AfxHost m_host{300, 160, WS_OVERLAPPEDWINDOW | WS_VISIBLE, kBack};
+};
+
+/** A link with the text "Text" that opens a program. */
+class QorLink : public Links
+{
+  protected:
+    void Take(DWORD style = SS_LEFT, const wchar_t* text = L"Text")
+    {
+        ASSERT_TRUE(m_link.SubclassWindow(AddStatic(text, style)));
+        m_link.ShowWindow(SW_SHOW);
+    }
+
+    LOGFONTW Font()
+    {
+        LOGFONTW font = {};
+        ::GetObjectW(reinterpret_cast<HFONT>(m_link.SendMessage(WM_GETFONT)), sizeof(font), &font);
+        return font;
+    }
+
+    bool Shows(COLORREF colour) { return Look(m_link).Count(colour) > 0; }
+
+    /** Text that the tooltip shows. */
+    std::wstring Tip()
+    {
+        wchar_t text[300] = L"";
+        const HWND tip = FindTip();
+        TOOLINFOW tool = {};
+        tool.cbSize = sizeof(tool);
+        tool.hwnd = m_link.m_hWnd;
+        tool.uId = 1;
+        tool.lpszText = text;
+        ::SendMessageW(tip, TTM_GETTEXTW, 0, reinterpret_cast<LPARAM>(&tool));
+        return text;
+    }
+
+    HWND FindTip()
+    {
+        HWND tip = nullptr;
+        while ((tip = ::FindWindowExW(nullptr, tip, TOOLTIPS_CLASSW, nullptr)) != nullptr) {
+            TOOLINFOW tool = {};
+            tool.cbSize = sizeof(tool);
+            tool.hwnd = m_link.m_hWnd;
+            tool.uId = 1;
+            DWORD process = 0;
+            ::GetWindowThreadProcessId(tip, &process);
+            if (process == ::GetCurrentProcessId() &&
+                ::SendMessageW(tip, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&tool)))
+                return tip;
+        }
+        return nullptr;
+    }
+
+    CQorLink m_link;
+};
+
+TEST_F(QorLink, SubclassingMakesItNotify)
+{
+    Take();
+    EXPECT_TRUE(m_link.GetStyle() & SS_NOTIFY);
+}
+
+TEST_F(QorLink, WindowTextServesAsUrl)
+{
+    Take(SS_LEFT, L"http://example.org");
+    EXPECT_EQ(L"http://example.org", Tip());
+}
+
+TEST_F(QorLink, UrlServesAsWindowText)
+{
+    m_link.SetURL(L"http://example.org");
+    Take(SS_LEFT, L"");
+    CString text;
+    m_link.GetWindowText(text);
+    EXPECT_STREQ(L"http://example.org", text);
+    EXPECT_EQ(L"http://example.org", Tip());
+}
+
+TEST_F(QorLink, GivenUrlIsKeptBesideTheText)
+{
+    m_link.SetURL(L"http://example.org");
+    Take();
+    CString text;
+    m_link.GetWindowText(text);
+    EXPECT_STREQ(L"Text", text);
+    EXPECT_EQ(L"http://example.org", Tip());
+}
+
+TEST_F(QorLink, SetUrlChangesTheTooltip)
+{
+    Take();
+    m_link.SetURL(L"http://other.example.org");
+    EXPECT_EQ(L"http://other.example.org", Tip());
+}
+
+TEST_F(QorLink, TooltipHasOneToolOverTheClientRectangle)
+{
+    Take();
+    ASSERT_NE(nullptr, FindTip());
+    EXPECT_EQ(1, ::SendMessageW(FindTip(), TTM_GETTOOLCOUNT, 0, 0));
+    TOOLINFOW tool = {};
+    tool.cbSize = sizeof(tool);
+    tool.hwnd = m_link.m_hWnd;
+    tool.uId = 1;
+    ::SendMessageW(FindTip(), TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&tool));
+    CRect client;
+    m_link.GetClientRect(&client);
+    EXPECT_EQ(client, CRect(tool.rect));
+}
+
+TEST_F(QorLink, StartsUnvisitedAndNotUnderlined)
+{
+    Take();
+    EXPECT_TRUE(Shows(kLink));
+    EXPECT_FALSE(Font().lfUnderline);
+}
+
+TEST_F(QorLink, TextThatIsOnTheScreenAlreadyGetsTheLinksColour)
+{
+    const HWND control = AddStatic(L"Text", SS_LEFT);
+    ::ShowWindow(control, SW_SHOW);
+    ::UpdateWindow(control);
+    ASSERT_TRUE(m_link.SubclassWindow(control));
+    EXPECT_TRUE(Shows(kLink));
+}
+
+TEST_F(QorLink, VisitedLinkHasItsColour)
+{
+    Take();
+    m_link.SetVisited(TRUE);
+    m_link.Invalidate();
+    EXPECT_TRUE(Shows(kVisited));
+    EXPECT_FALSE(Shows(kLink));
+}
+
+TEST_F(QorLink, SetColorsChangesAllAndRepaints)
+{
+    Take();
+    m_link.SetColors(RGB(200, 0, 0), RGB(0, 100, 0), RGB(0, 0, 100));
+    EXPECT_TRUE(Shows(RGB(200, 0, 0)));
+    m_link.SetVisited(TRUE);
+    m_link.Invalidate();
+    EXPECT_TRUE(Shows(RGB(0, 100, 0)));
+    ts::MoveMouse(m_link);
+    EXPECT_TRUE(Shows(RGB(0, 0, 100)));
+}
+
+TEST_F(QorLink, HoversInTheHighlightColour)
+{
+    Take();
+    ts::MoveMouse(m_link);
+    EXPECT_TRUE(Shows(::GetSysColor(COLOR_HIGHLIGHT)));
+    EXPECT_EQ(m_link.m_hWnd, ::GetCapture());
+}
+
+TEST_F(QorLink, NoHoverColourMeansTheHighlightColour)
+{
+    Take();
+    m_link.SetColors(RGB(200, 0, 0), RGB(0, 100, 0), RGB(0, 0, 100));
+    m_link.SetColors(RGB(200, 0, 0), RGB(0, 100, 0), 0xFFFFFFFF);
+    ts::MoveMouse(m_link);
+    EXPECT_TRUE(Shows(::GetSysColor(COLOR_HIGHLIGHT)));
+    EXPECT_FALSE(Shows(RGB(0, 0, 100)));
+}
+
+TEST_F(QorLink, LeavingReleasesTheCaptureAndRestoresTheColour)
+{
+    Take();
+    ts::MoveMouse(m_link);
+    ASSERT_EQ(m_link.m_hWnd, ::GetCapture());
+    ts::MoveMouse(m_host.m_hWnd, 250, 140);
+    EXPECT_EQ(nullptr, ::GetCapture());
+    EXPECT_TRUE(Shows(kLink));
+}
+
+TEST_F(QorLink, LeavingWhileTheButtonIsHeldRestoresTheColour)
+{
+    m_link.SetURL(kMissing);
+    Take();
+    ts::MoveMouse(m_link);
+    ts::MouseDown();
+    ts::MoveMouse(m_host.m_hWnd, 250, 140);
+    EXPECT_EQ(nullptr, ::GetCapture());
+    EXPECT_TRUE(Shows(kLink));
+    ts::MouseUp();
+}
+
+TEST_F(QorLink, ShowsTheHand)
+{
+    Take();
+    EXPECT_EQ(TRUE, m_link.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(m_link.m_hWnd),
+                                       MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));
+    EXPECT_EQ(::LoadCursorW(nullptr, IDC_HAND), ::GetCursor());
+}
+
+TEST_F(QorLink, ClickOpensAndMarksItVisited)
+{
+    m_link.SetURL(kProgram);
+    Take();
+    ts::Click(m_link);
+    ts::MoveMouse(m_host.m_hWnd, 250, 140);
+    EXPECT_TRUE(Shows(kVisited));
+}
+
+TEST_F(QorLink, FailedOpenClearsTheVisitedColour)
+{
+    m_link.SetURL(kMissing);
+    Take();
+    m_link.SetVisited(TRUE);
+    ts::Click(m_link);
+    ts::MoveMouse(m_host.m_hWnd, 250, 140);
+    EXPECT_TRUE(Shows(kLink));
+    EXPECT_FALSE(Shows(kVisited));
+}
+
+TEST_F(QorLink, UnderlineRemakesTheFont)
+{
+    Take();
+    const LOGFONTW before = Font();
+    m_link.SetUnderline(TRUE);
+    EXPECT_TRUE(Font().lfUnderline);
+    EXPECT_EQ(before.lfHeight, Font().lfHeight);
+    EXPECT_STREQ(before.lfFaceName, Font().lfFaceName);
+    m_link.SetUnderline(FALSE);
+    EXPECT_FALSE(Font().lfUnderline);
+}
+
+TEST_F(QorLink, UnderlineSetBeforeTheWindowIsUsed)
+{
+    m_link.SetUnderline(TRUE);
+    Take();
+    EXPECT_TRUE(Font().lfUnderline);
+}
+
+TEST_F(QorLink, TakesTheSizeOfItsTextAtTheTopLeft)
+{
+    Take();
+    const CSize text = Extent(L"Text", Gui());
+    EXPECT_EQ(CRect(20, 10, 20 + text.cx, 10 + text.cy), PlaceIn(m_host, m_link));
+}
+
+TEST_F(QorLink, RightAlignedLinkKeepsItsRightEdge)
+{
+    Take(SS_RIGHT);
+    const CSize text = Extent(L"Text", Gui());
+    EXPECT_EQ(CRect(170 - text.cx, 10, 170, 10 + text.cy), PlaceIn(m_host, m_link));
+}
+
+TEST_F(QorLink, CentredLinkShrinksEvenly)
+{
+    Take(SS_CENTER | SS_CENTERIMAGE);
+    const CSize text = Extent(L"Text", Gui());
+    const CRect place = PlaceIn(m_host, m_link);
+    EXPECT_EQ(text, place.Size());
+    EXPECT_NEAR(95, (place.left + place.right) / 2.0, 0.5);
+    EXPECT_NEAR(30, (place.top + place.bottom) / 2.0, 0.5);
+}
+
+TEST_F(QorLink, WithoutAutoSizeKeepsItsSize)
+{
+    m_link.SetAutoSize(FALSE);
+    Take();
+    EXPECT_EQ(CRect(20, 10, 170, 50), PlaceIn(m_host, m_link));
+    m_link.SetURL(L"x");
+    EXPECT_EQ(CRect(20, 10, 170, 50), PlaceIn(m_host, m_link));
+    m_link.SetAutoSize(TRUE);
+    EXPECT_EQ(Extent(L"Text", Gui()), PlaceIn(m_host, m_link).Size());
+}
+
+TEST_F(QorLink, BackgroundIsNotPainted)
+{
+    Take();
+    EXPECT_TRUE(Shows(kBack));
+}
+
+TEST_F(QorLink, SettersWorkBeforeTheWindow)
+{
+    CQorLink link;
+    link.SetURL(nullptr);
+    link.SetURL(L"x");
+    link.SetColors(1, 2, 3);
+    link.SetVisited(TRUE);
+    link.SetAutoSize(TRUE);
+    link.SetUnderline(TRUE);
+    EXPECT_EQ(nullptr, link.m_hWnd);
+}
+
+TEST_F(QorLink, ShowingPaintingAndClosingLeavesNothingBehind)
+{
+    EXPECT_TRUE(ts::NoLeak([this] {
+        CQorLink link;
+        link.SubclassWindow(AddStatic(L"Text", SS_LEFT));
+        link.SetUnderline(TRUE);
+        link.RedrawWindow();
+        link.DestroyWindow();
+    }));
+}
+
+/** A text link and the background that its parent paints for it. */
+class TextLink : public Links
+{
+  protected:
+    void Take(const wchar_t* text)
+    {
+        ASSERT_TRUE(m_link.SubclassWindow(AddStatic(text, SS_NOTIFY)));
+        m_link.ShowWindow(SW_SHOW);
+        m_host.Log().Answer(WM_DRAWPARENTBACK, [this](const ts::Message& message) -> std::optional<LRESULT> {
+            m_sender = reinterpret_cast<CWnd*>(message.lParam);
+            CRect client;
+            ::GetClientRect(m_link.m_hWnd, &client);
+            reinterpret_cast<CDC*>(message.wParam)->FillSolidRect(&client, RGB(0, 90, 0));
+            return 0;
+        });
+    }
+
+    CTextLink m_link;
+    CWnd* m_sender = nullptr;
+};
+
+TEST_F(TextLink, ParentPaintsTheBackgroundBeforeTheText)
+{
+    Take(L"Text &one");
+    const ts::Picture expected = ts::DrawTo(
+        150, 40,
+        [](HDC dc) {
+            const HGDIOBJ old = ::SelectObject(dc, ::GetStockObject(DEFAULT_GUI_FONT));
+            ::SetTextColor(dc, RGB(255, 255, 255));
+            ::SetBkMode(dc, TRANSPARENT);
+            RECT rect = {0, 0, 150, 40};
+            ::DrawTextW(dc, L"Text &one", -1, &rect, DT_WORDBREAK | DT_EDITCONTROL | DT_HIDEPREFIX);
+            ::SelectObject(dc, old);
+        },
+        RGB(0, 90, 0));
+    EXPECT_TRUE(ts::SamePicture(expected, Look(m_link)));
+    EXPECT_NE(0, expected.Count(RGB(255, 255, 255)));
+    EXPECT_EQ(&m_link, m_sender);
+}
+
+TEST_F(TextLink, EmptyTextStillAsksForTheBackground)
+{
+    Take(L"");
+    EXPECT_EQ(150 * 40, Look(m_link).Count(RGB(0, 90, 0)));
+}
+
+TEST_F(TextLink, MessageHasItsNumber)
+{
+    Take(L"Text");
+    m_host.Log().Clear();
+    m_link.RedrawWindow();
+    EXPECT_EQ(1u, m_host.Log().Count(ts::Msg(0x52C)));
+}
+
+TEST_F(TextLink, ShowsTheHand)
+{
+    Take(L"Text");
+    EXPECT_EQ(TRUE, m_link.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(m_link.m_hWnd),
+                                       MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));
+    EXPECT_EQ(::LoadCursorW(nullptr, IDC_HAND), ::GetCursor());
+}
+
+TEST_F(TextLink, ExtentIsThatOfTheTextInTheGuiFont)
+{
+    Take(L"Some text");
+    CFont big;
+    big.CreatePointFont(200, L"Tahoma");
+    m_link.SetFont(&big);
+    CSize size(7, 7);
+    EXPECT_EQ(TRUE, m_link.GetExtent(size));
+    EXPECT_EQ(Extent(L"Some text", Gui()), size);
+}
+
+TEST_F(TextLink, ExtentWithoutWindowIsZeroAndFalse)
+{
+    CSize size(7, 7);
+    EXPECT_EQ(FALSE, m_link.GetExtent(size));
+    EXPECT_EQ(CSize(0, 0), size);
+}
+
+TEST_F(TextLink, ClickReachesTheParent)
+{
+    Take(L"Text");
+    ts::Click(m_link);
+    EXPECT_EQ(1u, m_host.Log().Count(ts::Command(15, STN_CLICKED)));
+}
+
+} // namespace
