@@ -1,0 +1,227 @@
+#include "QorDialog.h"
+
+#include "DialogFrame.h"
+#include "WindowShape.h"
+#include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/LibText.h>
+#include <QorUI/app/Look.h>
+#include <QorUI/app/QorUIApp.h>
+#include <QorUI/res/resource.h>
+
+#include <QorPub/QorPub.h>
+
+namespace
+{
+
+const CSize kMinTrackSize(260, 200);
+const CSize kCaptionChange(108, QorLook::kCaptionHeight); // close button and the end of the title
+constexpr int kSysMenuNear = 6;
+constexpr int kSysMenuFar = 22;
+
+bool InSysMenuSpot(const CRect& window, CPoint point)
+{
+    return point.x > window.left + kSysMenuNear && point.x <= window.left + kSysMenuFar &&
+           point.y > window.top + kSysMenuNear && point.y <= window.top + kSysMenuFar;
+}
+
+/** Systems before version 2 draw their buttons a little lower in the band. */
+int BandOffset()
+{
+    constexpr DWORD kSecondVersion = 0x20000;
+    const DWORD version = static_cast<DWORD>(g_OsVer) * 65536 + g_SpVer;
+    return version < kSecondVersion ? 3 : 1;
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CQorDialog, CQorBaseDlg)
+    ON_WM_SIZE()
+    ON_WM_PAINT()
+    ON_WM_CREATE()
+    ON_WM_DESTROY()
+    ON_WM_NCHITTEST()
+    ON_WM_ERASEBKGND()
+    ON_WM_NCLBUTTONDOWN()
+    ON_WM_GETMINMAXINFO()
+    ON_COMMAND(IDC_DLG_CLOSE, &CQorDialog::OnCloseButton)
+END_MESSAGE_MAP()
+
+CQorDialog::CQorDialog(UINT idd, CWnd* parent, DWORD flags)
+    : CQorBaseDlg(idd, parent), m_flags(flags), m_lastWidth(0), m_lastHeight(0)
+{
+}
+
+int CQorDialog::OnCreate(LPCREATESTRUCT create)
+{
+    if (CQorBaseDlg::OnCreate(create) == -1) {
+        return -1;
+    }
+    if (!m_closeBtn.Create(CRect(0, 0, 0, 0), this, IDC_DLG_CLOSE)) {
+        return -1;
+    }
+    m_closeBtn.SetImage(g_QorUIApp.m_hInstance, IDB_DLG_CLOSE, nullptr, CLR_NONE);
+    Invalidate();
+    return 0;
+}
+
+BOOL CQorDialog::OnInitDialog()
+{
+    const bool hasCancel = SkinButton(m_cancelBtn, IDCANCEL, 0, L"STR_CANCEL");
+    SkinButton(m_okBtn, IDOK, hasCancel ? IDCANCEL : 0, L"STR_OK");
+    return CDialog::OnInitDialog();
+}
+
+bool CQorDialog::SkinButton(CQorBtn& button, UINT id, UINT leftOf, LPCWSTR textKey)
+{
+    if (!button.SubclassDlgItem(id, this)) {
+        return false;
+    }
+    if (m_flags & ButtonBand) {
+        AdjustBtnInArea(button, leftOf);
+    }
+    button.SetWindowText(QorLibText(textKey));
+    return true;
+}
+
+void CQorDialog::AdjustBtnInArea(CQorBtn& button, UINT leftOf)
+{
+    CRect client;
+    GetClientRect(client);
+    int right = client.Width() - QorLook::kBandMargin;
+    if (leftOf != 0) {
+        const CWnd* neighbour = GetDlgItem(static_cast<int>(leftOf));
+        if (!neighbour) {
+            return;
+        }
+        CRect rect;
+        neighbour->GetWindowRect(rect);
+        ScreenToClient(rect);
+        right = rect.left;
+    }
+    CRect own;
+    button.GetWindowRect(own);
+    const int x = right - QorLook::kBandGap - own.Width();
+    const int y = client.Height() - QorLook::kBandTop + (QorLook::kBandHeight - own.Height()) / 2 + BandOffset();
+    button.SetWindowPos(nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+}
+
+void CQorDialog::GetClientPos(CRect& rect) const
+{
+    GetClientRect(rect);
+    rect.left += 9;
+    rect.top += QorLook::kCaptionHeight;
+    rect.right -= 10;
+    rect.bottom -= (m_flags & ButtonBand) ? 51 : 11;
+}
+
+void CQorDialog::DisableClose(BOOL disable)
+{
+    if (CMenu* menu = GetSystemMenu(FALSE)) {
+        menu->EnableMenuItem(SC_CLOSE, MF_BYCOMMAND | (disable ? MF_GRAYED | MF_DISABLED : MF_ENABLED));
+    }
+    if (m_closeBtn.GetSafeHwnd()) {
+        m_closeBtn.EnableWindow(!disable);
+    }
+    m_flags = disable ? m_flags | CloseDisabled : m_flags & ~static_cast<DWORD>(CloseDisabled);
+}
+
+void CQorDialog::OnOK()
+{
+    // Past the direct base, which keeps Enter from closing a dialog.
+    CDialog::OnOK(); // NOLINT(bugprone-parent-virtual-call)
+}
+
+void CQorDialog::OnCancel()
+{
+    if (!(m_flags & CloseDisabled)) {
+        CDialog::OnCancel();
+    }
+}
+
+void CQorDialog::OnCloseButton()
+{
+    OnCancel();
+}
+
+void CQorDialog::Paint(CDC& dc)
+{
+    const CDcStateSaver state(dc);
+    CRect client;
+    GetClientRect(client);
+    CString title;
+    GetWindowText(title);
+    QorDrawDialogFrame(dc, client, title);
+}
+
+void CQorDialog::OnPaint()
+{
+    CPaintDC dc(this);
+    Paint(dc);
+}
+
+BOOL CQorDialog::OnEraseBkgnd(CDC* /*dc*/)
+{
+    return TRUE;
+}
+
+void CQorDialog::OnDestroy()
+{
+    CQorBaseDlg::OnDestroy();
+    m_region.DeleteObject();
+}
+
+void CQorDialog::OnSize(UINT type, int cx, int cy)
+{
+    CQorBaseDlg::OnSize(type, cx, cy);
+    QorShape::RoundWindow(*this, m_region, cx, cy);
+    if (m_closeBtn.GetSafeHwnd()) {
+        m_closeBtn.MoveWindow(cx - QorLook::kCloseButtonRight, QorLook::kTitleButtonTop, QorLook::kCloseButtonWidth,
+                              QorLook::kTitleButtonHeight);
+    }
+    if (m_flags & Resizable) {
+        QorShape::InvalidateSizedParts(*this, CSize(m_lastWidth, m_lastHeight), CSize(cx, cy), kCaptionChange);
+        m_lastWidth = cx;
+        m_lastHeight = cy;
+    }
+}
+
+LRESULT CQorDialog::OnNcHitTest(CPoint point)
+{
+    CRect close(0, 0, 0, 0);
+    if (m_closeBtn.GetSafeHwnd()) {
+        m_closeBtn.GetWindowRect(close);
+    }
+    if (close.PtInRect(point)) {
+        return HTCLIENT;
+    }
+    CRect window;
+    GetWindowRect(window);
+    if (m_flags & Resizable) {
+        if (const UINT hit = QorShape::SizingHit(window, point)) {
+            return static_cast<LRESULT>(hit);
+        }
+    }
+    if ((GetStyle() & WS_SYSMENU) && InSysMenuSpot(window, point)) {
+        return HTSYSMENU;
+    }
+    if (point.y <= window.top + QorLook::kCaptionHeight) {
+        return HTCAPTION;
+    }
+    return CQorBaseDlg::OnNcHitTest(point);
+}
+
+void CQorDialog::OnNcLButtonDown(UINT hit, CPoint point)
+{
+    if (!QorShape::StartSizing(*this, hit, point)) {
+        CQorBaseDlg::OnNcLButtonDown(hit, point);
+    }
+}
+
+void CQorDialog::OnGetMinMaxInfo(MINMAXINFO* info)
+{
+    if (m_flags & Resizable) {
+        info->ptMinTrackSize.x = kMinTrackSize.cx;
+        info->ptMinTrackSize.y = kMinTrackSize.cy;
+    }
+    CQorBaseDlg::OnGetMinMaxInfo(info);
+}

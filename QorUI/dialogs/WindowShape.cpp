@@ -1,0 +1,76 @@
+#include "WindowShape.h"
+
+#include <QorUI/app/Look.h>
+
+namespace
+{
+
+constexpr int kSizedStrip = 9; // the outline and the band's margin: what moves with the right and bottom edges
+
+} // namespace
+
+namespace QorShape
+{
+
+UINT SizingHit(const RECT& window, POINT point)
+{
+    using QorLook::kSizeCorner;
+    using QorLook::kSizeEdge;
+    const bool cornerLeft = point.x <= window.left + kSizeCorner;
+    const bool cornerRight = point.x >= window.right - kSizeCorner;
+    if (point.y <= window.top + kSizeCorner && (cornerLeft || cornerRight)) {
+        return cornerLeft ? HTTOPLEFT : HTTOPRIGHT;
+    }
+    if (point.y >= window.bottom - kSizeCorner && (cornerLeft || cornerRight)) {
+        return cornerLeft ? HTBOTTOMLEFT : HTBOTTOMRIGHT;
+    }
+    if (point.x <= window.left + kSizeEdge) {
+        return HTLEFT;
+    }
+    if (point.x >= window.right - kSizeEdge) {
+        return HTRIGHT;
+    }
+    if (point.y <= window.top + kSizeEdge) {
+        return HTTOP;
+    }
+    return point.y >= window.bottom - kSizeEdge ? HTBOTTOM : HTNOWHERE;
+}
+
+bool StartSizing(CWnd& wnd, UINT hit, POINT point)
+{
+    if (hit < HTLEFT || hit > HTBOTTOMRIGHT) {
+        return false;
+    }
+    // The direction codes of SC_SIZE run parallel to the hit-test codes.
+    wnd.SendMessage(WM_SYSCOMMAND, SC_SIZE + (hit - HTLEFT + 1), MAKELPARAM(point.x, point.y));
+    return true;
+}
+
+void RoundWindow(CWnd& wnd, CRgn& region, int cx, int cy)
+{
+    region.DeleteObject();
+    if (!region.CreateRoundRectRgn(0, 0, cx, cy, QorLook::kWindowRound, QorLook::kWindowRound)) {
+        return;
+    }
+    CRgn owned;
+    if (owned.CreateRectRgn(0, 0, 0, 0) && owned.CopyRgn(&region) != ERROR && wnd.SetWindowRgn(owned, TRUE)) {
+        owned.Detach();
+    }
+}
+
+std::array<CRect, 3> SizedParts(CSize oldSize, CSize newSize, CSize band)
+{
+    const int right = (newSize.cx > oldSize.cx ? oldSize.cx : newSize.cx) - kSizedStrip;
+    const int bottom = (newSize.cy > oldSize.cy ? oldSize.cy : newSize.cy) - kSizedStrip;
+    return {CRect(oldSize.cx - band.cx, 0, newSize.cx, band.cy), CRect(right, 0, newSize.cx, oldSize.cy),
+            CRect(0, bottom, newSize.cx, newSize.cy)};
+}
+
+void InvalidateSizedParts(CWnd& wnd, CSize oldSize, CSize newSize, CSize band)
+{
+    for (const CRect& part : SizedParts(oldSize, newSize, band)) {
+        wnd.InvalidateRect(part, FALSE);
+    }
+}
+
+} // namespace QorShape

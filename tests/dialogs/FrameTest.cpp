@@ -1,0 +1,485 @@
+#include "TestDialogs.h"
+
+namespace
+{
+
+constexpr COLORREF kBack = RGB(186, 210, 234);
+constexpr COLORREF kOutline = RGB(189, 189, 189);
+constexpr UINT kMinimize = 1000;
+constexpr UINT kMaximize = 1001;
+constexpr UINT kClose = 1002;
+
+class CTestFrame : public CQorFrame
+{
+  public:
+    using CQorFrame::DisableTitleBtn;
+    using CQorFrame::GetClientPos;
+    using CQorFrame::m_hAccel;
+    using CQorFrame::PreCreateWindow;
+    using CQorFrame::PreTranslateMessage;
+
+    ~CTestFrame() override
+    {
+        if (m_hWnd) {
+            DestroyWindow();
+        }
+    }
+
+    bool Open(LPCWSTR className = nullptr)
+    {
+        if (!CreateEx(0, className, L"Frame", 0, CRect(100, 50, 700, 450), nullptr, 0)) {
+            return false;
+        }
+        ShowWindow(SW_SHOW);
+        ts::Settle();
+        return true;
+    }
+
+    LRESULT Hit(int x, int y)
+    {
+        CRect window;
+        GetWindowRect(window);
+        return SendMessage(WM_NCHITTEST, 0, MAKELPARAM(window.left + x, window.top + y));
+    }
+
+    CRect CtrlRect(UINT id)
+    {
+        CRect rect;
+        QorGetCtrlRect(this, id, rect);
+        return rect;
+    }
+
+    std::vector<WPARAM> m_sysCommands;
+    bool m_swallowSysCommands = false;
+    WORD m_command = 0;
+
+  protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_SYSCOMMAND) {
+            m_sysCommands.push_back(wParam);
+            if (m_swallowSysCommands) {
+                return 0;
+            }
+        }
+        if (message == WM_COMMAND && lParam == 0) {
+            m_command = LOWORD(wParam);
+        }
+        return CQorFrame::WindowProc(message, wParam, lParam);
+    }
+};
+
+TEST(Frame, StylesAreFixedBeforeCreation)
+{
+    CTestFrame frame;
+    CREATESTRUCT cs = {};
+    cs.style = WS_CAPTION | WS_CHILD;
+    cs.dwExStyle = WS_EX_TOPMOST;
+    ASSERT_TRUE(frame.PreCreateWindow(cs));
+    EXPECT_EQ(0x860B0000u, static_cast<DWORD>(cs.style));
+    EXPECT_EQ(static_cast<DWORD>(WS_EX_CONTROLPARENT), cs.dwExStyle);
+    ASSERT_NE(nullptr, cs.lpszClass);
+    WNDCLASSW wndClass = {};
+    ASSERT_TRUE(::GetClassInfoW(AfxGetInstanceHandle(), cs.lpszClass, &wndClass));
+    EXPECT_EQ(nullptr, wndClass.hbrBackground);
+}
+
+TEST(Frame, RegistersTheCallersClassWithNothingButAProcedure)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open(L"QorFrameTestClass"));
+    WNDCLASSW wndClass = {};
+    ASSERT_TRUE(::GetClassInfoW(AfxGetInstanceHandle(), L"QorFrameTestClass", &wndClass));
+    EXPECT_EQ(&::DefWindowProcW, wndClass.lpfnWndProc);
+    EXPECT_EQ(0u, wndClass.style);
+    EXPECT_EQ(nullptr, wndClass.hbrBackground);
+    EXPECT_EQ(nullptr, wndClass.hCursor);
+    EXPECT_EQ(nullptr, wndClass.hIcon);
+    WCHAR name[64] = {};
+    ::GetClassNameW(frame, name, 64);
+    EXPECT_STREQ(L"QorFrameTestClass", name);
+}
+
+TEST(Frame, TwoFramesMayShareAClassName)
+{
+    CTestFrame first;
+    CTestFrame second;
+    EXPECT_TRUE(first.Open(L"QorFrameSharedClass"));
+    EXPECT_TRUE(second.Open(L"QorFrameSharedClass"));
+}
+
+TEST(Frame, TitleButtonsStandInTheCorner)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    EXPECT_EQ(CRect(CPoint(600 - 101, 1), CSize(26, 17)), frame.CtrlRect(kMinimize));
+    EXPECT_EQ(CRect(CPoint(600 - 75, 1), CSize(25, 17)), frame.CtrlRect(kMaximize));
+    EXPECT_EQ(CRect(CPoint(600 - 50, 1), CSize(42, 17)), frame.CtrlRect(kClose));
+}
+
+TEST(Frame, TitleButtonsFollowTheSize)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    frame.SetWindowPos(nullptr, 0, 0, 500, 300, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(500 - 50, frame.CtrlRect(kClose).left);
+    EXPECT_FALSE(InShape(frame, 498, 0));
+    EXPECT_TRUE(InShape(frame, 498, 150));
+}
+
+TEST(Frame, TitleButtonsShowTheirStrips)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    ts::ParkMouse();
+    const HINSTANCE library = ::GetModuleHandleW(L"QorUI.dll");
+    const int widths[] = {26, 25, 42};
+    for (int i = 0; i < 3; ++i) {
+        CBitmap strip;
+        strip.Attach(::LoadBitmapW(library, MAKEINTRESOURCEW(220 + i)));
+        const ts::Picture expected = ts::PictureOf(strip).Crop({0, 0, widths[i], 17});
+        const HWND button = ::GetDlgItem(frame, static_cast<int>(kMinimize) + i);
+        EXPECT_TRUE(ts::SamePicture(expected, ts::CaptureWindow(button))) << i;
+    }
+}
+
+TEST(Frame, IsRoundedByTwelve)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    CRgn expected;
+    expected.CreateRoundRectRgn(0, 0, 600, 400, 12, 12);
+    EXPECT_TRUE(HasShape(frame, expected));
+}
+
+TEST(Frame, TakesTheApplicationIcon)
+{
+    const HICON icon = ::LoadIconW(nullptr, IDI_ASTERISK);
+    QorSetAppIcon(icon, FALSE);
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    EXPECT_EQ(reinterpret_cast<LRESULT>(icon), frame.SendMessage(WM_GETICON, ICON_SMALL));
+    QorSetAppIcon(nullptr, FALSE);
+}
+
+// --- hit-testing
+
+TEST(FrameHitTest, TitleButtonsAreClientArea)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    EXPECT_EQ(HTCLIENT, frame.Hit(600 - 101, 1));
+    EXPECT_EQ(HTCLIENT, frame.Hit(600 - 75, 10));
+    EXPECT_EQ(HTCLIENT, frame.Hit(600 - 9, 17));
+}
+
+TEST(FrameHitTest, BorderSizes)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    EXPECT_EQ(HTLEFT, frame.Hit(2, 200));
+    EXPECT_EQ(HTTOPLEFT, frame.Hit(6, 6));
+    EXPECT_EQ(HTBOTTOMRIGHT, frame.Hit(597, 397));
+    EXPECT_EQ(HTBOTTOM, frame.Hit(300, 398));
+    EXPECT_EQ(HTTOP, frame.Hit(300, 3));
+}
+
+TEST(FrameHitTest, WithoutTheFlagTheBannerIsEightyFourHigh)
+{
+    QorSetAppIcon(nullptr, FALSE);
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    EXPECT_EQ(HTCAPTION, frame.Hit(300, 70));
+    EXPECT_EQ(HTCAPTION, frame.Hit(300, 84));
+    EXPECT_EQ(HTCLIENT, frame.Hit(300, 85));
+}
+
+TEST(FrameHitTest, WithTheFlagTheBannerIsSixtyFourHigh)
+{
+    QorSetAppIcon(nullptr, TRUE);
+    CTestFrame frame;
+    const bool opened = frame.Open();
+    const LRESULT last = frame.Hit(300, 64);
+    const LRESULT below = frame.Hit(300, 70);
+    QorSetAppIcon(nullptr, FALSE);
+    ASSERT_TRUE(opened);
+    EXPECT_EQ(HTCAPTION, last);
+    EXPECT_EQ(HTCLIENT, below);
+}
+
+TEST(FrameHitTest, NeverAsksForTheDefault)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    EXPECT_EQ(HTCLIENT, frame.Hit(300, 250));
+    EXPECT_EQ(HTTOPLEFT, frame.Hit(-50, -50)); // the default would answer HTNOWHERE
+}
+
+// --- cursors and sizing
+
+TEST(Frame, CursorFollowsTheBorder)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    const std::pair<UINT, LPCWSTR> cursors[] = {
+        {HTLEFT, IDC_SIZEWE},       {HTRIGHT, IDC_SIZEWE},        {HTTOP, IDC_SIZENS},
+        {HTBOTTOM, IDC_SIZENS},     {HTTOPLEFT, IDC_SIZENWSE},    {HTBOTTOMRIGHT, IDC_SIZENWSE},
+        {HTTOPRIGHT, IDC_SIZENESW}, {HTBOTTOMLEFT, IDC_SIZENESW}, {HTCLIENT, IDC_ARROW},
+        {HTCAPTION, IDC_ARROW},
+    };
+    for (const auto& [hit, cursor] : cursors) {
+        ::SetCursor(nullptr);
+        const LRESULT done =
+            frame.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(frame.m_hWnd), MAKELPARAM(hit, WM_MOUSEMOVE));
+        EXPECT_EQ(TRUE, done) << hit;
+        EXPECT_EQ(::LoadCursorW(nullptr, cursor), ::GetCursor()) << hit;
+    }
+}
+
+TEST(Frame, BorderStartsTheSizingCommand)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    frame.m_swallowSysCommands = true;
+    for (UINT hit = HTLEFT; hit <= HTBOTTOMRIGHT; ++hit) {
+        frame.m_sysCommands.clear();
+        frame.SendMessage(WM_NCLBUTTONDOWN, hit, MAKELPARAM(5, 6));
+        ASSERT_EQ(1u, frame.m_sysCommands.size()) << hit;
+        EXPECT_EQ(static_cast<WPARAM>(SC_SIZE + hit - 9), frame.m_sysCommands[0]);
+    }
+}
+
+TEST(Frame, SizeLimitsAreTheSmallestSizeAndTheWorkArea)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    MINMAXINFO info = {};
+    frame.SendMessage(WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
+    EXPECT_EQ(CPoint(360, 260), CPoint(info.ptMinTrackSize));
+    CRect work;
+    ASSERT_TRUE(::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0));
+    EXPECT_EQ(work.bottom - work.top + 1, info.ptMaxSize.y);
+}
+
+// --- title buttons
+
+TEST(FrameButtons, MinimizeMaximizeAndCloseSendTheirSystemCommands)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    frame.m_swallowSysCommands = true;
+    for (const UINT id : {kMinimize, kMaximize, kClose}) {
+        ts::Click(::GetDlgItem(frame, static_cast<int>(id)));
+    }
+    EXPECT_EQ((std::vector<WPARAM>{SC_MINIMIZE, SC_MAXIMIZE, SC_CLOSE}), frame.m_sysCommands);
+}
+
+TEST(FrameButtons, MaximizingTwiceRestores)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    frame.SendMessage(WM_COMMAND, kMaximize);
+    EXPECT_TRUE(frame.IsZoomed());
+    frame.SendMessage(WM_COMMAND, kMaximize);
+    EXPECT_FALSE(frame.IsZoomed());
+    CRect rect;
+    frame.GetWindowRect(rect);
+    EXPECT_EQ(CRect(100, 50, 700, 450), rect);
+}
+
+TEST(FrameButtons, CloseDestroysTheWindow)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    ts::Click(::GetDlgItem(frame, kClose));
+    EXPECT_TRUE(ts::PumpUntil([&frame] { return frame.m_hWnd == nullptr; }));
+}
+
+TEST(FrameButtons, DisablingMinimizeRemovesItsStyle)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    frame.DisableTitleBtn(0, TRUE);
+    EXPECT_EQ(0u, frame.GetStyle() & WS_MINIMIZEBOX);
+    EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(frame, kMinimize)));
+    frame.DisableTitleBtn(0, FALSE);
+    EXPECT_NE(0u, frame.GetStyle() & WS_MINIMIZEBOX);
+    EXPECT_TRUE(::IsWindowEnabled(::GetDlgItem(frame, kMinimize)));
+}
+
+TEST(FrameButtons, DisablingMaximizeRemovesItsStyle)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    frame.DisableTitleBtn(1, TRUE);
+    EXPECT_EQ(0u, frame.GetStyle() & WS_MAXIMIZEBOX);
+    EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(frame, kMaximize)));
+}
+
+TEST(FrameButtons, DisablingCloseGraysTheSystemMenu)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    frame.DisableTitleBtn(2, TRUE);
+    EXPECT_NE(0u, ::GetMenuState(::GetSystemMenu(frame, FALSE), SC_CLOSE, MF_BYCOMMAND) & MF_GRAYED);
+    EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(frame, kClose)));
+    frame.DisableTitleBtn(2, FALSE);
+    EXPECT_EQ(0u, ::GetMenuState(::GetSystemMenu(frame, FALSE), SC_CLOSE, MF_BYCOMMAND) & MF_GRAYED);
+}
+
+TEST(FrameButtons, AnIndexBeyondTheThreeDoesNothing)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    const DWORD style = frame.GetStyle();
+    frame.DisableTitleBtn(3, TRUE);
+    frame.DisableTitleBtn(0xFFFFFFFF, TRUE);
+    EXPECT_EQ(style, frame.GetStyle());
+    for (const UINT id : {kMinimize, kMaximize, kClose}) {
+        EXPECT_TRUE(::IsWindowEnabled(::GetDlgItem(frame, static_cast<int>(id))));
+    }
+}
+
+// --- content
+
+TEST(Frame, ClientPlaceLiesBelowTheBanner)
+{
+    QorSetAppIcon(nullptr, FALSE);
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    CRect place;
+    frame.GetClientPos(place);
+    EXPECT_EQ(CRect(9, 83, 590, 390), place);
+    QorSetAppIcon(nullptr, TRUE);
+    frame.GetClientPos(place);
+    QorSetAppIcon(nullptr, FALSE);
+    EXPECT_EQ(CRect(9, 63, 590, 390), place);
+}
+
+TEST(Frame, BackgroundAndOutlineHaveTheirColours)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    const ts::Picture picture = ts::CaptureWindow(frame);
+    EXPECT_TRUE(ts::AreaIs(picture, CRect(20, 120, 580, 390), kBack));
+    EXPECT_TRUE(ts::PixelIs(picture, 300, 0, kOutline));
+    EXPECT_TRUE(ts::PixelIs(picture, 0, 200, kOutline));
+    EXPECT_TRUE(ts::PixelIs(picture, 598, 200, kOutline));
+    EXPECT_TRUE(ts::PixelIs(picture, 300, 398, kOutline));
+}
+
+/** Size of a PNG picture of the library's resources, from its header. */
+CSize PngSize(UINT id)
+{
+    const HINSTANCE library = ::GetModuleHandleW(L"QorUI.dll");
+    const HRSRC found = ::FindResourceW(library, MAKEINTRESOURCEW(id), L"PNG");
+    const auto* bytes = static_cast<const BYTE*>(::LockResource(::LoadResource(library, found)));
+    return CSize((bytes[18] << 8) | bytes[19], (bytes[22] << 8) | bytes[23]);
+}
+
+void ExpectBannerAt(UINT id, BOOL flag)
+{
+    QorSetAppIcon(nullptr, flag);
+    CTestFrame frame;
+    const bool opened = frame.Open();
+    const ts::Picture picture = ts::CaptureWindow(frame);
+    QorSetAppIcon(nullptr, FALSE);
+    ASSERT_TRUE(opened);
+    const CSize size = PngSize(id);
+    const CRect banner(picture.Crop(CRect(2, 2, 490, 200)).BoundsOfOthers(kBack));
+    EXPECT_FALSE(banner.IsRectEmpty());
+    EXPECT_GE(banner.left + 2, 9);
+    EXPECT_GE(banner.top + 2, 9);
+    EXPECT_LE(banner.right + 2, 9 + size.cx);
+    EXPECT_LE(banner.bottom + 2, 9 + size.cy);
+}
+
+TEST(Frame, DrawsTheHighBannerWithoutTheFlag)
+{
+    ExpectBannerAt(281, FALSE);
+}
+
+TEST(Frame, DrawsTheLowBannerWithTheFlag)
+{
+    ExpectBannerAt(282, TRUE);
+}
+
+// --- keyboard and focus
+
+struct FrameWithEdits
+{
+    FrameWithEdits()
+    {
+        frame.Open();
+        for (int i = 0; i < 2; ++i) {
+            edits[i].Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(20, 100 + i * 30, 200, 120 + i * 30), &frame,
+                            50 + i);
+        }
+    }
+    CTestFrame frame;
+    CEdit edits[2];
+};
+
+TEST(FrameKeyboard, TabMovesBetweenChildren)
+{
+    FrameWithEdits content;
+    content.edits[0].SetFocus();
+    MSG tab = {};
+    tab.hwnd = content.edits[0];
+    tab.message = WM_KEYDOWN;
+    tab.wParam = VK_TAB;
+    EXPECT_TRUE(content.frame.PreTranslateMessage(&tab));
+    EXPECT_EQ(content.edits[1].m_hWnd, ::GetFocus());
+}
+
+TEST(FrameKeyboard, AcceleratorsComeFirst)
+{
+    FrameWithEdits content;
+    ACCEL accel = {FVIRTKEY, VK_TAB, 777};
+    content.frame.m_hAccel = ::CreateAcceleratorTableW(&accel, 1);
+    content.edits[0].SetFocus();
+    MSG tab = {};
+    tab.hwnd = content.edits[0];
+    tab.message = WM_KEYDOWN;
+    tab.wParam = VK_TAB;
+    EXPECT_TRUE(content.frame.PreTranslateMessage(&tab));
+    EXPECT_EQ(777, content.frame.m_command);
+    EXPECT_EQ(content.edits[0].m_hWnd, ::GetFocus());
+    ::DestroyAcceleratorTable(content.frame.m_hAccel);
+    content.frame.m_hAccel = nullptr;
+}
+
+TEST(FrameKeyboard, FocusComesBackAfterDeactivation)
+{
+    FrameWithEdits content;
+    content.edits[1].SetFocus();
+    ts::HostWindow other;
+    ASSERT_TRUE(ts::BringToFront(other.Hwnd()));
+    ASSERT_NE(content.edits[1].m_hWnd, ::GetFocus());
+    ASSERT_TRUE(ts::BringToFront(content.frame));
+    EXPECT_EQ(content.edits[1].m_hWnd, ::GetFocus());
+}
+
+TEST(FrameKeyboard, ADestroyedFocusIsForgotten)
+{
+    FrameWithEdits content;
+    content.edits[1].SetFocus();
+    ts::HostWindow other;
+    ASSERT_TRUE(ts::BringToFront(other.Hwnd()));
+    content.edits[1].DestroyWindow();
+    ASSERT_TRUE(ts::BringToFront(content.frame));
+    EXPECT_TRUE(::IsWindow(content.frame));
+}
+
+TEST(Frame, LeavesNothingBehind)
+{
+    EXPECT_TRUE(ts::NoLeak([] {
+        CTestFrame frame;
+        frame.CreateEx(0, nullptr, L"Frame", 0, CRect(100, 50, 700, 450), nullptr, 0);
+        frame.ShowWindow(SW_SHOW);
+        frame.UpdateWindow();
+        frame.DestroyWindow();
+    }));
+}
+
+} // namespace

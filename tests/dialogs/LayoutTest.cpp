@@ -1,0 +1,223 @@
+#include "TestDialogs.h"
+
+namespace
+{
+
+constexpr UINT kFirst = 1001; // 1001, 1002 and 1005 exist
+constexpr UINT kLast = 1005;
+
+class Layout : public testing::Test
+{
+  protected:
+    void SetUp() override { ASSERT_TRUE(m_dialog.Create(IDD_PLAIN)); }
+
+    CRect RectOf(UINT id)
+    {
+        CRect rect;
+        EXPECT_TRUE(QorGetCtrlRect(&m_dialog, id, rect));
+        return rect;
+    }
+    bool Enabled(UINT id) { return ::IsWindowEnabled(::GetDlgItem(m_dialog, static_cast<int>(id))) != FALSE; }
+    bool Shown(UINT id)
+    {
+        return (::GetWindowLongW(::GetDlgItem(m_dialog, static_cast<int>(id)), GWL_STYLE) & WS_VISIBLE) != 0;
+    }
+
+    CTestBaseDlg m_dialog;
+};
+
+TEST_F(Layout, RectangleIsInTheParentsClientCoordinates)
+{
+    CRect expected(10, 20, 110, 30);
+    m_dialog.MapDialogRect(expected);
+    EXPECT_EQ(expected, RectOf(kFirst));
+}
+
+TEST_F(Layout, RectangleOfAMissingControlIsUntouched)
+{
+    CRect rect(1, 2, 3, 4);
+    EXPECT_FALSE(QorGetCtrlRect(&m_dialog, 4242, rect));
+    EXPECT_FALSE(QorGetCtrlRect(nullptr, kFirst, rect));
+    EXPECT_EQ(CRect(1, 2, 3, 4), rect);
+}
+
+TEST_F(Layout, EnablesTheWholeRangeWithItsEnds)
+{
+    QorEnableCtrls(&m_dialog, kFirst, kLast, FALSE);
+    EXPECT_FALSE(Enabled(1001));
+    EXPECT_FALSE(Enabled(1002));
+    EXPECT_FALSE(Enabled(1005));
+    EXPECT_TRUE(Enabled(IDC_EDIT));
+    QorEnableCtrls(&m_dialog, kFirst, 1002, TRUE);
+    EXPECT_TRUE(Enabled(1002));
+    EXPECT_FALSE(Enabled(1005));
+}
+
+TEST_F(Layout, AReversedRangeIsEmpty)
+{
+    QorEnableCtrls(&m_dialog, kLast, kFirst, FALSE);
+    QorShowCtrls(&m_dialog, kLast, kFirst, FALSE);
+    EXPECT_TRUE(Enabled(1001));
+    EXPECT_TRUE(Shown(1001));
+}
+
+TEST_F(Layout, TheWidestRangeEnds)
+{
+    QorEnableCtrls(&m_dialog, 0, 0xFFFFFFFF, FALSE);
+    EXPECT_FALSE(Enabled(IDC_EDIT));
+}
+
+TEST_F(Layout, EnablesListedControlsOnly)
+{
+    QorEnableCtrlsV(&m_dialog, FALSE, 2, 1001, 1005);
+    EXPECT_FALSE(Enabled(1001));
+    EXPECT_TRUE(Enabled(1002));
+    EXPECT_FALSE(Enabled(1005));
+}
+
+TEST_F(Layout, AListOfNoneOrFewerChangesNothing)
+{
+    QorEnableCtrlsV(&m_dialog, FALSE, 0, 1001);
+    QorEnableCtrlsV(&m_dialog, FALSE, -1, 1001);
+    EXPECT_TRUE(Enabled(1001));
+}
+
+TEST_F(Layout, ListSkipsMissingControls)
+{
+    QorEnableCtrlsV(&m_dialog, FALSE, 3, 1001, 4242, 1005);
+    EXPECT_FALSE(Enabled(1005));
+}
+
+TEST_F(Layout, HidesAndShowsARange)
+{
+    QorShowCtrls(&m_dialog, kFirst, kLast, FALSE);
+    EXPECT_FALSE(Shown(1001));
+    EXPECT_FALSE(Shown(1005));
+    QorShowCtrls(&m_dialog, kFirst, 1002, TRUE);
+    EXPECT_TRUE(Shown(1002));
+    EXPECT_FALSE(Shown(1005));
+}
+
+TEST_F(Layout, MovesOnlyWhatExistsAndKeepsSizes)
+{
+    const CRect first = RectOf(1001);
+    const CRect third = RectOf(1005);
+    const CRect other = RectOf(IDC_EDIT);
+    QorMoveCtrls(&m_dialog, kFirst, kLast, 7, -3);
+    EXPECT_EQ(first + CPoint(7, -3), RectOf(1001));
+    EXPECT_EQ(third + CPoint(7, -3), RectOf(1005));
+    EXPECT_EQ(other, RectOf(IDC_EDIT));
+}
+
+TEST_F(Layout, MovingShowsWhatWasHidden)
+{
+    QorShowCtrls(&m_dialog, kFirst, kLast, FALSE);
+    QorMoveCtrls(&m_dialog, kFirst, kLast, 0, 0);
+    EXPECT_TRUE(Shown(1001));
+    EXPECT_TRUE(Shown(1005));
+}
+
+TEST_F(Layout, MovesABlockToAnAnchor)
+{
+    const CRect anchor = RectOf(IDC_PUSH);
+    const CRect first = RectOf(1001);
+    const CRect second = RectOf(1002);
+    QorMoveCtrlsEx(&m_dialog, IDC_PUSH, 1001, 1002, 5, 6);
+    EXPECT_EQ(anchor.TopLeft() + CPoint(5, 6), RectOf(1001).TopLeft());
+    EXPECT_EQ(second.TopLeft() - first.TopLeft(), RectOf(1002).TopLeft() - RectOf(1001).TopLeft());
+}
+
+TEST_F(Layout, WithoutAnchorOrFirstControlNothingMoves)
+{
+    const CRect second = RectOf(1002);
+    QorMoveCtrlsEx(&m_dialog, 4242, 1001, 1002, 5, 6);
+    QorMoveCtrlsEx(&m_dialog, IDC_PUSH, 1000, 1002, 5, 6);
+    EXPECT_EQ(second, RectOf(1002));
+}
+
+TEST_F(Layout, ANullParentIsLeftOut)
+{
+    QorEnableCtrls(nullptr, kFirst, kLast, FALSE);
+    QorEnableCtrlsV(nullptr, FALSE, 1, 1001);
+    QorShowCtrls(nullptr, kFirst, kLast, FALSE);
+    QorMoveCtrls(nullptr, kFirst, kLast, 1, 1);
+    QorMoveCtrlsEx(nullptr, IDC_PUSH, kFirst, kLast, 1, 1);
+    QorSetTopicCtrl(nullptr, kFirst, L"x", -16);
+    EXPECT_TRUE(Enabled(1001));
+}
+
+TEST_F(Layout, ADestroyedParentIsLeftOut)
+{
+    CTestBaseDlg gone;
+    QorEnableCtrls(&gone, kFirst, kLast, FALSE);
+    QorMoveCtrlsEx(&gone, IDC_PUSH, kFirst, kLast, 1, 1);
+    CRect rect(1, 2, 3, 4);
+    EXPECT_FALSE(QorGetCtrlRect(&gone, kFirst, rect));
+}
+
+TEST_F(Layout, TextIsTrimmedAtBothEnds)
+{
+    m_dialog.SetDlgItemText(IDC_EDIT, L" \t two words \t");
+    CString text(L"old");
+    EXPECT_TRUE(QorGetText(*m_dialog.GetDlgItem(IDC_EDIT), text));
+    EXPECT_STREQ(L"two words", text);
+}
+
+TEST_F(Layout, BlanksOnlyAreNoText)
+{
+    m_dialog.SetDlgItemText(IDC_EDIT, L"   ");
+    CString text(L"old");
+    EXPECT_FALSE(QorGetText(*m_dialog.GetDlgItem(IDC_EDIT), text));
+    EXPECT_TRUE(text.IsEmpty());
+}
+
+TEST_F(Layout, WithoutAWindowTheTextIsEmptied)
+{
+    CWnd none;
+    CString text(L"old");
+    CStringA utf8("old");
+    EXPECT_FALSE(QorGetText(none, text));
+    EXPECT_FALSE(QorGetUtf8(none, utf8, TRUE));
+    EXPECT_TRUE(text.IsEmpty());
+    EXPECT_TRUE(utf8.IsEmpty());
+}
+
+TEST_F(Layout, Utf8KeepsSpecialCharactersUnlessEscaped)
+{
+    m_dialog.SetDlgItemText(IDC_EDIT, L" a<b & \u00e4 ");
+    CStringA text;
+    EXPECT_TRUE(QorGetUtf8(*m_dialog.GetDlgItem(IDC_EDIT), text, FALSE));
+    EXPECT_STREQ("a<b & \xc3\xa4", text);
+    EXPECT_TRUE(QorGetUtf8(*m_dialog.GetDlgItem(IDC_EDIT), text, TRUE));
+    EXPECT_STREQ("a&lt;b &amp; \xc3\xa4", text);
+}
+
+LOGFONTW FontOf(CWnd& dialog, UINT id)
+{
+    LOGFONTW font = {};
+    if (CFont* owned = dialog.GetDlgItem(static_cast<int>(id))->GetFont()) {
+        owned->GetLogFont(&font);
+    }
+    return font;
+}
+
+TEST_F(Layout, TopicFontIsBoldArialOfTheFirstHeight)
+{
+    QorSetTopicCtrl(&m_dialog, 1001, L"Topic", -16);
+    QorSetTopicCtrl(&m_dialog, 1002, nullptr, -20);
+    QorSetTopicCtrl(&m_dialog, 1005, L"", -20);
+    const LOGFONTW font = FontOf(m_dialog, 1001);
+    EXPECT_EQ(-16, font.lfHeight);
+    EXPECT_EQ(700, font.lfWeight);
+    EXPECT_STREQ(L"Arial", font.lfFaceName);
+    EXPECT_EQ(-16, FontOf(m_dialog, 1002).lfHeight);
+    CString text;
+    m_dialog.GetDlgItemText(1001, text);
+    EXPECT_STREQ(L"Topic", text);
+    m_dialog.GetDlgItemText(1002, text);
+    EXPECT_STREQ(L"second", text);
+    m_dialog.GetDlgItemText(1005, text);
+    EXPECT_STREQ(L"third", text);
+}
+
+} // namespace

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "res/DialogsTest.h"
+
+#include <QorUI/QorUI.h>
+
+#include <tests/support/Support.h>
+
+/** Opens what is protected, for the tests. */
+class CTestBaseDlg : public CQorBaseDlg
+{
+  public:
+    explicit CTestBaseDlg(UINT idd = IDD_PLAIN, CWnd* parent = nullptr) : CQorBaseDlg(idd, parent) {}
+    using CQorBaseDlg::GetDlgString;
+    using CQorBaseDlg::OnCtlColor;
+    using CQorBaseDlg::PreTranslateMessage;
+    using CQorBaseDlg::SetDlgCtrlText;
+    using CQorBaseDlg::SetDlgLang;
+};
+
+class CTestDialog : public CQorDialog
+{
+  public:
+    CTestDialog(UINT idd, DWORD flags, CWnd* parent = nullptr) : CQorDialog(idd, parent, flags), m_idd(idd) {}
+    using CQorDialog::AdjustBtnInArea;
+    using CQorDialog::DisableClose;
+    using CQorDialog::GetClientPos;
+    using CQorDialog::Paint;
+
+    /** Creates the dialog without running it, and shows it at a fixed place. */
+    bool Open()
+    {
+        if (!Create(m_idd)) {
+            return false;
+        }
+        SetWindowPos(nullptr, 100, 100, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        ShowWindow(SW_SHOW);
+        ts::Settle();
+        return true;
+    }
+
+    /** Hit-test code of a point given from the window's top left corner. */
+    LRESULT Hit(int x, int y)
+    {
+        CRect window;
+        GetWindowRect(window);
+        return SendMessage(WM_NCHITTEST, 0, MAKELPARAM(window.left + x, window.top + y));
+    }
+
+    CRect CtrlRect(UINT id)
+    {
+        CRect rect;
+        QorGetCtrlRect(this, id, rect);
+        return rect;
+    }
+
+    CSize ClientSize() const
+    {
+        CRect client;
+        GetClientRect(client);
+        return client.Size();
+    }
+
+    int m_canceled = 0;
+
+  protected:
+    void OnCancel() override
+    {
+        ++m_canceled;
+        CQorDialog::OnCancel();
+    }
+
+  private:
+    UINT m_idd;
+};
+
+/** Whether the screen points inside the window's shape include this one, given from its top left corner. */
+inline bool InShape(HWND wnd, int x, int y)
+{
+    CRgn shape;
+    shape.CreateRectRgn(0, 0, 0, 0);
+    return ::GetWindowRgn(wnd, shape) != ERROR && shape.PtInRegion(x, y);
+}
+
+/** Whether the window's shape is exactly this region. (EqualRgn compares how regions are cut into pieces.) */
+inline bool HasShape(HWND wnd, const CRgn& expected)
+{
+    CRgn shape;
+    shape.CreateRectRgn(0, 0, 0, 0);
+    return ::GetWindowRgn(wnd, shape) != ERROR &&
+           ::CombineRgn(shape, shape, static_cast<HRGN>(expected.GetSafeHandle()), RGN_XOR) == NULLREGION;
+}
