@@ -1,0 +1,63 @@
+#include "DragLB.h"
+
+#include "ListWidth.h"
+
+CDragLB::CDragLB() : m_nMaxWidth(0), m_bEnableDrag(FALSE) {}
+
+void CDragLB::EnableDrag(BOOL enable)
+{
+    m_bEnableDrag = enable;
+}
+
+int CDragLB::AddString(LPCWSTR text)
+{
+    const int index = CDragListBox::AddString(text);
+    if (index >= 0) {
+        UpdateWidth(text);
+    }
+    return index;
+}
+
+int CDragLB::InsertString(int index, LPCWSTR text)
+{
+    const int inserted = CDragListBox::InsertString(index, text);
+    if (inserted >= 0) {
+        UpdateWidth(text);
+    }
+    return inserted;
+}
+
+int CDragLB::DeleteString(int index)
+{
+    const int left = CDragListBox::DeleteString(static_cast<UINT>(index));
+    if (left >= 0) {
+        m_nMaxWidth = QorRefitList(*this);
+    }
+    return left;
+}
+
+void CDragLB::ResetContent()
+{
+    CDragListBox::ResetContent();
+    m_nMaxWidth = 0;
+}
+
+void CDragLB::UpdateWidth(LPCWSTR text)
+{
+    m_nMaxWidth = QorWidenList(*this, m_nMaxWidth, text);
+}
+
+void CDragLB::PreSubclassWindow()
+{
+    ModifyStyle(LBS_SORT | LBS_MULTIPLESEL, 0);
+    CDragListBox::PreSubclassWindow();
+}
+
+BOOL CDragLB::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    if (m_bEnableDrag) {
+        return CDragListBox::OnChildNotify(message, wParam, lParam, result);
+    }
+    // Past the drag list on purpose: that is what keeps the items where they are.
+    return CListBox::OnChildNotify(message, wParam, lParam, result); // NOLINT(bugprone-parent-virtual-call)
+}

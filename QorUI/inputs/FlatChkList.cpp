@@ -1,0 +1,13 @@
+#include "FlatChkList.h"
+
+#include "FlatEdit.h"
+
+BEGIN_MESSAGE_MAP(CFlatChkList, CCheckListBox)
+    ON_WM_NCPAINT()
+END_MESSAGE_MAP()
+
+void CFlatChkList::OnNcPaint()
+{
+    Default();
+    QorDrawFlatBorder(this, TRUE);
+}

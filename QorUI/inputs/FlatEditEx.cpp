@@ -1,0 +1,62 @@
+#include "FlatEditEx.h"
+
+#include <QorUI/app/LibText.h>
+
+BEGIN_MESSAGE_MAP(CFlatEditEx, CFlatEdit)
+    ON_CONTROL_REFLECT_EX(EN_UPDATE, &CFlatEditEx::OnUpdate)
+END_MESSAGE_MAP()
+
+namespace
+{
+
+enum TextState : int
+{
+    TEXT_REFUSED = -1,
+    TEXT_EMPTY = 0,
+    TEXT_VALID = 1
+};
+
+} // namespace
+
+CFlatEditEx::CFlatEditEx() : m_nValid(TEXT_EMPTY), m_lpszIllegal(nullptr) {}
+
+void CFlatEditEx::SetIllegalChars(LPCWSTR chars)
+{
+    m_lpszIllegal = chars;
+}
+
+int CFlatEditEx::IsValidText()
+{
+    return m_nValid;
+}
+
+BOOL CFlatEditEx::OnUpdate()
+{
+    if (!m_lpszIllegal) {
+        return FALSE;
+    }
+    CString text;
+    GetWindowText(text);
+    text.Trim();
+    if (text.IsEmpty()) {
+        m_nValid = TEXT_EMPTY;
+    } else if (text.FindOneOf(m_lpszIllegal) >= 0) {
+        m_nValid = TEXT_REFUSED;
+        ShowRefusal();
+    } else {
+        m_nValid = TEXT_VALID;
+        HideBalloonTip();
+    }
+    return FALSE;
+}
+
+void CFlatEditEx::ShowRefusal()
+{
+    CString text;
+    text.Format(QorLibText(L"STR_INVALID_TEXT"), m_lpszIllegal);
+    EDITBALLOONTIP tip = {};
+    tip.cbStruct = sizeof(tip);
+    tip.pszText = text;
+    tip.ttiIcon = TTI_NONE;
+    ShowBalloonTip(&tip);
+}

@@ -1,0 +1,68 @@
+#include "FlatListBox.h"
+
+#include "FlatEdit.h"
+
+BEGIN_MESSAGE_MAP(CFlatListBox, CListBox)
+    ON_WM_NCPAINT()
+END_MESSAGE_MAP()
+
+CFlatListBox::CFlatListBox() : m_nMaxWidth(0) {}
+
+int CFlatListBox::AddString(LPCWSTR text)
+{
+    const int index = CListBox::AddString(text);
+    if (index >= 0) {
+        UpdateWidth(text);
+    }
+    return index;
+}
+
+int CFlatListBox::InsertString(int index, LPCWSTR text)
+{
+    const int inserted = CListBox::InsertString(index, text);
+    if (inserted >= 0) {
+        UpdateWidth(text);
+    }
+    return inserted;
+}
+
+int CFlatListBox::SetString(int index, LPCWSTR text)
+{
+    return DeleteString(index) == LB_ERR ? -1 : InsertString(index, text);
+}
+
+int CFlatListBox::DeleteString(int index)
+{
+    const int left = CListBox::DeleteString(static_cast<UINT>(index));
+    if (left >= 0) {
+        m_nMaxWidth = QorRefitList(*this);
+    }
+    return left;
+}
+
+void CFlatListBox::ResetContent()
+{
+    CListBox::ResetContent();
+    m_nMaxWidth = 0;
+}
+
+void CFlatListBox::UpdateWidth(LPCWSTR text)
+{
+    if (!m_bound.Fits(*this, text, m_nMaxWidth)) {
+        m_nMaxWidth = QorWidenList(*this, m_nMaxWidth, text);
+    }
+}
+
+LRESULT CFlatListBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_SETFONT) {
+        m_bound.Forget();
+    }
+    return CListBox::WindowProc(message, wParam, lParam);
+}
+
+void CFlatListBox::OnNcPaint()
+{
+    Default();
+    QorDrawFlatBorder(this, TRUE);
+}

@@ -1,0 +1,62 @@
+#include "SearchBox.h"
+
+#include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/QorUIApp.h>
+#include <QorUI/res/resource.h>
+
+BEGIN_MESSAGE_MAP(CSearchBox, CComboBox)
+    ON_WM_CREATE()
+    ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+namespace
+{
+
+constexpr int kMaxText = 260;
+constexpr COLORREF kOuterFrame = RGB(203, 203, 203);
+constexpr COLORREF kInnerFrame = RGB(255, 255, 255);
+constexpr int kGlyphWidth = 16;
+constexpr int kGlyphHeight = 17;
+constexpr int kGlyphRight = 17; ///< from the inner frame's right end to the glyph's left edge
+
+void DrawGlyph(HDC dc, int x, int y)
+{
+    CBitmap bitmap;
+    bitmap.Attach(::LoadBitmapW(g_QorUIApp.m_hInstance, MAKEINTRESOURCEW(IDB_SEARCH)));
+    const CMemoryDc memory(dc);
+    const CSelectSaver select(memory.get(), bitmap.GetSafeHandle());
+    if (select) {
+        ::BitBlt(dc, x, y, kGlyphWidth, kGlyphHeight, memory.get(), 0, 0, SRCCOPY);
+    }
+}
+
+} // namespace
+
+CSearchBox::CSearchBox() : m_hWndEdit(nullptr) {}
+
+int CSearchBox::OnCreate(LPCREATESTRUCT create)
+{
+    if (CComboBox::OnCreate(create) == -1) {
+        return -1;
+    }
+    SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)));
+    LimitText(kMaxText);
+    COMBOBOXINFO info = {};
+    info.cbSize = sizeof(info);
+    if (GetComboBoxInfo(&info)) {
+        m_hWndEdit = info.hwndItem;
+    }
+    return 0;
+}
+
+void CSearchBox::OnPaint()
+{
+    Default();
+    CRect rect;
+    GetClientRect(&rect);
+    CClientDC dc(this);
+    dc.Draw3dRect(&rect, kOuterFrame, kOuterFrame);
+    rect.DeflateRect(1, 1);
+    dc.Draw3dRect(&rect, kInnerFrame, kInnerFrame);
+    DrawGlyph(dc.m_hDC, rect.right - kGlyphRight, (rect.Height() - kGlyphWidth) / 2);
+}

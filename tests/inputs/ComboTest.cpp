@@ -1,0 +1,191 @@
+#include "Inputs.h"
+
+#include <QorUI/inputs/ComboLook.h>
+#include <QorUI/inputs/FlatCombo.h>
+
+namespace
+{
+
+TEST(ComboLayout, PartsShareOneColumn)
+{
+    const QorComboParts parts = QorComboLayout({0, 0, 120, 21}, 16);
+    EXPECT_EQ(CRect(0, 0, 103, 21), CRect(parts.text));
+    EXPECT_EQ(CRect(102, 0, 120, 21), CRect(parts.button));
+    EXPECT_EQ(CRect(104, 2, 118, 19), CRect(parts.face));
+}
+
+TEST(ComboLayout, ArrowIsSixByThreeInTheFace)
+{
+    const QorComboParts parts = QorComboLayout({0, 0, 120, 21}, 16);
+    EXPECT_EQ(CPoint(107, 9), CPoint(parts.corner[0]));
+    EXPECT_EQ(CPoint(113, 9), CPoint(parts.corner[1]));
+    EXPECT_EQ(CPoint(110, 12), CPoint(parts.corner[2]));
+}
+
+TEST(ComboLayout, ArrowOfAnOddFaceRoundsDown)
+{
+    const QorComboParts parts = QorComboLayout({0, 0, 121, 24}, 17);
+    EXPECT_EQ(CRect(104, 2, 119, 22), CRect(parts.face));
+    EXPECT_EQ(CPoint(107, 10), CPoint(parts.corner[0]));
+}
+
+/** A drop-down list with four items; the data of two of them are equal. */
+class FlatCombo : public testing::Test
+{
+  protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_combo.SubclassWindow(AddSystem(m_host, L"COMBOBOX", CBS_DROPDOWNLIST, 0, {10, 10, 130, 200})));
+        const DWORD_PTR data[] = {40, 30, 30, static_cast<DWORD_PTR>(-1)};
+        for (const DWORD_PTR one : data)
+            m_combo.SetItemData(m_combo.AddString(L"Item"), one);
+        ts::ParkMouse();
+    }
+
+    QorComboParts Parts()
+    {
+        CRect client;
+        m_combo.GetClientRect(&client);
+        return QorComboLayout(client, ::GetSystemMetrics(SM_CXHTHUMB));
+    }
+
+    ts::AfxHost m_host{200, 240};
+    CFlatCombo m_combo;
+};
+
+CRect Inner(CRect rect)
+{
+    rect.DeflateRect(1, 1);
+    return rect;
+}
+
+TEST_F(FlatCombo, SelectionFieldIsFifteenHigh)
+{
+    const auto setHeight = [](HWND combo, int height) {
+        ::SendMessageW(combo, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), height);
+        return ::SendMessageW(combo, CB_GETITEMHEIGHT, static_cast<WPARAM>(-1), 0);
+    };
+    const HWND stock = AddSystem(m_host, L"COMBOBOX", CBS_DROPDOWNLIST, 0, {10, 60, 130, 200});
+    const LRESULT fifteen = setHeight(stock, 15);
+    ASSERT_NE(fifteen, setHeight(stock, 30));
+    CFlatCombo combo;
+    ASSERT_TRUE(combo.SubclassWindow(stock));
+    EXPECT_EQ(fifteen, combo.GetItemHeight(-1));
+}
+
+TEST_F(FlatCombo, FindItemGivesTheFirstOfEqualData)
+{
+    EXPECT_EQ(0, m_combo.FindItem(40));
+    EXPECT_EQ(1, m_combo.FindItem(30));
+    EXPECT_EQ(3, m_combo.FindItem(static_cast<DWORD_PTR>(-1)));
+    EXPECT_EQ(-1, m_combo.FindItem(7));
+}
+
+TEST_F(FlatCombo, NothingIsFoundInAnEmptyBox)
+{
+    m_combo.ResetContent();
+    EXPECT_EQ(-1, m_combo.FindItem(static_cast<DWORD_PTR>(CB_ERR)));
+    EXPECT_EQ(-1, m_combo.FindItem(0));
+    EXPECT_EQ(-1, CFlatCombo().FindItem(0));
+}
+
+TEST_F(FlatCombo, RemoveItemRemovesTheFirstOne)
+{
+    EXPECT_EQ(3, m_combo.RemoveItem(30));
+    EXPECT_EQ(1, m_combo.FindItem(30));
+    EXPECT_EQ(2, m_combo.RemoveItem(30));
+    EXPECT_EQ(-1, m_combo.RemoveItem(30));
+    EXPECT_EQ(2, m_combo.GetCount());
+}
+
+TEST_F(FlatCombo, SelectItemSelectsTheFirstOne)
+{
+    EXPECT_EQ(1, m_combo.SelectItem(30));
+    EXPECT_EQ(1, m_combo.GetCurSel());
+    EXPECT_EQ(-1, m_combo.SelectItem(7));
+    EXPECT_EQ(1, m_combo.GetCurSel()) << "an unknown one leaves the selection";
+}
+
+TEST_F(FlatCombo, DataOfTheSelectionOrTheGivenValue)
+{
+    EXPECT_EQ(0u, m_combo.GetCurSelData(0));
+    EXPECT_EQ(55u, m_combo.GetCurSelData(55));
+    m_combo.SelectItem(40);
+    EXPECT_EQ(40u, m_combo.GetCurSelData(55));
+    EXPECT_EQ(9u, CFlatCombo().GetCurSelData(9));
+}
+
+TEST_F(FlatCombo, BothPartsHaveAGreyAndAWhiteFrame)
+{
+    const ts::Picture look = LookOf(m_combo);
+    const QorComboParts parts = Parts();
+    EXPECT_TRUE(ts::FrameIs(look, parts.button, kGrey));
+    EXPECT_TRUE(ts::FrameIs(look, Inner(parts.button), kWhite));
+    const CRect text(parts.text);
+    for (const CRect& line :
+         {CRect(0, 0, text.right, 1), CRect(0, 0, 1, text.bottom), CRect(0, text.bottom - 1, text.right, text.bottom)})
+        EXPECT_TRUE(ts::AreaIs(look, line, kGrey));
+    const CRect inner = Inner(text);
+    // The button part was drawn over the right end of the text part.
+    for (const CRect& line : {CRect(1, 1, inner.right - 1, 2), CRect(1, 1, 2, inner.bottom),
+                              CRect(1, inner.bottom - 1, inner.right - 1, inner.bottom)})
+        EXPECT_TRUE(ts::AreaIs(look, line, kWhite));
+}
+
+TEST_F(FlatCombo, ButtonIsFilledAroundABlackArrow)
+{
+    const ts::Picture look = LookOf(m_combo);
+    const QorComboParts parts = Parts();
+    const ts::Picture face = look.Crop(parts.face);
+    const CRect arrow(face.BoundsOf(RGB(0, 0, 0)));
+    EXPECT_EQ(CRect(parts.corner[0].x, parts.corner[0].y, parts.corner[1].x + 1, parts.corner[2].y + 1),
+              arrow + CPoint(parts.face.left, parts.face.top));
+    EXPECT_EQ(7 + 5 + 3 + 1, face.Count(RGB(0, 0, 0)));
+    EXPECT_EQ(face.Width() * face.Height() - 16, face.Count(::GetSysColor(COLOR_BTNFACE)));
+}
+
+TEST_F(FlatCombo, DisabledBoxHasAGreyArrowInTheSameFrame)
+{
+    const ts::Picture enabled = LookOf(m_combo);
+    m_combo.EnableWindow(FALSE);
+    const ts::Picture disabled = LookOf(m_combo);
+    const QorComboParts parts = Parts();
+    EXPECT_EQ(0, disabled.Crop(parts.face).Count(RGB(0, 0, 0)));
+    EXPECT_EQ(16, disabled.Crop(parts.face).Count(::GetSysColor(COLOR_GRAYTEXT)));
+    EXPECT_TRUE(ts::FrameIs(disabled, parts.button, kGrey));
+    EXPECT_TRUE(ts::FrameIs(disabled, Inner(parts.button), kWhite));
+    EXPECT_TRUE(ts::SamePicture(enabled.Crop({0, 0, parts.text.right, 2}), disabled.Crop({0, 0, parts.text.right, 2})));
+}
+
+TEST_F(FlatCombo, DropsDownAndSelectsByKeyboard)
+{
+    m_combo.SetFocus();
+    ts::Key(VK_DOWN);
+    ts::Key(VK_DOWN);
+    EXPECT_EQ(1, m_combo.GetCurSel());
+    ts::Key(VK_F4);
+    EXPECT_TRUE(m_combo.GetDroppedState());
+    ts::Key(VK_ESCAPE);
+    EXPECT_FALSE(m_combo.GetDroppedState());
+}
+
+TEST_F(FlatCombo, TinyBoxIsPaintedWithoutHarm)
+{
+    CFlatCombo combo;
+    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(10, 50, 13, 60), &m_host, 19));
+    EXPECT_EQ(3, LookOf(combo).Width());
+}
+
+TEST_F(FlatCombo, ShowingPaintingAndClosingLeavesNothingBehind)
+{
+    EXPECT_TRUE(ts::NoLeak([this] {
+        CFlatCombo combo;
+        combo.SubclassWindow(AddSystem(m_host, L"COMBOBOX", CBS_DROPDOWNLIST, 0, {10, 60, 130, 200}));
+        LookOf(combo);
+        combo.EnableWindow(FALSE);
+        LookOf(combo);
+        combo.DestroyWindow();
+    }));
+}
+
+} // namespace

@@ -1,0 +1,127 @@
+#include "Inputs.h"
+
+#include <QorUI/inputs/FlatEdit.h>
+
+namespace
+{
+
+constexpr COLORREF kBack = RGB(10, 200, 30);
+
+/** A window without border painting of its own, with a client edge or without. */
+class CPlain : public CWnd
+{
+  public:
+    CPlain(CWnd& parent, DWORD exStyle)
+    {
+        CreateEx(exStyle, AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(10, 10, 60, 40), &parent, 3);
+    }
+
+  protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_NCPAINT) {
+            CWindowDC dc(this);
+            dc.FillSolidRect(0, 0, 50, 30, kBack);
+            return 0;
+        }
+        if (message == WM_PAINT) {
+            ValidateRect(nullptr);
+            return 0;
+        }
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+};
+
+class FlatBorder : public testing::Test
+{
+  protected:
+    static ts::Picture Drawn(CPlain& window, BOOL inner)
+    {
+        window.SendMessage(WM_NCPAINT, 1);
+        QorDrawFlatBorder(&window, inner);
+        return ts::CaptureFrame(window);
+    }
+
+    ts::AfxHost m_host{200, 100};
+};
+
+TEST_F(FlatBorder, OuterLineIsGreyOnTheOutermostPixels)
+{
+    CPlain window(m_host, WS_EX_CLIENTEDGE);
+    const ts::Picture picture = Drawn(window, FALSE);
+    EXPECT_TRUE(ts::FrameIs(picture, {0, 0, 50, 30}, kGrey));
+    EXPECT_TRUE(ts::AreaIs(picture, {1, 1, 49, 29}, kBack));
+}
+
+TEST_F(FlatBorder, InnerLineHasTheColourOfWindows)
+{
+    CPlain window(m_host, WS_EX_CLIENTEDGE);
+    const ts::Picture picture = Drawn(window, TRUE);
+    EXPECT_TRUE(ts::FrameIs(picture, {0, 0, 50, 30}, kGrey));
+    EXPECT_TRUE(ts::FrameIs(picture, {1, 1, 49, 29}, ::GetSysColor(COLOR_WINDOW)));
+    EXPECT_TRUE(ts::AreaIs(picture, {2, 2, 48, 28}, kBack));
+}
+
+TEST_F(FlatBorder, NothingIsDrawnWithoutClientEdge)
+{
+    CPlain window(m_host, 0);
+    EXPECT_TRUE(ts::AreaIs(Drawn(window, TRUE), {0, 0, 50, 30}, kBack));
+}
+
+TEST_F(FlatBorder, MissingAndDestroyedWindowsAreIgnored)
+{
+    CPlain window(m_host, WS_EX_CLIENTEDGE);
+    window.DestroyWindow();
+    EXPECT_NO_THROW(QorDrawFlatBorder(&window, TRUE));
+    EXPECT_NO_THROW(QorDrawFlatBorder(nullptr, TRUE));
+}
+
+class FlatEdit : public testing::Test
+{
+  protected:
+    ts::AfxHost m_host{200, 100};
+    CFlatEdit m_edit;
+};
+
+TEST_F(FlatEdit, PaintsItsBorderFlat)
+{
+    ASSERT_TRUE(m_edit.SubclassWindow(AddSystem(m_host, L"EDIT", 0)));
+    EXPECT_TRUE(HasFlatBorder(m_edit));
+}
+
+TEST_F(FlatEdit, ScrollBarInTheFrameIsStillPainted)
+{
+    ASSERT_TRUE(m_edit.SubclassWindow(
+        AddSystem(m_host, L"EDIT", ES_MULTILINE | WS_VSCROLL, WS_EX_CLIENTEDGE, {10, 10, 90, 90})));
+    EXPECT_TRUE(HasFlatBorder(m_edit));
+    CRect bar(0, 0, 80, 80);
+    bar.DeflateRect(2, 2);
+    bar.left = bar.right - ::GetSystemMetrics(SM_CXVSCROLL);
+    EXPECT_LT(FrameOf(m_edit).Crop(bar).Count(::GetSysColor(COLOR_WINDOW)), bar.Width() * bar.Height() / 2);
+}
+
+TEST_F(FlatEdit, WithoutClientEdgeNothingIsPaintedAround)
+{
+    ASSERT_TRUE(m_edit.SubclassWindow(AddSystem(m_host, L"EDIT", 0, 0)));
+    EXPECT_EQ(0, FrameOf(m_edit).Count(kGrey));
+}
+
+TEST_F(FlatEdit, StillEdits)
+{
+    ASSERT_TRUE(m_edit.Create(WS_CHILD | WS_VISIBLE, kPlace, &m_host, kControlId));
+    m_edit.SetFocus();
+    ts::Type(L"abc");
+    EXPECT_STREQ(L"abc", TextOf(m_edit));
+}
+
+TEST_F(FlatEdit, ShowingPaintingAndClosingLeavesNothingBehind)
+{
+    EXPECT_TRUE(ts::NoLeak([this] {
+        CFlatEdit edit;
+        edit.SubclassWindow(AddSystem(m_host, L"EDIT", 0));
+        FrameOf(edit);
+        edit.DestroyWindow();
+    }));
+}
+
+} // namespace

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <afxcmn.h>
+#include <afxwin.h>
+#include <tests/support/AfxHost.h>
+#include <tests/support/Support.h>
+
+/** @file What the tests of input controls share. */
+
+constexpr COLORREF kGrey = RGB(128, 128, 128);
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+constexpr int kControlId = 17;
+
+inline const CRect kPlace(10, 10, 130, 40);
+
+inline HGDIOBJ GuiFont()
+{
+    return ::GetStockObject(DEFAULT_GUI_FONT);
+}
+
+/** A plain system control in a window, to be taken over. */
+inline HWND AddSystem(const CWnd& parent, const wchar_t* className, DWORD style, DWORD exStyle = WS_EX_CLIENTEDGE,
+                      const CRect& rect = kPlace, const wchar_t* text = L"")
+{
+    const HWND control = ::CreateWindowExW(exStyle, className, text, WS_CHILD | WS_VISIBLE | WS_TABSTOP | style,
+                                           rect.left, rect.top, rect.Width(), rect.Height(), parent.m_hWnd,
+                                           reinterpret_cast<HMENU>(kControlId), nullptr, nullptr);
+    ::SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(GuiFont()), FALSE);
+    return control;
+}
+
+/** A control with its border, freshly painted. */
+inline ts::Picture FrameOf(const CWnd& control)
+{
+    ::RedrawWindow(control.m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW);
+    return ts::CaptureFrame(control.m_hWnd);
+}
+
+/** The client area of a control, freshly painted. */
+inline ts::Picture LookOf(const CWnd& control)
+{
+    ::RedrawWindow(control.m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    return ts::CaptureWindow(control.m_hWnd);
+}
+
+/** Whether the two lines of the flat border surround a control. */
+inline testing::AssertionResult HasFlatBorder(const CWnd& control)
+{
+    const ts::Picture picture = FrameOf(control);
+    const CRect outer(0, 0, picture.Width(), picture.Height());
+    if (const auto grey = ts::FrameIs(picture, outer, kGrey); !grey)
+        return grey;
+    return ts::FrameIs(picture, CRect(1, 1, outer.right - 1, outer.bottom - 1), ::GetSysColor(COLOR_WINDOW));
+}
+
+inline CString TextOf(const CWnd& control)
+{
+    CString text;
+    control.GetWindowText(text);
+    return text;
+}
+
+/** Width of a text in a font, pixels. */
+inline int TextWidth(HGDIOBJ font, const wchar_t* text)
+{
+    const HDC dc = ::GetDC(nullptr);
+    const HGDIOBJ old = font ? ::SelectObject(dc, font) : nullptr;
+    SIZE size = {};
+    ::GetTextExtentPoint32W(dc, text, ::lstrlenW(text), &size);
+    if (old)
+        ::SelectObject(dc, old);
+    ::ReleaseDC(nullptr, dc);
+    return size.cx;
+}
