@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QorUI/app/QorUIDef.h>
+
+#include <afxtempl.h>
+
+/** One item of a chart. */
+struct UITEM
+{
+    CString strName;
+    UINT nValue = 0;
+};
+
+/** Kinds of charts. */
+enum QorChartType
+{
+    QOR_CHART_BARS = 1,
+    QOR_CHART_RING = 2
+};
+
+/** A chart of named counts as bars or as a ring, with a legend; the window text is its title. */
+class QORUI_API CChartCtrl : public CStatic
+{
+  public:
+    CChartCtrl();
+
+    /** @param name null counts as empty. */
+    void AddItem(LPCWSTR name, UINT value);
+    void RemoveAll();
+
+    /** @param type a `QorChartType`; the initial one is the ring. @return FALSE for any other value. */
+    BOOL SetType(int type);
+
+  protected:
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    DECLARE_MESSAGE_MAP()
+
+  private:
+    void Repaint();
+
+    int m_nType;
+    CArray<UITEM, UITEM&> m_arrItems;
+};

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QorUI/app/QorUIDef.h>
+
+#include <afxtempl.h>
+
+/** One row of an information panel. */
+struct UINFOITEM
+{
+    CString strLabel; ///< with its colon
+    CString strValue;
+};
+
+/** A panel of rows with a label and a value; the value of the last row alone may have several lines. */
+class QORUI_API CQorInfo : public CStatic
+{
+  public:
+    CQorInfo();
+
+    /** @param label without colon, which is added; an empty one stays empty. A null text counts as empty. */
+    void AddItem(LPCWSTR label, LPCWSTR value);
+    void RemoveAll();
+
+  protected:
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    DECLARE_MESSAGE_MAP()
+
+  private:
+    int DrawLabels(CDC& dc) const;
+    void DrawValues(CDC& dc, const CRect& client, int left) const;
+    void Repaint();
+
+    CArray<UINFOITEM, UINFOITEM&> m_arrItems;
+};

@@ -1,0 +1,221 @@
+#include <tests/lists/Lists.h>
+
+#include <array>
+
+namespace
+{
+
+constexpr std::array<COLORREF, 5> kSeries = {RGB(47, 162, 244), RGB(250, 160, 90), RGB(248, 194, 57), RGB(247, 101, 43),
+                                             RGB(130, 205, 195)};
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+
+class Chart : public testing::Test
+{
+  protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_chart.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &m_host, kControlId));
+        ::SendMessageW(m_chart, WM_SETFONT, reinterpret_cast<WPARAM>(GuiFont()), FALSE);
+    }
+
+    void Add(int count)
+    {
+        for (int i = 0; i < count; ++i) {
+            m_chart.AddItem(L"Name", 1);
+        }
+    }
+
+    /** Colour of the swatch of a row. */
+    static COLORREF Swatch(const ts::Picture& look, int row) { return look.At(121, 33 + 20 * row); }
+
+    ts::AfxHost m_host{320, 220};
+    CChartCtrl m_chart;
+};
+
+TEST_F(Chart, WithoutItemsIsWhite)
+{
+    EXPECT_TRUE(ts::AreaIs(LookOf(m_chart), CRect(0, 0, 299, 199), kWhite));
+}
+
+TEST_F(Chart, ItemsWithoutAnyValueShowNothing)
+{
+    m_chart.AddItem(L"Nothing", 0);
+    m_chart.AddItem(L"Nothing", 0);
+    EXPECT_TRUE(ts::AreaIs(LookOf(m_chart), CRect(0, 0, 299, 199), kWhite));
+}
+
+TEST_F(Chart, TitleIsTheTrimmedWindowText)
+{
+    m_chart.SetWindowText(L"  Title ");
+    const ts::Picture look = LookOf(m_chart);
+    const CRect text = look.Crop(CRect(0, 0, 299, 199)).BoundsOfOthers(kWhite);
+    EXPECT_GE(text.left, 8);
+    EXPECT_LE(text.left, 14);
+    EXPECT_LE(text.bottom, 30);
+    EXPECT_NEAR(15, (text.top + text.bottom) / 2, 3);
+    m_chart.SetWindowText(L"Title");
+    EXPECT_TRUE(ts::SamePicture(look, LookOf(m_chart)));
+    m_chart.SetWindowText(L"   ");
+    EXPECT_TRUE(ts::AreaIs(LookOf(m_chart), CRect(0, 0, 299, 199), kWhite));
+}
+
+TEST_F(Chart, ColoursAreUsedInTurn)
+{
+    Add(6);
+    const ts::Picture look = LookOf(m_chart);
+    for (int row = 0; row < 6; ++row) {
+        EXPECT_EQ(kSeries.at(static_cast<size_t>(row) % 5), Swatch(look, row)) << row;
+    }
+}
+
+TEST_F(Chart, SwatchesAreEightPixelsWide)
+{
+    Add(1);
+    const ts::Picture look = LookOf(m_chart);
+    EXPECT_TRUE(ts::AreaIs(look, CRect(118, 30, 126, 38), kSeries[0]));
+    EXPECT_TRUE(ts::PixelIs(look, 117, 33, kWhite));
+    EXPECT_TRUE(ts::PixelIs(look, 127, 33, kWhite));
+    EXPECT_TRUE(ts::PixelIs(look, 121, 29, kWhite));
+    EXPECT_TRUE(ts::PixelIs(look, 121, 39, kWhite));
+}
+
+TEST_F(Chart, LegendTextBeginsRightOfTheSwatch)
+{
+    Add(1);
+    const CRect text = LookOf(m_chart).Crop(CRect(127, 0, 299, 199)).BoundsOfOthers(kWhite);
+    EXPECT_GE(text.left + 127, 134);
+    EXPECT_LE(text.left + 127, 140);
+    EXPECT_GE(text.top, 27);
+    EXPECT_LE(text.bottom, 45);
+}
+
+TEST_F(Chart, LegendShowsNameAndValue)
+{
+    m_chart.AddItem(L"Name (7)", 1);
+    const ts::Picture one = LookOf(m_chart).Crop(CRect(128, 20, 299, 50));
+    m_chart.RemoveAll();
+    m_chart.AddItem(L"Name", 7);
+    const ts::Picture other = LookOf(m_chart).Crop(CRect(128, 20, 299, 50));
+    EXPECT_FALSE(ts::SamePicture(one, other));
+    EXPECT_GT(one.BoundsOfOthers(kWhite).right, other.BoundsOfOthers(kWhite).right);
+}
+
+TEST_F(Chart, SingleItemIsAFullRing)
+{
+    Add(1);
+    const ts::Picture look = LookOf(m_chart);
+    for (const CPoint point : {CPoint(103, 75), CPoint(58, 120), CPoint(13, 75), CPoint(58, 30)}) {
+        EXPECT_TRUE(ts::PixelIs(look, point.x, point.y, kSeries[0])) << point.x << "," << point.y;
+    }
+    EXPECT_TRUE(ts::PixelIs(look, 58, 75, kWhite));
+    const CRect ring = look.Crop(CRect(0, 0, 112, 199)).BoundsOfOthers(kWhite);
+    EXPECT_NEAR(9, ring.left, 1);
+    EXPECT_NEAR(107, ring.right, 1);
+    EXPECT_NEAR(26, ring.top, 1);
+    EXPECT_NEAR(124, ring.bottom, 1);
+}
+
+TEST_F(Chart, RingRunsClockwiseFromTheRight)
+{
+    Add(4);
+    const ts::Picture look = LookOf(m_chart);
+    EXPECT_TRUE(ts::PixelIs(look, 58 + 32, 75 + 32, kSeries[0]));
+    EXPECT_TRUE(ts::PixelIs(look, 58 - 32, 75 + 32, kSeries[1]));
+    EXPECT_TRUE(ts::PixelIs(look, 58 - 32, 75 - 32, kSeries[2]));
+    EXPECT_TRUE(ts::PixelIs(look, 58 + 32, 75 - 32, kSeries[3]));
+}
+
+TEST_F(Chart, LongestBarIsNinetyPixelsAndItsCaps)
+{
+    ASSERT_TRUE(m_chart.SetType(1));
+    m_chart.AddItem(L"All", 300);
+    m_chart.AddItem(L"Third", 100);
+    const ts::Picture look = LookOf(m_chart);
+    const CRect all = look.Crop(CRect(0, 0, 115, 50)).BoundsOf(kSeries[0]);
+    EXPECT_NEAR(9, all.left, 1);
+    EXPECT_NEAR(107, all.right, 1);
+    EXPECT_NEAR(29, all.top, 1);
+    EXPECT_NEAR(37, all.bottom, 1);
+    const CRect third = look.Crop(CRect(0, 0, 115, 70)).BoundsOf(kSeries[1]);
+    EXPECT_NEAR(13 + 30 + 4, third.right, 1);
+    EXPECT_NEAR(53, (third.top + third.bottom) / 2, 1);
+}
+
+TEST_F(Chart, BarWithoutValueIsADot)
+{
+    m_chart.SetType(1);
+    m_chart.AddItem(L"One", 1);
+    m_chart.AddItem(L"None", 0);
+    const CRect dot = LookOf(m_chart).Crop(CRect(0, 0, 115, 70)).BoundsOf(kSeries[1]);
+    EXPECT_NEAR(13, (dot.left + dot.right) / 2, 1);
+    EXPECT_NEAR(8, dot.Width(), 2);
+    EXPECT_NEAR(8, dot.Height(), 2);
+}
+
+TEST_F(Chart, HugeValuesDoNotOverflow)
+{
+    m_chart.SetType(1);
+    m_chart.AddItem(L"Much", UINT_MAX);
+    m_chart.AddItem(L"Much", UINT_MAX);
+    const CRect bar = LookOf(m_chart).Crop(CRect(0, 0, 115, 50)).BoundsOf(kSeries[0]);
+    EXPECT_NEAR(107, bar.right, 1);
+}
+
+TEST_F(Chart, OnlyTheTwoTypesAreTaken)
+{
+    Add(1);
+    const ts::Picture ring = LookOf(m_chart);
+    ::ValidateRect(m_chart, nullptr);
+    for (const int type : {0, 3, -1}) {
+        EXPECT_FALSE(m_chart.SetType(type)) << type;
+    }
+    EXPECT_FALSE(::GetUpdateRect(m_chart, nullptr, FALSE));
+    EXPECT_TRUE(ts::SamePicture(ring, LookOf(m_chart)));
+    EXPECT_TRUE(m_chart.SetType(1));
+    EXPECT_TRUE(::GetUpdateRect(m_chart, nullptr, FALSE));
+    EXPECT_FALSE(ts::SamePicture(ring, LookOf(m_chart)));
+    EXPECT_TRUE(m_chart.SetType(2));
+    EXPECT_TRUE(ts::SamePicture(ring, LookOf(m_chart)));
+}
+
+TEST_F(Chart, ChangesOfTheItemsRepaint)
+{
+    ::ValidateRect(m_chart, nullptr);
+    Add(1);
+    EXPECT_TRUE(::GetUpdateRect(m_chart, nullptr, FALSE));
+    ::ValidateRect(m_chart, nullptr);
+    m_chart.RemoveAll();
+    EXPECT_TRUE(::GetUpdateRect(m_chart, nullptr, FALSE));
+    EXPECT_TRUE(ts::AreaIs(LookOf(m_chart), CRect(0, 0, 299, 199), kWhite));
+}
+
+TEST_F(Chart, ErasesNothing)
+{
+    EXPECT_EQ(TRUE, m_chart.SendMessage(WM_ERASEBKGND, 0));
+}
+
+TEST_F(Chart, ExtremeTextsAndCountsAreNoHarm)
+{
+    m_chart.AddItem(nullptr, 1);
+    m_chart.AddItem(CString(L'x', 5000), 2);
+    Add(500);
+    m_chart.SetWindowText(CString(L'y', 5000));
+    EXPECT_EQ(kSeries[0], Swatch(LookOf(m_chart), 0));
+}
+
+TEST(ChartAlone, TakesItemsWithoutAWindow)
+{
+    CChartCtrl chart;
+    chart.AddItem(L"x", 1);
+    EXPECT_TRUE(chart.SetType(1));
+    chart.RemoveAll();
+}
+
+TEST_F(Chart, PaintingLeavesNothingBehind)
+{
+    m_chart.SetWindowText(L"Title");
+    Add(3);
+    EXPECT_TRUE(ts::NoLeak([this] { LookOf(m_chart); }));
+}
+
+} // namespace

@@ -1,0 +1,140 @@
+#include <tests/lists/Lists.h>
+
+namespace
+{
+
+constexpr COLORREF kSoft = RGB(236, 245, 250);
+constexpr COLORREF kInk = RGB(0, 0, 0);
+
+class Info : public testing::Test
+{
+  protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_info.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 100), &m_host, kControlId));
+    }
+
+    /** What GDI draws for texts at places. */
+    static ts::Picture Texts(const std::vector<std::tuple<CRect, CString, UINT>>& texts)
+    {
+        return ts::DrawTo(
+            200, 100,
+            [&texts](HDC dc) {
+                ::SelectObject(dc, GuiFont());
+                ::SetBkMode(dc, TRANSPARENT);
+                for (auto [rect, text, format] : texts) {
+                    ::DrawTextW(dc, text, -1, &rect, format);
+                }
+            },
+            kSoft);
+    }
+
+    static int Width(const wchar_t* text)
+    {
+        CClientDC dc(nullptr);
+        const HGDIOBJ old = ::SelectObject(dc, GuiFont());
+        const int width = dc.GetTextExtent(text).cx;
+        ::SelectObject(dc, old);
+        return width;
+    }
+
+    static constexpr UINT kLine = DT_SINGLELINE | DT_END_ELLIPSIS;
+    static constexpr UINT kLast = DT_WORDBREAK | DT_EDITCONTROL | DT_END_ELLIPSIS;
+    const wchar_t* const kLong = L"a value that is much too long for a single line of this panel";
+
+    ts::AfxHost m_host{220, 120};
+    CQorInfo m_info;
+};
+
+TEST_F(Info, WithoutItemsIsTheSoftColour)
+{
+    EXPECT_TRUE(ts::AreaIs(LookOf(m_info), CRect(0, 0, 200, 100), kSoft));
+}
+
+TEST_F(Info, RowsAreSixteenPixelsHighAndValuesStandRightOfTheWidestLabel)
+{
+    m_info.AddItem(L"A", L"one");
+    m_info.AddItem(L"Wide label", L"two");
+    m_info.AddItem(L"B", L"three");
+    const int left = Width(L"Wide label:") + 6;
+    const ts::Picture expected = Texts({{CRect(0, 0, Width(L"A:"), 16), L"A:", kLine},
+                                        {CRect(0, 16, Width(L"Wide label:"), 32), L"Wide label:", kLine},
+                                        {CRect(0, 32, Width(L"B:"), 48), L"B:", kLine},
+                                        {CRect(left, 0, 200, 16), L"one", kLine},
+                                        {CRect(left, 16, 200, 32), L"two", kLine},
+                                        {CRect(left, 32, 200, 100), L"three", kLast}});
+    EXPECT_TRUE(ts::SamePicture(expected, LookOf(m_info)));
+}
+
+TEST_F(Info, OnlyTheLastValueWraps)
+{
+    m_info.AddItem(L"A", kLong);
+    m_info.AddItem(L"B", kLong);
+    const int left = (std::max)(Width(L"A:"), Width(L"B:")) + 6;
+    const ts::Picture look = LookOf(m_info);
+    EXPECT_TRUE(ts::SamePicture(Texts({{CRect(0, 0, Width(L"A:"), 16), L"A:", kLine},
+                                       {CRect(0, 16, Width(L"B:"), 32), L"B:", kLine},
+                                       {CRect(left, 0, 200, 16), kLong, kLine},
+                                       {CRect(left, 16, 200, 100), kLong, kLast}}),
+                                look));
+    EXPECT_GT(look.BoundsOf(kInk).bottom, 32);
+}
+
+TEST_F(Info, OneItemWrapsToTheBottom)
+{
+    m_info.AddItem(L"A", kLong);
+    EXPECT_GT(LookOf(m_info).BoundsOf(kInk).bottom, 16);
+}
+
+TEST_F(Info, EmptyLabelHasNoColon)
+{
+    m_info.AddItem(L"", L"value");
+    EXPECT_TRUE(ts::SamePicture(Texts({{CRect(6, 0, 200, 100), L"value", kLast}}), LookOf(m_info)));
+}
+
+TEST_F(Info, LabelWiderThanThePanelHidesTheValues)
+{
+    const CString wide(L'W', 60);
+    m_info.AddItem(wide, L"value");
+    m_info.AddItem(L"", L"value");
+    EXPECT_EQ(CRect(0, 0, 0, 0), LookOf(m_info).Crop(CRect(0, 17, 200, 100)).BoundsOfOthers(kSoft));
+}
+
+TEST_F(Info, ChangesRepaint)
+{
+    ::ValidateRect(m_info, nullptr);
+    m_info.AddItem(L"A", L"b");
+    EXPECT_TRUE(::GetUpdateRect(m_info, nullptr, FALSE));
+    ::ValidateRect(m_info, nullptr);
+    m_info.RemoveAll();
+    EXPECT_TRUE(::GetUpdateRect(m_info, nullptr, FALSE));
+    EXPECT_TRUE(ts::AreaIs(LookOf(m_info), CRect(0, 0, 200, 100), kSoft));
+}
+
+TEST_F(Info, ErasesNothing)
+{
+    EXPECT_EQ(TRUE, m_info.SendMessage(WM_ERASEBKGND, 0));
+}
+
+TEST_F(Info, MissingAndHugeTextsAreNoHarm)
+{
+    m_info.AddItem(nullptr, nullptr);
+    EXPECT_TRUE(ts::AreaIs(LookOf(m_info), CRect(0, 0, 200, 100), kSoft));
+    m_info.AddItem(L"A", CString(L'x', 20000));
+    EXPECT_GT(LookOf(m_info).Count(kInk), 0);
+}
+
+TEST(InfoAlone, TakesItemsWithoutAWindow)
+{
+    CQorInfo info;
+    info.AddItem(L"A", L"b");
+    info.RemoveAll();
+}
+
+TEST_F(Info, PaintingLeavesNothingBehind)
+{
+    m_info.AddItem(L"A", L"b");
+    EXPECT_TRUE(ts::NoLeak([this] { LookOf(m_info); }));
+}
+
+} // namespace

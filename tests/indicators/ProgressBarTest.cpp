@@ -1,0 +1,247 @@
+#include <tests/lists/Lists.h>
+
+#include <QorUI/indicators/ProgressParts.h>
+
+namespace
+{
+
+constexpr COLORREF kOuter = RGB(128, 128, 128);
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+
+TEST(ProgressFraction, IsThePassedPartOfTheRange)
+{
+    EXPECT_DOUBLE_EQ(0.0, QorProgress::Fraction(10, 10, 30));
+    EXPECT_DOUBLE_EQ(0.25, QorProgress::Fraction(15, 10, 30));
+    EXPECT_DOUBLE_EQ(1.0, QorProgress::Fraction(30, 10, 30));
+    EXPECT_DOUBLE_EQ(1.5, QorProgress::Fraction(40, 10, 30));
+}
+
+TEST(ProgressFraction, RangeWithoutWidthIsNothingDone)
+{
+    EXPECT_DOUBLE_EQ(0.0, QorProgress::Fraction(5, 5, 5));
+    EXPECT_DOUBLE_EQ(0.0, QorProgress::Fraction(9, 5, 5));
+}
+
+TEST(ProgressFraction, WholeRangeOfIntegersDoesNotOverflow)
+{
+    EXPECT_DOUBLE_EQ(1.0, QorProgress::Fraction(INT_MAX, INT_MIN, INT_MAX));
+    EXPECT_NEAR(0.5, QorProgress::Fraction(0, INT_MIN, INT_MAX), 1e-6);
+}
+
+TEST(ProgressFraction, FillIsCutOffToWholePixels)
+{
+    const CRect area(2, 2, 98, 18);
+    EXPECT_EQ(CRect(2, 2, 2, 18), QorProgress::Filled(area, 0));
+    EXPECT_EQ(CRect(2, 2, 33, 18), QorProgress::Filled(area, 0.33)); // 31.68
+    EXPECT_EQ(area, QorProgress::Filled(area, 1));
+    EXPECT_EQ(area, QorProgress::Filled(area, 1.5));
+    EXPECT_EQ(CRect(2, 2, 2, 18), QorProgress::Filled(area, -1));
+    EXPECT_EQ(CRect(33, 2, 98, 18), QorProgress::Empty(area, CRect(2, 2, 33, 18)));
+}
+
+class ProgressBar : public testing::Test
+{
+  protected:
+    void SetUp() override
+    {
+        m_host.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(GuiFont()), FALSE);
+        ASSERT_TRUE(m_bar.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 210, 60), &m_host, kControlId));
+        m_bar.SetRange32(0, 200);
+    }
+
+    static int Height(const CWnd& wnd)
+    {
+        CRect rect;
+        wnd.GetWindowRect(rect);
+        return rect.Height();
+    }
+
+    ts::Picture Bar(int position)
+    {
+        m_bar.SetPos(position);
+        return LookOf(m_bar);
+    }
+
+    /** What the pattern looks like at a place of the bar. */
+    static ts::Picture Pattern()
+    {
+        CBitmap bitmap;
+        bitmap.Attach(::LoadBitmapW(::GetModuleHandleW(L"QorUI.dll"), MAKEINTRESOURCEW(212)));
+        return ts::PictureOf(bitmap);
+    }
+
+    ts::AfxHost m_host{240, 100};
+    CProgressBar m_bar;
+};
+
+TEST_F(ProgressBar, TakesItsHeightFromThePattern)
+{
+    EXPECT_EQ(18, Pattern().Height());
+    EXPECT_EQ(20, Height(m_bar));
+    CRect rect;
+    m_bar.GetWindowRect(rect);
+    EXPECT_EQ(200, rect.Width());
+}
+
+TEST_F(ProgressBar, TakesItsHeightWhenItTakesABarOver)
+{
+    const HWND window = ::CreateWindowExW(0, PROGRESS_CLASSW, L"", WS_CHILD | WS_VISIBLE, 10, 50, 120, 40,
+                                          m_host.m_hWnd, nullptr, nullptr, nullptr);
+    CProgressBar bar;
+    ASSERT_TRUE(bar.SubclassWindow(window));
+    EXPECT_EQ(20, Height(bar));
+    bar.DestroyWindow();
+}
+
+TEST_F(ProgressBar, HasTwoFrames)
+{
+    const ts::Picture look = Bar(50);
+    EXPECT_TRUE(ts::FrameIs(look, CRect(0, 0, 200, 20), kOuter));
+    EXPECT_TRUE(ts::FrameIs(look, CRect(1, 1, 199, 19), kWhite));
+}
+
+TEST_F(ProgressBar, FillsWithThePatternAndTheRestWithTheWindowColour)
+{
+    m_bar.SetFormat(L"");
+    const ts::Picture look = Bar(50); // a quarter of 196 pixels
+    const ts::Picture pattern = Pattern();
+    for (int y = 2; y < 18; ++y) {
+        ASSERT_TRUE(ts::PixelIs(look, 2, y, pattern.At(2, y))) << y;
+        ASSERT_TRUE(ts::PixelIs(look, 50, y, pattern.At(50 % pattern.Width(), y))) << y;
+    }
+    EXPECT_TRUE(ts::AreaIs(look, CRect(51, 2, 198, 18), ::GetSysColor(COLOR_WINDOW)));
+}
+
+TEST_F(ProgressBar, TextHasTwoColours)
+{
+    const ts::Picture empty = Bar(0);
+    EXPECT_GT(empty.Count(::GetSysColor(COLOR_HIGHLIGHT)), 5);
+    const ts::Picture full = Bar(200);
+    EXPECT_EQ(0, full.Count(::GetSysColor(COLOR_HIGHLIGHT)));
+    m_bar.SetFormat(L"");
+    EXPECT_FALSE(ts::SamePicture(full, Bar(200)));
+}
+
+TEST_F(ProgressBar, TextIsThePercentageCutOff)
+{
+    const ts::Picture percent = Bar(67); // 33.5
+    m_bar.SetFormat(L"33%%");
+    EXPECT_TRUE(ts::SamePicture(percent, Bar(67)));
+    m_bar.SetFormat(L"34%%");
+    EXPECT_FALSE(ts::SamePicture(percent, Bar(67)));
+    m_bar.SetFormat(nullptr);
+    EXPECT_TRUE(ts::SamePicture(percent, Bar(67)));
+}
+
+TEST_F(ProgressBar, FormatGetsTheRawPosition)
+{
+    m_bar.SetFormat(L"%d files");
+    const ts::Picture formatted = Bar(67);
+    m_bar.SetFormat(L"67 files");
+    EXPECT_TRUE(ts::SamePicture(formatted, Bar(67)));
+}
+
+TEST_F(ProgressBar, EmptyFormatMeansNoText)
+{
+    m_bar.SetFormat(L"");
+    EXPECT_TRUE(ts::AreaIs(Bar(0), CRect(2, 2, 198, 18), ::GetSysColor(COLOR_WINDOW)));
+}
+
+TEST_F(ProgressBar, SetPosGivesTheFormerPosition)
+{
+    EXPECT_EQ(0, m_bar.SetPos(30));
+    EXPECT_EQ(30, m_bar.SetPos(200));
+    EXPECT_EQ(200, m_bar.GetPos());
+}
+
+TEST_F(ProgressBar, EveryStepRepaintsTheWholeBar)
+{
+    const auto expectWhole = [this](const char* what) {
+        CRect update;
+        ASSERT_TRUE(::GetUpdateRect(m_bar, &update, FALSE)) << what;
+        EXPECT_EQ(CRect(0, 0, 200, 20), update) << what;
+        ::ValidateRect(m_bar, nullptr);
+    };
+    LookOf(m_bar);
+    m_bar.SetPos(200);
+    expectWhole("the end");
+    m_bar.SetPos(20);
+    expectWhole("a position");
+    m_bar.OffsetPos(5);
+    expectWhole("an offset");
+    m_bar.StepIt();
+    expectWhole("a step");
+}
+
+TEST_F(ProgressBar, ReachingTheEndErasesBeforePainting)
+{
+    LookOf(m_bar);
+    ts::MessageRecorder log(m_bar);
+    log.RecordOnly({WM_ERASEBKGND});
+    m_bar.SetPos(100);
+    m_bar.UpdateWindow();
+    const size_t before = log.Count(ts::Msg(WM_ERASEBKGND));
+    m_bar.SetPos(200);
+    m_bar.UpdateWindow();
+    EXPECT_GT(log.Count(ts::Msg(WM_ERASEBKGND)), before);
+}
+
+TEST_F(ProgressBar, CalculatesWithItsRange)
+{
+    m_bar.SetRange32(-50, 50);
+    EXPECT_DOUBLE_EQ(0.5, m_bar.CalcFraction(0));
+    EXPECT_DOUBLE_EQ(1.0, m_bar.CalcFraction(50));
+    EXPECT_DOUBLE_EQ(1.1, m_bar.CalcFraction(60));
+}
+
+TEST_F(ProgressBar, RangeWithoutWidthIsPainted)
+{
+    m_bar.SetRange32(5, 5);
+    EXPECT_TRUE(ts::FrameIs(Bar(5), CRect(0, 0, 200, 20), kOuter));
+}
+
+TEST_F(ProgressBar, VerticalBarPaintsNothing)
+{
+    m_bar.ModifyStyle(0, PBS_VERTICAL);
+    {
+        CClientDC dc(&m_bar);
+        dc.FillSolidRect(0, 0, 200, 20, RGB(255, 0, 255));
+    }
+    const ts::Picture look = Bar(100);
+    EXPECT_TRUE(ts::AreaIs(look, CRect(0, 0, 200, 20), RGB(255, 0, 255)));
+    EXPECT_FALSE(::GetUpdateRect(m_bar, nullptr, FALSE));
+}
+
+TEST_F(ProgressBar, ErasesNothing)
+{
+    EXPECT_EQ(TRUE, m_bar.SendMessage(WM_ERASEBKGND, 0));
+}
+
+TEST_F(ProgressBar, CanBeCreatedAgain)
+{
+    m_bar.DestroyWindow();
+    ASSERT_TRUE(m_bar.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 210, 60), &m_host, kControlId));
+    m_bar.SetFormat(L"");
+    m_bar.SetRange32(0, 200);
+    EXPECT_TRUE(ts::PixelIs(Bar(200), 100, 9, Pattern().At(100 % Pattern().Width(), 9)));
+}
+
+TEST(ProgressBarAlone, WorksWithoutAWindow)
+{
+    CProgressBar bar;
+    EXPECT_EQ(0, bar.SetPos(5));
+    EXPECT_DOUBLE_EQ(0.0, bar.CalcFraction(5));
+}
+
+TEST_F(ProgressBar, LeavesNothingBehind)
+{
+    EXPECT_TRUE(ts::NoLeak([this] {
+        CProgressBar bar;
+        bar.Create(WS_CHILD | WS_VISIBLE, CRect(10, 50, 210, 90), &m_host, 5);
+        bar.SetPos(40);
+        bar.UpdateWindow();
+        bar.DestroyWindow();
+    }));
+}
+
+} // namespace

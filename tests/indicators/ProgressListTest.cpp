@@ -1,0 +1,163 @@
+#include <tests/lists/Lists.h>
+
+#include <QorUI/indicators/ProgressParts.h>
+
+namespace
+{
+
+constexpr COLORREF kGreen = RGB(6, 177, 36);
+
+TEST(ProgressCell, BarStandsBehindOneToThreeCharacters)
+{
+    for (const wchar_t* text : {L"5|x", L"45|x", L"150|x"}) {
+        EXPECT_TRUE(QorProgress::ParseCell(text).valid) << ts::ToUtf8(text);
+    }
+    for (const wchar_t* text : {L"|x", L"1234|x", L"45", L""}) {
+        EXPECT_FALSE(QorProgress::ParseCell(text).valid) << ts::ToUtf8(text);
+    }
+}
+
+TEST(ProgressCell, HasPercentAndLabel)
+{
+    const QorProgress::Cell cell = QorProgress::ParseCell(L"45|Copying | more");
+    EXPECT_EQ(45, cell.percent);
+    EXPECT_STREQ(L"Copying | more", cell.label);
+    EXPECT_EQ(0, QorProgress::ParseCell(L"x|y").percent);
+    EXPECT_TRUE(QorProgress::ParseCell(L"7|").label.IsEmpty());
+}
+
+TEST(ProgressCell, FillIsLimitedToTheBar)
+{
+    const CRect area(10, 2, 60, 12);
+    EXPECT_EQ(CRect(10, 2, 33, 12), QorProgress::FilledCell(area, 45)); // 22.5 is rounded
+    EXPECT_EQ(area, QorProgress::FilledCell(area, 150));
+    EXPECT_EQ(CRect(10, 2, 10, 12), QorProgress::FilledCell(area, -9));
+}
+
+class CTestList : public CProgressList
+{
+  public:
+    using CProgressList::DrawSubItem;
+    using CProgressList::OnCustomDraw;
+};
+
+class ProgressList : public testing::Test
+{
+  protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_list.Create(WS_CHILD | WS_VISIBLE | LVS_REPORT, CRect(0, 0, 300, 120), &m_host, kControlId));
+        ::SendMessageW(m_list, WM_SETFONT, reinterpret_cast<WPARAM>(GuiFont()), FALSE);
+        m_list.InsertColumn(0, L"Name", LVCFMT_LEFT, 100);
+        m_list.InsertColumn(1, L"Progress", LVCFMT_LEFT, 150);
+        m_list.InsertItem(0, L"A file");
+    }
+
+    /** The cell of row 0 in column 1, painted by the list. */
+    ts::Picture Cell(const wchar_t* text)
+    {
+        m_list.SetItemText(0, 1, text);
+        CRect rect;
+        m_list.GetSubItemRect(0, 1, LVIR_BOUNDS, rect);
+        return LookOf(m_list).Crop(rect);
+    }
+
+    LRESULT Stage(DWORD stage)
+    {
+        NMLVCUSTOMDRAW draw = {};
+        draw.nmcd.dwDrawStage = stage;
+        LRESULT result = 77;
+        m_list.OnCustomDraw(&draw.nmcd.hdr, &result);
+        return result;
+    }
+
+    ts::AfxHost m_host{320, 140};
+    CTestList m_list;
+};
+
+TEST_F(ProgressList, AsksForEveryCell)
+{
+    EXPECT_EQ(0x20, Stage(CDDS_PREPAINT));
+    EXPECT_EQ(0x20, Stage(CDDS_ITEMPREPAINT));
+    EXPECT_EQ(0, Stage(CDDS_POSTPAINT));
+    EXPECT_EQ(0, Stage(CDDS_ITEMPOSTPAINT));
+}
+
+TEST_F(ProgressList, DrawsTheFillAndTheRest)
+{
+    const ts::Picture cell = Cell(L"50|");
+    const int right = 150 - 3;
+    const int middle = 3 + (150 - 6) / 2;
+    EXPECT_TRUE(ts::AreaIs(cell, CRect(3, 2, middle, cell.Height() - 2), kGreen));
+    EXPECT_TRUE(ts::AreaIs(cell, CRect(middle, 2, right, cell.Height() - 2), ::GetSysColor(COLOR_BTNFACE)));
+    EXPECT_TRUE(ts::FrameIs(cell, CRect(2, 1, 148, cell.Height() - 1), RGB(0, 0, 0)));
+}
+
+TEST_F(ProgressList, TooMuchIsAFullBar)
+{
+    EXPECT_TRUE(ts::AreaIs(Cell(L"150|"), CRect(3, 2, 147, 10), kGreen));
+    EXPECT_TRUE(ts::SamePicture(Cell(L"150|Done"), Cell(L"100|Done")));
+}
+
+TEST_F(ProgressList, LabelHasTwoColours)
+{
+    const ts::Picture empty = Cell(L"0|Label");
+    EXPECT_GT(empty.Crop(CRect(4, 3, 146, empty.Height() - 3)).Count(::GetSysColor(COLOR_WINDOWTEXT)), 5);
+    const ts::Picture full = Cell(L"100|Label");
+    EXPECT_GT(full.Count(::GetSysColor(COLOR_WINDOW)), 5);
+    EXPECT_EQ(0, full.Crop(CRect(4, 3, 146, full.Height() - 3)).Count(::GetSysColor(COLOR_WINDOWTEXT)));
+}
+
+TEST_F(ProgressList, OtherTextsAreDrawnAsTheyAre)
+{
+    for (const wchar_t* text : {L"1234|x", L"|x", L"plain"}) {
+        EXPECT_EQ(0, Cell(text).Count(kGreen)) << ts::ToUtf8(text);
+        EXPECT_GT(Cell(text).Count(::GetSysColor(COLOR_WINDOWTEXT)), 0) << ts::ToUtf8(text);
+    }
+}
+
+TEST_F(ProgressList, FirstColumnTakesTheWholeRow)
+{
+    m_list.SetItemText(0, 0, L"100|");
+    const ts::Picture look = ts::DrawTo(300, 120, [this](HDC dc) {
+        NMLVCUSTOMDRAW draw = {};
+        draw.nmcd.hdc = dc;
+        EXPECT_EQ(CDRF_SKIPDEFAULT, m_list.DrawSubItem(&draw));
+    });
+    CRect row;
+    m_list.GetItemRect(0, row, LVIR_BOUNDS);
+    row.DeflateRect(3, 2);
+    EXPECT_EQ(row, look.BoundsOf(kGreen));
+}
+
+TEST_F(ProgressList, DrawingLeavesNoClipRegion)
+{
+    m_list.SetItemText(0, 1, L"50|Label");
+    ts::DrawTo(300, 120, [this](HDC dc) {
+        NMLVCUSTOMDRAW draw = {};
+        draw.nmcd.hdc = dc;
+        draw.iSubItem = 1;
+        EXPECT_EQ(CDRF_SKIPDEFAULT, m_list.DrawSubItem(&draw));
+        CRgn region;
+        region.CreateRectRgn(0, 0, 0, 0);
+        EXPECT_EQ(0, ::GetClipRgn(dc, region));
+    });
+}
+
+TEST_F(ProgressList, MissingCellsAreLeftToTheControl)
+{
+    EXPECT_EQ(CDRF_DODEFAULT, m_list.DrawSubItem(nullptr));
+    ts::DrawTo(10, 10, [this](HDC dc) {
+        NMLVCUSTOMDRAW draw = {};
+        draw.nmcd.hdc = dc;
+        draw.nmcd.dwItemSpec = 99;
+        EXPECT_EQ(CDRF_DODEFAULT, m_list.DrawSubItem(&draw));
+    });
+}
+
+TEST_F(ProgressList, PaintingLeavesNothingBehind)
+{
+    EXPECT_TRUE(ts::NoLeak([this] { Cell(L"45|Copying"); }));
+}
+
+} // namespace

@@ -1,0 +1,168 @@
+#include <tests/lists/Lists.h>
+
+#include <array>
+
+namespace
+{
+
+constexpr COLORREF kBack = RGB(186, 210, 234);
+constexpr COLORREF kDark = RGB(140, 172, 213);
+constexpr COLORREF kLight = RGB(230, 239, 251);
+constexpr COLORREF kInk = RGB(0, 0, 0);
+
+class CTestBar : public CQorStatusBar
+{
+  public:
+    using CQorStatusBar::OnPaint;
+};
+
+class StatusBar : public testing::Test
+{
+  protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_bar.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 400, 22), &m_host, kControlId));
+    }
+
+    void SetThree()
+    {
+        std::array<int, 3> widths = {0, 120, 80};
+        EXPECT_TRUE(m_bar.SetParts(3, widths.data()));
+    }
+
+    static ts::Picture Text(const CRect& rect, const wchar_t* text)
+    {
+        return ts::DrawTo(
+            400, 22,
+            [&](HDC dc) {
+                ::SelectObject(dc, GuiFont());
+                ::SetBkMode(dc, TRANSPARENT);
+                CRect place(rect);
+                ::DrawTextW(dc, text, -1, &place, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS);
+            },
+            kBack);
+    }
+
+    ts::AfxHost m_host{420, 60};
+    CTestBar m_bar;
+};
+
+TEST_F(StatusBar, PartsAreLaidOutFromTheRight)
+{
+    SetThree();
+    const ts::Picture look = LookOf(m_bar);
+    for (const int left : {320, 200}) {
+        EXPECT_TRUE(ts::AreaIs(look, CRect(left, 2, left + 1, 20), kDark)) << left;
+        EXPECT_TRUE(ts::AreaIs(look, CRect(left + 1, 2, left + 2, 20), kLight)) << left;
+    }
+    EXPECT_TRUE(ts::AreaIs(look, CRect(0, 0, 400, 2), kBack));
+    EXPECT_TRUE(ts::AreaIs(look, CRect(0, 20, 400, 22), kBack));
+    EXPECT_EQ(2 * 18, look.Count(kDark));
+    EXPECT_EQ(2 * 18, look.Count(kLight));
+}
+
+TEST_F(StatusBar, TextsStandSixPixelsInsideTheirParts)
+{
+    SetThree();
+    const std::array<CRect, 3> places = {CRect(6, 2, 200, 20), CRect(206, 2, 320, 20), CRect(326, 2, 400, 20)};
+    for (int part = 0; part < 3; ++part) {
+        SetThree();
+        EXPECT_TRUE(m_bar.SetText(part, L"Text"));
+        const CRect inside = places.at(static_cast<size_t>(part));
+        EXPECT_TRUE(ts::SamePicture(Text(inside, L"Text").Crop(inside), LookOf(m_bar).Crop(inside))) << part;
+    }
+}
+
+TEST_F(StatusBar, WidthOfTheFirstPartIsIgnored)
+{
+    std::array<int, 2> widths = {500, 100};
+    m_bar.SetParts(2, widths.data());
+    m_bar.SetText(0, L"Text");
+    const CRect inside(6, 2, 300, 20);
+    EXPECT_TRUE(ts::SamePicture(Text(inside, L"Text").Crop(inside), LookOf(m_bar).Crop(inside)));
+}
+
+TEST_F(StatusBar, LongTextIsCutInItsPart)
+{
+    SetThree();
+    m_bar.SetText(1, CString(L'W', 200));
+    const ts::Picture look = LookOf(m_bar);
+    EXPECT_EQ(0, look.Crop(CRect(322, 0, 400, 22)).Count(kInk));
+    EXPECT_GT(look.Crop(CRect(206, 0, 320, 22)).Count(kInk), 0);
+}
+
+TEST_F(StatusBar, SetPartsReplacesAllTexts)
+{
+    SetThree();
+    m_bar.SetText(0, L"Text");
+    SetThree();
+    EXPECT_EQ(0, LookOf(m_bar).Count(kInk));
+}
+
+TEST_F(StatusBar, ChangesRepaint)
+{
+    SetThree();
+    EXPECT_TRUE(::GetUpdateRect(m_bar, nullptr, FALSE));
+    ::ValidateRect(m_bar, nullptr);
+    m_bar.SetText(0, L"Text");
+    EXPECT_TRUE(::GetUpdateRect(m_bar, nullptr, FALSE));
+}
+
+TEST_F(StatusBar, PartsThatAreNotThereAreRefused)
+{
+    SetThree();
+    EXPECT_FALSE(m_bar.SetText(3, L"x"));
+    EXPECT_FALSE(m_bar.SetText(INT_MAX, L"x"));
+    bool thrown = false;
+    try {
+        m_bar.SetText(-1, L"x");
+    } catch (CInvalidArgException* error) {
+        thrown = true;
+        error->Delete();
+    }
+    EXPECT_TRUE(thrown);
+}
+
+TEST_F(StatusBar, PaintingWithoutPartsThrows)
+{
+    bool thrown = false;
+    try {
+        m_bar.OnPaint();
+    } catch (CInvalidArgException* error) {
+        thrown = true;
+        error->Delete();
+    }
+    EXPECT_TRUE(thrown);
+    ::ValidateRect(m_bar, nullptr);
+    SetThree();
+    EXPECT_TRUE(ts::PixelIs(LookOf(m_bar), 1, 1, kBack));
+}
+
+TEST_F(StatusBar, TextNeedsItsWidthAndTwelvePixels)
+{
+    CClientDC dc(&m_bar);
+    const HGDIOBJ old = ::SelectObject(dc, GuiFont());
+    const int width = dc.GetTextExtent(L"Some text", 9).cx;
+    ::SelectObject(dc, old);
+    EXPECT_EQ(width + 12, m_bar.GetTextExtent(L"Some text"));
+    EXPECT_EQ(12, m_bar.GetTextExtent(L""));
+    EXPECT_EQ(12, m_bar.GetTextExtent(nullptr));
+}
+
+TEST_F(StatusBar, BadCountsAreNoHarm)
+{
+    EXPECT_TRUE(m_bar.SetParts(-5, nullptr));
+    EXPECT_FALSE(m_bar.SetText(0, L"x"));
+    EXPECT_TRUE(m_bar.SetParts(2, nullptr));
+    EXPECT_TRUE(m_bar.SetText(1, nullptr));
+    EXPECT_TRUE(ts::PixelIs(LookOf(m_bar), 1, 1, kBack));
+}
+
+TEST_F(StatusBar, PaintingLeavesNothingBehind)
+{
+    SetThree();
+    m_bar.SetText(1, L"Text");
+    EXPECT_TRUE(ts::NoLeak([this] { LookOf(m_bar); }));
+}
+
+} // namespace

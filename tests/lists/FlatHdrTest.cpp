@@ -1,0 +1,306 @@
+#include "Lists.h"
+
+#include <QorUI/lists/HdrLayout.h>
+
+namespace
+{
+
+constexpr COLORREF kBack = RGB(242, 242, 242);
+constexpr COLORREF kLine = RGB(213, 213, 213);
+constexpr COLORREF kOtherBack = RGB(200, 220, 255);
+constexpr COLORREF kOtherLine = RGB(10, 80, 160);
+
+TEST(HdrLayout, CentreIsTestedBeforeRight)
+{
+    EXPECT_EQ(0x8924u, QorHdr::TextFormat(HDF_LEFT));
+    EXPECT_EQ(0x8925u, QorHdr::TextFormat(HDF_CENTER));
+    EXPECT_EQ(0x8926u, QorHdr::TextFormat(HDF_RIGHT));
+    EXPECT_EQ(0x8925u, QorHdr::TextFormat(HDF_CENTER | HDF_RIGHT));
+}
+
+TEST(HdrLayout, TextKeepsSixPixelsOnBothSides)
+{
+    EXPECT_EQ(CRect(106, 0, 194, 20), CRect(QorHdr::TextRect({100, 0, 200, 20}, false, false)));
+}
+
+TEST(HdrLayout, SortedColumnKeepsEighteenPixelsForTheArrow)
+{
+    EXPECT_EQ(CRect(106, 0, 176, 20), CRect(QorHdr::TextRect({100, 0, 200, 20}, false, true)));
+}
+
+TEST(HdrLayout, PressedTextMovesRightAndDown)
+{
+    EXPECT_EQ(CRect(107, 2, 195, 20), CRect(QorHdr::TextRect({100, 0, 200, 20}, true, false)));
+}
+
+TEST(HdrLayout, ArrowStandsSixPixelsFromTheRight)
+{
+    EXPECT_EQ(CRect(188, 8, 194, 11), CRect(QorHdr::ArrowRect({100, 0, 200, 20})));
+    EXPECT_EQ(CRect(188, 11, 194, 14), CRect(QorHdr::ArrowRect({100, 2, 200, 23})));
+}
+
+class CTestHdr : public CFlatHdr
+{
+  public:
+    using CFlatHdr::DrawItem;
+};
+
+/** A header with three items in a window of its own. */
+class FlatHdr : public testing::Test
+{
+  protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_header.CHeaderCtrl::Create(WS_CHILD | WS_VISIBLE | HDS_BUTTONS, CRect(0, 0, 300, 20), &m_host,
+                                                 kControlId));
+        ::SendMessageW(m_header, WM_SETFONT, reinterpret_cast<WPARAM>(GuiFont()), FALSE);
+        Add(L"Name", 100, HDF_LEFT);
+        Add(L"Size", 80, HDF_RIGHT);
+        Add(L"Date", 60, HDF_CENTER);
+        m_header.SetOwnerDraw();
+        m_header.UpdateWindow();
+    }
+
+    void Add(const wchar_t* text, int width, int format)
+    {
+        HDITEMW item = {};
+        item.mask = HDI_TEXT | HDI_WIDTH | HDI_FORMAT;
+        item.pszText = const_cast<LPWSTR>(text);
+        item.cxy = width;
+        item.fmt = format | HDF_STRING;
+        ASSERT_GE(m_header.InsertItem(m_header.GetItemCount(), &item), 0);
+    }
+
+    int Format(int index)
+    {
+        HDITEMW item = {};
+        item.mask = HDI_FORMAT;
+        EXPECT_TRUE(m_header.GetItem(index, &item));
+        return item.fmt;
+    }
+
+    /** Item 0 as DrawItem draws it into a rectangle. */
+    ts::Picture Item(const CRect& rect, UINT state = 0, UINT index = 0)
+    {
+        return ts::DrawTo(rect.right + 10, rect.bottom + 10, [&](HDC dc) {
+            DRAWITEMSTRUCT draw = {};
+            draw.itemID = index;
+            draw.itemState = state;
+            draw.hwndItem = m_header;
+            draw.hDC = dc;
+            draw.rcItem = rect;
+            m_header.DrawItem(&draw);
+        });
+    }
+
+    ts::AfxHost m_host{340, 100};
+    CTestHdr m_header;
+};
+
+TEST_F(FlatHdr, BeginsUnsortedAscending)
+{
+    int direction = 7;
+    EXPECT_EQ(-1, m_header.GetSortColumn(&direction));
+    EXPECT_EQ(1, direction);
+    EXPECT_EQ(-1, m_header.GetSortColumn(nullptr));
+}
+
+TEST_F(FlatHdr, SettingTheSortColumnGivesTheFormerOne)
+{
+    EXPECT_EQ(-1, m_header.SetSortColumn(1, 0));
+    int direction = 7;
+    EXPECT_EQ(1, m_header.GetSortColumn(&direction));
+    EXPECT_EQ(0, direction);
+    EXPECT_EQ(1, m_header.SetSortColumn(-1, 5));
+    EXPECT_EQ(-1, m_header.GetSortColumn(&direction));
+    EXPECT_EQ(5, direction);
+}
+
+TEST_F(FlatHdr, SettingTheSortColumnInvalidatesTheWholeHeader)
+{
+    ::ValidateRect(m_header, nullptr);
+    m_header.SetSortColumn(0, 1);
+    CRect update;
+    ASSERT_TRUE(::GetUpdateRect(m_header, &update, FALSE));
+    CRect client;
+    m_header.GetClientRect(client);
+    EXPECT_EQ(client, update);
+}
+
+TEST_F(FlatHdr, OwnerDrawIsAddedToTheFormats)
+{
+    EXPECT_EQ(HDF_OWNERDRAW | HDF_STRING | HDF_LEFT, Format(0));
+    EXPECT_EQ(HDF_OWNERDRAW | HDF_STRING | HDF_RIGHT, Format(1));
+    EXPECT_EQ(HDF_OWNERDRAW | HDF_STRING | HDF_CENTER, Format(2));
+}
+
+TEST_F(FlatHdr, ItemsKeepAValue)
+{
+    EXPECT_EQ(0u, m_header.GetItemData(1));
+    EXPECT_TRUE(m_header.SetItemData(1, 0x123456789));
+    EXPECT_EQ(0x123456789u, m_header.GetItemData(1));
+    EXPECT_EQ(0u, m_header.GetItemData(0));
+}
+
+TEST_F(FlatHdr, ItemsThatAreNotThereHaveNoValue)
+{
+    EXPECT_FALSE(m_header.SetItemData(3, 1));
+    EXPECT_EQ(0u, m_header.GetItemData(3));
+    EXPECT_EQ(0u, m_header.GetItemData(-1));
+}
+
+TEST_F(FlatHdr, PaintsItemsWithSeparatorAndBottomLine)
+{
+    const ts::Picture look = LookOf(m_header);
+    EXPECT_TRUE(ts::PixelIs(look, 1, 1, kBack));
+    EXPECT_TRUE(ts::AreaIs(look, CRect(0, 19, 300, 20), kLine));
+    for (const int right : {100, 180, 240}) {
+        EXPECT_TRUE(ts::AreaIs(look, CRect(right - 1, 0, right, 20), kLine)) << right;
+    }
+    EXPECT_GT(look.Crop(CRect(6, 2, 60, 18)).Count(RGB(0, 0, 0)), 5);
+}
+
+TEST_F(FlatHdr, FillsTheSpaceRightOfTheLastColumn)
+{
+    EXPECT_TRUE(ts::AreaIs(LookOf(m_header), CRect(240, 0, 300, 19), kBack));
+}
+
+TEST_F(FlatHdr, PartialPaintsFillTheSpaceToo)
+{
+    LookOf(m_header);
+    const CRect part(250, 0, 290, 20);
+    {
+        CClientDC dc(&m_header);
+        dc.FillSolidRect(part, RGB(255, 0, 0));
+    }
+    for (int i = 0; i < 2; ++i) {
+        ::RedrawWindow(m_header, part, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    }
+    EXPECT_TRUE(ts::AreaIs(ts::CaptureWindow(m_header), CRect(240, 0, 300, 19), kBack));
+}
+
+TEST_F(FlatHdr, OtherColoursRepaintAtOnce)
+{
+    ::ValidateRect(m_header, nullptr);
+    m_header.SetColor(kOtherBack, kOtherLine);
+    EXPECT_TRUE(::GetUpdateRect(m_header, nullptr, FALSE));
+    m_header.SetSortColumn(0, 1);
+    const ts::Picture look = LookOf(m_header);
+    EXPECT_TRUE(ts::PixelIs(look, 1, 1, kOtherBack));
+    EXPECT_TRUE(ts::AreaIs(look, CRect(0, 19, 300, 20), kOtherLine));
+    EXPECT_TRUE(ts::AreaIs(look, CRect(240, 0, 300, 19), kOtherBack));
+    EXPECT_GT(look.Crop(CRect(88, 8, 94, 11)).Count(kOtherLine), 5);
+}
+
+TEST_F(FlatHdr, ArrowShowsTheDirection)
+{
+    for (const int direction : {1, 0, 7}) {
+        m_header.SetSortColumn(0, direction);
+        const ts::Picture arrow = Item(CRect(0, 0, 100, 20)).Crop(CRect(86, 7, 97, 13));
+        const auto row = [&arrow](int y) { return arrow.Crop(CRect(0, y, arrow.Width(), y + 1)).Count(kLine); };
+        EXPECT_GT(arrow.Count(kLine), 5) << direction;
+        EXPECT_EQ(direction != 0, row(1) < row(3)) << direction;
+    }
+}
+
+TEST_F(FlatHdr, OnlyTheSortColumnHasAnArrow)
+{
+    m_header.SetSortColumn(0, 1);
+    EXPECT_EQ(0, Item(CRect(0, 0, 100, 20), 0, 1).Crop(CRect(80, 4, 98, 16)).Count(kLine));
+    m_header.SetSortColumn(-1, 1);
+    EXPECT_EQ(0, Item(CRect(0, 0, 100, 20), 0, 0).Crop(CRect(80, 4, 98, 16)).Count(kLine));
+}
+
+TEST_F(FlatHdr, PressedTextIsOffsetAndTheArrowIsNot)
+{
+    m_header.SetSortColumn(0, 1);
+    const CRect rect(0, 0, 100, 20);
+    const ts::Picture up = Item(rect);
+    const ts::Picture down = Item(rect, ODS_SELECTED);
+    const CRect was = up.BoundsOf(RGB(0, 0, 0));
+    const CRect is = down.BoundsOf(RGB(0, 0, 0));
+    EXPECT_EQ(was.left + 1, is.left);
+    EXPECT_EQ(was.top + 1, is.top); // the rectangle's bottom stays, so its centre goes down by one
+    const CRect arrow(80, 4, 98, 16);
+    EXPECT_TRUE(ts::SamePicture(up.Crop(arrow), down.Crop(arrow)));
+}
+
+TEST_F(FlatHdr, OnlyThePressedStateAloneMovesTheText)
+{
+    const CRect rect(0, 0, 100, 20);
+    EXPECT_TRUE(ts::SamePicture(Item(rect), Item(rect, ODS_SELECTED | ODS_FOCUS)));
+    EXPECT_FALSE(ts::SamePicture(Item(rect), Item(rect, ODS_SELECTED)));
+}
+
+TEST_F(FlatHdr, NarrowColumnHasNoTextButItsLinesAndArrow)
+{
+    m_header.SetSortColumn(0, 1);
+    const ts::Picture look = Item(CRect(0, 0, 30, 20));
+    EXPECT_EQ(0, look.Count(RGB(0, 0, 0)));
+    EXPECT_TRUE(ts::PixelIs(look, 3, 3, kBack));
+    EXPECT_TRUE(ts::AreaIs(look, CRect(29, 0, 30, 20), kLine));
+    EXPECT_TRUE(ts::AreaIs(look, CRect(0, 19, 30, 20), kLine));
+    EXPECT_GT(look.Crop(CRect(17, 8, 25, 12)).Count(kLine), 5);
+    EXPECT_GT(Item(CRect(0, 0, 31, 20)).Count(RGB(0, 0, 0)), 0);
+}
+
+TEST_F(FlatHdr, DrawingLeavesTheDeviceContextAsItWas)
+{
+    ts::DrawTo(120, 30, [this](HDC dc) {
+        ::SetBkMode(dc, OPAQUE);
+        ::SetTextColor(dc, RGB(1, 2, 3));
+        ::SetBkColor(dc, RGB(4, 5, 6));
+        const HGDIOBJ font = ::GetCurrentObject(dc, OBJ_FONT);
+        DRAWITEMSTRUCT draw = {};
+        draw.hDC = dc;
+        draw.rcItem = CRect(0, 0, 100, 20);
+        m_header.DrawItem(&draw);
+        EXPECT_EQ(OPAQUE, ::GetBkMode(dc));
+        EXPECT_EQ(RGB(1, 2, 3), ::GetTextColor(dc));
+        EXPECT_EQ(RGB(4, 5, 6), ::GetBkColor(dc));
+        EXPECT_EQ(font, ::GetCurrentObject(dc, OBJ_FONT));
+    });
+}
+
+TEST_F(FlatHdr, LongTextIsCutWithoutHarm)
+{
+    Add(CString(L'x', 1000), 50, HDF_LEFT);
+    m_header.SetOwnerDraw();
+    EXPECT_TRUE(ts::PixelIs(LookOf(m_header), 241, 1, kBack));
+}
+
+TEST_F(FlatHdr, MissingDrawingDataIsIgnored)
+{
+    EXPECT_NO_THROW(m_header.DrawItem(nullptr));
+    DRAWITEMSTRUCT draw = {};
+    EXPECT_NO_THROW(m_header.DrawItem(&draw));
+}
+
+TEST(FlatHdrAlone, WorksWithoutAWindow)
+{
+    CFlatHdr header;
+    header.SetOwnerDraw();
+    header.SetColor(0, 0);
+    EXPECT_EQ(-1, header.SetSortColumn(4, 0));
+    EXPECT_EQ(4, header.GetSortColumn(nullptr));
+    EXPECT_EQ(0u, header.GetItemData(0));
+    EXPECT_FALSE(header.SetItemData(0, 1));
+}
+
+TEST_F(FlatHdr, LeavesNothingBehind)
+{
+    EXPECT_TRUE(ts::NoLeak([this] {
+        CFlatHdr header;
+        static_cast<CHeaderCtrl&>(header).Create(WS_CHILD | WS_VISIBLE, CRect(0, 30, 300, 50), &m_host, 5);
+        HDITEMW item = {};
+        item.mask = HDI_WIDTH | HDI_FORMAT;
+        item.cxy = 50;
+        item.fmt = HDF_OWNERDRAW;
+        header.InsertItem(0, &item);
+        header.SetSortColumn(0, 1);
+        header.UpdateWindow();
+        header.DestroyWindow();
+    }));
+}
+
+} // namespace

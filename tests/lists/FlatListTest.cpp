@@ -1,0 +1,348 @@
+#include "Lists.h"
+
+namespace
+{
+
+constexpr COLORREF kSoft = RGB(236, 245, 250);
+constexpr COLORREF kGrey = RGB(128, 128, 128);
+constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_SHOWSELALWAYS;
+const CRect kPlace(10, 10, 310, 210);
+
+HIMAGELIST StateImages(const CWnd& list)
+{
+    return reinterpret_cast<HIMAGELIST>(list.SendMessage(LVM_GETIMAGELIST, LVSIL_STATE));
+}
+
+/** A list that was created (not taken over), with two columns. */
+class FlatList : public testing::Test
+{
+  protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(Make(m_list));
+        ASSERT_EQ(0, m_list.InsertColumn(0, L"Name", LVCFMT_LEFT, 120));
+        ASSERT_EQ(1, m_list.InsertColumn(1, L"Size", LVCFMT_RIGHT, 80));
+    }
+
+    bool Make(CFlatList& list, DWORD style = kStyle)
+    {
+        const bool made = list.CreateEx(WS_EX_CLIENTEDGE, style, kPlace, &m_host, kControlId) != FALSE;
+        ::SendMessageW(list, WM_SETFONT, reinterpret_cast<WPARAM>(GuiFont()), FALSE);
+        return made;
+    }
+
+    HWND SystemList(DWORD style = kStyle)
+    {
+        return ::CreateWindowExW(WS_EX_CLIENTEDGE, WC_LISTVIEWW, L"", style, 10, 10, 300, 200, m_host.m_hWnd,
+                                 reinterpret_cast<HMENU>(kControlId), nullptr, nullptr);
+    }
+
+    void AddRows(int count)
+    {
+        for (int i = 0; i < count; ++i) {
+            CString text;
+            text.Format(L"Row %d", i);
+            m_list.InsertItem(LVIF_TEXT | LVIF_PARAM, i, text, 0, 0, 0, 100 + i);
+        }
+    }
+
+    static void ExpectSetUp(CFlatList& list)
+    {
+        EXPECT_EQ(0x4420u, list.GetExtendedStyle() & 0x4420u);
+        EXPECT_EQ(kSoft, list.GetBkColor());
+        EXPECT_EQ(kSoft, list.GetTextBkColor());
+        EXPECT_EQ(static_cast<CWnd*>(&list.GetFlatHdr()), CWnd::FromHandlePermanent(list.GetFlatHdr().m_hWnd));
+        EXPECT_EQ(reinterpret_cast<LRESULT>(list.GetFlatHdr().m_hWnd), list.SendMessage(LVM_GETHEADER));
+    }
+
+    ts::AfxHost m_host{330, 230};
+    CFlatList m_list;
+};
+
+TEST_F(FlatList, IsSetUpWhenCreated)
+{
+    ExpectSetUp(m_list);
+}
+
+TEST_F(FlatList, IsSetUpWhenItTakesAListOver)
+{
+    const HWND window = SystemList();
+    ::SendMessageW(window, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_GRIDLINES);
+    CFlatList list;
+    ASSERT_TRUE(list.SubclassWindow(window));
+    ExpectSetUp(list);
+    EXPECT_TRUE(list.GetExtendedStyle() & LVS_EX_GRIDLINES);
+    list.DestroyWindow();
+}
+
+TEST_F(FlatList, NewColumnsAreOwnerDrawn)
+{
+    for (int i = 0; i < 2; ++i) {
+        HDITEMW item = {};
+        item.mask = HDI_FORMAT;
+        ASSERT_TRUE(m_list.GetFlatHdr().GetItem(i, &item));
+        EXPECT_TRUE(item.fmt & HDF_OWNERDRAW) << i;
+        EXPECT_EQ(i == 1 ? HDF_RIGHT : HDF_LEFT, item.fmt & HDF_JUSTIFYMASK) << i;
+    }
+    EXPECT_EQ(120, m_list.GetColumnWidth(0));
+    EXPECT_EQ(80, m_list.GetColumnWidth(1));
+}
+
+TEST_F(FlatList, ColumnsOfOthersAreNotTouchedByInsertColumn)
+{
+    m_list.CListCtrl::InsertColumn(2, L"Other", LVCFMT_LEFT, 20);
+    m_list.InsertColumn(0, L"First", LVCFMT_LEFT, 30);
+    HDITEMW item = {};
+    item.mask = HDI_FORMAT;
+    ASSERT_TRUE(m_list.GetFlatHdr().GetItem(3, &item));
+    EXPECT_FALSE(item.fmt & HDF_OWNERDRAW);
+}
+
+TEST_F(FlatList, ColumnWithoutWidthGetsTheControlsOne)
+{
+    CListCtrl stock;
+    ASSERT_TRUE(stock.Create(kStyle, kPlace, &m_host, 3));
+    LVCOLUMNW column = {};
+    column.mask = LVCF_TEXT;
+    column.pszText = const_cast<LPWSTR>(L"Date");
+    stock.InsertColumn(0, &column);
+    EXPECT_EQ(2, m_list.InsertColumn(2, L"Date", LVCFMT_LEFT, -1));
+    EXPECT_EQ(stock.GetColumnWidth(0), m_list.GetColumnWidth(2));
+    stock.DestroyWindow();
+}
+
+TEST_F(FlatList, CountsItsColumns)
+{
+    EXPECT_EQ(2, m_list.GetColumnCount());
+    m_list.DeleteColumn(0);
+    EXPECT_EQ(1, m_list.GetColumnCount());
+}
+
+TEST_F(FlatList, FindsRowsByTheirData)
+{
+    AddRows(5);
+    EXPECT_EQ(3, m_list.FindItemData(103));
+    EXPECT_EQ(0, m_list.FindItemData(100));
+    EXPECT_EQ(-1, m_list.FindItemData(99));
+}
+
+TEST_F(FlatList, SelectsWithoutTheFocus)
+{
+    AddRows(3);
+    EXPECT_EQ(-1, m_list.GetSelectedItem());
+    EXPECT_TRUE(m_list.SelectItem(1, TRUE));
+    EXPECT_EQ(static_cast<UINT>(LVIS_SELECTED), m_list.GetItemState(1, LVIS_SELECTED | LVIS_FOCUSED));
+    EXPECT_EQ(1, m_list.GetSelectedItem());
+    m_list.SelectItem(2, TRUE);
+    EXPECT_EQ(1, m_list.GetSelectedItem());
+    EXPECT_TRUE(m_list.SelectItem(1, FALSE));
+    EXPECT_EQ(2, m_list.GetSelectedItem());
+    EXPECT_FALSE(m_list.SelectItem(3, TRUE));
+}
+
+TEST_F(FlatList, DataOfTheSelectedRowOrTheDefault)
+{
+    AddRows(3);
+    EXPECT_EQ(7u, m_list.GetSelectedData(7));
+    m_list.SelectItem(2, TRUE);
+    EXPECT_EQ(102u, m_list.GetSelectedData(7));
+}
+
+TEST_F(FlatList, SharesTheSortColumnWithItsHeader)
+{
+    EXPECT_EQ(-1, m_list.SetSortColumn(1, 0));
+    int direction = 7;
+    EXPECT_EQ(1, m_list.GetFlatHdr().GetSortColumn(&direction));
+    EXPECT_EQ(0, direction);
+    m_list.GetFlatHdr().SetSortColumn(0, 1);
+    EXPECT_EQ(0, m_list.GetSortColumn(&direction));
+    EXPECT_EQ(1, direction);
+}
+
+TEST_F(FlatList, SortColumnRepaintsTheHeaderOnly)
+{
+    LookOf(m_list);
+    ::ValidateRect(m_list, nullptr);
+    ::ValidateRect(m_list.GetFlatHdr(), nullptr);
+    m_list.SetSortColumn(0, 1);
+    EXPECT_TRUE(::GetUpdateRect(m_list.GetFlatHdr(), nullptr, FALSE));
+    EXPECT_FALSE(::GetUpdateRect(m_list, nullptr, FALSE));
+}
+
+TEST_F(FlatList, HeaderIsDrawnByItsObject)
+{
+    m_list.SetSortColumn(0, 1);
+    const ts::Picture look = LookOf(m_list.GetFlatHdr());
+    EXPECT_TRUE(ts::PixelIs(look, 1, 1, RGB(242, 242, 242)));
+    EXPECT_TRUE(ts::PixelIs(look, 119, 3, RGB(213, 213, 213)));
+    EXPECT_TRUE(ts::PixelIs(look, 111, look.Height() / 2, RGB(213, 213, 213)));
+    EXPECT_TRUE(ts::PixelIs(look, 250, 3, RGB(242, 242, 242)));
+}
+
+TEST_F(FlatList, RowsStandOnTheSoftBackground)
+{
+    AddRows(1);
+    const ts::Picture look = LookOf(m_list);
+    EXPECT_TRUE(ts::PixelIs(look, look.Width() - 5, look.Height() - 5, kSoft));
+}
+
+TEST_F(FlatList, ShowsTheEmptyTextOnlyWithoutRows)
+{
+    const ts::Picture bare = LookOf(m_list);
+    m_list.SetEmptyText(L"Nothing here");
+    EXPECT_FALSE(ts::SamePicture(bare, LookOf(m_list)));
+    m_list.SetEmptyText(nullptr);
+    EXPECT_TRUE(ts::SamePicture(bare, LookOf(m_list)));
+    AddRows(1);
+    const ts::Picture row = LookOf(m_list);
+    m_list.SetEmptyText(L"Nothing here");
+    EXPECT_TRUE(ts::SamePicture(row, LookOf(m_list)));
+}
+
+TEST_F(FlatList, SettingTheEmptyTextDoesNotRepaint)
+{
+    LookOf(m_list);
+    ::ValidateRect(m_list, nullptr);
+    m_list.SetEmptyText(L"Nothing here");
+    EXPECT_FALSE(::GetUpdateRect(m_list, nullptr, FALSE));
+}
+
+TEST_F(FlatList, EmptyTextStandsTenPixelsBelowTheHeaderInTheMiddle)
+{
+    m_list.SetEmptyText(L"MMMM & WWWW");
+    const ts::Picture look = LookOf(m_list);
+    CRect item;
+    m_list.GetFlatHdr().GetItemRect(0, item);
+    const CRect below(0, item.bottom, look.Width(), look.Height());
+    const CRect box = look.Crop(below).BoundsOf(RGB(255, 255, 255));
+    EXPECT_EQ(10, box.top);
+    EXPECT_NEAR(look.Width() / 2, (box.left + box.right) / 2, 2);
+}
+
+TEST_F(FlatList, EmptyTextWithoutHeaderItemsBeginsAtTheTop)
+{
+    CFlatList list;
+    ASSERT_TRUE(list.Create(kStyle | LVS_NOCOLUMNHEADER, kPlace, &m_host, 3));
+    m_list.ShowWindow(SW_HIDE); // it stands at the same place
+    list.UpdateWindow();
+    list.SetEmptyText(L"MMMM");
+    EXPECT_EQ(10, LookOf(list).BoundsOf(RGB(255, 255, 255)).top);
+    list.DestroyWindow();
+}
+
+TEST_F(FlatList, HasAThinGreyBorder)
+{
+    ::RedrawWindow(m_list, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW);
+    const ts::Picture frame = ts::CaptureFrame(m_list);
+    EXPECT_TRUE(ts::FrameIs(frame, CRect(0, 0, 300, 200), kGrey));
+}
+
+TEST_F(FlatList, FocusSelectsTheFirstRowWhenNoneIs)
+{
+    AddRows(3);
+    m_list.SetFocus();
+    EXPECT_EQ(0, m_list.GetSelectedItem());
+}
+
+TEST_F(FlatList, FocusLeavesASelectionAndAnEmptyList)
+{
+    m_list.SetFocus();
+    EXPECT_EQ(-1, m_list.GetSelectedItem());
+    m_host.SetFocus();
+    AddRows(3);
+    m_list.SelectItem(2, TRUE);
+    m_list.SetFocus();
+    EXPECT_EQ(2, m_list.GetSelectedItem());
+    EXPECT_EQ(1u, m_list.GetSelectedCount());
+}
+
+TEST_F(FlatList, CheckBoxesAreTheLibrarysOfAllLists)
+{
+    EXPECT_EQ(nullptr, StateImages(m_list));
+    const DWORD former = m_list.GetExtendedStyle();
+    EXPECT_EQ(former, m_list.SetExtendedStyle(former | LVS_EX_CHECKBOXES));
+    const HIMAGELIST images = StateImages(m_list);
+    ASSERT_NE(nullptr, images);
+    EXPECT_EQ(2, ::ImageList_GetImageCount(images));
+    int cx = 0;
+    int cy = 0;
+    ::ImageList_GetIconSize(images, &cx, &cy);
+    EXPECT_EQ(15, cx);
+    EXPECT_EQ(15, cy);
+    CFlatList other;
+    ASSERT_TRUE(Make(other));
+    other.SetExtendedStyle(LVS_EX_CHECKBOXES);
+    EXPECT_EQ(images, StateImages(other));
+    other.DestroyWindow();
+    EXPECT_EQ(2, ::ImageList_GetImageCount(images));
+}
+
+TEST_F(FlatList, ChecksRowsWithStatesOneAndTwo)
+{
+    m_list.SetExtendedStyle(m_list.GetExtendedStyle() | LVS_EX_CHECKBOXES);
+    AddRows(2);
+    EXPECT_EQ(static_cast<UINT>(INDEXTOSTATEIMAGEMASK(1)), m_list.GetItemState(0, LVIS_STATEIMAGEMASK));
+    m_list.SetCheck(0);
+    EXPECT_EQ(static_cast<UINT>(INDEXTOSTATEIMAGEMASK(2)), m_list.GetItemState(0, LVIS_STATEIMAGEMASK));
+    CRect row;
+    m_list.GetItemRect(1, row, LVIR_BOUNDS);
+    ts::Click(m_list, row.left + 8, row.CenterPoint().y);
+    EXPECT_TRUE(m_list.GetCheck(1));
+}
+
+TEST_F(FlatList, CheckBoxesCanBeTurnedOffAndOnAgain)
+{
+    m_list.SetExtendedStyle(LVS_EX_CHECKBOXES);
+    const HIMAGELIST images = StateImages(m_list);
+    m_list.SetExtendedStyle(0);
+    EXPECT_EQ(2, ::ImageList_GetImageCount(images));
+    EXPECT_NE(images, StateImages(m_list));
+    m_list.SetExtendedStyle(LVS_EX_CHECKBOXES);
+    EXPECT_EQ(images, StateImages(m_list));
+    m_list.SendMessage(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_GRIDLINES, LVS_EX_GRIDLINES);
+    EXPECT_EQ(images, StateImages(m_list));
+}
+
+TEST_F(FlatList, HundredThousandRowsWithRedrawOff)
+{
+    m_list.SetRedraw(FALSE);
+    m_list.SetItemCount(100000);
+    for (int i = 0; i < 100000; ++i) {
+        m_list.InsertItem(LVIF_PARAM, i, nullptr, 0, 0, 0, i);
+    }
+    m_list.SetRedraw(TRUE);
+    EXPECT_EQ(100000, m_list.GetItemCount());
+    EXPECT_EQ(99999, m_list.FindItemData(99999));
+    LookOf(m_list);
+}
+
+TEST(FlatListAlone, WithoutAWindowEverythingIsRefused)
+{
+    CFlatList list;
+    EXPECT_EQ(-1, list.InsertColumn(0, L"x", 0, 10));
+    EXPECT_EQ(0, list.GetColumnCount());
+    EXPECT_EQ(-1, list.FindItemData(0));
+    EXPECT_FALSE(list.SelectItem(0, TRUE));
+    EXPECT_EQ(-1, list.GetSelectedItem());
+    EXPECT_EQ(5u, list.GetSelectedData(5));
+    list.SetEmptyText(L"x");
+    EXPECT_EQ(-1, list.SetSortColumn(2, 1));
+}
+
+TEST_F(FlatList, LeavesNothingBehind)
+{
+    EXPECT_TRUE(ts::NoLeak([this] {
+        CFlatList list;
+        Make(list);
+        list.InsertColumn(0, L"Name", LVCFMT_LEFT, 100);
+        list.SetExtendedStyle(LVS_EX_CHECKBOXES);
+        list.SetEmptyText(L"Empty");
+        list.UpdateWindow();
+        list.InsertItem(0, L"Row");
+        list.SetExtendedStyle(0);
+        list.SetExtendedStyle(LVS_EX_CHECKBOXES);
+        list.UpdateWindow();
+    }));
+}
+
+} // namespace
