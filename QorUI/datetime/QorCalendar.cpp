@@ -1,0 +1,757 @@
+#include "QorCalendar.h"
+
+#include "CalendarLayout.h"
+#include "CalendarNames.h"
+#include "MemDC.h"
+#include "SelMonthWnd.h"
+
+#include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/SysLook.h>
+
+#include <new>
+
+BEGIN_MESSAGE_MAP(CQorCalendar, CWnd)
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_WM_FONTCHANGE()
+    ON_WM_TIMECHANGE()
+    ON_WM_PALETTECHANGED()
+    ON_WM_DEVMODECHANGE()
+    ON_WM_SETTINGCHANGE()
+    ON_WM_SYSCOLORCHANGE()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONDBLCLK()
+END_MESSAGE_MAP()
+
+namespace
+{
+
+constexpr LPCWSTR kFace = L"Tahoma";
+constexpr int kPoints = 7;
+constexpr LONG kNormalWeight = 500;
+constexpr LONG kBoldWeight = 700;
+constexpr COLORREF kSpecial = RGB(0, 0, 255);
+constexpr COLORREF kSelected = RGB(0, 84, 227);
+constexpr COLORREF kSelectedText = RGB(255, 255, 255);
+constexpr int kMeasuredYears = 10; ///< headers are measured so many years around the first one
+constexpr int kLinedRows = 7;      ///< the grid height that gets a line under each month
+
+COleDateTime NoDate()
+{
+    COleDateTime date;
+    date.SetStatus(COleDateTime::invalid);
+    return date;
+}
+
+bool IsValid(const COleDateTime& date)
+{
+    return date.GetStatus() == COleDateTime::valid;
+}
+
+COleDateTime DateOnly(const COleDateTime& date)
+{
+    return COleDateTime(date.GetYear(), date.GetMonth(), date.GetDay(), 0, 0, 0);
+}
+
+/** Grows a size to hold another one. */
+void Grow(CSize& size, const CSize& other)
+{
+    size.cx = (std::max)(size.cx, other.cx);
+    size.cy = (std::max)(size.cy, other.cy);
+}
+
+/** A horizontal line of `width` pixels. */
+void DrawRule(CDC& dc, int x, int y, int width)
+{
+    dc.FillSolidRect(x, y, width, 1, QorSysLook.m_clrBtnShadow);
+    dc.SetBkMode(TRANSPARENT);
+}
+
+} // namespace
+
+CQorCalendar::CQorCalendar()
+    : m_nFirstDayOfWeek(1),
+      m_nMaxSelDays(1),
+      m_crBk(QorSysLook.m_clrWindow),
+      m_crNormal(QorSysLook.m_clrGrayText),
+      m_crSpecial(kSpecial),
+      m_pfnIsSpecial(nullptr),
+      m_pData(nullptr),
+      m_bTrackDay(FALSE),
+      m_dtAnchor(NoDate()),
+      m_bTrackArrow(FALSE),
+      m_bTrackMonth(FALSE),
+      m_pSelMonthWnd(nullptr),
+      m_pHdrCell(nullptr),
+      m_rcLeftArrow{},
+      m_rcRightArrow{},
+      m_nHdrHeight(0),
+      m_nDayWidth(0),
+      m_nDowHeight(0),
+      m_nDayHeight(0),
+      m_nCellWidth(0),
+      m_nCellHeight(0),
+      m_dtSelStart(NoDate()),
+      m_dtSelEnd(NoDate()),
+      m_nRows(0),
+      m_nCols(0)
+{
+    const COleDateTime today = COleDateTime::GetCurrentTime();
+    m_nYear = today.GetYear();
+    m_nMonth = today.GetMonth();
+    const QorMonthNames months = QorGetMonthNames("", LOCALE_NAME_USER_DEFAULT);
+    std::copy(months.begin(), months.end(), m_strMonths);
+    SetFirstDayOfWeek(QorGetFirstDayOfWeek(LOCALE_USER_DEFAULT));
+}
+
+CQorCalendar::~CQorCalendar()
+{
+    CloseMonthList();
+    if (m_hWnd) {
+        DestroyWindow();
+    }
+}
+
+void CQorCalendar::SetFirstDayOfWeek(int day)
+{
+    if (day < 1 || day > QorMonth::kWeekDays) {
+        return;
+    }
+    m_nFirstDayOfWeek = day;
+    const QorDayInitials initials = QorGetDayInitials(day);
+    std::copy(initials.begin(), initials.end(), m_strDays);
+}
+
+CString CQorCalendar::GetMonthName(int month, int year)
+{
+    CString name;
+    if (month >= 1 && month <= QorMonth::kMonths) {
+        name = m_strMonths[month - 1];
+    }
+    name.AppendFormat(L" %d", year);
+    return name;
+}
+
+BOOL CQorCalendar::Create(CWnd* parent, UINT id, int (*isSpecial)(COleDateTime&, void*), void* data, int rows, int cols)
+{
+    if (m_hWnd || !parent || rows < 1 || rows > QorMonth::kMaxGrid || cols < 1 || cols > QorMonth::kMaxGrid) {
+        return FALSE;
+    }
+    m_pCells.reset(new (std::nothrow) CalendarCell[static_cast<size_t>(rows) * static_cast<size_t>(cols)]);
+    if (!m_pCells) {
+        return FALSE;
+    }
+    m_pfnIsSpecial = isSpecial;
+    m_pData = data;
+    m_nRows = rows;
+    m_nCols = cols;
+    if (MakeWindow(parent, id)) {
+        return TRUE;
+    }
+    m_pCells.reset();
+    m_nRows = m_nCols = 0;
+    return FALSE;
+}
+
+BOOL CQorCalendar::MakeWindow(CWnd* parent, UINT id)
+{
+    if (!CWnd::Create(nullptr, nullptr, WS_CHILD, CRect(0, 0, 0, 0), parent, id)) {
+        return FALSE;
+    }
+    if (AdjustWndPos()) {
+        return TRUE;
+    }
+    DestroyWindow();
+    return FALSE;
+}
+
+BOOL CQorCalendar::CreateFont(CDC& dc, CFont& font, BOOL bold)
+{
+    font.DeleteObject();
+    LOGFONTW logFont = {};
+    if (!font.CreatePointFont(kPoints * 10, kFace) || !font.GetLogFont(&logFont)) {
+        return FALSE;
+    }
+    logFont.lfWeight = bold ? kBoldWeight : kNormalWeight;
+    logFont.lfQuality = PROOF_QUALITY;
+    logFont.lfHeight = -::MulDiv(kPoints, dc.GetDeviceCaps(LOGPIXELSY), 72);
+    font.DeleteObject();
+    return font.CreateFontIndirect(&logFont);
+}
+
+BOOL CQorCalendar::AdjustWndPos()
+{
+    CClientDC dc(this);
+    if (!CreateFont(dc, m_fontBold, TRUE) || !CreateFont(dc, m_fontNormal, FALSE)) {
+        return FALSE;
+    }
+    const int dayWidth = MeasureDays(dc);
+    const int daysHeight = QorMonth::DaysHeight(m_nDayHeight);
+    const int headerWidth = MeasureHeaders(dc, daysHeight);
+    const int width = QorMonth::CellWidth(headerWidth, m_nDayWidth, dayWidth);
+    const int height = QorMonth::CellHeight(m_nHdrHeight, m_nDowHeight, daysHeight);
+    if (width > 0) {
+        m_nCellWidth = width;
+    }
+    if (height > 0) {
+        m_nCellHeight = height;
+    }
+    return SetWindowPos(nullptr, 0, 0, m_nCols * m_nCellWidth, m_nRows * m_nCellHeight, SWP_NOMOVE | SWP_SHOWWINDOW);
+}
+
+/** Measures the days and the weekday initials. @return width of the widest day number */
+int CQorCalendar::MeasureDays(CDC& dc)
+{
+    const CSelectSaver font(dc, m_fontNormal);
+    CSize days(0, 0);
+    for (int day = 1; day <= 31; ++day) {
+        CString text;
+        text.Format(L"%02d", day);
+        Grow(days, dc.GetTextExtent(text));
+    }
+    CSize initials(0, 0);
+    for (const WCHAR* letter = L"SMTWF"; *letter; ++letter) {
+        Grow(initials, dc.GetTextExtent(letter, 1));
+    }
+    m_nDayHeight = days.cy;
+    m_nDowHeight = initials.cy;
+    m_nDayWidth = (std::max)(days.cx, initials.cx);
+    return days.cx;
+}
+
+/** Measures the headers of the years around the first one. @return width of the widest, at least `leastWidth` */
+int CQorCalendar::MeasureHeaders(CDC& dc, int leastWidth)
+{
+    const CSelectSaver font(dc, m_fontBold);
+    CSize header(leastWidth, 0);
+    for (int year = m_nYear - kMeasuredYears; year <= m_nYear + kMeasuredYears; ++year) {
+        for (int month = 1; month <= QorMonth::kMonths; ++month) {
+            Grow(header, dc.GetTextExtent(GetMonthName(month, year)));
+        }
+    }
+    m_nHdrHeight = header.cy + 2;
+    return header.cx;
+}
+
+void CQorCalendar::SetCurrentYearMonth(int year, int month)
+{
+    month = std::clamp(month, 1, QorMonth::kMonths);
+    year = std::clamp(year, QorMonth::kFirstYear, QorMonth::kLastYear);
+    if (year == m_nYear && month == m_nMonth) {
+        return;
+    }
+    m_nYear = year;
+    m_nMonth = month;
+    InvalidateIfShown();
+}
+
+void CQorCalendar::SetMaxSelDays(UINT days)
+{
+    if (days == m_nMaxSelDays) {
+        return;
+    }
+    m_nMaxSelDays = days;
+    if (days == 1) {
+        m_dtSelEnd = m_dtSelStart;
+    } else if (days == 0) {
+        Select(NoDate(), NoDate());
+    }
+    InvalidateIfShown();
+}
+
+void CQorCalendar::SetSelDate(COleDateTime& start, COleDateTime& end)
+{
+    if (m_nMaxSelDays == 0) {
+        return;
+    }
+    const COleDateTime last = m_nMaxSelDays == 1 ? start : end;
+    InvalidateIfShown();
+    if (!IsValid(start) || !IsValid(last)) {
+        Select(NoDate(), NoDate());
+    } else if (start > last) {
+        Select(DateOnly(last), DateOnly(start));
+    } else {
+        Select(DateOnly(start), DateOnly(last));
+    }
+}
+
+COleDateTime CQorCalendar::GetSelDate(COleDateTime* end)
+{
+    if (end) {
+        *end = m_dtSelEnd;
+    }
+    return m_dtSelStart;
+}
+
+void CQorCalendar::SetBkColor(COLORREF background)
+{
+    m_crBk = background;
+    InvalidateIfShown();
+}
+
+void CQorCalendar::SetColors(COLORREF normal, COLORREF special)
+{
+    if (normal == m_crNormal && special == m_crSpecial) {
+        return;
+    }
+    m_crNormal = normal;
+    m_crSpecial = special;
+    InvalidateIfShown();
+}
+
+void CQorCalendar::Select(const COleDateTime& start, const COleDateTime& end)
+{
+    m_dtSelStart = start;
+    m_dtSelEnd = end;
+}
+
+void CQorCalendar::InvalidateIfShown()
+{
+    if (m_hWnd) {
+        Invalidate(TRUE);
+    }
+}
+
+void CQorCalendar::Repaint()
+{
+    if (m_hWnd) {
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    }
+}
+
+// Painting
+
+BOOL CQorCalendar::OnEraseBkgnd(CDC* /*dc*/)
+{
+    return FALSE;
+}
+
+void CQorCalendar::OnPaint()
+{
+    CPaintDC paintDc(this);
+    CMemDC dc(&paintDc);
+    CRect client;
+    GetClientRect(client);
+    dc.FillSolidRect(client, m_crBk);
+    dc.SetBkMode(TRANSPARENT);
+    QorMonth::Month month = {m_nYear, m_nMonth};
+    for (int row = 1; row <= m_nRows; ++row) {
+        for (int col = 1; col <= m_nCols; ++col) {
+            DrawMonth(dc, row, col, month.month, month.year);
+            month = QorMonth::AddMonths(month, 1);
+        }
+    }
+}
+
+void CQorCalendar::DrawMonth(CDC& dc, int row, int col, int month, int year)
+{
+    const int x = (col - 1) * m_nCellWidth;
+    int y = (row - 1) * m_nCellHeight;
+    y += DrawHeader(dc, y, x, row, col, month, year);
+    y += DrawDaysOfWeek(dc, y, x);
+    DrawDays(dc, y, x, row, col, month, year);
+}
+
+int CQorCalendar::DrawHeader(CDC& dc, int y, int x, int row, int col, int month, int year)
+{
+    const CRect bar(x, y, x + m_nCellWidth - 1, y + m_nHdrHeight);
+    dc.FillSolidRect(bar, QorSysLook.m_clrBtnFace);
+    dc.Draw3dRect(bar, QorSysLook.m_clrWindow, QorSysLook.m_clrBtnShadow);
+    const CSelectSaver font(dc, m_fontBold);
+    const CTextModeSaver mode(dc, QorSysLook.m_clrBtnText, TRANSPARENT);
+    CRect text = QorMonth::HeaderText(x, y, m_nCellWidth, m_nHdrHeight);
+    dc.DrawText(GetMonthName(month, year), text, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+    SetCellHdrPos(row, col, QorMonth::HeaderHit(x, y, m_nCellWidth, m_nHdrHeight));
+    if (row == 1 && col == 1) {
+        DrawArrow(dc, TRUE, y, x);
+    }
+    if (row == 1 && col == m_nCols) {
+        DrawArrow(dc, FALSE, y, x);
+    }
+    return m_nHdrHeight;
+}
+
+void CQorCalendar::DrawArrow(CDC& dc, BOOL left, int y, int x)
+{
+    const QorMonth::Arrow arrow =
+        left ? QorMonth::LeftArrow(x, y, m_nHdrHeight) : QorMonth::RightArrow(x, y, m_nCellWidth, m_nHdrHeight);
+    for (int yy = arrow.apex.y - arrow.half; yy <= arrow.apex.y + arrow.half; ++yy) {
+        dc.MoveTo(arrow.apex);
+        dc.LineTo(arrow.base, yy);
+    }
+    (left ? m_rcLeftArrow : m_rcRightArrow) = arrow.hit;
+}
+
+int CQorCalendar::DrawDaysOfWeek(CDC& dc, int y, int x)
+{
+    const CSelectSaver font(dc, m_fontNormal);
+    const CTextModeSaver mode(dc, QorSysLook.m_clrBtnText, TRANSPARENT);
+    const int left = QorMonth::RowLeft(x, m_nCellWidth, m_nDayWidth);
+    int xi = left;
+    for (const CString& day : m_strDays) {
+        CRect text(xi, y + 1, xi + m_nDayWidth, y + m_nDowHeight + 2);
+        dc.DrawText(day, text, DT_RIGHT | DT_BOTTOM | DT_SINGLELINE);
+        xi += m_nDayWidth + QorMonth::kDayGap;
+    }
+    DrawRule(dc, left, y + m_nDowHeight + 3, QorMonth::RowWidth(m_nDayWidth));
+    return m_nDowHeight + QorMonth::kUnderInitials;
+}
+
+int CQorCalendar::DrawDays(CDC& dc, int y, int x, int row, int col, int month, int year)
+{
+    const CSelectSaver font(dc, m_fontNormal);
+    const CTextModeSaver mode(dc, m_crNormal, TRANSPARENT);
+    const int left = QorMonth::RowLeft(x, m_nCellWidth, m_nDayWidth);
+    const COleDateTimeSpan oneDay(1);
+    COleDateTime date = QorMonth::FirstSlotDate({year, month}, m_nFirstDayOfWeek);
+    for (int slot = 0; slot < QorMonth::kSlots; ++slot, date += oneDay) {
+        if (date.GetMonth() == month) {
+            const QorMonth::DayPlace place = QorMonth::PlaceOfDay(left, y, slot, m_nDayWidth, m_nDayHeight);
+            DrawDay(dc, date, place.text, place.area);
+            SetCellDayPos(row, col, slot, date, place.area);
+        }
+    }
+    const int height = QorMonth::kWeeks * (m_nDayHeight + QorMonth::kWeekGap);
+    const int width = QorMonth::RowWidth(m_nDayWidth);
+    if (m_nRows == kLinedRows) {
+        DrawRule(dc, left, y + height, width);
+    }
+    SetCellPos(row, col, CRect(left, y, left + width, y + height));
+    return height + 5;
+}
+
+void CQorCalendar::DrawDay(CDC& dc, COleDateTime& date, const RECT& text, const RECT& area)
+{
+    COLORREF colour = IsSpecialDate(date) ? m_crSpecial : m_crNormal;
+    if (IsDateSelected(date)) {
+        dc.FillSolidRect(&area, kSelected);
+        dc.SetBkMode(TRANSPARENT);
+        colour = kSelectedText;
+    }
+    dc.SetTextColor(colour);
+    CString number;
+    number.Format(L"%d", date.GetDay());
+    CRect rect(text);
+    dc.DrawText(number, rect, DT_RIGHT | DT_VCENTER | DT_SINGLELINE);
+}
+
+BOOL CQorCalendar::IsSpecialDate(COleDateTime& date)
+{
+    if (!m_pfnIsSpecial) {
+        return FALSE;
+    }
+    COleDateTime copy(date);
+    try {
+        return m_pfnIsSpecial(copy, m_pData);
+    } catch (CException* exception) {
+        exception->Delete();
+    } catch (...) { // whatever the host throws, painting goes on
+    }
+    return FALSE;
+}
+
+BOOL CQorCalendar::IsDateSelected(COleDateTime& date)
+{
+    return m_dtSelStart <= date && date <= m_dtSelEnd;
+}
+
+// Cells
+
+CalendarCell* CQorCalendar::CellAt(int row, int col)
+{
+    if (!m_pCells || row < 1 || row > m_nRows || col < 1 || col > m_nCols) {
+        return nullptr;
+    }
+    return &m_pCells[static_cast<size_t>((row - 1) * m_nCols + col - 1)];
+}
+
+void CQorCalendar::SetCellHdrPos(int row, int col, RECT rect)
+{
+    if (CalendarCell* cell = CellAt(row, col)) {
+        cell->rcHdr = rect;
+        cell->nRow = row;
+        cell->nCol = col;
+    }
+}
+
+void CQorCalendar::SetCellPos(int row, int col, RECT rect)
+{
+    if (CalendarCell* cell = CellAt(row, col)) {
+        cell->rcCell = rect;
+    }
+}
+
+void CQorCalendar::SetCellDayPos(int row, int col, int day, COleDateTime& date, RECT rect)
+{
+    CalendarCell* cell = CellAt(row, col);
+    if (cell && day >= 0 && day < QorMonth::kSlots) {
+        cell->days[day].rc = rect;
+        cell->days[day].date = date;
+    }
+}
+
+void CQorCalendar::ClearDays()
+{
+    for (int i = 0; i < m_nRows * m_nCols; ++i) {
+        for (CalendarDay& day : m_pCells[static_cast<size_t>(i)].days) {
+            day.rc = {};
+        }
+    }
+}
+
+CalendarCell* CQorCalendar::HdrHitTest(CPoint& point)
+{
+    for (int i = 0; i < m_nRows * m_nCols; ++i) {
+        CalendarCell& cell = m_pCells[static_cast<size_t>(i)];
+        if (::PtInRect(&cell.rcHdr, point)) {
+            return &cell;
+        }
+    }
+    return nullptr;
+}
+
+CalendarDay* CQorCalendar::DayHitTest(CPoint& point)
+{
+    for (int i = 0; i < m_nRows * m_nCols; ++i) {
+        CalendarCell& cell = m_pCells[static_cast<size_t>(i)];
+        if (!::PtInRect(&cell.rcCell, point)) {
+            continue;
+        }
+        for (CalendarDay& day : cell.days) {
+            if (::PtInRect(&day.rc, point)) {
+                return &day;
+            }
+        }
+    }
+    return nullptr;
+}
+
+BOOL CQorCalendar::InCellHdr(CPoint& point)
+{
+    return HdrHitTest(point) != nullptr;
+}
+
+BOOL CQorCalendar::InCellDay(CPoint& point)
+{
+    for (int i = 0; i < m_nRows * m_nCols; ++i) {
+        if (::PtInRect(&m_pCells[static_cast<size_t>(i)].rcCell, point)) {
+            return TRUE;
+        }
+    }
+    return FALSE;
+}
+
+// Paging
+
+/** Moves on by one grid of months. @param direction 1 forwards, -1 backwards */
+void CQorCalendar::Page(int direction)
+{
+    const CWaitCursor wait;
+    ClearDays();
+    const QorMonth::Month first = QorMonth::AddMonths({m_nYear, m_nMonth}, direction * m_nRows * m_nCols);
+    m_nYear = first.year;
+    m_nMonth = first.month;
+}
+
+void CQorCalendar::ScrollLeft(int pages)
+{
+    for (; pages > 0; --pages) {
+        Page(-1);
+    }
+    Repaint();
+}
+
+void CQorCalendar::ScrollRight(int pages)
+{
+    for (; pages > 0; --pages) {
+        Page(1);
+    }
+    Repaint();
+}
+
+/** Direction of the arrow under a point: -1, 1, or 0 without one. */
+int CQorCalendar::PageAt(CPoint point) const
+{
+    if (::PtInRect(&m_rcLeftArrow, point)) {
+        return -1;
+    }
+    return ::PtInRect(&m_rcRightArrow, point) ? 1 : 0;
+}
+
+// Mouse
+
+void CQorCalendar::OnLButtonDown(UINT /*flags*/, CPoint point)
+{
+    SetFocus();
+    m_dtAnchor.SetStatus(COleDateTime::invalid);
+    if (const int direction = PageAt(point); direction != 0) {
+        m_bTrackArrow = TRUE;
+        Page(direction);
+        Repaint();
+    } else if (InCellHdr(point)) {
+        OpenMonthList(HdrHitTest(point));
+    } else if (InCellDay(point) && m_nMaxSelDays != 0) {
+        if (const CalendarDay* day = DayHitTest(point)) {
+            BeginDaySelection(*day);
+        }
+    }
+}
+
+void CQorCalendar::OpenMonthList(CalendarCell* cell)
+{
+    CloseMonthList();
+    const int offset = (cell->nRow - 1) * m_nCols + cell->nCol - 1;
+    const QorMonth::Month month = QorMonth::AddMonths({m_nYear, m_nMonth}, offset);
+    m_pSelMonthWnd = new CSelMonthWnd; // the framework throws when there is no memory
+    if (!m_pSelMonthWnd->Create(month.month, month.year, this)) {
+        CloseMonthList();
+        return;
+    }
+    m_pHdrCell = cell;
+    SetCapture();
+    m_bTrackMonth = TRUE;
+}
+
+void CQorCalendar::CloseMonthList()
+{
+    if (m_pSelMonthWnd && m_pSelMonthWnd->m_hWnd) {
+        m_pSelMonthWnd->DestroyWindow();
+    }
+    delete m_pSelMonthWnd;
+    m_pSelMonthWnd = nullptr;
+    m_pHdrCell = nullptr;
+    m_bTrackMonth = FALSE;
+}
+
+void CQorCalendar::PostNcDestroy()
+{
+    CloseMonthList(); // its window belongs to the frame and would stay
+    CWnd::PostNcDestroy();
+}
+
+void CQorCalendar::BeginDaySelection(const CalendarDay& day)
+{
+    m_dtAnchor = day.date;
+    Select(day.date, day.date);
+    SetCapture();
+    m_bTrackDay = TRUE;
+    Repaint();
+}
+
+void CQorCalendar::OnMouseMove(UINT /*flags*/, CPoint point)
+{
+    if (m_bTrackDay) {
+        if (CalendarDay* day = DayHitTest(point)) {
+            TrackCellDay(day);
+            Repaint();
+        }
+    } else if (m_bTrackArrow) {
+        if (const int direction = PageAt(point); direction != 0) {
+            Page(direction);
+            Repaint();
+        }
+    }
+}
+
+void CQorCalendar::TrackCellDay(CalendarDay* day)
+{
+    if (!day || m_nMaxSelDays == 0 || !IsValid(m_dtAnchor)) {
+        return;
+    }
+    const QorMonth::DayRange range = QorMonth::DragRange(m_dtAnchor, day->date, m_nMaxSelDays);
+    Select(range.start, range.end);
+}
+
+void CQorCalendar::OnLButtonUp(UINT /*flags*/, CPoint /*point*/)
+{
+    if (m_bTrackDay) {
+        m_bTrackDay = FALSE;
+        ::ReleaseCapture();
+        FireNotify(static_cast<UINT>(NM_CLICK));
+    } else if (m_bTrackArrow) {
+        m_bTrackArrow = FALSE;
+        Repaint();
+    } else if (m_bTrackMonth) {
+        TakeListedMonth();
+        CloseMonthList();
+        ::ReleaseCapture();
+        Repaint();
+    }
+}
+
+/** Shows the month chosen in the list in the cell whose header opened it. */
+void CQorCalendar::TakeListedMonth()
+{
+    const int offset = (m_pHdrCell->nRow - 1) * m_nCols + m_pHdrCell->nCol - 1;
+    const QorMonth::Month chosen = {m_pSelMonthWnd->m_nSelYear, m_pSelMonthWnd->m_nSelMonth};
+    const QorMonth::Month first = QorMonth::AddMonths(chosen, -offset);
+    SetCurrentYearMonth(first.year, first.month);
+}
+
+void CQorCalendar::OnLButtonDblClk(UINT /*flags*/, CPoint point)
+{
+    if (const CalendarDay* day = DayHitTest(point)) {
+        Select(day->date, day->date);
+        FireNotify(static_cast<UINT>(NM_DBLCLK));
+    }
+}
+
+BOOL CQorCalendar::PreTranslateMessage(MSG* msg)
+{
+    if (m_bTrackMonth && m_pSelMonthWnd) {
+        m_pSelMonthWnd->TrackMessage(*msg);
+    }
+    return CWnd::PreTranslateMessage(msg);
+}
+
+void CQorCalendar::FireNotify(UINT code)
+{
+    Repaint();
+    const CWnd* parent = m_hWnd ? GetParent() : nullptr;
+    if (!parent) {
+        return;
+    }
+    NMHDR header = {};
+    header.hwndFrom = m_hWnd;
+    header.idFrom = static_cast<UINT_PTR>(GetDlgCtrlID());
+    header.code = code;
+    parent->SendMessage(WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
+}
+
+// Changes of the surroundings
+
+void CQorCalendar::OnFontChange()
+{
+    Default();
+    Repaint();
+}
+
+void CQorCalendar::OnTimeChange()
+{
+    OnFontChange();
+}
+
+void CQorCalendar::OnPaletteChanged(CWnd* /*focusWnd*/)
+{
+    OnFontChange();
+}
+
+void CQorCalendar::OnDevModeChange(LPTSTR device)
+{
+    CWnd::OnDevModeChange(device);
+    Repaint();
+}
+
+void CQorCalendar::OnSettingChange(UINT flags, LPCTSTR section)
+{
+    CWnd::OnSettingChange(flags, section);
+    Repaint();
+}
+
+void CQorCalendar::OnSysColorChange()
+{
+    CWnd::OnSysColorChange();
+    Repaint();
+}

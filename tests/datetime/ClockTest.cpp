@@ -1,0 +1,426 @@
+#include <cmath>
+#include <QorUI/datetime/ClockHands.h>
+#include <QorUI/datetime/QorClock.h>
+#include <tests/app/Drawn.h>
+#include <tests/support/AfxHost.h>
+
+namespace
+{
+
+constexpr UINT kDial = 300;
+constexpr UINT kClockId = 78;
+constexpr COLORREF kBack = RGB(250, 240, 230);
+constexpr COLORREF kInk = RGB(58, 58, 58);
+const CPoint kCenter(80, 80);
+
+const ts::Expected kBegin = ts::Notify(kClockId, static_cast<UINT>(-4000));
+const ts::Expected kEnd = ts::Notify(kClockId, static_cast<UINT>(-4001));
+
+int Nearest(double value)
+{
+    return static_cast<int>(std::floor(value + 0.5));
+}
+
+class CTestClock : public CQorClock
+{
+  public:
+    using CQorClock::OnTimer;
+};
+
+class Clock : public testing::Test
+{
+  protected:
+    void SetUp() override { ts::ParkMouse(); }
+
+    void Make()
+    {
+        ASSERT_TRUE(m_clock.Create(kDial, &m_host, kClockId, kBack));
+        Show();
+    }
+
+    void Show()
+    {
+        m_clock.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+        ts::Settle();
+        m_host.Log().Clear();
+    }
+
+    ts::Picture Look() { return ts::CaptureWindow(m_clock.m_hWnd); }
+
+    std::string Time()
+    {
+        char text[20];
+        sprintf(text, "%u:%02u", m_clock.GetHour(), m_clock.GetMinute());
+        return text;
+    }
+
+    bool NeedsPaint() { return GetUpdateRect(m_clock.m_hWnd, nullptr, FALSE) != FALSE; }
+
+    /** Moves the mouse to where the minute hand ends for a minute; half a step on, to be inside the minute. */
+    void MoveToMinute(UINT minute)
+    {
+        const CPoint point = QorHands::EndPoint(kCenter, 0.95, QorHands::MinuteAngle(minute) + 0.05);
+        ts::MoveMouse(m_clock.m_hWnd, point.x, point.y);
+    }
+
+    /** Takes hold of the minute hand. */
+    void Grab()
+    {
+        const CPoint point = QorHands::EndPoint(kCenter, 0.5, QorHands::MinuteAngle(m_clock.GetMinute()));
+        ts::MoveMouse(m_clock.m_hWnd, point.x, point.y);
+        ts::MouseDown();
+    }
+
+    static HCURSOR Cursor(LPCWSTR name) { return LoadCursorW(nullptr, name); }
+
+    ts::AfxHost m_host{300, 200};
+    CTestClock m_clock;
+};
+
+} // namespace
+
+TEST_F(Clock, NewOneShowsHalfPastOneInTheMorning)
+{
+    EXPECT_EQ("1:30", Time());
+}
+
+TEST_F(Clock, WindowHasTheSizeOfTheDial)
+{
+    Make();
+    CRect rect;
+    m_clock.GetWindowRect(rect);
+    m_host.ScreenToClient(rect);
+    EXPECT_EQ(CRect(0, 0, 161, 161), rect);
+    EXPECT_EQ(static_cast<DWORD>(WS_CHILD | WS_VISIBLE), m_clock.GetStyle() & 0xFFFF0000 & ~WS_CLIPSIBLINGS);
+    EXPECT_EQ(static_cast<int>(kClockId), m_clock.GetDlgCtrlID());
+}
+
+TEST_F(Clock, WindowClassHasNothing)
+{
+    Make();
+    EXPECT_EQ(0u, GetClassLongPtrW(m_clock.m_hWnd, GCL_STYLE));
+    EXPECT_EQ(0u, GetClassLongPtrW(m_clock.m_hWnd, GCLP_HCURSOR));
+    EXPECT_EQ(0u, GetClassLongPtrW(m_clock.m_hWnd, GCLP_HBRBACKGROUND));
+    EXPECT_EQ(0u, GetClassLongPtrW(m_clock.m_hWnd, GCLP_HICON));
+}
+
+TEST_F(Clock, CreateRefusesAMissingBitmapOrParent)
+{
+    EXPECT_FALSE(m_clock.Create(301, &m_host, kClockId, kBack));
+    EXPECT_FALSE(m_clock.Create(0, &m_host, kClockId, kBack));
+    EXPECT_FALSE(m_clock.Create(kDial, nullptr, kClockId, kBack));
+    CWnd noWindow;
+    EXPECT_FALSE(m_clock.Create(kDial, &noWindow, kClockId, kBack));
+    EXPECT_EQ(nullptr, m_clock.m_hWnd);
+    EXPECT_TRUE(m_clock.Create(kDial, &m_host, kClockId, kBack));
+    EXPECT_FALSE(m_clock.Create(kDial, &m_host, kClockId, kBack));
+}
+
+TEST_F(Clock, TimesAreTakenIntoTheDay)
+{
+    m_clock.SetTime(13, 5);
+    EXPECT_EQ("13:05", Time());
+    m_clock.SetTime(25, 61);
+    EXPECT_EQ("1:01", Time());
+    m_clock.SetTime(12, 0);
+    EXPECT_EQ("12:00", Time());
+    m_clock.SetTime(24, 60);
+    EXPECT_EQ("0:00", Time());
+    m_clock.SetTime(0xFFFFFFFF, 0xFFFFFFFF);
+    EXPECT_EQ("15:15", Time());
+}
+
+TEST_F(Clock, OnlyAnotherTimeIsPainted)
+{
+    Make();
+    m_clock.SetTime(1, 30);
+    EXPECT_FALSE(NeedsPaint());
+    m_clock.SetTime(13, 30);
+    EXPECT_TRUE(NeedsPaint());
+    Show();
+    m_clock.SetTime(13, 31);
+    EXPECT_TRUE(NeedsPaint());
+    Show();
+    m_clock.SetTime(14, 31);
+    EXPECT_TRUE(NeedsPaint());
+}
+
+TEST_F(Clock, ErasingDrawsTheDial)
+{
+    Make();
+    const ts::Picture dial = ResourcePicture(GetModuleHandleW(nullptr), kDial);
+    const ts::Picture erased = Drawn(161, 161, [this](CDC& dc) {
+        EXPECT_EQ(1, m_clock.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.m_hDC)));
+    });
+    EXPECT_TRUE(ts::SamePicture(dial, erased));
+    EXPECT_EQ(1, m_clock.SendMessage(WM_ERASEBKGND, 0));
+}
+
+TEST_F(Clock, PaintsTheHandsAndTheHalfOfTheDay)
+{
+    Make();
+    const std::pair<UINT, UINT> times[] = {{1, 30}, {3, 0}, {16, 45}, {22, 8}, {12, 0}};
+    for (const auto& time : times) {
+        const UINT hour = time.first;
+        const UINT minute = time.second;
+        m_clock.SetTime(hour, minute);
+        Show();
+        CBitmap dial;
+        ASSERT_TRUE(dial.LoadBitmap(kDial));
+        const ts::Picture expected = Drawn(161, 161, [&](CDC& dc) {
+            CDC memory;
+            memory.CreateCompatibleDC(&dc);
+            CBitmap* old = memory.SelectObject(&dial);
+            dc.BitBlt(0, 0, 161, 161, &memory, 0, 0, SRCCOPY);
+            memory.SelectObject(old);
+            dc.SetBkColor(kBack);
+            dc.SetTextColor(kInk);
+            dc.SelectStockObject(DEFAULT_GUI_FONT);
+            dc.TextOut(4, 4, hour >= 12 ? L"PM" : L"AM", 2);
+            CPen pen(PS_SOLID, 2, kInk);
+            CPen* oldPen = dc.SelectObject(&pen);
+            const double hourAngle = (minute / 60.0 + hour % 12) / 12 * 3.1415926535 * 2;
+            const double minuteAngle = minute / 60.0 * 3.1415926535 * 2;
+            dc.MoveTo(80, 80);
+            dc.LineTo(Nearest(80 + sin(hourAngle) * 48), Nearest(80 - cos(hourAngle) * 48));
+            dc.MoveTo(80, 80);
+            dc.LineTo(Nearest(80 + sin(minuteAngle) * 60), Nearest(80 - cos(minuteAngle) * 60));
+            dc.SelectObject(oldPen);
+        });
+        EXPECT_TRUE(ts::SamePicture(expected, Look())) << hour << ":" << minute;
+    }
+}
+
+TEST_F(Clock, HandsAreInkOnTheDial)
+{
+    Make();
+    m_clock.SetTime(3, 0);
+    Show();
+    const ts::Picture look = Look();
+    EXPECT_TRUE(ts::PixelIs(look, 80, 30, kInk));
+    EXPECT_TRUE(ts::PixelIs(look, 120, 80, kInk));
+    EXPECT_TRUE(ts::PixelIs(look, 4, 4, kBack));
+}
+
+TEST_F(Clock, CursorTellsWhereTheHandIs)
+{
+    Make();
+    ts::MoveMouse(m_clock.m_hWnd, 80, 120);
+    EXPECT_EQ(Cursor(IDC_HAND), GetCursor());
+    ts::MoveMouse(m_clock.m_hWnd, 80, 40);
+    EXPECT_EQ(Cursor(IDC_ARROW), GetCursor());
+}
+
+TEST_F(Clock, DragTellsTheParentItsBeginningAndEnd)
+{
+    Make();
+    Grab();
+    EXPECT_EQ(m_clock.m_hWnd, GetCapture());
+    EXPECT_TRUE(m_host.Log().Is({kBegin}));
+    MoveToMinute(35);
+    EXPECT_EQ(Cursor(IDC_HAND), GetCursor());
+    EXPECT_EQ("1:35", Time());
+    ts::MouseUp();
+    EXPECT_EQ(nullptr, GetCapture());
+    EXPECT_TRUE(m_host.Log().Is({kBegin, kEnd}));
+}
+
+TEST_F(Clock, PressBesideTheHandDoesNothing)
+{
+    Make();
+    ts::MoveMouse(m_clock.m_hWnd, 80, 40);
+    ts::MouseDown();
+    EXPECT_EQ(nullptr, GetCapture());
+    MoveToMinute(10);
+    ts::MouseUp();
+    EXPECT_EQ("1:30", Time());
+    EXPECT_TRUE(m_host.Log().Is({}));
+}
+
+TEST_F(Clock, MovesWithoutAButtonChangeNothing)
+{
+    Make();
+    ts::MoveMouse(m_clock.m_hWnd, 80, 120);
+    MoveToMinute(10);
+    EXPECT_EQ("1:30", Time());
+}
+
+TEST_F(Clock, DragToThePointsOnTheAxes)
+{
+    Make();
+    Grab();
+    ts::MoveMouse(m_clock.m_hWnd, 10, 80);
+    EXPECT_EQ("1:45", Time());
+    ts::MoveMouse(m_clock.m_hWnd, 80, 150);
+    EXPECT_EQ("1:30", Time());
+    ts::MouseUp();
+}
+
+TEST_F(Clock, DragClockwisePastTwelveGoesFromMorningToAfternoonAndBack)
+{
+    Make();
+    m_clock.SetTime(11, 50);
+    Show();
+    Grab();
+    MoveToMinute(55);
+    MoveToMinute(3);
+    EXPECT_EQ("12:03", Time());
+    MoveToMinute(57);
+    EXPECT_EQ("11:57", Time());
+    ts::MouseUp();
+}
+
+TEST_F(Clock, DragPastTwelveAtMidnight)
+{
+    Make();
+    m_clock.SetTime(23, 50);
+    Show();
+    Grab();
+    MoveToMinute(55);
+    MoveToMinute(3);
+    EXPECT_EQ("0:03", Time());
+    MoveToMinute(57);
+    EXPECT_EQ("23:57", Time());
+    ts::MouseUp();
+}
+
+TEST_F(Clock, DragPastTwelveInTheMiddleOfTheMorningKeepsTheHalf)
+{
+    Make();
+    m_clock.SetTime(12, 50);
+    Show();
+    Grab();
+    MoveToMinute(55);
+    MoveToMinute(3);
+    EXPECT_EQ("13:03", Time());
+    MoveToMinute(57);
+    EXPECT_EQ("12:57", Time());
+    ts::MouseUp();
+}
+
+TEST_F(Clock, DragGoesOnWithTheMouseOutside)
+{
+    Make();
+    Grab();
+    ts::MoveMouse(m_clock.m_hWnd, 250, 80);
+    EXPECT_EQ("1:15", Time());
+    ts::MouseUp();
+}
+
+TEST_F(Clock, ParentMayDestroyTheClockWhenTold)
+{
+    Make();
+    m_host.Log().Answer(WM_NOTIFY, [&](const ts::Message& /*message*/) {
+        m_clock.DestroyWindow();
+        return std::nullopt;
+    });
+    Grab();
+    EXPECT_EQ(nullptr, m_clock.m_hWnd);
+    ts::MouseUp();
+}
+
+TEST_F(Clock, AnimationForwardsPassesMidnight)
+{
+    Make();
+    m_clock.SetTime(23, 50);
+    m_clock.SetTimeAnimate(0, 10, TRUE);
+    EXPECT_EQ("23:50", Time());
+    for (int tick = 0; tick < 5; ++tick) {
+        m_clock.OnTimer(1);
+    }
+    EXPECT_EQ("0:00", Time());
+    for (int tick = 0; tick < 5; ++tick) {
+        m_clock.OnTimer(1);
+    }
+    EXPECT_EQ("0:10", Time());
+    m_clock.OnTimer(1);
+    EXPECT_EQ("0:10", Time());
+    EXPECT_FALSE(m_clock.KillTimer(1));
+}
+
+TEST_F(Clock, AnimationBackwardsPassesMidnight)
+{
+    Make();
+    m_clock.SetTime(1, 0);
+    m_clock.SetTimeAnimate(23, 0, FALSE);
+    m_clock.OnTimer(1);
+    EXPECT_EQ("0:48", Time());
+    for (int tick = 0; tick < 9; ++tick) {
+        m_clock.OnTimer(1);
+    }
+    EXPECT_EQ("23:00", Time());
+}
+
+TEST_F(Clock, ShortAnimationTakesOneTick)
+{
+    Make();
+    m_clock.SetTimeAnimate(1, 35, TRUE);
+    m_clock.OnTimer(1);
+    EXPECT_EQ("1:35", Time());
+    EXPECT_FALSE(m_clock.KillTimer(1));
+}
+
+TEST_F(Clock, AnimationRunsByItself)
+{
+    Make();
+    m_clock.SetTimeAnimate(14, 0, TRUE);
+    EXPECT_TRUE(ts::PumpUntil([this] { return Time() == "14:00"; }));
+    EXPECT_TRUE(ts::PumpUntil([this] { return !m_clock.KillTimer(1); }));
+}
+
+TEST_F(Clock, AnimationToTheShownTimeSetsNoTimer)
+{
+    Make();
+    m_clock.SetTimeAnimate(25, 90, TRUE);
+    EXPECT_FALSE(m_clock.KillTimer(1));
+}
+
+TEST_F(Clock, SettingTheTimeEndsAnAnimation)
+{
+    Make();
+    m_clock.SetTimeAnimate(14, 0, TRUE);
+    m_clock.SetTime(5, 6);
+    EXPECT_FALSE(m_clock.KillTimer(1));
+    m_clock.OnTimer(1);
+    EXPECT_EQ("5:06", Time());
+}
+
+TEST_F(Clock, TimersOfOthersMoveNothing)
+{
+    Make();
+    m_clock.SetTimeAnimate(14, 0, TRUE);
+    m_clock.SendMessage(WM_TIMER, 2, 0);
+    EXPECT_EQ("1:30", Time());
+    m_clock.SendMessage(WM_TIMER, 1, 0);
+    EXPECT_NE("1:30", Time());
+}
+
+TEST_F(Clock, WithoutAWindowAnimationShowsTheTimeAtOnce)
+{
+    m_clock.SetTimeAnimate(14, 5, TRUE);
+    EXPECT_EQ("14:05", Time());
+    m_clock.SetTime(3, 4);
+    EXPECT_EQ("3:04", Time());
+}
+
+TEST_F(Clock, SurvivesItsParent)
+{
+    Make();
+    m_clock.SetTimeAnimate(14, 0, TRUE);
+    m_host.DestroyWindow();
+    m_clock.SetTime(3, 4);
+    EXPECT_EQ("3:04", Time());
+}
+
+TEST_F(Clock, LeavesNothingBehind)
+{
+    EXPECT_TRUE(ts::NoLeak(
+        [this] {
+            CQorClock clock;
+            clock.Create(kDial, &m_host, kClockId, kBack);
+            clock.SetTimeAnimate(5, 6, TRUE);
+            clock.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+            clock.DestroyWindow();
+        },
+        200));
+}

@@ -1,0 +1,66 @@
+#include <QorUI/datetime/MemDC.h>
+#include <tests/app/Drawn.h>
+
+TEST(MemDC, DrawsAtTheTargetsCoordinates)
+{
+    const ts::Picture picture = Drawn(40, 30, [](CDC& dc) {
+        CMemDC memory(&dc);
+        memory.FillSolidRect(0, 0, 40, 30, RGB(10, 20, 30));
+        memory.FillSolidRect(5, 6, 7, 8, RGB(200, 0, 0));
+    });
+    EXPECT_TRUE(ts::AreaIs(picture, CRect(5, 6, 12, 14), RGB(200, 0, 0)));
+    EXPECT_EQ(56, picture.Count(RGB(200, 0, 0)));
+    EXPECT_EQ(40 * 30 - 56, picture.Count(RGB(10, 20, 30)));
+}
+
+TEST(MemDC, TargetChangesOnlyAtTheEnd)
+{
+    Drawn(40, 30, [](CDC& dc) {
+        {
+            CMemDC memory(&dc);
+            memory.FillSolidRect(0, 0, 40, 30, RGB(10, 20, 30));
+            EXPECT_EQ(kPaper, dc.GetPixel(5, 5));
+        }
+        EXPECT_EQ(RGB(10, 20, 30), dc.GetPixel(5, 5));
+    });
+}
+
+TEST(MemDC, PaintsTheClipBoxOnly)
+{
+    const ts::Picture picture = Drawn(40, 30, [](CDC& dc) {
+        dc.IntersectClipRect(10, 5, 20, 15);
+        CMemDC memory(&dc);
+        EXPECT_EQ(CPoint(10, 5), memory.GetWindowOrg());
+        memory.FillSolidRect(0, 0, 40, 30, RGB(10, 20, 30));
+    });
+    EXPECT_TRUE(ts::AreaIs(picture, CRect(10, 5, 20, 15), RGB(10, 20, 30)));
+    EXPECT_EQ(100, picture.Count(RGB(10, 20, 30)));
+}
+
+TEST(MemDC, EmptyClipBoxPaintsNothing)
+{
+    const ts::Picture picture = Drawn(20, 20, [](CDC& dc) {
+        dc.IntersectClipRect(10, 5, 10, 5);
+        CMemDC memory(&dc);
+        memory.FillSolidRect(0, 0, 20, 20, RGB(10, 20, 30));
+    });
+    EXPECT_EQ(400, picture.Count(kPaper));
+}
+
+TEST(MemDC, WithoutTargetNothingHappens)
+{
+    CMemDC memory(nullptr);
+    EXPECT_EQ(nullptr, memory.m_hDC);
+}
+
+TEST(MemDC, LeavesNoObjects)
+{
+    EXPECT_TRUE(ts::NoLeak(
+        [] {
+            Drawn(20, 20, [](CDC& dc) {
+                CMemDC memory(&dc);
+                memory.FillSolidRect(0, 0, 20, 20, RGB(10, 20, 30));
+            });
+        },
+        200));
+}

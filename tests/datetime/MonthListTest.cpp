@@ -1,0 +1,237 @@
+#include "Calendar.h"
+
+#include <QorUI/datetime/SelMonthWnd.h>
+
+namespace
+{
+
+class MonthList : public CalendarFixture
+{
+  protected:
+    void SetUp() override { ts::ParkMouse(); }
+
+    /** Opens the list on a cell's header. */
+    void Open(int rows = 1, int cols = 1, size_t cell = 0)
+    {
+        Make(rows, cols);
+        m_host.Log().Clear();
+        ts::SetPreTranslate([this](MSG& msg) { return CWnd::WalkPreTranslateTree(m_host.m_hWnd, &msg) != FALSE; });
+        PressHeader(cell);
+        ASSERT_NE(nullptr, List());
+    }
+
+    void PressHeader(size_t cell)
+    {
+        MoveTo(m_calendar.m_pCells[cell].rcHdr);
+        ts::MouseDown();
+        ts::Settle();
+    }
+
+    HWND List() { return m_calendar.m_pSelMonthWnd ? m_calendar.m_pSelMonthWnd->m_hWnd : nullptr; }
+
+    int LineHeight() { return Extent(L"abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789").cy; }
+
+    CSize Extent(const CString& text)
+    {
+        CClientDC dc(&m_calendar);
+        CFont* old = dc.SelectObject(&m_calendar.m_fontNormal);
+        const CSize size = dc.GetTextExtent(text);
+        dc.SelectObject(old);
+        return size;
+    }
+
+    CRect ListRect()
+    {
+        CRect rect;
+        GetWindowRect(List(), rect);
+        return rect;
+    }
+
+    /** Moves the mouse to a row of the list. */
+    void MoveToRow(int row) { ts::MoveMouse(List(), 15, row * LineHeight() + LineHeight() / 2); }
+
+    /** So many moves at a distance above (negative) or below the list. */
+    void MoveOutside(int distance, int times)
+    {
+        const CRect rect = ListRect();
+        POINT point = {rect.left + 20, distance < 0 ? rect.top + distance : rect.bottom - 1 + distance};
+        ScreenToClient(m_calendar.m_hWnd, &point);
+        for (int i = 0; i < times; ++i) {
+            ts::MoveMouse(m_calendar.m_hWnd, point.x + i % 2, point.y);
+        }
+    }
+
+    std::wstring Choose()
+    {
+        ts::MouseUp();
+        ts::Settle();
+        return FirstMonth();
+    }
+
+    std::wstring Name(int month, int year) { return m_calendar.GetMonthName(month, year).GetString(); }
+};
+
+} // namespace
+
+TEST_F(MonthList, OpensAsAPopUpAtTheMouse)
+{
+    Open();
+    EXPECT_TRUE(m_calendar.m_bTrackMonth);
+    EXPECT_EQ(m_calendar.m_hWnd, GetCapture());
+    EXPECT_EQ(static_cast<LONG_PTR>(WS_POPUP | WS_BORDER | WS_VISIBLE | 0x108),
+              GetWindowLongPtrW(List(), GWL_STYLE) & ~static_cast<LONG_PTR>(WS_CLIPSIBLINGS) & 0xFFFFFFFF);
+    EXPECT_EQ(0x100Bu, GetClassLongPtrW(List(), GCL_STYLE));
+    EXPECT_EQ(0u, GetClassLongPtrW(List(), GCLP_HCURSOR));
+    EXPECT_EQ(0u, GetClassLongPtrW(List(), GCLP_HBRBACKGROUND));
+    ts::MouseUp();
+}
+
+TEST_F(MonthList, IsCentredOnTheMouseInTheStatedSize)
+{
+    Open();
+    int width = 0;
+    for (int month = 1; month <= 12; ++month) {
+        width = (std::max)(width, static_cast<int>(Extent(m_calendar.GetMonthName(month, 2000)).cx));
+    }
+    CPoint mouse = CRect(m_calendar.m_pCells[0].rcHdr).CenterPoint();
+    m_calendar.ClientToScreen(&mouse);
+    const int halfWidth = (width + 20) / 2;
+    const int halfHeight = (7 * LineHeight() + 3) / 2;
+    EXPECT_EQ(CRect(mouse.x - halfWidth, mouse.y - halfHeight, mouse.x + halfWidth, mouse.y + halfHeight), ListRect());
+    ts::MouseUp();
+}
+
+TEST_F(MonthList, ShowsSevenMonthsAroundTheCellsWithTheOneUnderTheMouseInverted)
+{
+    Open(1, 2, 1);
+    MoveToRow(5);
+    const ts::Picture look = ts::CaptureWindow(List());
+    const int line = LineHeight();
+    const ts::Picture expected = ts::DrawTo(look.Width(), look.Height(), [&](HDC dc) {
+        const HGDIOBJ old = SelectObject(dc, m_calendar.m_fontNormal);
+        SetBkMode(dc, TRANSPARENT);
+        for (int row = 0; row < 7; ++row) {
+            RECT rect = {0, row * line, look.Width(), (row + 1) * line};
+            if (row == 5) {
+                FillRect(dc, &rect, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+            }
+            SetTextColor(dc, row == 5 ? RGB(255, 255, 255) : RGB(0, 0, 0));
+            rect.left = 10;
+            DrawTextW(dc, m_calendar.GetMonthName(row + 1, 2009), -1, &rect, DT_SINGLELINE);
+        }
+        SelectObject(dc, old);
+    });
+    EXPECT_TRUE(ts::SamePicture(expected, look));
+    ts::MouseUp();
+}
+
+TEST_F(MonthList, ReleaseAtOnceKeepsTheMonthAndClosesTheList)
+{
+    Open();
+    const HWND list = List();
+    EXPECT_EQ(Name(3, 2009), Choose());
+    EXPECT_FALSE(IsWindow(list));
+    EXPECT_EQ(nullptr, m_calendar.m_pSelMonthWnd);
+    EXPECT_FALSE(m_calendar.m_bTrackMonth);
+    EXPECT_EQ(nullptr, GetCapture());
+    EXPECT_TRUE(m_host.Log().Is({}));
+}
+
+TEST_F(MonthList, ChosenMonthIsShown)
+{
+    Open();
+    MoveToRow(5);
+    EXPECT_EQ(Name(5, 2009), Choose());
+    EXPECT_TRUE(m_host.Log().Is({}));
+}
+
+TEST_F(MonthList, ChosenMonthIsShownInThePressedCell)
+{
+    Open(2, 2, 3);
+    MoveToRow(0);
+    EXPECT_EQ(Name(12, 2008), Choose());
+    EXPECT_NE(nullptr, PlaceOf(Date(2009, 3, 15)));
+}
+
+TEST_F(MonthList, AboveTheListTheFirstMonthIsChosen)
+{
+    Open();
+    MoveOutside(-3, 1);
+    EXPECT_EQ(Name(12, 2008), Choose());
+}
+
+TEST_F(MonthList, BelowTheListTheLastMonthIsChosen)
+{
+    Open();
+    MoveOutside(3, 1);
+    EXPECT_EQ(Name(6, 2009), Choose());
+}
+
+TEST_F(MonthList, NearMovesScrollByOneMonth)
+{
+    Open();
+    MoveOutside(-5, 10);
+    EXPECT_EQ(Name(11, 2008), Choose());
+}
+
+TEST_F(MonthList, FarMovesScrollByTwoMonths)
+{
+    Open();
+    MoveOutside(40, 5);
+    EXPECT_EQ(Name(8, 2009), Choose());
+}
+
+TEST_F(MonthList, MovesInsideSetTheScrollingBack)
+{
+    Open();
+    MoveOutside(5, 9);
+    MoveToRow(3);
+    MoveOutside(5, 9);
+    EXPECT_EQ(Name(6, 2009), Choose());
+}
+
+TEST_F(MonthList, ErasingDoesNothing)
+{
+    Open();
+    const ts::Picture picture = ts::DrawTo(
+        10, 10, [this](HDC dc) { EXPECT_EQ(0, SendMessageW(List(), WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0)); });
+    EXPECT_EQ(100, picture.Count(RGB(255, 255, 255)));
+    ts::MouseUp();
+}
+
+TEST_F(MonthList, NextPressReplacesAListThatIsStillOpen)
+{
+    Open(1, 2);
+    const HWND first = List();
+    const CPoint header = CRect(m_calendar.m_pCells[1].rcHdr).CenterPoint();
+    m_calendar.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(header.x, header.y));
+    EXPECT_FALSE(IsWindow(first));
+    EXPECT_NE(nullptr, List());
+    ts::MouseUp();
+    EXPECT_EQ(nullptr, List());
+}
+
+TEST_F(MonthList, CalendarTakesAnOpenListWithIt)
+{
+    Open();
+    const HWND list = List();
+    m_calendar.DestroyWindow();
+    EXPECT_FALSE(IsWindow(list));
+    EXPECT_FALSE(m_calendar.m_bTrackMonth);
+    ts::MouseUp();
+}
+
+TEST_F(MonthList, LeavesNothingBehind)
+{
+    Make();
+    const CPoint header = CRect(m_calendar.m_pCells[0].rcHdr).CenterPoint();
+    const LPARAM place = MAKELPARAM(header.x, header.y);
+    EXPECT_TRUE(ts::NoLeak(
+        [&] {
+            m_calendar.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, place);
+            UpdateWindow(List());
+            m_calendar.SendMessage(WM_LBUTTONUP, 0, place);
+        },
+        200));
+    EXPECT_EQ(nullptr, List());
+}
