@@ -3,11 +3,13 @@
 /** The main window: one button that asks a question with the library's message box. */
 class CSampleFrame : public CQorFrame
 {
-protected:
+  protected:
     afx_msg int OnCreate(LPCREATESTRUCT create)
     {
         const DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW;
-        return CQorFrame::OnCreate(create) == 0 && m_ask.Create(L"&Ask", style, CRect(20, 100, 120, 121), this, 100) ? 0 : -1;
+        return CQorFrame::OnCreate(create) == 0 && m_ask.Create(L"&Ask", style, CRect(20, 100, 120, 121), this, 100)
+                   ? 0
+                   : -1;
     }
     afx_msg void OnAsk() { QorMsgBox(L"Does it work?", QOR_MSG_YESNO, 0, this); }
     afx_msg void OnDestroy() { ::PostQuitMessage(0); }
@@ -26,7 +28,8 @@ class CSampleApp : public CWinApp
     BOOL InitInstance() override
     {
         m_pMainWnd = &m_frame;
-        return m_frame.CreateEx(0, nullptr, L"Sample", 0, 200, 200, 480, 320, nullptr, nullptr) && (m_frame.ShowWindow(SW_SHOW), TRUE);
+        return m_frame.CreateEx(0, nullptr, L"Sample", 0, 200, 200, 480, 320, nullptr, nullptr) &&
+               (m_frame.ShowWindow(SW_SHOW), TRUE);
     }
     CSampleFrame m_frame;
 } g_App;

@@ -28,6 +28,7 @@ qor_check_fonts()
 
 qor_has_locale()
 {
+    [ -n "${LOCPATH:-}" ] && [ -d "$LOCPATH/$1" ] && return
     locale -a 2>/dev/null | tr 'A-Z' 'a-z' | tr -d - | grep -qx "$(echo "$1" | tr 'A-Z' 'a-z' | tr -d -)"
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #define IDI_CONSOLE 128
+#define IDB_DIAL 129
 #define IDD_LAYOUT 201
 #define IDC_LAYOUT_TOPIC 2101
 #define IDC_LAYOUT_ANCHOR 2102

@@ -1,0 +1,43 @@
+#pragma once
+
+/** @file
+ * Everything that the user-interface library offers to a host program.
+ */
+
+#include <QorUI/app/Draw.h>
+#include <QorUI/app/Messages.h>
+#include <QorUI/app/Picture.h>
+#include <QorUI/app/QorBmp.h>
+#include <QorUI/app/QorUIDef.h>
+#include <QorUI/app/Shared.h>
+#include <QorUI/buttons/BmpBtn.h>
+#include <QorUI/buttons/CheckRadio.h>
+#include <QorUI/buttons/CmdBtn.h>
+#include <QorUI/buttons/Links.h>
+#include <QorUI/buttons/QorBtn.h>
+#include <QorUI/datetime/MemDC.h>
+#include <QorUI/datetime/QorCalendar.h>
+#include <QorUI/datetime/QorClock.h>
+#include <QorUI/dialogs/CtrlLayout.h>
+#include <QorUI/dialogs/QorBaseDlg.h>
+#include <QorUI/dialogs/QorCmnDlg.h>
+#include <QorUI/dialogs/QorDialog.h>
+#include <QorUI/dialogs/QorFrame.h>
+#include <QorUI/indicators/ChartCtrl.h>
+#include <QorUI/indicators/DesktopTip.h>
+#include <QorUI/indicators/ProgressBar.h>
+#include <QorUI/indicators/ProgressList.h>
+#include <QorUI/indicators/QorInfo.h>
+#include <QorUI/indicators/QorStatusBar.h>
+#include <QorUI/inputs/DragLB.h>
+#include <QorUI/inputs/FlatChkList.h>
+#include <QorUI/inputs/FlatCombo.h>
+#include <QorUI/inputs/FlatEdit.h>
+#include <QorUI/inputs/FlatEditEx.h>
+#include <QorUI/inputs/FlatListBox.h>
+#include <QorUI/inputs/FlatPickers.h>
+#include <QorUI/inputs/FlatRichEdit.h>
+#include <QorUI/inputs/IntEdit.h>
+#include <QorUI/inputs/SearchBox.h>
+#include <QorUI/lists/FlatHdr.h>
+#include <QorUI/lists/FlatList.h>

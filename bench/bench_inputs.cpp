@@ -1,0 +1,90 @@
+/** @file
+ * The input controls against the stock controls: many texts into the flat list box, a full repaint of the flat combo
+ * box.
+ */
+
+#include "Ratio.h"
+
+#include <QorUI/QorUI.h>
+
+#include <array>
+#include <vector>
+
+namespace
+{
+
+class COwner : public CWnd
+{
+  public:
+    COwner()
+    {
+        CreateEx(0, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_BTNFACE)), L"Owner", WS_POPUP | WS_VISIBLE,
+                 0, 0, 400, 300, nullptr, nullptr);
+    }
+};
+
+CFont* GuiFont()
+{
+    return CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT)));
+}
+
+std::vector<CString> Texts(int count)
+{
+    std::vector<CString> texts(static_cast<size_t>(count));
+    for (int i = 0; i < count; ++i) {
+        texts[static_cast<size_t>(i)].Format(L"C:\\Users\\Name\\Documents\\Report %d.txt", i * 7919 % count);
+    }
+    return texts;
+}
+
+template <class List>
+void Fill(benchmark::State& state, int count)
+{
+    const std::vector<CString> texts = Texts(count);
+    COwner owner;
+    List list;
+    static_cast<CListBox&>(list).Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_HSCROLL, CRect(10, 10, 210, 210),
+                                        &owner, 100);
+    list.SetFont(GuiFont());
+    list.SetRedraw(FALSE);
+    for (auto _ : state) {
+        list.ResetContent();
+        for (const CString& text : texts) {
+            list.AddString(text);
+        }
+    }
+    state.SetItemsProcessed(state.iterations() * count);
+}
+
+template <class Combo>
+void Repaint(benchmark::State& state)
+{
+    COwner owner;
+    Combo combo;
+    static_cast<CComboBox&>(combo).Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(10, 10, 210, 210), &owner,
+                                          100);
+    combo.SetFont(GuiFont());
+    combo.AddString(L"Every day");
+    combo.SetCurSel(0);
+    for (auto _ : state) {
+        combo.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    static constexpr std::array<int, 3> counts = {1000, 10000, 100000};
+    for (const int count : counts) {
+        CStringA name;
+        name.Format("list box, %d texts", count);
+        ComparePair(
+            name, [count](benchmark::State& state) { Fill<CFlatListBox>(state, count); },
+            [count](benchmark::State& state) { Fill<CListBox>(state, count); });
+    }
+    ComparePair(
+        "combo box repaint", [](benchmark::State& state) { Repaint<CFlatCombo>(state); },
+        [](benchmark::State& state) { Repaint<CComboBox>(state); });
+    return RunBenchmarks(argc, argv);
+}

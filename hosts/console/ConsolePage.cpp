@@ -1,0 +1,164 @@
+#include "ConsolePage.h"
+
+namespace
+{
+
+constexpr COLORREF kHeading = RGB(28, 78, 120);
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CConsolePage, CWnd)
+    ON_WM_CREATE()
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_WM_CTLCOLOR()
+    ON_MESSAGE(WM_DRAWPARENTBACK, &CConsolePage::OnDrawParentBack)
+END_MESSAGE_MAP()
+
+BOOL CConsolePage::Create(CWnd* parent, const CRect& area)
+{
+    return CreateEx(WS_EX_CONTROLPARENT, nullptr, L"", WS_CHILD, area, parent, 0);
+}
+
+BOOL CConsolePage::PreCreateWindow(CREATESTRUCT& cs)
+{
+    cs.lpszClass = AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW));
+    return cs.lpszClass != nullptr;
+}
+
+int CConsolePage::OnCreate(LPCREATESTRUCT create)
+{
+    if (CWnd::OnCreate(create) == -1) {
+        return -1;
+    }
+    LOGFONTW font = {};
+    PageFont()->GetLogFont(&font);
+    font.lfWeight = FW_BOLD;
+    m_boldFont.CreateFontIndirect(&font);
+    return Build() ? 0 : -1;
+}
+
+CFont* CConsolePage::PageFont() const
+{
+    return CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT)));
+}
+
+bool CConsolePage::Finish(CWnd& wnd, BOOL created)
+{
+    if (created) {
+        wnd.SetFont(PageFont());
+    }
+    return created != FALSE;
+}
+
+bool CConsolePage::AddLabel(LPCWSTR text, const CRect& rect, UINT id)
+{
+    auto& label = Own<CStatic>();
+    return Finish(label, label.Create(text, WS_CHILD | WS_VISIBLE | SS_NOPREFIX, rect, this, id));
+}
+
+bool CConsolePage::AddCaption(LPCWSTR text, const CRect& rect)
+{
+    auto& label = Own<CStatic>();
+    return Finish(label, label.Create(text, WS_CHILD | WS_VISIBLE | WS_GROUP | SS_CENTERIMAGE, rect, this));
+}
+
+CQorBtn* CConsolePage::AddPush(LPCWSTR text, const CRect& rect, UINT id)
+{
+    auto& button = Own<CQorBtn>();
+    const DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW;
+    return Finish(button, button.Create(text, style, rect, this, id)) ? &button : nullptr;
+}
+
+CCheckBox* CConsolePage::AddCheck(LPCWSTR text, const CRect& rect, UINT id)
+{
+    auto& box = Own<CCheckBox>();
+    const DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_AUTOCHECKBOX;
+    return Finish(box, box.Create(text, style, rect, this, id)) ? &box : nullptr;
+}
+
+CRadioBox* CConsolePage::AddRadio(LPCWSTR text, const CRect& rect, UINT id, bool firstOfGroup)
+{
+    auto& box = Own<CRadioBox>();
+    const DWORD style = WS_CHILD | WS_VISIBLE | BS_AUTORADIOBUTTON | (firstOfGroup ? WS_GROUP | WS_TABSTOP : 0);
+    return Finish(box, box.Create(text, style, rect, this, id)) ? &box : nullptr;
+}
+
+CEdit* CConsolePage::AddEdit(const CRect& rect, UINT id, DWORD style)
+{
+    auto& edit = Own<CEdit>();
+    const DWORD all = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER | WS_GROUP | style;
+    return Finish(edit, edit.Create(all, rect, this, id)) ? &edit : nullptr;
+}
+
+CListBox* CConsolePage::AddList(const CRect& rect, UINT id)
+{
+    auto& list = Own<CListBox>();
+    const DWORD style =
+        WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER | WS_GROUP | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT;
+    return Finish(list, list.Create(style, rect, this, id)) ? &list : nullptr;
+}
+
+void CConsolePage::DrawHeading(CDC& dc, LPCWSTR text, const CRect& rect) const
+{
+    CFont* old = dc.SelectObject(const_cast<CFont*>(&m_boldFont));
+    const COLORREF colour = dc.SetTextColor(kHeading);
+    CRect line(rect);
+    dc.DrawText(text, -1, line, DT_SINGLELINE | DT_BOTTOM | DT_NOPREFIX | DT_END_ELLIPSIS);
+    dc.SetTextColor(colour);
+    dc.SelectObject(old);
+    QorDrawGradientLine(&dc, CPoint(rect.left, rect.bottom + 2), rect.Width());
+}
+
+BOOL CConsolePage::OnEraseBkgnd(CDC* /*dc*/)
+{
+    return TRUE;
+}
+
+void CConsolePage::OnPaint()
+{
+    CPaintDC dc(this);
+    CRect client;
+    GetClientRect(client);
+    dc.FillRect(client, CBrush::FromHandle(QorGetDlgBkBrush()));
+    CFont* old = dc.SelectObject(PageFont());
+    dc.SetBkMode(TRANSPARENT);
+    Draw(dc);
+    dc.SelectObject(old);
+}
+
+HBRUSH CConsolePage::OnCtlColor(CDC* dc, CWnd* wnd, UINT kind)
+{
+    if (kind == CTLCOLOR_EDIT || kind == CTLCOLOR_LISTBOX) {
+        return CWnd::OnCtlColor(dc, wnd, kind);
+    }
+    if (kind == CTLCOLOR_BTN) {
+        // Command buttons fill themselves with the brush that they find selected.
+        ::SelectObject(*dc, QorGetDlgBkBrush());
+    }
+    dc->SetBkMode(TRANSPARENT);
+    return QorGetDlgBkBrush();
+}
+
+LRESULT CConsolePage::OnDrawParentBack(WPARAM dc, LPARAM control)
+{
+    CRect client;
+    reinterpret_cast<CWnd*>(control)->GetClientRect(client);
+    reinterpret_cast<CDC*>(dc)->FillRect(client, CBrush::FromHandle(QorGetDlgBkBrush()));
+    return 0;
+}
+
+const std::vector<PageInfo>& AllPages()
+{
+    static const std::vector<PageInfo> pages = {
+        {L"buttons", L"STR_CON_BUTTONS", &MakeButtonsPage},     {L"layout", L"STR_CON_LAYOUT", &MakeLayoutPage},
+        {L"messages", L"STR_CON_MESSAGES", &MakeMessagePage},   {L"drawing", L"STR_CON_DRAWING", &MakeDrawingPage},
+        {L"account", L"STR_CON_ACCOUNT", &MakeAccountPage},     {L"edits", L"STR_CON_EDIT_PAGE", &MakeEditsPage},
+        {L"pickers", L"STR_CON_PICKER_PAGE", &MakePickersPage}, {L"calendar", L"STR_CON_CALENDAR", &MakeCalendarPage},
+        {L"clock", L"STR_CON_CLOCK", &MakeClockPage},
+        {L"list", L"STR_CON_LIST_PAGE", &MakeListPage},
+        {L"progress", L"STR_CON_PROG_PAGE", &MakeProgressPage},
+        {L"info", L"STR_CON_INFO_PAGE", &MakeInfoPage},
+    };
+    return pages;
+}

@@ -1,0 +1,122 @@
+#include "../ConsolePage.h"
+#include "../ConsoleText.h"
+
+#include <QorApi/QorApi.h>
+
+namespace
+{
+
+constexpr UINT kName = 2601;
+constexpr UINT kPassword = 2602;
+constexpr UINT kLogon = 2603;
+constexpr UINT kLogoff = 2604;
+constexpr UINT kUser = 2605;
+constexpr UINT kStore = 2606;
+constexpr UINT kMaxName = 31;
+constexpr UINT kMaxPassword = 63;
+
+/** Logs on to the store and tells who is logged on. */
+class CAccountPage : public CConsolePage
+{
+  public:
+    size_t StateCount() const override { return 2; }
+
+    void ShowState(size_t state) override
+    {
+        if (state == 1) {
+            QorLogonUser(BuiltInName(), L"");
+        }
+        ShowUser();
+    }
+
+  protected:
+    bool Build() override
+    {
+        if (!AddCaption(ConText(L"STR_CON_NAME"), CRect(12, 48, 110, 64)) || !AddEdit(CRect(120, 45, 320, 65), kName) ||
+            !AddCaption(ConText(L"STR_CON_PASSWORD"), CRect(12, 76, 110, 92)) ||
+            !AddEdit(CRect(120, 73, 320, 93), kPassword, ES_AUTOHSCROLL | ES_PASSWORD) ||
+            !AddPush(ConText(L"STR_CON_LOGON"), CRect(120, 106, 220, 127), kLogon) ||
+            !AddPush(ConText(L"STR_CON_LOGOFF"), CRect(230, 106, 330, 127), kLogoff) ||
+            !AddLabel(L"", CRect(12, 146, 640, 200), kUser) || !AddLabel(L"", CRect(12, 210, 640, 240), kStore)) {
+            return false;
+        }
+        SendDlgItemMessage(kName, EM_LIMITTEXT, kMaxName);
+        SendDlgItemMessage(kPassword, EM_LIMITTEXT, kMaxPassword);
+        CString last;
+        SetDlgItemText(kName, QorGetLastLogonInfo(last) ? last : BuiltInName());
+        ShowStore();
+        ShowUser();
+        return true;
+    }
+
+    void Draw(CDC& dc) override
+    {
+        CRect client;
+        GetClientRect(client);
+        DrawHeading(dc, ConText(L"STR_CON_ACCOUNT"), CRect(12, 8, client.right - 16, 28));
+    }
+
+    afx_msg void OnLogon()
+    {
+        CString name;
+        CString password;
+        QorGetText(*GetDlgItem(kName), name);
+        GetDlgItemText(kPassword, password);
+        const DWORD status = QorLogonUser(name, password);
+        if (status != 0) {
+            QorMsgBox(ConText(L"STR_CON_LOGON_FAILED"), QOR_MSG_ERROR, status, this);
+        } else {
+            QorSetLastLogonInfo(TRUE, name);
+            SetDlgItemText(kPassword, L"");
+        }
+        ShowUser();
+    }
+
+    afx_msg void OnLogoff()
+    {
+        QorLogoff();
+        ShowUser();
+    }
+    DECLARE_MESSAGE_MAP()
+
+  private:
+    static CString BuiltInName()
+    {
+        _QORVEX_USER user = {};
+        return QorGetUserInfo(user) == 0 ? CString(user.szName) : CString();
+    }
+
+    void ShowUser()
+    {
+        _QORVEX_USER user = {};
+        CString text(ConText(L"STR_CON_NOBODY"));
+        if (QorGetLogonUser(user) == 0) {
+            text.Format(ConText(L"STR_CON_USER"), user.szName, user.szDesc, static_cast<int>(user.dwRights));
+        }
+        SetDlgItemText(kUser, text);
+    }
+
+    void ShowStore()
+    {
+        const DWORD status = QorOpen();
+        CString text(ConText(L"STR_CON_STORE_OK"));
+        if (status != 0) {
+            text.Format(ConText(L"STR_CON_STORE_BAD"), QorFormatMsg(status).GetString());
+        } else {
+            QorClose();
+        }
+        SetDlgItemText(kStore, text);
+    }
+};
+
+BEGIN_MESSAGE_MAP(CAccountPage, CConsolePage)
+    ON_BN_CLICKED(kLogon, &CAccountPage::OnLogon)
+    ON_BN_CLICKED(kLogoff, &CAccountPage::OnLogoff)
+END_MESSAGE_MAP()
+
+} // namespace
+
+std::unique_ptr<CConsolePage> MakeAccountPage()
+{
+    return std::make_unique<CAccountPage>();
+}

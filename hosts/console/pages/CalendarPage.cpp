@@ -1,0 +1,249 @@
+#include "../ConsolePage.h"
+#include "../ConsoleText.h"
+
+namespace
+{
+
+constexpr UINT kCalendar = 2601;
+constexpr UINT kGridFirst = 2602;
+constexpr UINT kGridLast = 2604;
+constexpr UINT kDaysFirst = 2605;
+constexpr UINT kDaysLast = 2607;
+constexpr UINT kWeekFirst = 2608;
+constexpr UINT kWeekLast = 2609;
+constexpr UINT kMarks = 2610;
+constexpr UINT kEarlier = 2611;
+constexpr UINT kLater = 2612;
+constexpr UINT kToday = 2613;
+constexpr UINT kResult = 2614;
+
+constexpr int kLeft = 12;
+constexpr int kTop = 40;
+constexpr int kSideLeft = 500;
+constexpr int kSideRight = 716;
+constexpr int kResultTop = 560;
+
+constexpr SIZE kGrids[] = {{1, 1}, {2, 2}, {3, 4}};
+constexpr UINT kMostDays[] = {0, 1, 7};
+
+/** Sample data: the days on which something was recorded. */
+int IsRecorded(COleDateTime& date, void* /*data*/)
+{
+    return date.GetDay() % 9 == 3 || date.GetDayOfWeek() == 6;
+}
+
+/** A calendar that the page's buttons can page, too. */
+class CPageCalendar : public CQorCalendar
+{
+  public:
+    using CQorCalendar::ScrollLeft;
+    using CQorCalendar::ScrollRight;
+    using CQorCalendar::SetFirstDayOfWeek;
+
+    CString MonthAndYear() { return GetMonthName(m_nMonth, m_nYear); }
+    int Year() const { return m_nYear; }
+    int Month() const { return m_nMonth; }
+};
+
+class CCalendarPage : public CConsolePage
+{
+  public:
+    size_t StateCount() const override { return 4; }
+
+    void ShowState(size_t state) override
+    {
+        static constexpr struct
+        {
+            UINT grid, days, week;
+            bool marks;
+            int firstDay, lastDay;
+        } states[] = {
+            {1, 2, 0, true, 10, 16}, {0, 1, 1, false, 20, 20}, {2, 2, 1, true, 28, 31}, {0, 0, 0, true, 1, 1}};
+        const auto& shown = states[state % std::size(states)];
+        m_marks = shown.marks;
+        SendDlgItemMessage(kMarks, BM_SETCHECK, m_marks ? BST_CHECKED : BST_UNCHECKED);
+        Choose(kGridFirst, kGridLast, m_grid = shown.grid);
+        Choose(kDaysFirst, kDaysLast, m_days = shown.days);
+        Choose(kWeekFirst, kWeekLast, m_week = shown.week);
+        Rebuild();
+        m_calendar->SetCurrentYearMonth(2009, 3);
+        COleDateTime start(2009, 3, shown.firstDay, 0, 0, 0);
+        COleDateTime end(2009, 3, shown.lastDay, 0, 0, 0);
+        m_calendar->SetSelDate(start, end);
+        ShowResult();
+    }
+
+  protected:
+    bool Build() override
+    {
+        if (!BuildChoices() || !AddLabel(L"", CRect(kLeft, kResultTop, kSideRight, kResultTop + 18), kResult)) {
+            return false;
+        }
+        const COleDateTime today = COleDateTime::GetCurrentTime();
+        m_year = today.GetYear();
+        m_month = today.GetMonth();
+        return Rebuild();
+    }
+
+    void Draw(CDC& dc) override
+    {
+        DrawHeading(dc, ConText(L"STR_CON_CALENDAR"), CRect(kLeft, 8, kSideLeft - 16, 28));
+        DrawHeading(dc, ConText(L"STR_CON_CAL_OPTIONS"), CRect(kSideLeft, 8, kSideRight, 28));
+    }
+
+    afx_msg void OnGrid(UINT id)
+    {
+        m_grid = id - kGridFirst;
+        Rebuild();
+    }
+
+    afx_msg void OnDays(UINT id)
+    {
+        m_days = id - kDaysFirst;
+        m_calendar->SetMaxSelDays(kMostDays[m_days]);
+        ShowResult();
+    }
+
+    afx_msg void OnWeek(UINT id)
+    {
+        m_week = id - kWeekFirst;
+        Rebuild();
+    }
+
+    afx_msg void OnMarks()
+    {
+        m_marks = SendDlgItemMessage(kMarks, BM_GETCHECK) == BST_CHECKED;
+        Rebuild();
+    }
+
+    afx_msg void OnEarlier()
+    {
+        m_calendar->ScrollLeft(1);
+        ShowResult();
+    }
+
+    afx_msg void OnLater()
+    {
+        m_calendar->ScrollRight(1);
+        ShowResult();
+    }
+
+    afx_msg void OnToday()
+    {
+        COleDateTime today = COleDateTime::GetCurrentTime();
+        m_calendar->SetCurrentYearMonth(today.GetYear(), today.GetMonth());
+        m_calendar->SetSelDate(today, today);
+        ShowResult();
+    }
+
+    afx_msg void OnPicked(NMHDR* /*header*/, LRESULT* result)
+    {
+        ShowResult();
+        *result = 0;
+    }
+    DECLARE_MESSAGE_MAP()
+
+  private:
+    bool BuildChoices()
+    {
+        static constexpr LPCWSTR radios[] = {L"STR_CON_CAL_ONE",  L"STR_CON_CAL_FOUR", L"STR_CON_CAL_TWELVE",
+                                             L"STR_CON_CAL_NONE", L"STR_CON_CAL_DAY",  L"STR_CON_CAL_WEEK",
+                                             L"STR_CON_CAL_SUN",  L"STR_CON_CAL_MON"};
+        int y = kTop;
+        for (UINT id = kGridFirst; id <= kWeekLast; ++id) {
+            const bool first = id == kGridFirst || id == kDaysFirst || id == kWeekFirst;
+            y += first && id != kGridFirst ? 16 : 0;
+            if (!AddRadio(ConText(radios[id - kGridFirst]), CRect(kSideLeft, y, kSideRight, y + 18), id, first)) {
+                return false;
+            }
+            y += 22;
+        }
+        Choose(kGridFirst, kGridLast, m_grid);
+        Choose(kDaysFirst, kDaysLast, m_days);
+        Choose(kWeekFirst, kWeekLast, m_week);
+        y += 16;
+        CCheckBox* marks = AddCheck(ConText(L"STR_CON_CAL_MARKS"), CRect(kSideLeft, y, kSideRight, y + 18), kMarks);
+        if (!marks) {
+            return false;
+        }
+        marks->ModifyStyle(0, WS_GROUP); // ends the group of the radio buttons
+        SendDlgItemMessage(kMarks, BM_SETCHECK, BST_CHECKED);
+        return BuildButtons(y + 36);
+    }
+
+    bool BuildButtons(int y)
+    {
+        const CRect left(kSideLeft, y, kSideLeft + 100, y + 21);
+        const CRect right(kSideLeft + 108, y, kSideLeft + 208, y + 21);
+        return AddPush(ConText(L"STR_CON_CAL_EARLIER"), left, kEarlier) &&
+               AddPush(ConText(L"STR_CON_CAL_LATER"), right, kLater) &&
+               AddPush(ConText(L"STR_CON_CAL_TODAY"), left + CPoint(0, 30), kToday);
+    }
+
+    void Choose(UINT first, UINT last, UINT index) { CheckRadioButton(first, last, first + index); }
+
+    /** Makes the calendar anew: its grid and its data are given at creation. */
+    bool Rebuild()
+    {
+        if (m_calendar) {
+            m_year = m_calendar->Year();
+            m_month = m_calendar->Month();
+            m_calendar->DestroyWindow();
+        }
+        m_calendar = std::make_unique<CPageCalendar>();
+        m_calendar->SetBkColor(RGB(255, 255, 255));
+        m_calendar->SetColors(RGB(70, 70, 70), RGB(0, 0, 255));
+        m_calendar->SetFirstDayOfWeek(m_week == 0 ? 1 : 2);
+        m_calendar->SetMaxSelDays(kMostDays[m_days]);
+        m_calendar->SetCurrentYearMonth(m_year, m_month);
+        const SIZE grid = kGrids[m_grid];
+        if (!m_calendar->Create(this, kCalendar, m_marks ? &IsRecorded : nullptr, nullptr, grid.cy, grid.cx)) {
+            return false;
+        }
+        m_calendar->SetWindowPos(nullptr, kLeft, kTop, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+        Invalidate(FALSE);
+        ShowResult();
+        return true;
+    }
+
+    void ShowResult()
+    {
+        COleDateTime end;
+        const COleDateTime start = m_calendar->GetSelDate(&end);
+        CString text;
+        if (start.GetStatus() != COleDateTime::valid) {
+            text.Format(ConText(L"STR_CON_CAL_EMPTY"), m_calendar->MonthAndYear().GetString());
+        } else {
+            text.Format(ConText(L"STR_CON_CAL_RANGE"), m_calendar->MonthAndYear().GetString(),
+                        start.Format(VAR_DATEVALUEONLY).GetString(), end.Format(VAR_DATEVALUEONLY).GetString());
+        }
+        SetDlgItemText(kResult, text);
+    }
+
+    std::unique_ptr<CPageCalendar> m_calendar;
+    UINT m_grid = 1;
+    UINT m_days = 2;
+    UINT m_week = 0;
+    bool m_marks = true;
+    int m_year = 0;
+    int m_month = 0;
+};
+
+BEGIN_MESSAGE_MAP(CCalendarPage, CConsolePage)
+    ON_CONTROL_RANGE(BN_CLICKED, kGridFirst, kGridLast, &CCalendarPage::OnGrid)
+    ON_CONTROL_RANGE(BN_CLICKED, kDaysFirst, kDaysLast, &CCalendarPage::OnDays)
+    ON_CONTROL_RANGE(BN_CLICKED, kWeekFirst, kWeekLast, &CCalendarPage::OnWeek)
+    ON_BN_CLICKED(kMarks, &CCalendarPage::OnMarks)
+    ON_BN_CLICKED(kEarlier, &CCalendarPage::OnEarlier)
+    ON_BN_CLICKED(kLater, &CCalendarPage::OnLater)
+    ON_BN_CLICKED(kToday, &CCalendarPage::OnToday)
+    ON_NOTIFY(NM_CLICK, kCalendar, &CCalendarPage::OnPicked)
+    ON_NOTIFY(NM_DBLCLK, kCalendar, &CCalendarPage::OnPicked)
+END_MESSAGE_MAP()
+
+} // namespace
+
+std::unique_ptr<CConsolePage> MakeCalendarPage()
+{
+    return std::make_unique<CCalendarPage>();
+}
