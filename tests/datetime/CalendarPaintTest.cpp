@@ -106,14 +106,16 @@ TEST_F(CalendarPaint, ArrowsStandInTheFirstRowsOuterCells)
 {
     Make(2, 2);
     const ts::Picture look = Look();
+    const int a = m_calendar.m_nHdrHeight / 4;
     const int m = m_calendar.m_nHdrHeight / 2;
-    EXPECT_EQ(CPoint(5, m), CPoint(m_calendar.m_rcLeftArrow.left,
-                                   (m_calendar.m_rcLeftArrow.top + m_calendar.m_rcLeftArrow.bottom) / 2));
-    EXPECT_EQ(2 * Width() - 10 + 1, m_calendar.m_rcRightArrow.right);
+    const int right = 2 * Width() - 10;
+    EXPECT_EQ(CRect(5, m - a - 1, a + 7, m + a + 1), CRect(m_calendar.m_rcLeftArrow));
+    EXPECT_EQ(CRect(right - a - 1, m - a - 1, right + 1, m + a + 1), CRect(m_calendar.m_rcRightArrow));
     const COLORREF face = GetSysColor(COLOR_BTNFACE);
     EXPECT_TRUE(ts::PixelIs(look, Width() - 10, m, face));
     EXPECT_TRUE(ts::PixelIs(look, Width() + 6, m, face));
     EXPECT_TRUE(ts::PixelIs(look, 6, m_calendar.m_nCellHeight + m, face));
+    EXPECT_TRUE(ts::PixelIs(look, right, m_calendar.m_nCellHeight + m, face));
 }
 
 TEST_F(CalendarPaint, HeaderPlacesAreRemembered)

@@ -12,7 +12,7 @@ class Console : public testing::Test
   protected:
     ts::ProcessResult Run(const std::wstring& arguments, DWORD limit = 120000)
     {
-        const ts::EnvironmentVariable store(L"QOR_STORE", m_folder.File(L"store.db"));
+        const ts::EnvironmentVariable store(L"QOR_STORE", m_folder.File(L"store.db").c_str());
         return ts::RunProcess(L"\"" + ts::ProgramFolder() + L"\\QorConsole.exe\" " + arguments, limit);
     }
 
