@@ -22,7 +22,7 @@ constexpr int kLeft = 12;
 constexpr int kRight = 716;
 constexpr int kChartBottom = 264;
 constexpr int kInfoTop = 314;
-constexpr ULONGLONG kMegabyte = 1024 * 1024;
+constexpr ULONGLONG kMegabyte = 1024ULL * 1024;
 
 struct TaskMemoryFreer
 {
