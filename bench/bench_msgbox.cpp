@@ -9,19 +9,49 @@
 namespace
 {
 
-/** Owner of the boxes: closes a box as soon as it has nothing left to do, that is when it was painted. */
+constexpr UINT kBoxIsActive = WM_APP; // wParam: the box
+
+/** Owner of the boxes: as soon as a box is active, has it painted whole and closes it. */
 class COwner : public CWnd
 {
   public:
-    COwner() { CreateEx(0, AfxRegisterWndClass(0), L"Owner", WS_POPUP | WS_VISIBLE, 0, 0, 200, 200, nullptr, nullptr); }
+    COwner()
+    {
+        CreateEx(0, AfxRegisterWndClass(0), L"Owner", WS_POPUP | WS_VISIBLE, 0, 0, 200, 200, nullptr, nullptr);
+        s_owner = m_hWnd;
+        m_hook = ::SetWindowsHookExW(WH_CBT, &OnHook, nullptr, ::GetCurrentThreadId());
+    }
+    ~COwner() override
+    {
+        ::UnhookWindowsHookEx(m_hook);
+        DestroyWindow();
+    }
 
   protected:
-    afx_msg void OnEnterIdle(UINT /*why*/, CWnd* who) { who->PostMessage(WM_COMMAND, IDOK); }
+    afx_msg LRESULT OnBoxIsActive(WPARAM wParam, LPARAM)
+    {
+        const auto box = reinterpret_cast<HWND>(wParam);
+        ::RedrawWindow(box, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+        ::PostMessageW(box, WM_COMMAND, IDOK, 0);
+        return 0;
+    }
     DECLARE_MESSAGE_MAP()
+
+  private:
+    static LRESULT CALLBACK OnHook(int code, WPARAM wParam, LPARAM lParam)
+    {
+        if (code == HCBT_ACTIVATE && reinterpret_cast<HWND>(wParam) != s_owner) {
+            ::PostMessageW(s_owner, kBoxIsActive, wParam, 0);
+        }
+        return ::CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    static inline HWND s_owner = nullptr;
+    HHOOK m_hook;
 };
 
 BEGIN_MESSAGE_MAP(COwner, CWnd)
-    ON_WM_ENTERIDLE()
+    ON_MESSAGE(kBoxIsActive, &COwner::OnBoxIsActive)
 END_MESSAGE_MAP()
 
 constexpr LPCWSTR kText = L"The snapshot could not be taken because the disk is full.";

@@ -53,7 +53,10 @@ int CConsoleFrame::OnCreate(LPCREATESTRUCT create)
 
 void CConsoleFrame::OnDestroy()
 {
-    m_page.reset();
+    if (m_page) {
+        m_page->DestroyWindow();
+        m_page.reset();
+    }
     CQorFrame::OnDestroy();
     ::PostQuitMessage(0);
 }
