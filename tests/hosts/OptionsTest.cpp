@@ -14,7 +14,7 @@ struct Parsed
     CString message;
 };
 
-Parsed Parse(std::vector<const wchar_t*> arguments)
+Parsed Parse(const std::vector<const wchar_t*>& arguments)
 {
     std::vector<LPWSTR> argv = {const_cast<LPWSTR>(L"QorConsole")};
     for (const wchar_t* argument : arguments) {

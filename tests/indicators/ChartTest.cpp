@@ -52,7 +52,7 @@ TEST_F(Chart, TitleIsTheTrimmedWindowText)
     EXPECT_GE(text.left, 8);
     EXPECT_LE(text.left, 14);
     EXPECT_LE(text.bottom, 30);
-    EXPECT_NEAR(15, (text.top + text.bottom) / 2, 3);
+    EXPECT_NEAR(15, text.CenterPoint().y, 3);
     m_chart.SetWindowText(L"Title");
     EXPECT_TRUE(ts::SamePicture(look, LookOf(m_chart)));
     m_chart.SetWindowText(L"   ");
@@ -138,7 +138,7 @@ TEST_F(Chart, LongestBarIsNinetyPixelsAndItsCaps)
     EXPECT_NEAR(37, all.bottom, 1);
     const CRect third = look.Crop(CRect(0, 0, 115, 70)).BoundsOf(kSeries[1]);
     EXPECT_NEAR(13 + 30 + 4, third.right, 1);
-    EXPECT_NEAR(53, (third.top + third.bottom) / 2, 1);
+    EXPECT_NEAR(53, third.CenterPoint().y, 1);
 }
 
 TEST_F(Chart, BarWithoutValueIsADot)
@@ -147,7 +147,7 @@ TEST_F(Chart, BarWithoutValueIsADot)
     m_chart.AddItem(L"One", 1);
     m_chart.AddItem(L"None", 0);
     const CRect dot = LookOf(m_chart).Crop(CRect(0, 0, 115, 70)).BoundsOf(kSeries[1]);
-    EXPECT_NEAR(13, (dot.left + dot.right) / 2, 1);
+    EXPECT_NEAR(13, dot.CenterPoint().x, 1);
     EXPECT_NEAR(8, dot.Width(), 2);
     EXPECT_NEAR(8, dot.Height(), 2);
 }

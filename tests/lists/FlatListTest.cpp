@@ -216,7 +216,8 @@ TEST_F(FlatList, EmptyTextStandsTenPixelsBelowTheHeaderInTheMiddle)
     const CRect below(0, item.bottom, look.Width(), look.Height());
     const CRect box = look.Crop(below).BoundsOf(RGB(255, 255, 255));
     EXPECT_EQ(10, box.top);
-    EXPECT_NEAR(look.Width() / 2, (box.left + box.right) / 2, 2);
+    const int middle = look.Width() / 2;
+    EXPECT_NEAR(middle, box.CenterPoint().x, 2);
 }
 
 TEST_F(FlatList, EmptyTextWithoutHeaderItemsBeginsAtTheTop)
