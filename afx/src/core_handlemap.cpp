@@ -48,6 +48,12 @@ void CHandleMap::RemoveHandle(HANDLE h)
     m_permanentMap.erase(h);
 }
 
+void CHandleMap::DumpPermanent(LPCWSTR lpszKind) const
+{
+    for (const auto& [h, pObject] : m_permanentMap)
+        AfxTrace(L"%s $%p is owned by the object at $%p\n", lpszKind, h, pObject);
+}
+
 void CHandleMap::DeleteTemp()
 {
     /* Ending a wrapper may ask for other wrappers. */

@@ -36,10 +36,16 @@ struct BlockTable
 };
 BlockTable* g_pTable = nullptr;
 
+bool g_bOmitReport = false;
+
+void ReportLeftBlocks();
+
 struct TableEnd
 {
     ~TableEnd()
     {
+        if (g_bTrack && !g_bOmitReport)
+            ReportLeftBlocks();
         CExclusiveLock lock(g_lockHeap);
         g_bTrack = FALSE;
         g_nTracked = 0;
@@ -64,6 +70,18 @@ std::vector<std::pair<const void*, TrackedBlock>> CopyBlocks()
     if (!g_pTable)
         return {};
     return {g_pTable->blocks.begin(), g_pTable->blocks.end()};
+}
+
+void ReportLeftBlocks()
+{
+    const CMemoryState none;
+    CMemoryState left;
+    left.Checkpoint();
+    if (left.m_lCounts[CMemoryState::objectBlock] == 0 && left.m_lCounts[CMemoryState::bitBlock] == 0)
+        return;
+    AfxTrace(L"blocks are left when the framework ends:\n");
+    left.DumpStatistics();
+    none.DumpAllObjectsSince();
 }
 
 bool Enter(const void* p, const TrackedBlock& block)
@@ -108,6 +126,16 @@ void AfxFreeTracked(void* p) noexcept
 BOOL AFXAPI AfxEnableMemoryTracking(BOOL bTrack)
 {
     return InterlockedExchange(&g_bTrack, bTrack ? TRUE : FALSE);
+}
+
+bool AfxIsMemoryTracked()
+{
+    return g_bTrack != FALSE;
+}
+
+void AfxOmitBlockReport()
+{
+    g_bOmitReport = true;
 }
 
 BOOL AFXAPI AfxCheckMemory()

@@ -21,6 +21,11 @@ class CExclusiveLock
 void* AfxAllocTracked(size_t nBytes, bool bObject, LPCSTR lpszFileName = nullptr, int nLine = 0) noexcept;
 void AfxFreeTracked(void* p) noexcept;
 
+/** Whether the tracking of blocks is on. */
+bool AfxIsMemoryTracked();
+/** Nothing is said of blocks that are left at the end: threads that were killed could not free theirs. */
+void AfxOmitBlockReport();
+
 /** Writes a text to the trace hook, or to the debugger and stderr. */
 void AfxWriteDiagnostic(LPCWSTR lpszText);
 

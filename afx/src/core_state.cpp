@@ -46,6 +46,12 @@ struct AfxStateAccess
     static _AFX_THREAD_STATE* MakeThread();
     static void FreeThread(_AFX_THREAD_STATE* pThread);
     static void FreeAllThreads();
+    /** @return number of handles that objects of the thread own */
+    static UINT DumpHandles(const _AFX_THREAD_STATE* pThread);
+    /** The last words of the framework on what was not closed. */
+    static void ReportLeftHandles();
+    /** Frees what this thread has when the process ends; the other threads are gone without having freed theirs. */
+    static void FreeLastThread();
     static AFX_MODULE_THREAD_STATE* ModuleThread(_AFX_THREAD_STATE* pThread, AFX_MODULE_STATE* pModule);
     static std::unique_ptr<CHandleMap>& HandleMap(_AFX_THREAD_STATE* pThread, AFX_HANDLE_KIND nKind)
     {
@@ -70,6 +76,8 @@ struct StateRoot
 
     ~StateRoot()
     {
+        if (AfxIsMemoryTracked())
+            AfxStateAccess::ReportLeftHandles();
         if (g_bProcessTerminating)
             return;
         AfxStateAccess::FreeAllThreads();
@@ -335,6 +343,72 @@ void AfxStateAccess::FreeAllThreads()
 {
     while (g_pFirstThread)
         FreeThread(g_pFirstThread);
+}
+
+UINT AfxStateAccess::DumpHandles(const _AFX_THREAD_STATE* pThread)
+{
+    static constexpr LPCWSTR KIND_NAMES[AFX_HANDLE_KINDS] = {L"window",     L"menu",       L"device context",
+                                                             L"GDI object", L"image list", L"socket"};
+    size_t nCount = 0;
+    for (int nKind = 0; nKind < AFX_HANDLE_KINDS; ++nKind) {
+        const CHandleMap* const pMap = pThread->m_rgpHandleMap[nKind].get();
+        if (!pMap)
+            continue;
+        pMap->DumpPermanent(KIND_NAMES[nKind]);
+        nCount += pMap->GetPermanentCount();
+    }
+    return static_cast<UINT>(nCount);
+}
+
+void AfxStateAccess::ReportLeftHandles()
+{
+    AfxSetTraceHook(nullptr);
+    UINT nCount = 0;
+    for (const _AFX_THREAD_STATE* pThread = g_pFirstThread; pThread; pThread = pThread->m_pNextThread)
+        nCount += DumpHandles(pThread);
+    if (nCount > 0)
+        AfxTrace(L"%u handles are left when the framework ends\n", nCount);
+    if (g_bProcessTerminating)
+        FreeLastThread();
+}
+
+void AfxStateAccess::FreeLastThread()
+{
+    AfxFreeThreadState();
+    if (g_pFirstThread)
+        AfxOmitBlockReport();
+}
+
+UINT AFXAPI AfxDumpHandles()
+{
+    return AfxStateAccess::DumpHandles(AfxGetThreadState());
+}
+
+void CHandleState::Checkpoint()
+{
+    static constexpr AFX_HANDLE_KIND KINDS[nHandleKinds] = {AFX_HANDLE_HWND, AFX_HANDLE_HMENU, AFX_HANDLE_HDC,
+                                                            AFX_HANDLE_HGDIOBJ, AFX_HANDLE_HIMAGELIST};
+    for (int nKind = 0; nKind < nHandleKinds; ++nKind) {
+        const CHandleMap* const pMap = AfxGetHandleMap(KINDS[nKind], nullptr);
+        m_lCounts[nKind] = pMap ? static_cast<LONG>(pMap->GetPermanentCount()) : 0;
+    }
+}
+
+BOOL CHandleState::Difference(const CHandleState& oldState, const CHandleState& newState)
+{
+    BOOL bDifferent = FALSE;
+    for (int nKind = 0; nKind < nHandleKinds; ++nKind) {
+        m_lCounts[nKind] = newState.m_lCounts[nKind] - oldState.m_lCounts[nKind];
+        if (m_lCounts[nKind] != 0)
+            bDifferent = TRUE;
+    }
+    return bDifferent;
+}
+
+void CHandleState::DumpStatistics() const
+{
+    AfxTrace(L"%d windows, %d menus, %d device contexts, %d GDI objects, %d image lists\n", m_lCounts[windows],
+             m_lCounts[menus], m_lCounts[deviceContexts], m_lCounts[gdiObjects], m_lCounts[imageLists]);
 }
 
 AFX_MODULE_THREAD_STATE* AfxStateAccess::ModuleThread(_AFX_THREAD_STATE* pThread, AFX_MODULE_STATE* pModule)

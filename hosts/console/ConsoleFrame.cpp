@@ -11,6 +11,7 @@ constexpr int kGap = 6;
 constexpr int kWidth = 940;
 constexpr int kHeight = 690;
 constexpr int kListItemHeight = 20;
+constexpr COLORREF kListColour = RGB(236, 245, 250);
 
 } // namespace
 
@@ -150,7 +151,7 @@ void CConsoleFrame::OnEnter()
 HBRUSH CConsoleFrame::OnCtlColor(CDC* dc, CWnd* wnd, UINT kind)
 {
     if (kind == CTLCOLOR_LISTBOX) {
-        dc->SetBkMode(TRANSPARENT);
+        dc->SetBkColor(kListColour); // the list box fills its items with this, not with the brush
         return QorGetDlgBkBrush();
     }
     return CQorFrame::OnCtlColor(dc, wnd, kind);

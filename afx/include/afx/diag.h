@@ -51,6 +51,8 @@ AFX_LIB BOOL AFXAPI AfxIsValidString(LPCSTR lpsz, INT_PTR nLength = -1);
 
 /** Turns the tracking of framework heap blocks (objects derived from CObject, string buffers) on or off.
  *  It is on from the start in a debug build of afx.dll and off otherwise; blocks made while it is on stay tracked.
+ *  While it is on, afx.dll reports on the debugger's output and stderr what is left when it is unloaded: handles that
+ *  objects still own, and blocks. The trace hook does not see that report, its module may be gone.
  *  @return the former setting */
 AFX_LIB BOOL AFXAPI AfxEnableMemoryTracking(BOOL bTrack);
 
@@ -90,6 +92,35 @@ struct CMemoryState
     /** Writes every tracked object allocated after the snapshot and still alive to the diagnostic output. */
     AFX_LIB void DumpAllObjectsSince() const;
 };
+
+/** A snapshot of the handles that objects of the calling thread own, for finding handles that are left open between two
+ *  points of a program. What was never attached to an object is not seen. */
+struct CHandleState
+{
+    enum handleKind
+    {
+        windows, ///< CWnd
+        menus,   ///< CMenu
+        deviceContexts,
+        gdiObjects,
+        imageLists,
+        nHandleKinds
+    };
+
+    LONG m_lCounts[nHandleKinds] = {};
+
+    /** Takes the snapshot. */
+    AFX_LIB void Checkpoint();
+    /** Stores new minus old.
+     *  @return TRUE when the two snapshots differ in the number of handles of some kind */
+    AFX_LIB BOOL Difference(const CHandleState& oldState, const CHandleState& newState);
+    /** Writes the counts to the diagnostic output. */
+    AFX_LIB void DumpStatistics() const;
+};
+
+/** Writes every handle that an object of the calling thread owns to the diagnostic output, with the object's address.
+ *  @return their number */
+AFX_LIB UINT AFXAPI AfxDumpHandles();
 
 /** Formatted output for CObject::Dump. Goes where the traces go. */
 class CDumpContext

@@ -282,6 +282,9 @@ class CHandleMap
     AFX_LIB void RemoveHandle(HANDLE h);
     /** Frees all temporary objects; their handles stay. */
     AFX_LIB void DeleteTemp();
+    /** Writes every permanent object to the diagnostic output.
+     *  @param lpszKind what the handles are called */
+    AFX_LIB void DumpPermanent(LPCWSTR lpszKind) const;
     size_t GetPermanentCount() const { return m_permanentMap.size(); }
     size_t GetTemporaryCount() const { return m_temporaryMap.size(); }
 
