@@ -12,6 +12,7 @@ BEGIN_MESSAGE_MAP(CConsolePage, CWnd)
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
     ON_WM_CTLCOLOR()
+    ON_MESSAGE(WM_GETFONT, &CConsolePage::OnGetFont)
     ON_MESSAGE(WM_DRAWPARENTBACK, &CConsolePage::OnDrawParentBack)
 END_MESSAGE_MAP()
 
@@ -41,6 +42,11 @@ int CConsolePage::OnCreate(LPCREATESTRUCT create)
 CFont* CConsolePage::PageFont() const
 {
     return CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT)));
+}
+
+LRESULT CConsolePage::OnGetFont(WPARAM, LPARAM)
+{
+    return reinterpret_cast<LRESULT>(PageFont()->GetSafeHandle());
 }
 
 bool CConsolePage::Finish(CWnd& wnd, BOOL created)
