@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <tests/support/Imports.h>
 #include <tests/support/Support.h>
 
 namespace
@@ -26,6 +27,17 @@ TEST(Hosts, ProgramWithoutApplicationObject)
 TEST(Hosts, ProgramThatLoadsAndFreesTheLibraryTwice)
 {
     ExpectContent(L"host_loading.exe");
+}
+
+TEST(Hosts, AttachingDoesNotWaitForTheShellAndTheImagingLibraries)
+{
+    for (const char* name : {"QorUI.dll", "afx.dll"}) {
+        const auto imports = ts::ImportsOf(::GetModuleHandleA(name));
+        EXPECT_TRUE(imports.contains("user32.dll")) << "not loaded: " << name;
+        for (const char* late : {"shell32.dll", "msimg32.dll", "comdlg32.dll"}) {
+            EXPECT_FALSE(imports.contains(late)) << late << " is loaded with " << name;
+        }
+    }
 }
 
 } // namespace
