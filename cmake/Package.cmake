@@ -12,7 +12,10 @@ install(TARGETS afx afx_main QorPub QorApi QorUI
         INCLUDES DESTINATION include include/afx)
 install(EXPORT QorUITargets NAMESPACE QorUI:: DESTINATION "${_package_dir}")
 install(TARGETS QorConsole RUNTIME DESTINATION bin)
-install(FILES ${QOR_RUNTIME_DLLS} DESTINATION bin)
+foreach(_dll IN LISTS QOR_RUNTIME_DLLS)
+    cmake_path(GET _dll FILENAME _name)
+    install(FILES "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${_name}" DESTINATION bin)
+endforeach()
 
 install(DIRECTORY afx/include/ DESTINATION include/afx FILES_MATCHING PATTERN "*.h")
 foreach(_library QorPub QorApi)

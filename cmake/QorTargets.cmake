@@ -52,9 +52,19 @@ if(NOT QOR_RUNTIME_DLLS)
     _qor_find_runtime(_runtime)
     set(QOR_RUNTIME_DLLS "${_runtime}" CACHE INTERNAL "Run-time DLLs of the compiler")
 endif()
+
+# Sections that begin at page boundaries of the file are mapped and read when they are touched; others are read whole at
+# load, debug information included. That of the compiler's DLLs, five times their code, is left out besides.
+set(_page_alignment 4096)
+add_link_options("LINKER:--file-alignment=${_page_alignment}")
 file(MAKE_DIRECTORY "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
 foreach(_dll IN LISTS QOR_RUNTIME_DLLS)
-    configure_file("${_dll}" "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}" COPYONLY)
+    cmake_path(GET _dll FILENAME _name)
+    set(_copy "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${_name}")
+    if("${_dll}" IS_NEWER_THAN "${_copy}")
+        execute_process(COMMAND "${CMAKE_OBJCOPY}" --strip-debug --file-alignment ${_page_alignment} "${_dll}" "${_copy}"
+                        COMMAND_ERROR_IS_FATAL ANY)
+    endif()
 endforeach()
 
 macro(_qor_parse)
