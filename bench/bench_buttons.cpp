@@ -2,31 +2,18 @@
  * A full repaint of each kind of button, against the stock button of the same size that the system draws.
  */
 
+#include "Owner.h"
 #include "Ratio.h"
-
-#include <QorUI/QorUI.h>
 
 namespace
 {
 
 constexpr UINT kDialogCloseStrip = 223;
 
-class COwner : public CWnd
-{
-  public:
-    COwner()
-    {
-        CreateEx(0, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_BTNFACE)), L"Owner", WS_POPUP | WS_VISIBLE,
-                 0, 0, 400, 300, nullptr, nullptr);
-    }
-};
-
 void Repaint(benchmark::State& state, CWnd& wnd)
 {
-    wnd.SetFont(CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT))));
-    for (auto _ : state) {
-        wnd.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
-    }
+    wnd.SetFont(GuiFont());
+    MeasureRepaint(state, wnd);
 }
 
 template <class Button>

@@ -3,9 +3,8 @@
  * takes in grids of different sizes, which should stay the same.
  */
 
+#include "Owner.h"
 #include "Ratio.h"
-
-#include <QorUI/QorUI.h>
 
 namespace
 {
@@ -18,16 +17,6 @@ int IsWeekend(COleDateTime& date, void* /*data*/)
     return day == 1 || day == 7;
 }
 
-class COwner : public CWnd
-{
-  public:
-    COwner()
-    {
-        CreateEx(0, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_BTNFACE)), L"Owner", WS_POPUP | WS_VISIBLE,
-                 0, 0, 1000, 700, nullptr, nullptr);
-    }
-};
-
 class CStockCalendar : public CWnd
 {
   public:
@@ -36,11 +25,6 @@ class CStockCalendar : public CWnd
         return CreateEx(0, MONTHCAL_CLASSW, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 220, 180), &owner, kId) != FALSE;
     }
 };
-
-void Redraw(CWnd& wnd)
-{
-    wnd.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
-}
 
 void CountMonths(benchmark::State& state, int months)
 {
@@ -55,9 +39,7 @@ void RepaintOurs(benchmark::State& state, int side)
     if (!calendar.Create(&owner, kId, &IsWeekend, nullptr, side, side)) {
         state.SkipWithError("the calendar could not be created");
     }
-    for (auto _ : state) {
-        Redraw(calendar);
-    }
+    MeasureRepaint(state, calendar);
     CountMonths(state, side * side);
 }
 
@@ -68,9 +50,7 @@ void RepaintStock(benchmark::State& state)
     if (!calendar.Make(owner)) {
         state.SkipWithError("the system's calendar could not be created");
     }
-    for (auto _ : state) {
-        Redraw(calendar);
-    }
+    MeasureRepaint(state, calendar);
 }
 
 void CreateOurs(benchmark::State& state, int side)

@@ -3,30 +3,14 @@
  * box.
  */
 
+#include "Owner.h"
 #include "Ratio.h"
-
-#include <QorUI/QorUI.h>
 
 #include <array>
 #include <vector>
 
 namespace
 {
-
-class COwner : public CWnd
-{
-  public:
-    COwner()
-    {
-        CreateEx(0, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_BTNFACE)), L"Owner", WS_POPUP | WS_VISIBLE,
-                 0, 0, 400, 300, nullptr, nullptr);
-    }
-};
-
-CFont* GuiFont()
-{
-    return CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT)));
-}
 
 std::vector<CString> Texts(int count)
 {
@@ -66,9 +50,7 @@ void Repaint(benchmark::State& state)
     combo.SetFont(GuiFont());
     combo.AddString(L"Every day");
     combo.SetCurSel(0);
-    for (auto _ : state) {
-        combo.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
-    }
+    MeasureRepaint(state, combo);
 }
 
 } // namespace
