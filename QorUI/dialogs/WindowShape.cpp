@@ -1,5 +1,7 @@
 #include "WindowShape.h"
 
+#include "SizeLoop.h"
+
 #include <QorUI/app/Look.h>
 
 namespace
@@ -41,8 +43,15 @@ bool StartSizing(CWnd& wnd, UINT hit, POINT point)
     if (hit < HTLEFT || hit > HTBOTTOMRIGHT) {
         return false;
     }
+    const HWND handle = wnd.m_hWnd;
+    const LONG lastMessage = ::GetMessageTime();
     // The direction codes of SC_SIZE run parallel to the hit-test codes.
-    wnd.SendMessage(WM_SYSCOMMAND, SC_SIZE + (hit - HTLEFT + 1), MAKELPARAM(point.x, point.y));
+    ::SendMessageW(handle, WM_SYSCOMMAND, SC_SIZE + (hit - HTLEFT + 1), MAKELPARAM(point.x, point.y));
+    // Wine declines the command for a window without the system's sizing border: it comes back at once, without having
+    // fetched a message, and the button is still down.
+    if (::IsWindow(handle) && ::GetMessageTime() == lastMessage && ::GetKeyState(VK_LBUTTON) < 0) {
+        TrackSize(wnd, hit, point);
+    }
     return true;
 }
 

@@ -1,0 +1,163 @@
+#include "TestDialogs.h"
+
+#include <QorUI/dialogs/SizeLoop.h>
+
+#include <array>
+
+namespace
+{
+
+const CSize kSmallest(100, 80);
+const CSize kLargest(1000, 900);
+
+/** A frame that keeps the sizing messages it gets. */
+class CSizedFrame : public CQorFrame
+{
+  public:
+    ~CSizedFrame() override
+    {
+        if (m_hWnd) {
+            DestroyWindow();
+        }
+    }
+
+    bool Open()
+    {
+        if (!CreateEx(0, nullptr, L"Frame", 0, CRect(100, 50, 700, 450), nullptr, 0)) {
+            return false;
+        }
+        ShowWindow(SW_SHOW);
+        return ts::BringToFront(m_hWnd);
+    }
+
+    CRect WindowRect() const
+    {
+        CRect rect;
+        GetWindowRect(rect);
+        return rect;
+    }
+
+    std::vector<UINT> m_messages;
+    WPARAM m_edge = 0;
+
+  protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_ENTERSIZEMOVE || message == WM_EXITSIZEMOVE || message == WM_SIZING) {
+            if (m_messages.empty() || m_messages.back() != message) {
+                m_messages.push_back(message);
+            }
+            m_edge = message == WM_SIZING ? wParam : m_edge;
+        }
+        return CQorFrame::WindowProc(message, wParam, lParam);
+    }
+};
+
+/** Drags from one place of a window to others, by real input, inside the sizing loop. */
+void DragBorder(CSizedFrame& frame, POINT from, std::initializer_list<POINT> ways, WORD lastKey = 0)
+{
+    ts::ModalDriver driver;
+    const CPoint corner = frame.WindowRect().TopLeft();
+    const auto sizing = [&] { return ::GetCapture() == frame.m_hWnd; };
+    for (const POINT way : ways) {
+        driver.When("the sizing loop", sizing, [corner, from, way, &frame] {
+            const CPoint window = frame.WindowRect().TopLeft(); // the pointer is moved from the client area's corner
+            ts::MoveMouse(frame.m_hWnd, corner.x - window.x + from.x + way.x, corner.y - window.y + from.y + way.y);
+        });
+    }
+    driver.Then([lastKey] {
+        if (lastKey != 0) {
+            ts::Key(lastKey);
+        }
+        ts::MouseUp();
+    });
+    ts::MoveMouse(frame.m_hWnd, from.x, from.y);
+    ts::MouseDown();
+    EXPECT_TRUE(driver.Finished());
+}
+
+TEST(Sizing, EachBorderMovesAloneAndTheOppositeOnesStay)
+{
+    const CRect start(100, 100, 500, 400);
+    const struct
+    {
+        UINT hit;
+        CRect expected;
+    } borders[] = {
+        {HTLEFT, {110, 100, 500, 400}},       {HTRIGHT, {100, 100, 510, 400}},       {HTTOP, {100, 120, 500, 400}},
+        {HTBOTTOM, {100, 100, 500, 420}},     {HTTOPLEFT, {110, 120, 500, 400}},     {HTTOPRIGHT, {100, 120, 510, 400}},
+        {HTBOTTOMLEFT, {110, 100, 500, 420}}, {HTBOTTOMRIGHT, {100, 100, 510, 420}},
+    };
+    for (const auto& [hit, expected] : borders) {
+        EXPECT_EQ(expected, QorShape::SizedRect(start, hit, CSize(10, 20), kSmallest, kLargest)) << hit;
+    }
+}
+
+TEST(Sizing, TheSizeStaysWithinItsLimits)
+{
+    const CRect start(100, 100, 500, 400);
+    EXPECT_EQ(CRect(400, 320, 500, 400), QorShape::SizedRect(start, HTTOPLEFT, CSize(5000, 5000), kSmallest, kLargest));
+    EXPECT_EQ(CRect(100, 100, 1100, 1000),
+              QorShape::SizedRect(start, HTBOTTOMRIGHT, CSize(5000, 5000), kSmallest, kLargest));
+    EXPECT_EQ(CRect(100, 100, 200, 180),
+              QorShape::SizedRect(start, HTBOTTOMRIGHT, CSize(-5000, -5000), kSmallest, kLargest));
+}
+
+TEST(Sizing, DraggedCornerSizesTheFrame)
+{
+    CSizedFrame frame;
+    ASSERT_TRUE(frame.Open());
+    DragBorder(frame, {595, 395}, {{-20, -10}, {-60, -40}});
+    EXPECT_EQ(CRect(100, 50, 640, 410), frame.WindowRect());
+    EXPECT_EQ((std::vector<UINT>{WM_ENTERSIZEMOVE, WM_SIZING, WM_EXITSIZEMOVE}), frame.m_messages);
+    EXPECT_EQ(static_cast<WPARAM>(WMSZ_BOTTOMRIGHT), frame.m_edge);
+    EXPECT_EQ(nullptr, ::GetCapture());
+}
+
+TEST(Sizing, DraggedLeftBorderLeavesTheRightOneInPlace)
+{
+    CSizedFrame frame;
+    ASSERT_TRUE(frame.Open());
+    DragBorder(frame, {1, 200}, {{30, 5}});
+    EXPECT_EQ(CRect(130, 50, 700, 450), frame.WindowRect());
+    EXPECT_EQ(static_cast<WPARAM>(WMSZ_LEFT), frame.m_edge);
+}
+
+TEST(Sizing, FrameIsNotSizedBelowItsSmallestSize)
+{
+    CSizedFrame frame;
+    ASSERT_TRUE(frame.Open());
+    DragBorder(frame, {595, 395}, {{-500, -390}});
+    EXPECT_EQ(CSize(360, 260), frame.WindowRect().Size());
+}
+
+TEST(Sizing, EscapeTakesTheSizeBack)
+{
+    CSizedFrame frame;
+    ASSERT_TRUE(frame.Open());
+    DragBorder(frame, {595, 395}, {{-60, -40}}, VK_ESCAPE);
+    EXPECT_EQ(CRect(100, 50, 700, 450), frame.WindowRect());
+}
+
+TEST(Sizing, ResizableDialogIsSizedToo)
+{
+    CTestDialog dialog(IDD_PLAIN, 4);
+    ASSERT_TRUE(dialog.Open());
+    ASSERT_TRUE(ts::BringToFront(dialog.m_hWnd));
+    CRect before;
+    dialog.GetWindowRect(before);
+    ts::ModalDriver driver;
+    driver.When(
+        "the sizing loop", [&] { return ::GetCapture() == dialog.m_hWnd; },
+        [&] { ts::MoveMouse(dialog.m_hWnd, before.Width() + 35, before.Height() + 25); });
+    driver.Then([] { ts::MouseUp(); });
+    ts::MoveMouse(dialog.m_hWnd, before.Width() - 5, before.Height() - 5);
+    ts::MouseDown();
+    EXPECT_TRUE(driver.Finished());
+    CRect after;
+    dialog.GetWindowRect(after);
+    EXPECT_EQ(CSize(before.Width() + 40, before.Height() + 30), after.Size());
+    dialog.DestroyWindow();
+}
+
+} // namespace
