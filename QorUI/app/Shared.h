@@ -12,7 +12,7 @@ QORUI_API HBRUSH QorGetDlgBkBrush();
  * Chooses the icon that every dialog of the library draws in its caption, and the banner of the frame window.
  * To be called once, early, on the user-interface thread.
  * @param icon neither copied nor destroyed: the caller keeps it alive; null for dialogs without an icon.
- * @param flag non-zero for the high banner of the frame window, zero for the low one.
+ * @param flag chooses the banner of the frame window: zero the high one, anything else the low one.
  * @return TRUE.
  */
 QORUI_API BOOL QorSetAppIcon(HICON icon, BOOL flag);
