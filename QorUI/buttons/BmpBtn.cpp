@@ -1,6 +1,6 @@
 #include "BmpBtn.h"
 
-#include "ButtonState.h"
+#include "ButtonDraw.h"
 
 #include <QorUI/app/GdiSavers.h>
 #include <QorUI/app/HotTrack.h>

@@ -1,9 +1,10 @@
 #include "CheckRadio.h"
 
+#include "ButtonDraw.h"
+
 #include <QorUI/app/GdiSavers.h>
 #include <QorUI/app/HotTrack.h>
 #include <QorUI/app/Look.h>
-#include <QorUI/app/QorUIApp.h>
 #include <QorUI/app/SysLook.h>
 #include <QorUI/res/resource.h>
 
@@ -44,12 +45,6 @@ constexpr UINT kTextFormat = DT_WORDBREAK | DT_EDITCONTROL;
 /** Style bits of which owner-drawn and automatic radio buttons have at least one. */
 constexpr DWORD kRadioStyles = 9;
 
-enum TextMode : UINT
-{
-    TEXT_DRAW = 1,
-    TEXT_FOCUS = 2
-};
-
 void DrawLabel(CWnd& button, CDC& dc, UINT mode, UINT state)
 {
     CString text;
@@ -63,10 +58,10 @@ void DrawLabel(CWnd& button, CDC& dc, UINT mode, UINT state)
     rect.left += kTextIndent;
     const CSelectSaver selectFont(dc.m_hDC, reinterpret_cast<HFONT>(button.SendMessage(WM_GETFONT)));
     const CTextModeSaver textMode(dc.m_hDC, QorSysLook.TextColor(state == QOR_GLYPH_DISABLED), TRANSPARENT);
-    if (mode & TEXT_DRAW) {
+    if (mode & QOR_LABEL_TEXT) {
         dc.DrawText(text, &rect, kTextFormat);
     }
-    if (mode & TEXT_FOCUS) {
+    if (mode & QOR_LABEL_FOCUS) {
         dc.DrawText(text, &rect, DT_CALCRECT | kTextFormat);
         rect.InflateRect(1, 1);
         dc.DrawFocusRect(&rect);
@@ -77,7 +72,7 @@ template <class Button>
 void DrawFocusOf(Button& button)
 {
     CWindowDC dc(&button);
-    button.DrawText(dc, TEXT_FOCUS, QOR_GLYPH_NORMAL);
+    button.DrawText(dc, QOR_LABEL_FOCUS, QOR_GLYPH_NORMAL);
 }
 
 template <class Button>
@@ -93,7 +88,7 @@ void Paint(Button& button, BOOL hot)
     button.GetClientRect(&client);
     dc.FillSolidRect(&client, QorLook::kDlgBody);
     button.DrawCheck(dc, state);
-    button.DrawText(dc, focused ? TEXT_DRAW | TEXT_FOCUS : TEXT_DRAW, state);
+    button.DrawText(dc, focused ? QOR_LABEL_TEXT | QOR_LABEL_FOCUS : QOR_LABEL_TEXT, state);
 }
 
 /** Left edge of a glyph in its strip. */

@@ -1,7 +1,8 @@
 #include "CmdBtn.h"
 
+#include "ButtonDraw.h"
+
 #include <QorUI/app/Draw.h>
-#include <QorUI/app/GdiSavers.h>
 #include <QorUI/app/HotTrack.h>
 #include <QorUI/app/Look.h>
 #include <QorUI/app/SysLook.h>
@@ -21,12 +22,6 @@ constexpr int kIconPos = 6;
 constexpr int kIconSize = 32;
 constexpr int kTextMargin = 5;
 constexpr int kTextIndent = 38; // past the icon
-
-enum TextMode : UINT
-{
-    TEXT_DRAW = 1,
-    TEXT_FOCUS = 2
-};
 
 } // namespace
 
@@ -72,10 +67,10 @@ void CCmdBtn::DrawItem(LPDRAWITEMSTRUCT item)
     CDC* dc = CDC::FromHandle(item->hDC);
     CRect rect(item->rcItem);
     const BOOL disabled = (item->itemState & ODS_DISABLED) != 0;
-    UINT mode = TEXT_FOCUS;
+    UINT mode = QOR_LABEL_FOCUS;
     if ((item->itemAction & ODA_FOCUS) == 0) {
         DrawFace(dc, rect, disabled);
-        mode = (item->itemState & ODS_FOCUS) ? TEXT_DRAW | TEXT_FOCUS : TEXT_DRAW;
+        mode = (item->itemState & ODS_FOCUS) ? QOR_LABEL_TEXT | QOR_LABEL_FOCUS : QOR_LABEL_TEXT;
     }
     const COLORREF oldColour = dc->SetTextColor(QorSysLook.TextColor(disabled != FALSE));
     DrawText(dc, rect, mode);
@@ -107,27 +102,30 @@ HICON CCmdBtn::IconFor(BOOL disabled)
 
 void CCmdBtn::DrawRect(CDC* dc, CRect& rect)
 {
-    CPen pen(PS_SOLID, 1, QorLook::kCmdHotBorder);
+    if (!dc) {
+        return;
+    }
     CBrush brush(QorLook::kCmdHotFill);
-    const CSelectSaver selectPen(dc->m_hDC, pen.GetSafeHandle());
-    const CSelectSaver selectBrush(dc->m_hDC, brush.GetSafeHandle());
-    dc->RoundRect(&rect, CPoint(QorLook::kButtonRound, QorLook::kButtonRound));
+    QorDrawRounded(dc->m_hDC, rect, QorLook::kCmdHotBorder, brush.GetSafeHandle());
 }
 
 void CCmdBtn::DrawText(CDC* dc, CRect& rect, UINT mode)
 {
+    if (!dc) {
+        return;
+    }
     rect.DeflateRect(kTextMargin, kTextMargin);
     rect.left += kTextIndent;
     CString title;
     GetWindowText(title);
     CRect titleRect(rect);
     dc->DrawText(title, &titleRect, DT_CALCRECT | DT_SINGLELINE);
-    if (mode & TEXT_DRAW) {
+    if (mode & QOR_LABEL_TEXT) {
         dc->DrawText(title, &titleRect, DT_SINGLELINE);
         rect.top += titleRect.Height();
         dc->DrawText(m_strDescription, &rect, DT_WORDBREAK | DT_EDITCONTROL | DT_HIDEPREFIX);
     }
-    if (mode & TEXT_FOCUS) {
+    if (mode & QOR_LABEL_FOCUS) {
         titleRect.InflateRect(1, 1);
         dc->DrawFocusRect(&titleRect);
     }

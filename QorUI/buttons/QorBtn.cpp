@@ -1,6 +1,6 @@
 #include "QorBtn.h"
 
-#include "ButtonState.h"
+#include "ButtonDraw.h"
 
 #include <QorUI/app/GdiSavers.h>
 #include <QorUI/app/HotTrack.h>
@@ -13,21 +13,6 @@ BEGIN_MESSAGE_MAP(CQorBtn, CButton)
     ON_MESSAGE(BM_SETSTYLE, &CQorBtn::OnSetStyle)
     ON_MESSAGE(WM_MOUSELEAVE, &CQorBtn::OnMouseLeave)
 END_MESSAGE_MAP()
-
-namespace
-{
-
-/** Draws a rounded rectangle with a one-pixel line; without a brush its inside stays as it is. */
-void DrawRounded(HDC dc, const RECT& rect, COLORREF line, HGDIOBJ brush)
-{
-    const CSelectSaver selectPen(dc, ::GetStockObject(DC_PEN));
-    const CSelectSaver selectBrush(dc, brush ? brush : ::GetStockObject(NULL_BRUSH));
-    const COLORREF oldLine = ::SetDCPenColor(dc, line);
-    ::RoundRect(dc, rect.left, rect.top, rect.right, rect.bottom, QorLook::kButtonRound, QorLook::kButtonRound);
-    ::SetDCPenColor(dc, oldLine);
-}
-
-} // namespace
 
 CQorBtn::CQorBtn() : m_bHot(FALSE) {}
 
@@ -54,12 +39,12 @@ void CQorBtn::DrawBack(CDC* dc, CRect& rect, UINT row, BOOL focus)
         return;
     }
     const QorBtnStyle& style = g_BtnStyles[row];
-    DrawRounded(dc->m_hDC, rect, style.outer, nullptr);
+    QorDrawRounded(dc->m_hDC, rect, style.outer, nullptr);
     rect.DeflateRect(1, 1);
     POINT origin = {};
     // The pattern's first row comes just under the top border.
     ::SetBrushOrgEx(dc->m_hDC, rect.left, rect.top + 1, &origin);
-    DrawRounded(dc->m_hDC, rect, style.inner, style.brush.GetSafeHandle());
+    QorDrawRounded(dc->m_hDC, rect, style.inner, style.brush.GetSafeHandle());
     ::SetBrushOrgEx(dc->m_hDC, origin.x, origin.y, nullptr);
     if (focus) {
         rect.DeflateRect(1, 1);

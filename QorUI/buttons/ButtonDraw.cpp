@@ -1,0 +1,13 @@
+#include "ButtonDraw.h"
+
+#include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/Look.h>
+
+void QorDrawRounded(HDC dc, const RECT& rect, COLORREF line, HGDIOBJ brush)
+{
+    const CSelectSaver selectPen(dc, ::GetStockObject(DC_PEN));
+    const CSelectSaver selectBrush(dc, brush ? brush : ::GetStockObject(NULL_BRUSH));
+    const COLORREF oldLine = ::SetDCPenColor(dc, line);
+    ::RoundRect(dc, rect.left, rect.top, rect.right, rect.bottom, QorLook::kButtonRound, QorLook::kButtonRound);
+    ::SetDCPenColor(dc, oldLine);
+}
