@@ -29,5 +29,29 @@ class CRecordTable
     WORD m_last;
 };
 
+/**
+ * Adds a record under the lowest free number, which it gets on success.
+ * @param allow gives, for the database, the status by which that is allowed or refused.
+ * @return status; ERROR_NOT_ENOUGH_QUOTA when all numbers are in use.
+ */
+template <class Record, class Allow>
+DWORD AddRecord(const CRecordTable& table, Record& record, Allow allow)
+{
+    WORD number = 0;
+    const DWORD status = WriteStore([&](CDatabase& db) {
+        DWORD result = allow(db);
+        if (result == 0)
+            result = table.FindFree(db, number);
+        if (result != 0)
+            return result;
+        Record added = record;
+        added.wNumber = number;
+        return table.Store(db, number, &added);
+    });
+    if (status == 0)
+        record.wNumber = number;
+    return status;
+}
+
 constexpr CRecordTable SNAPSHOT_TABLE("snapshot", sizeof(_QORVEX_SNAP), 1, QORSNAP_MAX);
 constexpr CRecordTable TASK_TABLE("task", sizeof(_QORVEX_TASK), 0, QORTASK_MAX);

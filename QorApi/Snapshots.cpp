@@ -28,16 +28,20 @@ DWORD Clean(const _QORVEX_SNAP& snapshot, _QORVEX_SNAP& clean)
     return SysTime2QorTime(time, clean.time) ? 0 : ERROR_INVALID_TIME;
 }
 
+/** Loads a snapshot for somebody who needs a right for what he will do with it. */
+DWORD LoadFor(CDatabase& db, DWORD right, WORD number, _QORVEX_SNAP& snapshot)
+{
+    const DWORD status = NeedRights(db, right);
+    return status ? status : SNAPSHOT_TABLE.Load(db, number, &snapshot);
+}
+
 /** Changes one snapshot with the right to take them. */
 template <class Change>
 DWORD ChangeSnapshot(WORD number, Change change)
 {
     return WriteStore([&](CDatabase& db) {
         _QORVEX_SNAP snapshot;
-        DWORD status = NeedRights(db, QORRIGHT_TAKESNAP);
-        if (status == 0)
-            status = SNAPSHOT_TABLE.Load(db, number, &snapshot);
-        if (status != 0)
+        if (const DWORD status = LoadFor(db, QORRIGHT_TAKESNAP, number, snapshot))
             return status;
         change(snapshot);
         return SNAPSHOT_TABLE.Store(db, number, &snapshot);
@@ -52,14 +56,7 @@ DWORD QorAddSnapshot(_QORVEX_SNAP& snapshot)
     DWORD status = Clean(snapshot, clean);
     if (status != 0)
         return status;
-    status = WriteStore([&](CDatabase& db) {
-        WORD number = 0;
-        DWORD result = NeedRights(db, QORRIGHT_TAKESNAP);
-        if (result == 0)
-            result = SNAPSHOT_TABLE.FindFree(db, number);
-        clean.wNumber = number;
-        return result ? result : SNAPSHOT_TABLE.Store(db, number, &clean);
-    });
+    status = AddRecord(SNAPSHOT_TABLE, clean, [](CDatabase& db) { return NeedRights(db, QORRIGHT_TAKESNAP); });
     if (status == 0)
         snapshot = clean;
     return status;
@@ -69,10 +66,7 @@ DWORD QorDeleteSnapshot(WORD number)
 {
     return WriteStore([&](CDatabase& db) {
         _QORVEX_SNAP snapshot;
-        DWORD status = NeedRights(db, QORRIGHT_DELSNAP);
-        if (status == 0)
-            status = SNAPSHOT_TABLE.Load(db, number, &snapshot);
-        if (status != 0)
+        if (const DWORD status = LoadFor(db, QORRIGHT_DELSNAP, number, snapshot))
             return status;
         return snapshot.wFlags & QORSNAP_LOCKED ? static_cast<DWORD>(ERROR_LOCKED) : SNAPSHOT_TABLE.Delete(db, number);
     });

@@ -70,18 +70,7 @@ DWORD QorAddTask(_QORVEX_TASK& task)
 {
     if (!IsValid(task))
         return ERROR_INVALID_DATA;
-    _QORVEX_TASK added = task;
-    const DWORD status = WriteStore([&](CDatabase& db) {
-        WORD number = 0;
-        DWORD result = NeedRightFor(db, added);
-        if (result == 0)
-            result = TASK_TABLE.FindFree(db, number);
-        added.wNumber = number;
-        return result ? result : TASK_TABLE.Store(db, number, &added);
-    });
-    if (status == 0)
-        task = added;
-    return status;
+    return AddRecord(TASK_TABLE, task, [&](CDatabase& db) { return NeedRightFor(db, task); });
 }
 
 DWORD QorSetTask(const _QORVEX_TASK& task)

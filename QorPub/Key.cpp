@@ -46,6 +46,16 @@ LONG QueryBytes(HKEY key, LPCWSTR name, DWORD& type, std::vector<BYTE>& bytes)
     return status;
 }
 
+/** Reads a value that must be of one of two types. */
+LONG QueryTyped(HKEY key, LPCWSTR name, DWORD type, DWORD otherType, std::vector<BYTE>& bytes)
+{
+    DWORD found = 0;
+    LONG status = QueryBytes(key, name, found, bytes);
+    if (status == ERROR_SUCCESS && found != type && found != otherType)
+        status = ERROR_INVALID_DATATYPE;
+    return status;
+}
+
 /** The characters of a text value, whose terminating null may be missing. */
 std::vector<WCHAR> ToChars(const std::vector<BYTE>& bytes)
 {
@@ -125,25 +135,20 @@ LONG CQorKey::QueryInfo(LPCWSTR name, DWORD* type, DWORD* size) const
 
 LONG CQorKey::QueryString(LPCWSTR name, CString& value) const
 {
-    DWORD type = 0;
     std::vector<BYTE> bytes;
-    LONG status = QueryBytes(m_key, name, type, bytes);
-    if (status != ERROR_SUCCESS)
-        return status;
-    if (type != REG_SZ && type != REG_EXPAND_SZ)
-        return ERROR_INVALID_DATATYPE;
-    value = ToChars(bytes).data();
-    return ERROR_SUCCESS;
+    LONG status = QueryTyped(m_key, name, REG_SZ, REG_EXPAND_SZ, bytes);
+    if (status == ERROR_SUCCESS)
+        value = ToChars(bytes).data();
+    return status;
 }
 
 LONG CQorKey::QueryDword(LPCWSTR name, DWORD& value) const
 {
-    DWORD type = 0;
     std::vector<BYTE> bytes;
-    LONG status = QueryBytes(m_key, name, type, bytes);
+    LONG status = QueryTyped(m_key, name, REG_DWORD, REG_DWORD, bytes);
     if (status != ERROR_SUCCESS)
         return status;
-    if (type != REG_DWORD || bytes.size() != sizeof(value))
+    if (bytes.size() != sizeof(value))
         return ERROR_INVALID_DATATYPE;
     memcpy(&value, bytes.data(), sizeof(value));
     return ERROR_SUCCESS;
@@ -161,13 +166,10 @@ LONG CQorKey::QueryBinary(LPCWSTR name, std::vector<BYTE>& value) const
 
 LONG CQorKey::QueryMultiString(LPCWSTR name, CStringArray& value) const
 {
-    DWORD type = 0;
     std::vector<BYTE> bytes;
-    LONG status = QueryBytes(m_key, name, type, bytes);
+    LONG status = QueryTyped(m_key, name, REG_MULTI_SZ, REG_MULTI_SZ, bytes);
     if (status != ERROR_SUCCESS)
         return status;
-    if (type != REG_MULTI_SZ)
-        return ERROR_INVALID_DATATYPE;
     value.RemoveAll();
     std::vector<WCHAR> chars = ToChars(bytes);
     for (LPCWSTR text = chars.data(); *text != 0; text += wcslen(text) + 1)
