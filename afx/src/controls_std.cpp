@@ -2,6 +2,8 @@
 
 #include <afxcmn.h>
 
+#include "controls_ask.h"
+
 IMPLEMENT_DYNAMIC(CStatic, CWnd)
 IMPLEMENT_DYNAMIC(CButton, CWnd)
 IMPLEMENT_DYNAMIC(CListBox, CWnd)
@@ -16,45 +18,42 @@ BOOL CStatic::Create(LPCTSTR lpszText, DWORD dwStyle, const RECT& rect, CWnd* pP
 
 HICON CStatic::SetIcon(HICON hIcon)
 {
-    return reinterpret_cast<HICON>(::SendMessage(m_hWnd, STM_SETICON, reinterpret_cast<WPARAM>(hIcon), 0));
+    return Ask<HICON>(*this, STM_SETICON, hIcon);
 }
 
 HICON CStatic::GetIcon() const
 {
-    return reinterpret_cast<HICON>(::SendMessage(m_hWnd, STM_GETICON, 0, 0));
+    return Ask<HICON>(*this, STM_GETICON);
 }
 
 HENHMETAFILE CStatic::SetEnhMetaFile(HENHMETAFILE hMetaFile)
 {
-    return reinterpret_cast<HENHMETAFILE>(
-        ::SendMessage(m_hWnd, STM_SETIMAGE, IMAGE_ENHMETAFILE, reinterpret_cast<LPARAM>(hMetaFile)));
+    return Ask<HENHMETAFILE>(*this, STM_SETIMAGE, IMAGE_ENHMETAFILE, hMetaFile);
 }
 
 HENHMETAFILE CStatic::GetEnhMetaFile() const
 {
-    return reinterpret_cast<HENHMETAFILE>(::SendMessage(m_hWnd, STM_GETIMAGE, IMAGE_ENHMETAFILE, 0));
+    return Ask<HENHMETAFILE>(*this, STM_GETIMAGE, IMAGE_ENHMETAFILE);
 }
 
 HBITMAP CStatic::SetBitmap(HBITMAP hBitmap)
 {
-    return reinterpret_cast<HBITMAP>(
-        ::SendMessage(m_hWnd, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(hBitmap)));
+    return Ask<HBITMAP>(*this, STM_SETIMAGE, IMAGE_BITMAP, hBitmap);
 }
 
 HBITMAP CStatic::GetBitmap() const
 {
-    return reinterpret_cast<HBITMAP>(::SendMessage(m_hWnd, STM_GETIMAGE, IMAGE_BITMAP, 0));
+    return Ask<HBITMAP>(*this, STM_GETIMAGE, IMAGE_BITMAP);
 }
 
 HCURSOR CStatic::SetCursor(HCURSOR hCursor)
 {
-    return reinterpret_cast<HCURSOR>(
-        ::SendMessage(m_hWnd, STM_SETIMAGE, IMAGE_CURSOR, reinterpret_cast<LPARAM>(hCursor)));
+    return Ask<HCURSOR>(*this, STM_SETIMAGE, IMAGE_CURSOR, hCursor);
 }
 
 HCURSOR CStatic::GetCursor()
 {
-    return reinterpret_cast<HCURSOR>(::SendMessage(m_hWnd, STM_GETIMAGE, IMAGE_CURSOR, 0));
+    return Ask<HCURSOR>(*this, STM_GETIMAGE, IMAGE_CURSOR);
 }
 
 void CStatic::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
@@ -77,22 +76,22 @@ BOOL CButton::Create(LPCTSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd*
 
 UINT CButton::GetState() const
 {
-    return static_cast<UINT>(::SendMessage(m_hWnd, BM_GETSTATE, 0, 0));
+    return Ask<UINT>(*this, BM_GETSTATE);
 }
 
 void CButton::SetState(BOOL bHighlight)
 {
-    ::SendMessage(m_hWnd, BM_SETSTATE, bHighlight, 0);
+    Ask(*this, BM_SETSTATE, bHighlight);
 }
 
 int CButton::GetCheck() const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, BM_GETCHECK, 0, 0));
+    return Ask<int>(*this, BM_GETCHECK);
 }
 
 void CButton::SetCheck(int nCheck)
 {
-    ::SendMessage(m_hWnd, BM_SETCHECK, static_cast<WPARAM>(nCheck), 0);
+    Ask(*this, BM_SETCHECK, nCheck);
 }
 
 UINT CButton::GetButtonStyle() const
@@ -102,104 +101,101 @@ UINT CButton::GetButtonStyle() const
 
 void CButton::SetButtonStyle(UINT nStyle, BOOL bRedraw)
 {
-    ::SendMessage(m_hWnd, BM_SETSTYLE, nStyle, MAKELPARAM(bRedraw, 0));
+    Ask(*this, BM_SETSTYLE, nStyle, MAKELPARAM(bRedraw, 0));
 }
 
 HICON CButton::SetIcon(HICON hIcon)
 {
-    return reinterpret_cast<HICON>(::SendMessage(m_hWnd, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(hIcon)));
+    return Ask<HICON>(*this, BM_SETIMAGE, IMAGE_ICON, hIcon);
 }
 
 HICON CButton::GetIcon() const
 {
-    return reinterpret_cast<HICON>(::SendMessage(m_hWnd, BM_GETIMAGE, IMAGE_ICON, 0));
+    return Ask<HICON>(*this, BM_GETIMAGE, IMAGE_ICON);
 }
 
 HBITMAP CButton::SetBitmap(HBITMAP hBitmap)
 {
-    return reinterpret_cast<HBITMAP>(
-        ::SendMessage(m_hWnd, BM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(hBitmap)));
+    return Ask<HBITMAP>(*this, BM_SETIMAGE, IMAGE_BITMAP, hBitmap);
 }
 
 HBITMAP CButton::GetBitmap() const
 {
-    return reinterpret_cast<HBITMAP>(::SendMessage(m_hWnd, BM_GETIMAGE, IMAGE_BITMAP, 0));
+    return Ask<HBITMAP>(*this, BM_GETIMAGE, IMAGE_BITMAP);
 }
 
 HCURSOR CButton::SetCursor(HCURSOR hCursor)
 {
-    return reinterpret_cast<HCURSOR>(
-        ::SendMessage(m_hWnd, BM_SETIMAGE, IMAGE_CURSOR, reinterpret_cast<LPARAM>(hCursor)));
+    return Ask<HCURSOR>(*this, BM_SETIMAGE, IMAGE_CURSOR, hCursor);
 }
 
 HCURSOR CButton::GetCursor()
 {
-    return reinterpret_cast<HCURSOR>(::SendMessage(m_hWnd, BM_GETIMAGE, IMAGE_CURSOR, 0));
+    return Ask<HCURSOR>(*this, BM_GETIMAGE, IMAGE_CURSOR);
 }
 
 BOOL CButton::GetIdealSize(LPSIZE psize) const
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, BCM_GETIDEALSIZE, 0, reinterpret_cast<LPARAM>(psize)));
+    return Ask<BOOL>(*this, BCM_GETIDEALSIZE, 0, psize);
 }
 
 BOOL CButton::SetImageList(PBUTTON_IMAGELIST pbuttonImagelist)
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, BCM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(pbuttonImagelist)));
+    return Ask<BOOL>(*this, BCM_SETIMAGELIST, 0, pbuttonImagelist);
 }
 
 BOOL CButton::GetImageList(PBUTTON_IMAGELIST pbuttonImagelist) const
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, BCM_GETIMAGELIST, 0, reinterpret_cast<LPARAM>(pbuttonImagelist)));
+    return Ask<BOOL>(*this, BCM_GETIMAGELIST, 0, pbuttonImagelist);
 }
 
 BOOL CButton::SetTextMargin(LPRECT pmargin)
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, BCM_SETTEXTMARGIN, 0, reinterpret_cast<LPARAM>(pmargin)));
+    return Ask<BOOL>(*this, BCM_SETTEXTMARGIN, 0, pmargin);
 }
 
 BOOL CButton::GetTextMargin(LPRECT pmargin) const
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, BCM_GETTEXTMARGIN, 0, reinterpret_cast<LPARAM>(pmargin)));
+    return Ask<BOOL>(*this, BCM_GETTEXTMARGIN, 0, pmargin);
 }
 
 BOOL CButton::SetNote(LPCTSTR lpszNote)
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, BCM_SETNOTE, 0, reinterpret_cast<LPARAM>(lpszNote)));
+    return Ask<BOOL>(*this, BCM_SETNOTE, 0, lpszNote);
 }
 
 UINT CButton::GetNoteLength() const
 {
-    return static_cast<UINT>(::SendMessage(m_hWnd, BCM_GETNOTELENGTH, 0, 0));
+    return Ask<UINT>(*this, BCM_GETNOTELENGTH);
 }
 
 CString CButton::GetNote() const
 {
     CString strNote;
     DWORD nLength = GetNoteLength() + 1;
-    ::SendMessage(m_hWnd, BCM_GETNOTE, reinterpret_cast<WPARAM>(&nLength),
-                  reinterpret_cast<LPARAM>(strNote.GetBuffer(nLength)));
+    Ask(*this, BCM_GETNOTE, &nLength, strNote.GetBuffer(nLength));
     strNote.ReleaseBuffer();
     return strNote;
 }
 
 HICON CButton::SetShield(BOOL fElevationRequired)
 {
-    return reinterpret_cast<HICON>(::SendMessage(m_hWnd, BCM_SETSHIELD, 0, fElevationRequired));
+    return Ask<HICON>(*this, BCM_SETSHIELD, 0, fElevationRequired);
 }
 
 BOOL CButton::SetDropDownState(BOOL fDropDown)
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, BCM_SETDROPDOWNSTATE, fDropDown, 0));
+    return Ask<BOOL>(*this, BCM_SETDROPDOWNSTATE, fDropDown);
 }
 
 BOOL CButton::SetSplitInfo(PBUTTON_SPLITINFO pInfo)
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, BCM_SETSPLITINFO, 0, reinterpret_cast<LPARAM>(pInfo)));
+    return Ask<BOOL>(*this, BCM_SETSPLITINFO, 0, pInfo);
 }
 
 BOOL CButton::GetSplitInfo(PBUTTON_SPLITINFO pInfo) const
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, BCM_GETSPLITINFO, 0, reinterpret_cast<LPARAM>(pInfo)));
+    return Ask<BOOL>(*this, BCM_GETSPLITINFO, 0, pInfo);
 }
 
 void CButton::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
@@ -222,47 +218,47 @@ BOOL CListBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nI
 
 int CListBox::GetCount() const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, LB_GETCOUNT, 0, 0));
+    return Ask<int>(*this, LB_GETCOUNT);
 }
 
 int CListBox::GetHorizontalExtent() const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, LB_GETHORIZONTALEXTENT, 0, 0));
+    return Ask<int>(*this, LB_GETHORIZONTALEXTENT);
 }
 
 void CListBox::SetHorizontalExtent(int cxExtent)
 {
-    ::SendMessage(m_hWnd, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(cxExtent), 0);
+    Ask(*this, LB_SETHORIZONTALEXTENT, cxExtent);
 }
 
 int CListBox::GetTopIndex() const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, LB_GETTOPINDEX, 0, 0));
+    return Ask<int>(*this, LB_GETTOPINDEX);
 }
 
 int CListBox::SetTopIndex(int nIndex)
 {
-    return static_cast<int>(::SendMessage(m_hWnd, LB_SETTOPINDEX, static_cast<WPARAM>(nIndex), 0));
+    return Ask<int>(*this, LB_SETTOPINDEX, nIndex);
 }
 
 LCID CListBox::GetLocale() const
 {
-    return static_cast<LCID>(::SendMessage(m_hWnd, LB_GETLOCALE, 0, 0));
+    return Ask<LCID>(*this, LB_GETLOCALE);
 }
 
 LCID CListBox::SetLocale(LCID nNewLocale)
 {
-    return static_cast<LCID>(::SendMessage(m_hWnd, LB_SETLOCALE, static_cast<WPARAM>(nNewLocale), 0));
+    return Ask<LCID>(*this, LB_SETLOCALE, nNewLocale);
 }
 
 int CListBox::InitStorage(int nItems, UINT nBytes)
 {
-    return static_cast<int>(::SendMessage(m_hWnd, LB_INITSTORAGE, static_cast<WPARAM>(nItems), nBytes));
+    return Ask<int>(*this, LB_INITSTORAGE, nItems, nBytes);
 }
 
 UINT CListBox::ItemFromPoint(CPoint pt, BOOL& bOutside) const
 {
-    const DWORD dwResult = static_cast<DWORD>(::SendMessage(m_hWnd, LB_ITEMFROMPOINT, 0, MAKELPARAM(pt.x, pt.y)));
+    const DWORD dwResult = Ask<DWORD>(*this, LB_ITEMFROMPOINT, 0, MAKELPARAM(pt.x, pt.y));
     bOutside = HIWORD(dwResult);
     return LOWORD(dwResult);
 }
@@ -274,73 +270,70 @@ DWORD CListBox::GetListBoxInfo() const
 
 int CListBox::GetCurSel() const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, LB_GETCURSEL, 0, 0));
+    return Ask<int>(*this, LB_GETCURSEL);
 }
 
 int CListBox::SetCurSel(int nSelect)
 {
-    return static_cast<int>(::SendMessage(m_hWnd, LB_SETCURSEL, static_cast<WPARAM>(nSelect), 0));
+    return Ask<int>(*this, LB_SETCURSEL, nSelect);
 }
 
 int CListBox::GetSel(int nIndex) const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, LB_GETSEL, static_cast<WPARAM>(nIndex), 0));
+    return Ask<int>(*this, LB_GETSEL, nIndex);
 }
 
 int CListBox::SetSel(int nIndex, BOOL bSelect)
 {
-    return static_cast<int>(::SendMessage(m_hWnd, LB_SETSEL, bSelect, nIndex));
+    return Ask<int>(*this, LB_SETSEL, bSelect, nIndex);
 }
 
 int CListBox::GetSelCount() const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, LB_GETSELCOUNT, 0, 0));
+    return Ask<int>(*this, LB_GETSELCOUNT);
 }
 
 int CListBox::GetSelItems(int nMaxItems, LPINT rgIndex) const
 {
-    return static_cast<int>(
-        ::SendMessage(m_hWnd, LB_GETSELITEMS, static_cast<WPARAM>(nMaxItems), reinterpret_cast<LPARAM>(rgIndex)));
+    return Ask<int>(*this, LB_GETSELITEMS, nMaxItems, rgIndex);
 }
 
 int CListBox::SelItemRange(BOOL bSelect, int nFirstItem, int nLastItem)
 {
     // The range in the message is 16 bits wide; the extended one takes first and last instead of a flag.
     if (bSelect)
-        return static_cast<int>(::SendMessage(m_hWnd, LB_SELITEMRANGEEX, static_cast<WPARAM>(nFirstItem), nLastItem));
-    return static_cast<int>(::SendMessage(m_hWnd, LB_SELITEMRANGEEX, static_cast<WPARAM>(nLastItem), nFirstItem));
+        return Ask<int>(*this, LB_SELITEMRANGEEX, nFirstItem, nLastItem);
+    return Ask<int>(*this, LB_SELITEMRANGEEX, nLastItem, nFirstItem);
 }
 
 void CListBox::SetAnchorIndex(int nIndex)
 {
-    ::SendMessage(m_hWnd, LB_SETANCHORINDEX, static_cast<WPARAM>(nIndex), 0);
+    Ask(*this, LB_SETANCHORINDEX, nIndex);
 }
 
 int CListBox::GetAnchorIndex() const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, LB_GETANCHORINDEX, 0, 0));
+    return Ask<int>(*this, LB_GETANCHORINDEX);
 }
 
 int CListBox::GetCaretIndex() const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, LB_GETCARETINDEX, 0, 0));
+    return Ask<int>(*this, LB_GETCARETINDEX);
 }
 
 int CListBox::SetCaretIndex(int nIndex, BOOL bScroll)
 {
-    return static_cast<int>(
-        ::SendMessage(m_hWnd, LB_SETCARETINDEX, static_cast<WPARAM>(nIndex), MAKELPARAM(bScroll, 0)));
+    return Ask<int>(*this, LB_SETCARETINDEX, nIndex, MAKELPARAM(bScroll, 0));
 }
 
 DWORD_PTR CListBox::GetItemData(int nIndex) const
 {
-    return static_cast<DWORD_PTR>(::SendMessage(m_hWnd, LB_GETITEMDATA, static_cast<WPARAM>(nIndex), 0));
+    return Ask<DWORD_PTR>(*this, LB_GETITEMDATA, nIndex);
 }
 
 int CListBox::SetItemData(int nIndex, DWORD_PTR dwItemData)
 {
-    return static_cast<int>(
-        ::SendMessage(m_hWnd, LB_SETITEMDATA, static_cast<WPARAM>(nIndex), static_cast<LPARAM>(dwItemData)));
+    return Ask<int>(*this, LB_SETITEMDATA, nIndex, dwItemData);
 }
 
 void* CListBox::GetItemDataPtr(int nIndex) const
@@ -355,14 +348,12 @@ int CListBox::SetItemDataPtr(int nIndex, void* pData)
 
 int CListBox::GetItemRect(int nIndex, LPRECT lpRect) const
 {
-    return static_cast<int>(
-        ::SendMessage(m_hWnd, LB_GETITEMRECT, static_cast<WPARAM>(nIndex), reinterpret_cast<LPARAM>(lpRect)));
+    return Ask<int>(*this, LB_GETITEMRECT, nIndex, lpRect);
 }
 
 int CListBox::GetText(int nIndex, LPTSTR lpszBuffer) const
 {
-    return static_cast<int>(
-        ::SendMessage(m_hWnd, LB_GETTEXT, static_cast<WPARAM>(nIndex), reinterpret_cast<LPARAM>(lpszBuffer)));
+    return Ask<int>(*this, LB_GETTEXT, nIndex, lpszBuffer);
 }
 
 void CListBox::GetText(int nIndex, CString& rString) const
@@ -377,84 +368,77 @@ void CListBox::GetText(int nIndex, CString& rString) const
 
 int CListBox::GetTextLen(int nIndex) const
 {
-    return m_hWnd != nullptr ? static_cast<int>(::SendMessage(m_hWnd, LB_GETTEXTLEN, static_cast<WPARAM>(nIndex), 0))
-                             : LB_ERR;
+    return m_hWnd != nullptr ? Ask<int>(*this, LB_GETTEXTLEN, nIndex) : LB_ERR;
 }
 
 void CListBox::SetColumnWidth(int cxWidth)
 {
-    ::SendMessage(m_hWnd, LB_SETCOLUMNWIDTH, static_cast<WPARAM>(cxWidth), 0);
+    Ask(*this, LB_SETCOLUMNWIDTH, cxWidth);
 }
 
 BOOL CListBox::SetTabStops(int nTabStops, LPINT rgTabStops)
 {
-    return static_cast<BOOL>(
-        ::SendMessage(m_hWnd, LB_SETTABSTOPS, static_cast<WPARAM>(nTabStops), reinterpret_cast<LPARAM>(rgTabStops)));
+    return Ask<BOOL>(*this, LB_SETTABSTOPS, nTabStops, rgTabStops);
 }
 
 void CListBox::SetTabStops()
 {
-    ::SendMessage(m_hWnd, LB_SETTABSTOPS, 0, 0);
+    Ask(*this, LB_SETTABSTOPS);
 }
 
 BOOL CListBox::SetTabStops(const int& cxEachStop)
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, LB_SETTABSTOPS, 1, reinterpret_cast<LPARAM>(&cxEachStop)));
+    return Ask<BOOL>(*this, LB_SETTABSTOPS, 1, &cxEachStop);
 }
 
 int CListBox::SetItemHeight(int nIndex, UINT cyItemHeight)
 {
-    return static_cast<int>(
-        ::SendMessage(m_hWnd, LB_SETITEMHEIGHT, static_cast<WPARAM>(nIndex), MAKELPARAM(cyItemHeight, 0)));
+    return Ask<int>(*this, LB_SETITEMHEIGHT, nIndex, MAKELPARAM(cyItemHeight, 0));
 }
 
 int CListBox::GetItemHeight(int nIndex) const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, LB_GETITEMHEIGHT, static_cast<WPARAM>(nIndex), 0));
+    return Ask<int>(*this, LB_GETITEMHEIGHT, nIndex);
 }
 
 int CListBox::AddString(LPCTSTR lpszItem)
 {
-    return static_cast<int>(::SendMessage(m_hWnd, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(lpszItem)));
+    return Ask<int>(*this, LB_ADDSTRING, 0, lpszItem);
 }
 
 int CListBox::DeleteString(UINT nIndex)
 {
-    return static_cast<int>(::SendMessage(m_hWnd, LB_DELETESTRING, nIndex, 0));
+    return Ask<int>(*this, LB_DELETESTRING, nIndex);
 }
 
 int CListBox::InsertString(int nIndex, LPCTSTR lpszItem)
 {
-    return static_cast<int>(
-        ::SendMessage(m_hWnd, LB_INSERTSTRING, static_cast<WPARAM>(nIndex), reinterpret_cast<LPARAM>(lpszItem)));
+    return Ask<int>(*this, LB_INSERTSTRING, nIndex, lpszItem);
 }
 
 void CListBox::ResetContent()
 {
-    ::SendMessage(m_hWnd, LB_RESETCONTENT, 0, 0);
+    Ask(*this, LB_RESETCONTENT);
 }
 
 int CListBox::Dir(UINT attr, LPCTSTR lpszWildCard)
 {
-    return static_cast<int>(::SendMessage(m_hWnd, LB_DIR, attr, reinterpret_cast<LPARAM>(lpszWildCard)));
+    return Ask<int>(*this, LB_DIR, attr, lpszWildCard);
 }
 
 int CListBox::FindString(int nStartAfter, LPCTSTR lpszItem) const
 {
-    return static_cast<int>(
-        ::SendMessage(m_hWnd, LB_FINDSTRING, static_cast<WPARAM>(nStartAfter), reinterpret_cast<LPARAM>(lpszItem)));
+    return Ask<int>(*this, LB_FINDSTRING, nStartAfter, lpszItem);
 }
 
 int CListBox::FindStringExact(int nIndexStart, LPCTSTR lpszFind) const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, LB_FINDSTRINGEXACT, static_cast<WPARAM>(nIndexStart),
-                                          reinterpret_cast<LPARAM>(lpszFind)));
+    return Ask<int>(*this, LB_FINDSTRINGEXACT, nIndexStart, lpszFind);
 }
 
 int CListBox::SelectString(int nStartAfter, LPCTSTR lpszItem)
 {
-    return static_cast<int>(
-        ::SendMessage(m_hWnd, LB_SELECTSTRING, static_cast<WPARAM>(nStartAfter), reinterpret_cast<LPARAM>(lpszItem)));
+    return Ask<int>(*this, LB_SELECTSTRING, nStartAfter, lpszItem);
 }
 
 void CListBox::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
@@ -529,72 +513,72 @@ BOOL CComboBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT n
 
 int CComboBox::GetCount() const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, CB_GETCOUNT, 0, 0));
+    return Ask<int>(*this, CB_GETCOUNT);
 }
 
 int CComboBox::GetCurSel() const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, CB_GETCURSEL, 0, 0));
+    return Ask<int>(*this, CB_GETCURSEL);
 }
 
 int CComboBox::SetCurSel(int nSelect)
 {
-    return static_cast<int>(::SendMessage(m_hWnd, CB_SETCURSEL, static_cast<WPARAM>(nSelect), 0));
+    return Ask<int>(*this, CB_SETCURSEL, nSelect);
 }
 
 LCID CComboBox::GetLocale() const
 {
-    return static_cast<LCID>(::SendMessage(m_hWnd, CB_GETLOCALE, 0, 0));
+    return Ask<LCID>(*this, CB_GETLOCALE);
 }
 
 LCID CComboBox::SetLocale(LCID nNewLocale)
 {
-    return static_cast<LCID>(::SendMessage(m_hWnd, CB_SETLOCALE, static_cast<WPARAM>(nNewLocale), 0));
+    return Ask<LCID>(*this, CB_SETLOCALE, nNewLocale);
 }
 
 int CComboBox::GetTopIndex() const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, CB_GETTOPINDEX, 0, 0));
+    return Ask<int>(*this, CB_GETTOPINDEX);
 }
 
 int CComboBox::SetTopIndex(int nIndex)
 {
-    return static_cast<int>(::SendMessage(m_hWnd, CB_SETTOPINDEX, static_cast<WPARAM>(nIndex), 0));
+    return Ask<int>(*this, CB_SETTOPINDEX, nIndex);
 }
 
 int CComboBox::InitStorage(int nItems, UINT nBytes)
 {
-    return static_cast<int>(::SendMessage(m_hWnd, CB_INITSTORAGE, static_cast<WPARAM>(nItems), nBytes));
+    return Ask<int>(*this, CB_INITSTORAGE, nItems, nBytes);
 }
 
 void CComboBox::SetHorizontalExtent(UINT nExtent)
 {
-    ::SendMessage(m_hWnd, CB_SETHORIZONTALEXTENT, nExtent, 0);
+    Ask(*this, CB_SETHORIZONTALEXTENT, nExtent);
 }
 
 UINT CComboBox::GetHorizontalExtent() const
 {
-    return static_cast<UINT>(::SendMessage(m_hWnd, CB_GETHORIZONTALEXTENT, 0, 0));
+    return Ask<UINT>(*this, CB_GETHORIZONTALEXTENT);
 }
 
 int CComboBox::SetDroppedWidth(UINT nWidth)
 {
-    return static_cast<int>(::SendMessage(m_hWnd, CB_SETDROPPEDWIDTH, nWidth, 0));
+    return Ask<int>(*this, CB_SETDROPPEDWIDTH, nWidth);
 }
 
 int CComboBox::GetDroppedWidth() const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, CB_GETDROPPEDWIDTH, 0, 0));
+    return Ask<int>(*this, CB_GETDROPPEDWIDTH);
 }
 
 BOOL CComboBox::SetMinVisibleItems(int iMinVisible)
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, CB_SETMINVISIBLE, static_cast<WPARAM>(iMinVisible), 0));
+    return Ask<BOOL>(*this, CB_SETMINVISIBLE, iMinVisible);
 }
 
 int CComboBox::GetMinVisible() const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, CB_GETMINVISIBLE, 0, 0));
+    return Ask<int>(*this, CB_GETMINVISIBLE);
 }
 
 BOOL CComboBox::GetComboBoxInfo(PCOMBOBOXINFO pcbi) const
@@ -604,40 +588,39 @@ BOOL CComboBox::GetComboBoxInfo(PCOMBOBOXINFO pcbi) const
 
 DWORD CComboBox::GetEditSel() const
 {
-    return static_cast<DWORD>(::SendMessage(m_hWnd, CB_GETEDITSEL, 0, 0));
+    return Ask<DWORD>(*this, CB_GETEDITSEL);
 }
 
 BOOL CComboBox::SetEditSel(int nStartChar, int nEndChar)
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, CB_SETEDITSEL, 0, MAKELPARAM(nStartChar, nEndChar)));
+    return Ask<BOOL>(*this, CB_SETEDITSEL, 0, MAKELPARAM(nStartChar, nEndChar));
 }
 
 BOOL CComboBox::LimitText(int nMaxChars)
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, CB_LIMITTEXT, static_cast<WPARAM>(nMaxChars), 0));
+    return Ask<BOOL>(*this, CB_LIMITTEXT, nMaxChars);
 }
 
 BOOL CComboBox::SetCueBanner(LPCTSTR lpszText)
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, CB_SETCUEBANNER, 0, reinterpret_cast<LPARAM>(lpszText)));
+    return Ask<BOOL>(*this, CB_SETCUEBANNER, 0, lpszText);
 }
 
 CString CComboBox::GetCueBanner() const
 {
     WCHAR text[256] = {};
-    ::SendMessage(m_hWnd, CB_GETCUEBANNER, reinterpret_cast<WPARAM>(text), _countof(text));
+    Ask(*this, CB_GETCUEBANNER, text, _countof(text));
     return text;
 }
 
 DWORD_PTR CComboBox::GetItemData(int nIndex) const
 {
-    return static_cast<DWORD_PTR>(::SendMessage(m_hWnd, CB_GETITEMDATA, static_cast<WPARAM>(nIndex), 0));
+    return Ask<DWORD_PTR>(*this, CB_GETITEMDATA, nIndex);
 }
 
 int CComboBox::SetItemData(int nIndex, DWORD_PTR dwItemData)
 {
-    return static_cast<int>(
-        ::SendMessage(m_hWnd, CB_SETITEMDATA, static_cast<WPARAM>(nIndex), static_cast<LPARAM>(dwItemData)));
+    return Ask<int>(*this, CB_SETITEMDATA, nIndex, dwItemData);
 }
 
 void* CComboBox::GetItemDataPtr(int nIndex) const
@@ -652,8 +635,7 @@ int CComboBox::SetItemDataPtr(int nIndex, void* pData)
 
 int CComboBox::GetLBText(int nIndex, LPTSTR lpszText) const
 {
-    return static_cast<int>(
-        ::SendMessage(m_hWnd, CB_GETLBTEXT, static_cast<WPARAM>(nIndex), reinterpret_cast<LPARAM>(lpszText)));
+    return Ask<int>(*this, CB_GETLBTEXT, nIndex, lpszText);
 }
 
 void CComboBox::GetLBText(int nIndex, CString& rString) const
@@ -668,108 +650,102 @@ void CComboBox::GetLBText(int nIndex, CString& rString) const
 
 int CComboBox::GetLBTextLen(int nIndex) const
 {
-    return m_hWnd != nullptr ? static_cast<int>(::SendMessage(m_hWnd, CB_GETLBTEXTLEN, static_cast<WPARAM>(nIndex), 0))
-                             : CB_ERR;
+    return m_hWnd != nullptr ? Ask<int>(*this, CB_GETLBTEXTLEN, nIndex) : CB_ERR;
 }
 
 int CComboBox::SetItemHeight(int nIndex, UINT cyItemHeight)
 {
-    return static_cast<int>(
-        ::SendMessage(m_hWnd, CB_SETITEMHEIGHT, static_cast<WPARAM>(nIndex), MAKELPARAM(cyItemHeight, 0)));
+    return Ask<int>(*this, CB_SETITEMHEIGHT, nIndex, MAKELPARAM(cyItemHeight, 0));
 }
 
 int CComboBox::GetItemHeight(int nIndex) const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, CB_GETITEMHEIGHT, static_cast<WPARAM>(nIndex), 0));
+    return Ask<int>(*this, CB_GETITEMHEIGHT, nIndex);
 }
 
 int CComboBox::SetExtendedUI(BOOL bExtended)
 {
-    return static_cast<int>(::SendMessage(m_hWnd, CB_SETEXTENDEDUI, bExtended, 0));
+    return Ask<int>(*this, CB_SETEXTENDEDUI, bExtended);
 }
 
 BOOL CComboBox::GetExtendedUI() const
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, CB_GETEXTENDEDUI, 0, 0));
+    return Ask<BOOL>(*this, CB_GETEXTENDEDUI);
 }
 
 void CComboBox::GetDroppedControlRect(LPRECT lprect) const
 {
-    ::SendMessage(m_hWnd, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(lprect));
+    Ask(*this, CB_GETDROPPEDCONTROLRECT, 0, lprect);
 }
 
 BOOL CComboBox::GetDroppedState() const
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, CB_GETDROPPEDSTATE, 0, 0));
+    return Ask<BOOL>(*this, CB_GETDROPPEDSTATE);
 }
 
 void CComboBox::ShowDropDown(BOOL bShowIt)
 {
-    ::SendMessage(m_hWnd, CB_SHOWDROPDOWN, bShowIt, 0);
+    Ask(*this, CB_SHOWDROPDOWN, bShowIt);
 }
 
 int CComboBox::AddString(LPCTSTR lpszString)
 {
-    return static_cast<int>(::SendMessage(m_hWnd, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(lpszString)));
+    return Ask<int>(*this, CB_ADDSTRING, 0, lpszString);
 }
 
 int CComboBox::DeleteString(UINT nIndex)
 {
-    return static_cast<int>(::SendMessage(m_hWnd, CB_DELETESTRING, nIndex, 0));
+    return Ask<int>(*this, CB_DELETESTRING, nIndex);
 }
 
 int CComboBox::InsertString(int nIndex, LPCTSTR lpszString)
 {
-    return static_cast<int>(
-        ::SendMessage(m_hWnd, CB_INSERTSTRING, static_cast<WPARAM>(nIndex), reinterpret_cast<LPARAM>(lpszString)));
+    return Ask<int>(*this, CB_INSERTSTRING, nIndex, lpszString);
 }
 
 void CComboBox::ResetContent()
 {
-    ::SendMessage(m_hWnd, CB_RESETCONTENT, 0, 0);
+    Ask(*this, CB_RESETCONTENT);
 }
 
 int CComboBox::Dir(UINT attr, LPCTSTR lpszWildCard)
 {
-    return static_cast<int>(::SendMessage(m_hWnd, CB_DIR, attr, reinterpret_cast<LPARAM>(lpszWildCard)));
+    return Ask<int>(*this, CB_DIR, attr, lpszWildCard);
 }
 
 int CComboBox::FindString(int nStartAfter, LPCTSTR lpszString) const
 {
-    return static_cast<int>(
-        ::SendMessage(m_hWnd, CB_FINDSTRING, static_cast<WPARAM>(nStartAfter), reinterpret_cast<LPARAM>(lpszString)));
+    return Ask<int>(*this, CB_FINDSTRING, nStartAfter, lpszString);
 }
 
 int CComboBox::FindStringExact(int nIndexStart, LPCTSTR lpszFind) const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, CB_FINDSTRINGEXACT, static_cast<WPARAM>(nIndexStart),
-                                          reinterpret_cast<LPARAM>(lpszFind)));
+    return Ask<int>(*this, CB_FINDSTRINGEXACT, nIndexStart, lpszFind);
 }
 
 int CComboBox::SelectString(int nStartAfter, LPCTSTR lpszString)
 {
-    return static_cast<int>(
-        ::SendMessage(m_hWnd, CB_SELECTSTRING, static_cast<WPARAM>(nStartAfter), reinterpret_cast<LPARAM>(lpszString)));
+    return Ask<int>(*this, CB_SELECTSTRING, nStartAfter, lpszString);
 }
 
 void CComboBox::Clear()
 {
-    ::SendMessage(m_hWnd, WM_CLEAR, 0, 0);
+    Ask(*this, WM_CLEAR);
 }
 
 void CComboBox::Copy()
 {
-    ::SendMessage(m_hWnd, WM_COPY, 0, 0);
+    Ask(*this, WM_COPY);
 }
 
 void CComboBox::Cut()
 {
-    ::SendMessage(m_hWnd, WM_CUT, 0, 0);
+    Ask(*this, WM_CUT);
 }
 
 void CComboBox::Paste()
 {
-    ::SendMessage(m_hWnd, WM_PASTE, 0, 0);
+    Ask(*this, WM_PASTE);
 }
 
 void CComboBox::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
@@ -824,49 +800,49 @@ BOOL CEdit::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 
 BOOL CEdit::CanUndo() const
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, EM_CANUNDO, 0, 0));
+    return Ask<BOOL>(*this, EM_CANUNDO);
 }
 
 int CEdit::GetLineCount() const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, EM_GETLINECOUNT, 0, 0));
+    return Ask<int>(*this, EM_GETLINECOUNT);
 }
 
 BOOL CEdit::GetModify() const
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, EM_GETMODIFY, 0, 0));
+    return Ask<BOOL>(*this, EM_GETMODIFY);
 }
 
 void CEdit::SetModify(BOOL bModified)
 {
-    ::SendMessage(m_hWnd, EM_SETMODIFY, bModified, 0);
+    Ask(*this, EM_SETMODIFY, bModified);
 }
 
 void CEdit::GetRect(LPRECT lpRect) const
 {
-    ::SendMessage(m_hWnd, EM_GETRECT, 0, reinterpret_cast<LPARAM>(lpRect));
+    Ask(*this, EM_GETRECT, 0, lpRect);
 }
 
 void CEdit::SetRect(LPCRECT lpRect)
 {
-    ::SendMessage(m_hWnd, EM_SETRECT, 0, reinterpret_cast<LPARAM>(lpRect));
+    Ask(*this, EM_SETRECT, 0, lpRect);
 }
 
 void CEdit::SetRectNP(LPCRECT lpRect)
 {
-    ::SendMessage(m_hWnd, EM_SETRECTNP, 0, reinterpret_cast<LPARAM>(lpRect));
+    Ask(*this, EM_SETRECTNP, 0, lpRect);
 }
 
 DWORD CEdit::GetSel() const
 {
-    return static_cast<DWORD>(::SendMessage(m_hWnd, EM_GETSEL, 0, 0));
+    return Ask<DWORD>(*this, EM_GETSEL);
 }
 
 void CEdit::GetSel(int& nStartChar, int& nEndChar) const
 {
     DWORD dwStart = 0;
     DWORD dwEnd = 0;
-    ::SendMessage(m_hWnd, EM_GETSEL, reinterpret_cast<WPARAM>(&dwStart), reinterpret_cast<LPARAM>(&dwEnd));
+    Ask(*this, EM_GETSEL, &dwStart, &dwEnd);
     nStartChar = static_cast<int>(dwStart);
     nEndChar = static_cast<int>(dwEnd);
 }
@@ -878,66 +854,65 @@ void CEdit::SetSel(DWORD dwSelection, BOOL bNoScroll)
 
 void CEdit::SetSel(int nStartChar, int nEndChar, BOOL bNoScroll)
 {
-    ::SendMessage(m_hWnd, EM_SETSEL, static_cast<WPARAM>(nStartChar), nEndChar);
+    Ask(*this, EM_SETSEL, nStartChar, nEndChar);
     if (!bNoScroll)
-        ::SendMessage(m_hWnd, EM_SCROLLCARET, 0, 0);
+        Ask(*this, EM_SCROLLCARET);
 }
 
 void CEdit::ReplaceSel(LPCTSTR lpszNewText, BOOL bCanUndo)
 {
-    ::SendMessage(m_hWnd, EM_REPLACESEL, bCanUndo, reinterpret_cast<LPARAM>(lpszNewText));
+    Ask(*this, EM_REPLACESEL, bCanUndo, lpszNewText);
 }
 
 HLOCAL CEdit::GetHandle() const
 {
-    return reinterpret_cast<HLOCAL>(::SendMessage(m_hWnd, EM_GETHANDLE, 0, 0));
+    return Ask<HLOCAL>(*this, EM_GETHANDLE);
 }
 
 void CEdit::SetHandle(HLOCAL hBuffer)
 {
-    ::SendMessage(m_hWnd, EM_SETHANDLE, reinterpret_cast<WPARAM>(hBuffer), 0);
+    Ask(*this, EM_SETHANDLE, hBuffer);
 }
 
 void CEdit::SetMargins(UINT nLeft, UINT nRight)
 {
-    ::SendMessage(m_hWnd, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELONG(nLeft, nRight));
+    Ask(*this, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELONG(nLeft, nRight));
 }
 
 DWORD CEdit::GetMargins() const
 {
-    return static_cast<DWORD>(::SendMessage(m_hWnd, EM_GETMARGINS, 0, 0));
+    return Ask<DWORD>(*this, EM_GETMARGINS);
 }
 
 void CEdit::SetLimitText(UINT nMax)
 {
-    ::SendMessage(m_hWnd, EM_SETLIMITTEXT, nMax, 0);
+    Ask(*this, EM_SETLIMITTEXT, nMax);
 }
 
 UINT CEdit::GetLimitText() const
 {
-    return static_cast<UINT>(::SendMessage(m_hWnd, EM_GETLIMITTEXT, 0, 0));
+    return Ask<UINT>(*this, EM_GETLIMITTEXT);
 }
 
 void CEdit::LimitText(int nChars)
 {
-    ::SendMessage(m_hWnd, EM_LIMITTEXT, static_cast<WPARAM>(nChars), 0);
+    Ask(*this, EM_LIMITTEXT, nChars);
 }
 
 CPoint CEdit::PosFromChar(UINT nChar) const
 {
-    const DWORD dwPos = static_cast<DWORD>(::SendMessage(m_hWnd, EM_POSFROMCHAR, nChar, 0));
+    const DWORD dwPos = Ask<DWORD>(*this, EM_POSFROMCHAR, nChar);
     return CPoint(static_cast<short>(LOWORD(dwPos)), static_cast<short>(HIWORD(dwPos)));
 }
 
 int CEdit::CharFromPos(CPoint pt) const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, EM_CHARFROMPOS, 0, MAKELPARAM(pt.x, pt.y)));
+    return Ask<int>(*this, EM_CHARFROMPOS, 0, MAKELPARAM(pt.x, pt.y));
 }
 
 int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer) const
 {
-    return static_cast<int>(
-        ::SendMessage(m_hWnd, EM_GETLINE, static_cast<WPARAM>(nIndex), reinterpret_cast<LPARAM>(lpszBuffer)));
+    return Ask<int>(*this, EM_GETLINE, nIndex, lpszBuffer);
 }
 
 int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const
@@ -951,84 +926,82 @@ int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const
 
 void CEdit::EmptyUndoBuffer()
 {
-    ::SendMessage(m_hWnd, EM_EMPTYUNDOBUFFER, 0, 0);
+    Ask(*this, EM_EMPTYUNDOBUFFER);
 }
 
 BOOL CEdit::FmtLines(BOOL bAddEOL)
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, EM_FMTLINES, bAddEOL, 0));
+    return Ask<BOOL>(*this, EM_FMTLINES, bAddEOL);
 }
 
 int CEdit::LineFromChar(int nIndex) const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, EM_LINEFROMCHAR, static_cast<WPARAM>(nIndex), 0));
+    return Ask<int>(*this, EM_LINEFROMCHAR, nIndex);
 }
 
 int CEdit::LineIndex(int nLine) const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, EM_LINEINDEX, static_cast<WPARAM>(nLine), 0));
+    return Ask<int>(*this, EM_LINEINDEX, nLine);
 }
 
 int CEdit::LineLength(int nLine) const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, EM_LINELENGTH, static_cast<WPARAM>(nLine), 0));
+    return Ask<int>(*this, EM_LINELENGTH, nLine);
 }
 
 void CEdit::LineScroll(int nLines, int nChars)
 {
-    ::SendMessage(m_hWnd, EM_LINESCROLL, static_cast<WPARAM>(nChars), nLines);
+    Ask(*this, EM_LINESCROLL, nChars, nLines);
 }
 
 int CEdit::GetFirstVisibleLine() const
 {
-    return static_cast<int>(::SendMessage(m_hWnd, EM_GETFIRSTVISIBLELINE, 0, 0));
+    return Ask<int>(*this, EM_GETFIRSTVISIBLELINE);
 }
 
 void CEdit::SetPasswordChar(TCHAR ch)
 {
-    ::SendMessage(m_hWnd, EM_SETPASSWORDCHAR, static_cast<WPARAM>(ch), 0);
+    Ask(*this, EM_SETPASSWORDCHAR, ch);
 }
 
 TCHAR CEdit::GetPasswordChar() const
 {
-    return static_cast<TCHAR>(::SendMessage(m_hWnd, EM_GETPASSWORDCHAR, 0, 0));
+    return Ask<TCHAR>(*this, EM_GETPASSWORDCHAR);
 }
 
 BOOL CEdit::SetReadOnly(BOOL bReadOnly)
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, EM_SETREADONLY, bReadOnly, 0));
+    return Ask<BOOL>(*this, EM_SETREADONLY, bReadOnly);
 }
 
 BOOL CEdit::SetTabStops(int nTabStops, LPINT rgTabStops)
 {
-    return static_cast<BOOL>(
-        ::SendMessage(m_hWnd, EM_SETTABSTOPS, static_cast<WPARAM>(nTabStops), reinterpret_cast<LPARAM>(rgTabStops)));
+    return Ask<BOOL>(*this, EM_SETTABSTOPS, nTabStops, rgTabStops);
 }
 
 void CEdit::SetTabStops()
 {
-    ::SendMessage(m_hWnd, EM_SETTABSTOPS, 0, 0);
+    Ask(*this, EM_SETTABSTOPS);
 }
 
 BOOL CEdit::SetTabStops(const int& cxEachStop)
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, EM_SETTABSTOPS, 1, reinterpret_cast<LPARAM>(&cxEachStop)));
+    return Ask<BOOL>(*this, EM_SETTABSTOPS, 1, &cxEachStop);
 }
 
 BOOL CEdit::SetCueBanner(LPCTSTR lpszText, BOOL fDrawWhenFocused)
 {
-    return static_cast<BOOL>(
-        ::SendMessage(m_hWnd, EM_SETCUEBANNER, fDrawWhenFocused, reinterpret_cast<LPARAM>(lpszText)));
+    return Ask<BOOL>(*this, EM_SETCUEBANNER, fDrawWhenFocused, lpszText);
 }
 
 BOOL CEdit::GetCueBanner(LPTSTR lpszText, int cchText) const
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, EM_GETCUEBANNER, reinterpret_cast<WPARAM>(lpszText), cchText));
+    return Ask<BOOL>(*this, EM_GETCUEBANNER, lpszText, cchText);
 }
 
 BOOL CEdit::ShowBalloonTip(PEDITBALLOONTIP pEditBalloonTip)
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, EM_SHOWBALLOONTIP, 0, reinterpret_cast<LPARAM>(pEditBalloonTip)));
+    return Ask<BOOL>(*this, EM_SHOWBALLOONTIP, 0, pEditBalloonTip);
 }
 
 BOOL CEdit::ShowBalloonTip(LPCTSTR lpszTitle, LPCTSTR lpszText, INT ttiIcon)
@@ -1043,32 +1016,32 @@ BOOL CEdit::ShowBalloonTip(LPCTSTR lpszTitle, LPCTSTR lpszText, INT ttiIcon)
 
 BOOL CEdit::HideBalloonTip()
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, EM_HIDEBALLOONTIP, 0, 0));
+    return Ask<BOOL>(*this, EM_HIDEBALLOONTIP);
 }
 
 BOOL CEdit::Undo()
 {
-    return static_cast<BOOL>(::SendMessage(m_hWnd, EM_UNDO, 0, 0));
+    return Ask<BOOL>(*this, EM_UNDO);
 }
 
 void CEdit::Clear()
 {
-    ::SendMessage(m_hWnd, WM_CLEAR, 0, 0);
+    Ask(*this, WM_CLEAR);
 }
 
 void CEdit::Copy()
 {
-    ::SendMessage(m_hWnd, WM_COPY, 0, 0);
+    Ask(*this, WM_COPY);
 }
 
 void CEdit::Cut()
 {
-    ::SendMessage(m_hWnd, WM_CUT, 0, 0);
+    Ask(*this, WM_CUT);
 }
 
 void CEdit::Paste()
 {
-    ::SendMessage(m_hWnd, WM_PASTE, 0, 0);
+    Ask(*this, WM_PASTE);
 }
 
 BOOL CScrollBar::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)

@@ -202,55 +202,23 @@ void DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl)
         AfxThrowNotSupportedException();
 }
 
-void DDX_Text(CDataExchange* pDX, int nIDC, BYTE& value)
-{
-    ExchangeInteger(pDX, nIDC, value);
-}
-
-void DDX_Text(CDataExchange* pDX, int nIDC, short& value)
-{
-    ExchangeInteger(pDX, nIDC, value);
-}
-
-void DDX_Text(CDataExchange* pDX, int nIDC, int& value)
-{
-    ExchangeInteger(pDX, nIDC, value);
-}
-
-void DDX_Text(CDataExchange* pDX, int nIDC, UINT& value)
-{
-    ExchangeInteger(pDX, nIDC, value);
-}
-
-void DDX_Text(CDataExchange* pDX, int nIDC, long& value)
-{
-    ExchangeInteger(pDX, nIDC, value);
-}
-
-void DDX_Text(CDataExchange* pDX, int nIDC, DWORD& value)
-{
-    ExchangeInteger(pDX, nIDC, value);
-}
-
-void DDX_Text(CDataExchange* pDX, int nIDC, LONGLONG& value)
-{
-    ExchangeInteger(pDX, nIDC, value);
-}
-
-void DDX_Text(CDataExchange* pDX, int nIDC, ULONGLONG& value)
-{
-    ExchangeInteger(pDX, nIDC, value);
-}
-
-void DDX_Text(CDataExchange* pDX, int nIDC, float& value)
-{
-    ExchangeReal(pDX, nIDC, value);
-}
-
-void DDX_Text(CDataExchange* pDX, int nIDC, double& value)
-{
-    ExchangeReal(pDX, nIDC, value);
-}
+/** Data exchange of a text that stands for a number. */
+#define EXCHANGE_TEXT(Type, Exchange)                                                                                  \
+    void DDX_Text(CDataExchange* pDX, int nIDC, Type& value)                                                           \
+    {                                                                                                                  \
+        Exchange(pDX, nIDC, value);                                                                                    \
+    }
+EXCHANGE_TEXT(BYTE, ExchangeInteger)
+EXCHANGE_TEXT(short, ExchangeInteger)
+EXCHANGE_TEXT(int, ExchangeInteger)
+EXCHANGE_TEXT(UINT, ExchangeInteger)
+EXCHANGE_TEXT(long, ExchangeInteger)
+EXCHANGE_TEXT(DWORD, ExchangeInteger)
+EXCHANGE_TEXT(LONGLONG, ExchangeInteger)
+EXCHANGE_TEXT(ULONGLONG, ExchangeInteger)
+EXCHANGE_TEXT(float, ExchangeReal)
+EXCHANGE_TEXT(double, ExchangeReal)
+#undef EXCHANGE_TEXT
 
 void DDX_Text(CDataExchange* pDX, int nIDC, CString& value)
 {
