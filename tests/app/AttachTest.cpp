@@ -1,12 +1,14 @@
 #include <gtest/gtest.h>
+#include <optional>
 #include <QorUI/app/Attach.h>
 #include <string>
 #include <tests/support/Support.h>
+#include <thread>
 
 namespace
 {
 
-/** An application object that writes down what is asked of it. */
+/** An application object that writes down what is asked of it, and whether the module was registered then. */
 class Recorder : public CWinThread
 {
   public:
@@ -14,18 +16,21 @@ class Recorder : public CWinThread
 
     BOOL InitInstance() override
     {
-        m_calls += "init ";
+        Note("init");
         return m_starts;
     }
     int ExitInstance() override
     {
-        m_calls += "exit ";
+        Note("exit");
         return 0;
     }
 
+    AFX_EXTENSION_MODULE m_extension;
     std::string m_calls;
 
   private:
+    void Note(const char* call) { m_calls += std::string(call) + (m_extension.bInitialized ? "(registered) " : " "); }
+
     BOOL m_starts;
 };
 
@@ -37,41 +42,75 @@ HINSTANCE Library()
 TEST(Attach, StartsTheApplicationAndRegistersTheModule)
 {
     Recorder app(TRUE);
-    AFX_EXTENSION_MODULE extension;
-    EXPECT_TRUE(QorAttach(app, extension, Library()));
+    EXPECT_TRUE(QorAttach(app, app.m_extension, Library()));
     EXPECT_EQ("init ", app.m_calls);
-    EXPECT_TRUE(extension.bInitialized);
-    EXPECT_EQ(Library(), extension.hModule);
-    QorDetach(app, extension);
-    EXPECT_EQ("init exit ", app.m_calls);
+    EXPECT_TRUE(app.m_extension.bInitialized);
+    EXPECT_EQ(Library(), app.m_extension.hModule);
+    QorDetach(app, app.m_extension);
+    EXPECT_EQ("init exit(registered) ", app.m_calls);
 }
 
 TEST(Attach, RefusedStartEndsTheApplicationAtOnceAndFails)
 {
     Recorder app(FALSE);
-    AFX_EXTENSION_MODULE extension;
-    EXPECT_FALSE(QorAttach(app, extension, Library()));
+    EXPECT_FALSE(QorAttach(app, app.m_extension, Library()));
     EXPECT_EQ("init exit ", app.m_calls);
-    EXPECT_FALSE(extension.bInitialized);
+    EXPECT_FALSE(app.m_extension.bInitialized);
 }
 
 TEST(Attach, DetachAfterARefusedStartDoesNothing)
 {
     Recorder app(FALSE);
-    AFX_EXTENSION_MODULE extension;
-    ASSERT_FALSE(QorAttach(app, extension, Library()));
-    QorDetach(app, extension);
+    ASSERT_FALSE(QorAttach(app, app.m_extension, Library()));
+    QorDetach(app, app.m_extension);
     EXPECT_EQ("init exit ", app.m_calls);
 }
 
 TEST(Attach, SecondDetachDoesNothing)
 {
     Recorder app(TRUE);
-    AFX_EXTENSION_MODULE extension;
-    ASSERT_TRUE(QorAttach(app, extension, Library()));
-    QorDetach(app, extension);
-    QorDetach(app, extension);
-    EXPECT_EQ("init exit ", app.m_calls);
+    ASSERT_TRUE(QorAttach(app, app.m_extension, Library()));
+    QorDetach(app, app.m_extension);
+    QorDetach(app, app.m_extension);
+    EXPECT_EQ("init exit(registered) ", app.m_calls);
+}
+
+/** Number of temporary window objects of this thread; none when the framework keeps nothing for it. */
+std::optional<size_t> TemporaryWindows()
+{
+    const CHandleMap* map = AfxGetHandleMap(AFX_HANDLE_HWND, nullptr);
+    return map ? std::optional<size_t>(map->GetTemporaryCount()) : std::nullopt;
+}
+
+TEST(Attach, DetachedThreadKeepsNothing)
+{
+    std::thread([] {
+        CWnd::FromHandle(::GetDesktopWindow());
+        EXPECT_EQ(1u, TemporaryWindows());
+        QorDetachThread(Library());
+        EXPECT_EQ(std::nullopt, TemporaryWindows());
+    }).join();
+}
+
+TEST(Attach, ThreadWithoutFrameworkObjectsIsDetachedToo)
+{
+    std::thread([] {
+        QorDetachThread(Library());
+        EXPECT_EQ(std::nullopt, TemporaryWindows());
+    }).join();
+}
+
+TEST(Attach, LoadingAndFreeingTheLibraryLeavesNothingBehind)
+{
+    constexpr int kCycles = 40;
+    EXPECT_TRUE(ts::NoLeak(
+        [] {
+            const HMODULE library = ::LoadLibraryW(L"QorUI.dll");
+            EXPECT_NE(nullptr, library);
+            EXPECT_TRUE(::FreeLibrary(library));
+            EXPECT_EQ(nullptr, ::GetModuleHandleW(L"QorUI.dll"));
+        },
+        kCycles));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 #include <QorUI/app/Draw.h>
+#include <QorUI/app/GdiPlusFlat.h>
 #include <tests/app/Drawn.h>
 #include <tests/app/res/resource.h>
 
@@ -20,9 +21,14 @@ HINSTANCE Program()
     return ::GetModuleHandleW(nullptr);
 }
 
+ts::Picture DrawnBox()
+{
+    return Drawn(60, 40, [](CDC& dc) { QorDrawBox(dc, 5, 6, 40, 20, RGB(9, 8, 7)); });
+}
+
 TEST(DrawBox, OuterEdgeIsDarkAtTopAndLeftAndLightAtBottomAndRight)
 {
-    const ts::Picture picture = Drawn(60, 40, [](CDC& dc) { QorDrawBox(dc, 5, 6, 40, 20, RGB(9, 8, 7)); });
+    const ts::Picture picture = DrawnBox();
     EXPECT_EQ(RGB(168, 168, 152), picture.At(5, 6));
     EXPECT_EQ(RGB(168, 168, 152), picture.At(44, 6));
     EXPECT_EQ(RGB(168, 168, 152), picture.At(5, 25));
@@ -33,14 +39,14 @@ TEST(DrawBox, OuterEdgeIsDarkAtTopAndLeftAndLightAtBottomAndRight)
 
 TEST(DrawBox, EdgeLinesExcludeTheirEndPoints)
 {
-    const ts::Picture picture = Drawn(60, 40, [](CDC& dc) { QorDrawBox(dc, 5, 6, 40, 20, RGB(9, 8, 7)); });
+    const ts::Picture picture = DrawnBox();
     EXPECT_EQ(kPaper, picture.At(45, 6));
     EXPECT_EQ(kPaper, picture.At(5, 26));
 }
 
 TEST(DrawBox, InnerEdgeLiesOnePixelFurtherIn)
 {
-    const ts::Picture picture = Drawn(60, 40, [](CDC& dc) { QorDrawBox(dc, 5, 6, 40, 20, RGB(9, 8, 7)); });
+    const ts::Picture picture = DrawnBox();
     EXPECT_EQ(RGB(112, 108, 96), picture.At(6, 7));
     EXPECT_EQ(RGB(112, 108, 96), picture.At(43, 7));
     EXPECT_EQ(RGB(112, 108, 96), picture.At(6, 24));
@@ -53,7 +59,7 @@ TEST(DrawBox, InnerEdgeLiesOnePixelFurtherIn)
 
 TEST(DrawBox, FillsTheInside)
 {
-    const ts::Picture picture = Drawn(60, 40, [](CDC& dc) { QorDrawBox(dc, 5, 6, 40, 20, RGB(9, 8, 7)); });
+    const ts::Picture picture = DrawnBox();
     EXPECT_EQ(36 * 16, picture.Count(RGB(9, 8, 7)));
     EXPECT_EQ(RGB(9, 8, 7), picture.At(7, 8));
     EXPECT_EQ(RGB(9, 8, 7), picture.At(42, 23));
@@ -62,7 +68,7 @@ TEST(DrawBox, FillsTheInside)
 
 TEST(DrawBox, StaysInsideItsRectangle)
 {
-    const ts::Picture picture = Drawn(60, 40, [](CDC& dc) { QorDrawBox(dc, 5, 6, 40, 20, RGB(9, 8, 7)); });
+    const ts::Picture picture = DrawnBox();
     EXPECT_EQ(CRect(5, 6, 46, 27), CRect(picture.BoundsOfOthers(kPaper)));
 }
 
@@ -70,6 +76,24 @@ TEST(DrawBox, NullDeviceContextDoesNothing)
 {
     const ts::Picture picture = Drawn(20, 20, [](CDC&) { QorDrawBox(nullptr, 0, 0, 10, 10, 0); });
     EXPECT_EQ(400, picture.Count(kPaper));
+}
+
+TEST(DrawBox, LeavesTheDeviceContextAsItWasAndNothingBehind)
+{
+    Drawn(60, 40, [](CDC& dc) {
+        const HGDIOBJ pen = ::GetCurrentObject(dc, OBJ_PEN);
+        const HGDIOBJ brush = ::GetCurrentObject(dc, OBJ_BRUSH);
+        QorDrawBox(dc, 5, 6, 40, 20, RGB(9, 8, 7));
+        EXPECT_EQ(pen, ::GetCurrentObject(dc, OBJ_PEN));
+        EXPECT_EQ(brush, ::GetCurrentObject(dc, OBJ_BRUSH));
+    });
+    EXPECT_TRUE(ts::NoLeak([] { DrawnBox(); }));
+}
+
+/** A pie whose box has its corner at the origin. */
+ts::Picture DrawnPie(double ratio)
+{
+    return Drawn(161, 77, [ratio](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, ratio); });
 }
 
 TEST(DrawPie, FillsABoxOf160By76)
@@ -91,7 +115,7 @@ COLORREF TopAt(const ts::Picture& picture, double turn)
 
 TEST(DrawPie, QuarterIsClockwiseFromThreeOClock)
 {
-    const ts::Picture picture = Drawn(161, 77, [](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, 0.25); });
+    const ts::Picture picture = DrawnPie(0.25);
     EXPECT_EQ(kUsedTop, TopAt(picture, 0.03));
     EXPECT_EQ(kUsedTop, TopAt(picture, 0.125));
     EXPECT_EQ(kUsedTop, TopAt(picture, 0.22));
@@ -122,7 +146,7 @@ COLORREF RimAt(const ts::Picture& picture, int x)
 
 TEST(DrawPie, QuarterHasTheUsedRimFrom0To90AndTheFreeRimFrom90To180)
 {
-    const ts::Picture picture = Drawn(161, 77, [](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, 0.25); });
+    const ts::Picture picture = DrawnPie(0.25);
     EXPECT_TRUE(IsRimOf(RimAt(picture, 140), kUsed));
     EXPECT_TRUE(IsRimOf(RimAt(picture, 84), kUsed));
     EXPECT_TRUE(IsRimOf(RimAt(picture, 76), kFree));
@@ -140,29 +164,29 @@ void ExpectAll(const ts::Picture& picture, COLORREF top, COLORREF otherTop, COLO
 
 TEST(DrawPie, RatioZeroIsAllFree)
 {
-    const ts::Picture picture = Drawn(161, 77, [](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, 0); });
+    const ts::Picture picture = DrawnPie(0);
     ExpectAll(picture, kFreeTop, kUsedTop, kFree);
 }
 
 TEST(DrawPie, RatioOneIsAllUsed)
 {
-    const ts::Picture picture = Drawn(161, 77, [](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, 1); });
+    const ts::Picture picture = DrawnPie(1);
     ExpectAll(picture, kUsedTop, kFreeTop, kUsed);
 }
 
 TEST(DrawPie, RatioAboveOneIsAsOne)
 {
-    const ts::Picture picture = Drawn(161, 77, [](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, 2.5); });
-    const ts::Picture one = Drawn(161, 77, [](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, 1); });
+    const ts::Picture picture = DrawnPie(2.5);
+    const ts::Picture one = DrawnPie(1);
     EXPECT_TRUE(ts::SamePicture(one, picture));
     EXPECT_NE(0, one.Count(kUsedTop));
 }
 
 TEST(DrawPie, NegativeRatioAndNoNumberAreAsZero)
 {
-    const ts::Picture zero = Drawn(161, 77, [](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, 0); });
+    const ts::Picture zero = DrawnPie(0);
     for (const double ratio : {-0.3, std::nan("")}) {
-        const ts::Picture picture = Drawn(161, 77, [&](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, ratio); });
+        const ts::Picture picture = DrawnPie(ratio);
         EXPECT_TRUE(ts::SamePicture(zero, picture)) << ratio;
     }
     EXPECT_NE(0, zero.Count(kFreeTop));
@@ -170,16 +194,51 @@ TEST(DrawPie, NegativeRatioAndNoNumberAreAsZero)
 
 TEST(DrawPie, MoreThanHalfHasNoFreeRim)
 {
-    const ts::Picture picture = Drawn(161, 77, [](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, 0.75); });
+    const ts::Picture picture = DrawnPie(0.75);
     for (const int x : {12, 40, 80, 120, 148})
         EXPECT_TRUE(IsRimOf(RimAt(picture, x), kUsed)) << x;
     EXPECT_EQ(kUsedTop, TopAt(picture, 0.7));
     EXPECT_EQ(kFreeTop, TopAt(picture, 0.8));
 }
 
+/** A share's colour under the sheen, over the whole box of a pie with its corner at 10, 20. */
+ts::Picture UnderSheen(COLORREF share)
+{
+    return Drawn(181, 97, [share](CDC& dc) {
+        dc.FillSolidRect(0, 0, 181, 97, share);
+        Gdiplus::Graphics graphics(dc);
+        Gdiplus::LinearGradientBrush sheen(Gdiplus::Rect(10, 20, 160, 76), Gdiplus::Color(100, 128, 128, 128),
+                                           Gdiplus::Color(100, 255, 255, 255), -180.0F, FALSE);
+        sheen.SetBlendBellShape(0.7F, 1.0F);
+        graphics.FillRectangle(&sheen, 10, 20, 160, 76);
+    });
+}
+
+TEST(DrawPie, SheenOverTheRimIsABellOfGreyAndWhite)
+{
+    const ts::Picture picture = Drawn(181, 97, [](CDC& dc) { QorDrawPie(dc, 10, 20, kUsed, kFree, 0.25); });
+    for (const int x : {24, 40, 56, 72, 100, 116, 132, 148, 160}) {
+        const double part = (x - 90) / 80.0;
+        const int y = static_cast<int>(50 + 30 * std::sqrt(1 - part * part) + 8);
+        EXPECT_TRUE(ts::PixelIs(picture, x, y, UnderSheen(x < 90 ? kFree : kUsed).At(x, y), 2));
+    }
+}
+
+TEST(DrawPie, OutlineIsOnePixelWide)
+{
+    const ts::Picture picture = DrawnPie(0.25);
+    EXPECT_EQ(kPieOutline, picture.At(76, 76)) << "lower edge of the rim";
+    EXPECT_NE(kPieOutline, picture.At(76, 75));
+    EXPECT_NE(kPieOutline, picture.At(76, 74));
+    EXPECT_EQ(kPieOutline, picture.At(120, 30)) << "between the shares";
+    EXPECT_NE(kPieOutline, picture.At(120, 29));
+    EXPECT_NE(kPieOutline, picture.At(120, 31));
+    EXPECT_EQ(kFreeTop, picture.At(40, 30)) << "none inside a share";
+}
+
 TEST(DrawPie, IsOutlinedInGrey)
 {
-    const ts::Picture picture = Drawn(161, 77, [](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, 0.25); });
+    const ts::Picture picture = DrawnPie(0.25);
     EXPECT_GT(picture.Count(kPieOutline), 200);
 }
 
@@ -187,6 +246,11 @@ TEST(DrawPie, NullDeviceContextDoesNothing)
 {
     const ts::Picture picture = Drawn(20, 20, [](CDC&) { QorDrawPie(nullptr, 0, 0, kUsed, kFree, 0.5); });
     EXPECT_EQ(400, picture.Count(kPaper));
+}
+
+TEST(DrawPie, LeavesNothingBehind)
+{
+    EXPECT_TRUE(ts::NoLeak([] { DrawnPie(0.25); }));
 }
 
 TEST(DrawGradientLine, IsTheRowAboveItsStart)
@@ -286,6 +350,26 @@ TEST(GrayBmp, NoBitmapGivesNull)
     EXPECT_EQ(nullptr, QorCreateGrayBmp(static_cast<HBITMAP>(::GetStockObject(WHITE_BRUSH))));
 }
 
+TEST(GrayBmp, LeavesNothingBehind)
+{
+    ColourRow source({RGB(255, 0, 0), 0});
+    EXPECT_TRUE(ts::NoLeak([&] {
+        CBitmap gray;
+        EXPECT_TRUE(gray.Attach(QorCreateGrayBmp(source.Handle())));
+        EXPECT_EQ(nullptr, QorCreateGrayBmp(nullptr));
+    }));
+}
+
+TEST(GrayBmp, BitmapThatIsInUseGivesNullAndLeavesNothingBehind)
+{
+    ColourRow source({RGB(255, 0, 0), 0});
+    CDC dc;
+    dc.CreateCompatibleDC(nullptr);
+    const HGDIOBJ old = ::SelectObject(dc.m_hDC, source.Handle());
+    EXPECT_TRUE(ts::NoLeak([&] { EXPECT_EQ(nullptr, QorCreateGrayBmp(source.Handle())); }));
+    ::SelectObject(dc.m_hDC, old);
+}
+
 TEST(GrayIcon, IsDrawnGreyWithTheSameMask)
 {
     const HICON icon = ::LoadIconW(Program(), MAKEINTRESOURCEW(IDI_SQUARE));
@@ -314,6 +398,27 @@ TEST(GrayIcon, IsDrawnGreyWithTheSameMask)
 TEST(GrayIcon, NoIconGivesNull)
 {
     EXPECT_EQ(nullptr, QorCreateGrayIcon(nullptr));
+}
+
+/** A cursor without colours: its one bitmap holds both masks. */
+HICON MonochromeIcon()
+{
+    const std::vector<BYTE> masks(2 * 32 * 32 / 8);
+    return ::CreateIcon(nullptr, 32, 32, 1, 1, masks.data(), masks.data());
+}
+
+TEST(GrayIcon, BitmapsAreFreedOnEveryPath)
+{
+    const HICON colours = ::LoadIconW(Program(), MAKEINTRESOURCEW(IDI_SQUARE));
+    EXPECT_TRUE(ts::NoLeak([=] {
+        const HICON gray = QorCreateGrayIcon(colours);
+        EXPECT_NE(nullptr, gray);
+        ::DestroyIcon(gray);
+    }));
+    const HICON monochrome = MonochromeIcon();
+    ASSERT_NE(nullptr, monochrome);
+    EXPECT_TRUE(ts::NoLeak([=] { ::DestroyIcon(QorCreateGrayIcon(monochrome)); }));
+    ::DestroyIcon(monochrome);
 }
 
 TEST(ImageList, StripOf80By16GivesFiveSquareImages)
@@ -358,6 +463,16 @@ TEST(ImageList, StripWithoutHeightGivesNoImages)
 {
     CImageList list;
     EXPECT_EQ(0, QorCreateImageList(list, IDB_FLAT, Program(), 0, nullptr));
+}
+
+TEST(ImageList, BitmapIsFreedOnEveryPath)
+{
+    EXPECT_TRUE(ts::NoLeak([] {
+        CImageList list;
+        EXPECT_EQ(5, QorCreateImageList(list, IDB_ICONS, Program(), 0, nullptr));
+        CImageList none;
+        EXPECT_EQ(0, QorCreateImageList(none, IDB_FLAT, Program(), 0, nullptr));
+    }));
 }
 
 /** A tree and a list, each with items, in a window. */

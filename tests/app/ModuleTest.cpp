@@ -14,6 +14,8 @@ namespace
 Gdiplus::Status g_startResult = Gdiplus::Ok;
 Gdiplus::GdiplusStartupInput g_startInput;
 int g_starts = 0;
+bool g_hostKnownAtStart = false;
+bool g_picturesAtStart = false;
 int g_stops = 0;
 ULONG_PTR g_stopped = 0;
 constexpr ULONG_PTR kToken = 4711;
@@ -22,6 +24,9 @@ Gdiplus::GpStatus WINGDIPAPI Start(ULONG_PTR* token, const Gdiplus::GdiplusStart
                                    Gdiplus::GdiplusStartupOutput*)
 {
     ++g_starts;
+    g_hostKnownAtStart = g_QorUIApp.m_hHost == ::GetModuleHandleW(nullptr);
+    g_picturesAtStart = g_BtnStyles[0].brush.GetSafeHandle() || g_QorUIApp.m_brTab.GetSafeHandle() ||
+                        g_QorUIApp.m_bmpRadio.GetSafeHandle() || QorGetDlgBkBrush();
     g_startInput = *input;
     *token = kToken;
     return g_startResult;
@@ -131,6 +136,14 @@ TEST_F(Module, InitKeepsTheHostProgram)
     EXPECT_EQ(::GetModuleHandleW(nullptr), g_QorUIApp.m_hHost);
 }
 
+TEST_F(Module, InitStartsGdiplusAfterTheHostIsKnownAndBeforeThePicturesAreMade)
+{
+    g_QorUIApp.m_hHost = nullptr;
+    InitWithPictures();
+    EXPECT_TRUE(g_hostKnownAtStart);
+    EXPECT_FALSE(g_picturesAtStart);
+}
+
 TEST_F(Module, InitMakesTheDialogBrush)
 {
     InitWithPictures();
@@ -224,6 +237,14 @@ TEST_F(Module, FailedStartLeavesNoTokenAndIsNotStopped)
     EXPECT_EQ(0u, g_QorUIApp.m_nGdiplusToken);
     g_QorUIApp.ExitInstance();
     EXPECT_EQ(0, g_stops);
+}
+
+TEST_F(Module, InitAgainLeavesNothingOfTheFirstTimeBehind)
+{
+    EXPECT_TRUE(ts::NoLeak([this] {
+        InitWithPictures();
+        g_QorUIApp.ExitInstance();
+    }));
 }
 
 TEST_F(Module, AppIconAndFlagAreStoredAsGiven)

@@ -163,13 +163,52 @@ TEST(QorBmp, LoadsAPictureOfAFile)
     EXPECT_EQ(RGB(255, 255, 255), PixelOf(bitmap, 3, 3));
 }
 
-TEST(QorBmp, FileMayBeReadByOthersWhileItIsLoadedAndIsClosedAfterwards)
+/** Opens a file as another program does that reads it, or writes it. */
+HANDLE OpenAsOther(const std::wstring& path, DWORD access, DWORD share)
+{
+    return ::CreateFileW(path.c_str(), access, share, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
+TEST(QorBmp, FileThatOthersReadIsLoaded)
 {
     const ts::TempFolder folder;
     const std::wstring path = FileOf(folder, IDR_UPRIGHT, L"picture.png");
+    const HANDLE reader = OpenAsOther(path, GENERIC_READ, FILE_SHARE_READ);
+    ASSERT_NE(INVALID_HANDLE_VALUE, reader);
     CQorBmp bitmap;
-    ASSERT_TRUE(bitmap.Load(path.c_str()));
-    EXPECT_TRUE(::DeleteFileW(path.c_str()));
+    EXPECT_TRUE(bitmap.Load(path.c_str()));
+    ::CloseHandle(reader);
+}
+
+TEST(QorBmp, FileThatIsBeingWrittenIsRefused)
+{
+    const ts::TempFolder folder;
+    const std::wstring path = FileOf(folder, IDR_UPRIGHT, L"picture.png");
+    const HANDLE writer = OpenAsOther(path, GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE);
+    ASSERT_NE(INVALID_HANDLE_VALUE, writer);
+    CQorBmp bitmap;
+    EXPECT_FALSE(bitmap.Load(path.c_str()));
+    ::CloseHandle(writer);
+    EXPECT_TRUE(bitmap.Load(path.c_str()));
+}
+
+TEST(QorBmp, FileIsClosedOnEveryPath)
+{
+    const ts::TempFolder folder;
+    const std::wstring picture = FileOf(folder, IDR_UPRIGHT, L"picture.png");
+    const std::wstring text = folder.File(L"text.png");
+    const std::wstring empty = folder.File(L"empty.png");
+    ts::WriteBytes(text, "this is no picture");
+    ts::WriteBytes(empty, "");
+    EXPECT_TRUE(ts::NoLeak([&] {
+        CQorBmp bitmap;
+        EXPECT_TRUE(bitmap.Load(picture.c_str()));
+        EXPECT_FALSE(bitmap.Load(text.c_str()));
+        EXPECT_FALSE(bitmap.Load(empty.c_str()));
+        EXPECT_FALSE(bitmap.Load(folder.File(L"missing.png").c_str()));
+    }));
+    for (const std::wstring& path : {picture, text, empty})
+        EXPECT_TRUE(::DeleteFileW(path.c_str()));
 }
 
 TEST(QorBmp, MissingFileIsRefusedAndKeepsThePicture)

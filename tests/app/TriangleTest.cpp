@@ -8,73 +8,62 @@ namespace
 constexpr COLORREF kInk = RGB(70, 80, 90);
 constexpr RECT kPlace = {4, 3, 12, 9}; // mid is 8, 6
 
+ts::Picture DrawnTriangle(int direction, const RECT& place = kPlace)
+{
+    return Drawn(20, 14, [&](CDC& dc) { QorDrawTriangle(&dc, place, direction, kInk); });
+}
+
+/** Expects the corners and a point inside in the colour, and the given points outside untouched. */
+void ExpectTriangle(int direction, std::initializer_list<POINT> inked, std::initializer_list<POINT> outside)
+{
+    const ts::Picture picture = DrawnTriangle(direction);
+    for (const POINT& at : inked)
+        EXPECT_TRUE(ts::PixelIs(picture, at.x, at.y, kInk));
+    for (const POINT& at : outside)
+        EXPECT_TRUE(ts::PixelIs(picture, at.x, at.y, kPaper));
+}
+
 TEST(DrawTriangle, UpHasItsApexAtTheTop)
 {
-    const ts::Picture picture = Drawn(20, 14, [](CDC& dc) { QorDrawTriangle(&dc, kPlace, 0, kInk); });
-    EXPECT_EQ(kInk, picture.At(8, 3));
-    EXPECT_EQ(kInk, picture.At(12, 9));
-    EXPECT_EQ(kInk, picture.At(4, 9));
-    EXPECT_EQ(kInk, picture.At(8, 7)) << "filled";
-    EXPECT_EQ(kPaper, picture.At(4, 3));
-    EXPECT_EQ(kPaper, picture.At(12, 3));
+    ExpectTriangle(0, {{8, 3}, {12, 9}, {4, 9}, {8, 7}}, {{4, 3}, {12, 3}});
 }
 
 TEST(DrawTriangle, DownHasItsApexAtTheBottom)
 {
-    const ts::Picture picture = Drawn(20, 14, [](CDC& dc) { QorDrawTriangle(&dc, kPlace, 1, kInk); });
-    EXPECT_EQ(kInk, picture.At(4, 3));
-    EXPECT_EQ(kInk, picture.At(12, 3));
-    EXPECT_EQ(kInk, picture.At(8, 9));
-    EXPECT_EQ(kInk, picture.At(8, 5));
-    EXPECT_EQ(kPaper, picture.At(4, 9));
-    EXPECT_EQ(kPaper, picture.At(12, 9));
+    ExpectTriangle(1, {{4, 3}, {12, 3}, {8, 9}, {8, 5}}, {{4, 9}, {12, 9}});
 }
 
 TEST(DrawTriangle, LeftHasItsApexAtTheLeft)
 {
-    const ts::Picture picture = Drawn(20, 14, [](CDC& dc) { QorDrawTriangle(&dc, kPlace, 2, kInk); });
-    EXPECT_EQ(kInk, picture.At(4, 6));
-    EXPECT_EQ(kInk, picture.At(12, 3));
-    EXPECT_EQ(kInk, picture.At(12, 9));
-    EXPECT_EQ(kInk, picture.At(10, 6));
-    EXPECT_EQ(kPaper, picture.At(4, 3));
-    EXPECT_EQ(kPaper, picture.At(4, 9));
+    ExpectTriangle(2, {{4, 6}, {12, 3}, {12, 9}, {10, 6}}, {{4, 3}, {4, 9}});
 }
 
 TEST(DrawTriangle, RightHasItsApexAtTheRight)
 {
-    const ts::Picture picture = Drawn(20, 14, [](CDC& dc) { QorDrawTriangle(&dc, kPlace, 3, kInk); });
-    EXPECT_EQ(kInk, picture.At(12, 6));
-    EXPECT_EQ(kInk, picture.At(4, 3));
-    EXPECT_EQ(kInk, picture.At(4, 9));
-    EXPECT_EQ(kInk, picture.At(6, 6));
-    EXPECT_EQ(kPaper, picture.At(12, 3));
-    EXPECT_EQ(kPaper, picture.At(12, 9));
+    ExpectTriangle(3, {{12, 6}, {4, 3}, {4, 9}, {6, 6}}, {{12, 3}, {12, 9}});
 }
 
 TEST(DrawTriangle, StaysInsideItsRectangle)
 {
-    for (int direction = 0; direction < 4; ++direction) {
-        const ts::Picture picture = Drawn(20, 14, [&](CDC& dc) { QorDrawTriangle(&dc, kPlace, direction, kInk); });
-        EXPECT_EQ(CRect(4, 3, 13, 10), CRect(picture.BoundsOfOthers(kPaper))) << direction;
-    }
+    for (int direction = 0; direction < 4; ++direction)
+        EXPECT_EQ(CRect(4, 3, 13, 10), CRect(DrawnTriangle(direction).BoundsOfOthers(kPaper))) << direction;
 }
 
 TEST(DrawTriangle, OddExtentsAreHalvedDownwards)
 {
-    const ts::Picture picture = Drawn(20, 14, [](CDC& dc) { QorDrawTriangle(&dc, RECT{4, 3, 11, 9}, 0, kInk); });
-    EXPECT_EQ(kInk, picture.At(7, 3));
-    EXPECT_EQ(kPaper, picture.At(8, 3));
+    const ts::Picture wide = DrawnTriangle(0, {4, 3, 11, 9});
+    EXPECT_EQ(kInk, wide.At(7, 3));
+    EXPECT_EQ(kPaper, wide.At(8, 3));
+    const ts::Picture high = DrawnTriangle(3, {4, 3, 12, 8});
+    EXPECT_EQ(kInk, high.At(12, 5));
+    EXPECT_EQ(kPaper, high.At(12, 6));
 }
 
 TEST(DrawTriangle, OtherDirectionsDrawNothing)
 {
-    const ts::Picture picture = Drawn(20, 14, [](CDC& dc) {
-        QorDrawTriangle(&dc, kPlace, 4, kInk);
-        QorDrawTriangle(&dc, kPlace, -1, kInk);
-    });
+    for (const int direction : {-1, 4})
+        EXPECT_EQ(0, DrawnTriangle(direction).Count(kInk)) << direction;
     QorDrawTriangle(nullptr, kPlace, 0, kInk);
-    EXPECT_EQ(0, picture.Count(kInk));
 }
 
 TEST(DrawTriangle, LeavesTheDeviceContextAsItWas)
@@ -88,6 +77,11 @@ TEST(DrawTriangle, LeavesTheDeviceContextAsItWas)
         EXPECT_EQ(pen, ::GetCurrentObject(dc, OBJ_PEN));
         EXPECT_EQ(brush, ::GetCurrentObject(dc, OBJ_BRUSH));
     });
+}
+
+TEST(DrawTriangle, LeavesNothingBehind)
+{
+    EXPECT_TRUE(ts::NoLeak([] { DrawnTriangle(0); }));
 }
 
 } // namespace

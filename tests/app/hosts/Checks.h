@@ -39,8 +39,9 @@ inline bool FindsBitmapIn(UINT id, HMODULE module)
     return AfxFindResourceHandle(MAKEINTRESOURCEW(id), MAKEINTRESOURCEW(2) /* RT_BITMAP */) == module;
 }
 
-constexpr UINT kOwnBitmap = 1000; ///< of the host
-constexpr UINT kRadioStrip = 200; ///< of the library
+constexpr UINT kOwnBitmap = 1000;  ///< of the host
+constexpr UINT kOwnPicture = 1100; ///< of the host, type "PNG"
+constexpr UINT kRadioStrip = 200;  ///< of the library
 
 /** The search goes through the host first and then through the library. */
 inline void CheckResourceSearch()

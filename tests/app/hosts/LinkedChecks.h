@@ -1,34 +1,31 @@
 #pragma once
 
-#include "Checks.h"
-
-#include <QorUI/QorUI.h>
+#include "EveryClass.h"
+#include "OtherDll.h"
 
 namespace host
 {
 
-/** A control of the host that stands on one of the library. */
-class DerivedButton : public CQorBtn
+/** A control of the program on top of one that another DLL derives from the library's. */
+class DerivedButton : public COtherButton
 {
   public:
-    int m_draws = 0;
-
-    void DrawItem(LPDRAWITEMSTRUCT item) override
-    {
-        ++m_draws;
-        CQorBtn::DrawItem(item);
-    }
+    int m_moves = 0;
 
   protected:
-    afx_msg LRESULT OnOwnMessage(WPARAM value, LPARAM) { return static_cast<LRESULT>(value) + 1; }
+    afx_msg void OnMouseMove(UINT flags, CPoint point)
+    {
+        ++m_moves;
+        COtherButton::OnMouseMove(flags, point);
+    }
     DECLARE_MESSAGE_MAP()
 };
 
-BEGIN_MESSAGE_MAP(DerivedButton, CQorBtn)
-    ON_MESSAGE(WM_USER + 9, &DerivedButton::OnOwnMessage)
+BEGIN_MESSAGE_MAP(DerivedButton, COtherButton)
+    ON_WM_MOUSEMOVE()
 END_MESSAGE_MAP()
 
-/** A derived control gets the library's messages and its own. */
+/** The control gets the messages of the library, of the other DLL and of the program. */
 inline void CheckDerivedControl()
 {
     CWnd parent;
@@ -41,7 +38,9 @@ inline void CheckDerivedControl()
     CRect rect;
     button.GetWindowRect(&rect);
     HOST_CHECK(rect.Height() == 21);
-    HOST_CHECK(button.SendMessage(WM_USER + 9, 41) == 42);
+    HOST_CHECK(button.SendMessage(kOwnMessage, 41) == 42);
+    button.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(4, 4));
+    HOST_CHECK(button.m_moves == 1);
     button.RedrawWindow();
     HOST_CHECK(button.m_draws > 0);
     parent.DestroyWindow();
@@ -53,6 +52,8 @@ inline void CheckLinked()
     CheckResourceSearch();
     CheckBrush(QorGetDlgBkBrush());
     CheckDerivedControl();
+    UseEveryClass();
+    HOST_CHECK(UseEveryClassInOtherDll() == 0);
     CheckResourceRule([] { return QorMsgBox(L"Text", 2 | 1 << 8, 0, nullptr); });
     CheckResourceSearch();
     RunThread();
