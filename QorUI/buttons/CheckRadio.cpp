@@ -71,6 +71,9 @@ void DrawLabel(CWnd& button, CDC& dc, UINT mode, UINT state)
 template <class Button>
 void DrawFocusOf(Button& button)
 {
+    if (!::IsWindow(button.m_hWnd)) {
+        return;
+    }
     CWindowDC dc(&button);
     button.DrawText(dc, QOR_LABEL_FOCUS, QOR_GLYPH_NORMAL);
 }

@@ -22,7 +22,7 @@ class QORUI_API CCheckBox : public CButton
      */
     void DrawText(CDC& dc, UINT mode, UINT state);
 
-    /** Draws the focus rectangle on the window, or removes it. */
+    /** Draws the focus rectangle on the window, or removes it; does nothing without window. */
     void DrawFocus();
 
   protected:

@@ -65,6 +65,9 @@ void CCmdBtn::PreSubclassWindow()
 void CCmdBtn::DrawItem(LPDRAWITEMSTRUCT item)
 {
     CDC* dc = CDC::FromHandle(item->hDC);
+    if (!dc) {
+        return;
+    }
     CRect rect(item->rcItem);
     const BOOL disabled = (item->itemState & ODS_DISABLED) != 0;
     UINT mode = QOR_LABEL_FOCUS;

@@ -76,6 +76,24 @@ TEST_F(BmpBtn, IsPressedWhileTheMouseButtonIsDown)
     EXPECT_EQ(1u, m_host.Log().Count(ts::Command(9, BN_CLICKED)));
 }
 
+TEST_F(BmpBtn, HotChangesRepaintWithoutErasing)
+{
+    ExpectHotChangesToRepaint(m_button);
+}
+
+TEST_F(BmpBtn, DraggingOffReleasesIt)
+{
+    ExpectDragOffToRelease(m_button, m_host.Log());
+}
+
+TEST_F(BmpBtn, FailedSetImageDoesNotRepaint)
+{
+    ASSERT_TRUE(m_button.SetImage(Program(), IDB_KEYED, nullptr, kKey));
+    Validate(m_button);
+    EXPECT_FALSE(m_button.SetImage(Program(), IDB_MISSING, nullptr, kRed));
+    EXPECT_EQ(CRect(0, 0, 0, 0), Dirty(m_button));
+}
+
 TEST_F(BmpBtn, LeaveMessageReturnsOneAndEraseMessageTrue)
 {
     EXPECT_EQ(1, m_button.SendMessage(WM_MOUSELEAVE));
@@ -133,12 +151,10 @@ TEST_F(BmpBtn, EmptyButtonStillDrawsItsCaption)
 
 TEST_F(BmpBtn, SetImageInvalidatesWithErase)
 {
-    ::UpdateWindow(m_button);
-    ::ValidateRect(m_button, nullptr);
+    Validate(m_button);
     ASSERT_TRUE(m_button.SetImage(Program(), IDB_KEYED, nullptr, kKey));
-    CRect dirty;
-    EXPECT_TRUE(::GetUpdateRect(m_button, &dirty, FALSE));
-    EXPECT_EQ(CRect(0, 0, 20, 10), dirty);
+    EXPECT_EQ(CRect(0, 0, 20, 10), Dirty(m_button));
+    EXPECT_TRUE(IsErasedByUpdate(m_button));
 }
 
 TEST_F(BmpBtn, SetImageWorksBeforeTheWindow)
@@ -206,6 +222,27 @@ TEST_F(BmpBtn, CloseButtonStripHasFourFramesOf42By17)
     const ts::Picture strip = ResourcePicture(Library(), 223);
     EXPECT_EQ(168, strip.Width());
     EXPECT_EQ(17, strip.Height());
+}
+
+TEST_F(BmpBtn, WithoutWindowItHasAFaceAndNoCaption)
+{
+    CBmpBtn none;
+    ASSERT_TRUE(none.SetImage(Program(), IDB_FRAMES, nullptr, CLR_NONE));
+    EXPECT_EQ(200, DrawnItem(none, 20, 10, 0).Count(kRed));
+    m_button.SetWindowText(L"X");
+    m_button.DestroyWindow();
+    ASSERT_TRUE(m_button.SetImage(Program(), IDB_FRAMES, nullptr, CLR_NONE));
+    EXPECT_EQ(200, DrawnItem(m_button, 20, 10, 0).Count(kRed));
+}
+
+TEST_F(BmpBtn, IsNotCreatedInADestroyedWindow)
+{
+    CWnd gone;
+    ASSERT_TRUE(gone.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 9, 9), nullptr, 0));
+    gone.DestroyWindow();
+    CBmpBtn button;
+    EXPECT_FALSE(button.Create(CRect(0, 0, 9, 9), &gone, 5));
+    EXPECT_EQ(nullptr, button.m_hWnd);
 }
 
 TEST_F(BmpBtn, ShowingPaintingAndClosingLeavesNothingBehind)

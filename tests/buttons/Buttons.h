@@ -47,6 +47,57 @@ inline UINT TypeOf(HWND button)
     return static_cast<UINT>(::GetWindowLongPtrW(button, GWL_STYLE) & BS_TYPEMASK);
 }
 
+/** Makes everything of a control valid, so that what a call makes invalid is seen. */
+inline void Validate(const CWnd& control)
+{
+    ::UpdateWindow(control.m_hWnd);
+    ::ValidateRect(control.m_hWnd, nullptr);
+}
+
+/** What has to be painted; empty when nothing has. */
+inline CRect Dirty(const CWnd& control)
+{
+    CRect dirty(0, 0, 0, 0);
+    ::GetUpdateRect(control.m_hWnd, &dirty, FALSE);
+    return dirty;
+}
+
+/** Paints what is invalid. @return whether the control was asked to erase it first. */
+inline bool IsErasedByUpdate(const CWnd& control)
+{
+    ts::MessageRecorder recorder(control.m_hWnd);
+    recorder.RecordOnly({WM_ERASEBKGND});
+    ::UpdateWindow(control.m_hWnd);
+    return recorder.Has(ts::Msg(WM_ERASEBKGND));
+}
+
+/** Expects the whole control to be repainted without erasing when the mouse comes and goes. */
+inline void ExpectHotChangesToRepaint(const CWnd& control)
+{
+    CRect all;
+    control.GetClientRect(&all);
+    Validate(control);
+    control.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(3, 3));
+    EXPECT_EQ(all, Dirty(control));
+    EXPECT_FALSE(IsErasedByUpdate(control));
+    control.SendMessage(WM_MOUSELEAVE);
+    EXPECT_EQ(all, Dirty(control));
+    EXPECT_FALSE(IsErasedByUpdate(control));
+}
+
+/** Expects a pressed button to come up when the mouse is dragged off it, and no click. */
+inline void ExpectDragOffToRelease(const CWnd& button, const ts::MessageLog& log)
+{
+    const auto isPushed = [&] { return (button.SendMessage(BM_GETSTATE) & BST_PUSHED) != 0; };
+    ts::MoveMouse(button.m_hWnd);
+    ts::MouseDown();
+    EXPECT_TRUE(isPushed());
+    ts::MoveMouse(button.m_hWnd, -15, -5);
+    EXPECT_FALSE(isPushed());
+    ts::MouseUp();
+    EXPECT_FALSE(log.Has(ts::Command(static_cast<UINT>(::GetDlgCtrlID(button.m_hWnd)), BN_CLICKED)));
+}
+
 /** The structure that an owner-drawn button is asked to draw with. */
 inline DRAWITEMSTRUCT DrawRequest(const CWnd& button, HDC dc, const RECT& rect, UINT state,
                                   UINT action = ODA_DRAWENTIRE)

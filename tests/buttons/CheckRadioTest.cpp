@@ -70,7 +70,7 @@ using CheckBox = Checkable<CCheckBox>;
 using RadioBox = Checkable<CRadioBox>;
 
 /** What the label looks like beside the glyph. */
-ts::Picture ExpectedLook(const ts::Picture& glyph, COLORREF colour, bool focus = false)
+ts::Picture ExpectedLook(const ts::Picture& glyph, COLORREF colour, bool focus = false, const wchar_t* label = L"Text")
 {
     const ts::Picture text = ts::DrawTo(
         120, 30,
@@ -79,9 +79,9 @@ ts::Picture ExpectedLook(const ts::Picture& glyph, COLORREF colour, bool focus =
             ::SetTextColor(dc, colour);
             ::SetBkMode(dc, TRANSPARENT);
             RECT rect = {19, 2, 118, 28};
-            ::DrawTextW(dc, L"Text", -1, &rect, DT_WORDBREAK | DT_EDITCONTROL);
+            ::DrawTextW(dc, label, -1, &rect, DT_WORDBREAK | DT_EDITCONTROL);
             if (focus) {
-                ::DrawTextW(dc, L"Text", -1, &rect, DT_CALCRECT | DT_WORDBREAK | DT_EDITCONTROL);
+                ::DrawTextW(dc, label, -1, &rect, DT_CALCRECT | DT_WORDBREAK | DT_EDITCONTROL);
                 ::InflateRect(&rect, 1, 1);
                 ::DrawFocusRect(dc, &rect);
             }
@@ -105,13 +105,50 @@ TEST_F(RadioBox, ShowsBodyGlyphAndText)
     EXPECT_TRUE(ts::SamePicture(ExpectedLook(RadioFrame(0), ::GetSysColor(COLOR_BTNTEXT)), Look(m_control)));
 }
 
+template <class Control>
+void ExpectGlyphOnly(Control& control, const ts::Picture& glyph)
+{
+    control.SetWindowText(L"");
+    control.SetFocus();
+    control.Invalidate();
+    const ts::Picture look = Look(control);
+    EXPECT_TRUE(ts::AreaIs(look, CRect(15, 0, 120, 30), kBody)) << "no focus rectangle either";
+    EXPECT_TRUE(ts::SamePicture(glyph, look.Crop(kGlyph)));
+}
+
 TEST_F(CheckBox, WithoutTextShowsTheGlyphOnly)
 {
-    m_control.SetWindowText(L"");
-    m_control.Invalidate();
-    const ts::Picture look = Look(m_control);
-    EXPECT_TRUE(ts::AreaIs(look, CRect(15, 0, 120, 30), kBody));
-    EXPECT_TRUE(ts::SamePicture(CheckFrame(0), look.Crop(kGlyph)));
+    ExpectGlyphOnly(m_control, CheckFrame(0));
+}
+
+TEST_F(RadioBox, WithoutTextShowsTheGlyphOnly)
+{
+    ExpectGlyphOnly(m_control, RadioFrame(0));
+}
+
+/** Expects lines to be broken between words and inside long ones, and those that do not fit to be left out. */
+template <class Control>
+void ExpectLinesToBeBroken(Control& control, const ts::Picture& glyph)
+{
+    const COLORREF colour = ::GetSysColor(COLOR_BTNTEXT);
+    const wchar_t* const labels[] = {L"some words of a &long label for two lines",
+                                     L"Aword_that_is_wider_than_the_control and some others that do not fit"};
+    control.SetFocus();
+    for (const wchar_t* label : labels) {
+        control.SetWindowText(label);
+        control.Invalidate();
+        EXPECT_TRUE(ts::SamePicture(ExpectedLook(glyph, colour, true, label), Look(control)));
+    }
+}
+
+TEST_F(CheckBox, LongTextIsBroken)
+{
+    ExpectLinesToBeBroken(m_control, CheckFrame(0));
+}
+
+TEST_F(RadioBox, LongTextIsBroken)
+{
+    ExpectLinesToBeBroken(m_control, RadioFrame(0));
 }
 
 TEST_F(CheckBox, UsesTheFontOfTheControl)
@@ -162,6 +199,10 @@ TEST_F(RadioBox, IsHotWhileTheMouseIsOverIt)
     ts::MoveMouse(m_control);
     m_control.Invalidate();
     EXPECT_TRUE(ts::SamePicture(RadioFrame(1), Glyph()));
+    m_control.SendMessage(BM_SETCHECK, BST_CHECKED);
+    m_control.Invalidate();
+    EXPECT_TRUE(ts::SamePicture(RadioFrame(4), Glyph()));
+    m_control.SendMessage(BM_SETCHECK, BST_UNCHECKED);
     ts::ParkMouse();
     EXPECT_TRUE(ts::PumpUntil([this] {
         m_control.Invalidate();
@@ -194,34 +235,75 @@ TEST_F(CheckBox, DisabledWinsOverHot)
     EXPECT_TRUE(ts::SamePicture(CheckFrame(2), Glyph()));
 }
 
-TEST_F(CheckBox, EnablingRepaintsTheWholeControl)
+TEST_F(RadioBox, DisabledWinsOverHot)
 {
-    ::UpdateWindow(m_control);
+    ts::MoveMouse(m_control);
     m_control.EnableWindow(FALSE);
-    CRect dirty;
-    EXPECT_TRUE(::GetUpdateRect(m_control, &dirty, FALSE));
-    EXPECT_EQ(CRect(0, 0, 120, 30), dirty);
-    EXPECT_FALSE(::IsWindowEnabled(m_control));
+    EXPECT_TRUE(ts::SamePicture(RadioFrame(2), Glyph()));
 }
 
-TEST_F(CheckBox, StateChangesRepaintTheStatedRectangle)
+template <class Control>
+void ExpectEnablingToRepaintEverything(Control& control)
 {
-    const auto dirtyAfter = [this](UINT message, WPARAM wParam, LPARAM lParam) {
-        ::UpdateWindow(m_control);
-        ::ValidateRect(m_control, nullptr);
-        m_control.SendMessage(message, wParam, lParam);
-        CRect dirty(0, 0, 0, 0);
-        ::GetUpdateRect(m_control, &dirty, FALSE);
+    for (const BOOL enable : {FALSE, TRUE}) {
+        Validate(control);
+        control.EnableWindow(enable);
+        EXPECT_EQ(CRect(0, 0, 120, 30), Dirty(control));
+        EXPECT_FALSE(IsErasedByUpdate(control));
+        EXPECT_EQ(enable, ::IsWindowEnabled(control));
+    }
+}
+
+TEST_F(CheckBox, EnablingRepaintsTheWholeControl)
+{
+    ExpectEnablingToRepaintEverything(m_control);
+}
+
+TEST_F(RadioBox, EnablingRepaintsTheWholeControl)
+{
+    ExpectEnablingToRepaintEverything(m_control);
+}
+
+TEST_F(CheckBox, EnableMessageAloneEnables)
+{
+    m_control.SendMessage(WM_ENABLE, FALSE);
+    EXPECT_FALSE(::IsWindowEnabled(m_control));
+    m_control.SendMessage(WM_ENABLE, TRUE);
+    EXPECT_TRUE(::IsWindowEnabled(m_control));
+}
+
+template <class Control>
+void ExpectStateChangesToRepaintTheStatedRectangle(Control& control)
+{
+    const auto dirtyAfter = [&control](UINT message, WPARAM wParam, LPARAM lParam) {
+        Validate(control);
+        control.SendMessage(message, wParam, lParam);
+        const CRect dirty = Dirty(control);
+        EXPECT_FALSE(IsErasedByUpdate(control)) << ts::MessageName(message);
         return dirty;
     };
     const CRect stated(2, 2, 13, 13);
     EXPECT_EQ(stated, dirtyAfter(BM_SETCHECK, BST_CHECKED, 0));
+    EXPECT_EQ(stated, dirtyAfter(BM_SETCHECK, BST_UNCHECKED, 0));
     EXPECT_EQ(stated, dirtyAfter(WM_MOUSELEAVE, 0, 0));
     EXPECT_EQ(stated, dirtyAfter(WM_LBUTTONUP, 0, MAKELPARAM(3, 3)));
-    ts::MoveMouse(m_control);
-    m_control.SendMessage(WM_MOUSELEAVE);
+    ts::MoveMouse(control);
+    control.SendMessage(WM_MOUSELEAVE);
     EXPECT_EQ(stated, dirtyAfter(WM_MOUSEMOVE, 0, MAKELPARAM(3, 3)));
     EXPECT_EQ(CRect(0, 0, 0, 0), dirtyAfter(WM_MOUSEMOVE, 0, MAKELPARAM(4, 3))) << "hot already";
+}
+
+TEST_F(CheckBox, StateChangesRepaintTheStatedRectangle)
+{
+    ExpectStateChangesToRepaintTheStatedRectangle(m_control);
+}
+
+TEST_F(RadioBox, StateChangesRepaintTheStatedRectangle)
+{
+    ExpectStateChangesToRepaintTheStatedRectangle(m_control);
+    Validate(m_control);
+    m_control.SendMessage(WM_LBUTTONUP); // checked since above
+    EXPECT_EQ(CRect(0, 0, 0, 0), Dirty(m_control)) << "nothing changes";
 }
 
 template <class Control>
@@ -266,6 +348,21 @@ TEST_F(CheckBox, ClickTogglesAndNotifies)
         m_host.Log().Has(ts::Msg(WM_COMMAND, MAKEWPARAM(11, BN_CLICKED), reinterpret_cast<LPARAM>(m_control.m_hWnd))));
 }
 
+TEST_F(CheckBox, NewStateIsThereWhenTheParentIsNotified)
+{
+    bool checked = false;
+    CRect dirty;
+    Validate(m_control);
+    m_host.Log().Answer(WM_COMMAND, [&](const ts::Message&) -> std::optional<LRESULT> {
+        checked = IsChecked();
+        dirty = Dirty(m_control);
+        return {};
+    });
+    m_control.SendMessage(WM_LBUTTONUP);
+    EXPECT_TRUE(checked);
+    EXPECT_EQ(CRect(2, 2, 13, 13), dirty);
+}
+
 TEST_F(CheckBox, SecondClickUnchecks)
 {
     m_control.SendMessage(BM_SETCHECK, BST_CHECKED);
@@ -280,6 +377,19 @@ TEST_F(CheckBox, PressTakesTheFocusAndNoCapture)
     ts::MouseDown();
     EXPECT_EQ(m_control.m_hWnd, ::GetFocus());
     EXPECT_EQ(nullptr, ::GetCapture());
+    EXPECT_EQ(0, m_control.SendMessage(BM_GETSTATE) & BST_PUSHED);
+    EXPECT_FALSE(IsChecked());
+    ts::MouseUp();
+    EXPECT_TRUE(IsChecked());
+}
+
+TEST_F(RadioBox, PressTakesTheFocusAndNoCapture)
+{
+    ts::MoveMouse(m_control);
+    ts::MouseDown();
+    EXPECT_EQ(m_control.m_hWnd, ::GetFocus());
+    EXPECT_EQ(nullptr, ::GetCapture());
+    EXPECT_EQ(0, m_control.SendMessage(BM_GETSTATE) & BST_PUSHED);
     EXPECT_FALSE(IsChecked());
     ts::MouseUp();
     EXPECT_TRUE(IsChecked());
@@ -343,6 +453,13 @@ TEST_F(CheckBox, FocusedControlPaintsItsRectangle)
     m_control.SetFocus();
     m_control.Invalidate();
     EXPECT_TRUE(ts::SamePicture(ExpectedLook(CheckFrame(0), ::GetSysColor(COLOR_BTNTEXT), true), Look(m_control)));
+}
+
+TEST_F(RadioBox, FocusedControlPaintsItsRectangle)
+{
+    m_control.SetFocus();
+    m_control.Invalidate();
+    EXPECT_TRUE(ts::SamePicture(ExpectedLook(RadioFrame(0), ::GetSysColor(COLOR_BTNTEXT), true), Look(m_control)));
 }
 
 TEST_F(RadioBox, FocusDrawsItsRectangleAndLosingItRemovesIt)
@@ -440,6 +557,19 @@ TEST_F(RadioGroup, ClickChecksAndNotifies)
     EXPECT_EQ(m_radio[2].m_hWnd, ::GetFocus());
 }
 
+TEST_F(RadioGroup, WholeGroupIsChangedWhenTheParentIsNotified)
+{
+    m_radio[0].SendMessage(BM_SETCHECK, BST_CHECKED);
+    int notifications = 0;
+    m_host.Log().Answer(WM_COMMAND, [&](const ts::Message&) -> std::optional<LRESULT> {
+        ++notifications;
+        ExpectOnly(2);
+        return {};
+    });
+    m_radio[2].SendMessage(WM_LBUTTONUP);
+    EXPECT_EQ(1, notifications);
+}
+
 TEST_F(RadioGroup, ClickOnACheckedOneNotifiesAgainWithoutChange)
 {
     ts::Click(m_radio[2]);
@@ -475,6 +605,59 @@ TEST_F(RadioGroup, DisabledOrHiddenOneCanBeCheckedWithoutAnEndlessWalk)
     m_radio[2].SendMessage(BM_SETCHECK, BST_CHECKED);
     EXPECT_TRUE(IsChecked(2));
     EXPECT_FALSE(IsChecked(0));
+}
+
+template <class Control>
+void ExpectNoHarmWithoutWindow(Control& control, const ts::Picture& glyph)
+{
+    const ts::Picture picture = ts::DrawTo(
+        120, 30,
+        [&](HDC dc) {
+            control.DrawCheck(*CDC::FromHandle(dc), 0);
+            control.DrawText(*CDC::FromHandle(dc), 3, 0);
+        },
+        kBody);
+    EXPECT_TRUE(ts::SamePicture(glyph, picture.Crop(kGlyph)));
+    EXPECT_TRUE(ts::AreaIs(picture, CRect(15, 0, 120, 30), kBody));
+    control.DrawFocus();
+}
+
+TEST_F(CheckBox, WithoutWindowItHasAGlyphAndNoText)
+{
+    CCheckBox none;
+    ExpectNoHarmWithoutWindow(none, CheckFrame(0));
+    m_control.DestroyWindow();
+    ExpectNoHarmWithoutWindow(m_control, CheckFrame(0));
+}
+
+TEST_F(RadioBox, WithoutWindowItHasAGlyphAndNoTextAndNoGroup)
+{
+    CRadioBox none;
+    ExpectNoHarmWithoutWindow(none, RadioFrame(0));
+    none.UncheckOtherRadio();
+    m_control.DestroyWindow();
+    ExpectNoHarmWithoutWindow(m_control, RadioFrame(0));
+    m_control.UncheckOtherRadio();
+}
+
+TEST_F(CheckBox, ParentMayDestroyItOnAClick)
+{
+    m_host.Log().Answer(WM_COMMAND, [&](const ts::Message&) -> std::optional<LRESULT> {
+        m_control.DestroyWindow();
+        return {};
+    });
+    m_control.SendMessage(WM_LBUTTONUP);
+    EXPECT_EQ(nullptr, m_control.m_hWnd);
+}
+
+TEST_F(RadioBox, ParentMayDestroyItOnAClick)
+{
+    m_host.Log().Answer(WM_COMMAND, [&](const ts::Message&) -> std::optional<LRESULT> {
+        m_control.DestroyWindow();
+        return {};
+    });
+    m_control.SendMessage(WM_LBUTTONUP);
+    EXPECT_EQ(nullptr, m_control.m_hWnd);
 }
 
 TEST_F(CheckBox, ShowingPaintingAndClosingLeavesNothingBehind)

@@ -100,14 +100,15 @@ TEST_F(CmdBtn, IconStandsAt6In32By32)
 }
 
 /** Title and description as they should stand: 5 in on every side, 38 further to the right. */
-void DrawExpectedTexts(CDC& dc, COLORREF colour)
+void DrawExpectedTexts(CDC& dc, COLORREF colour, const wchar_t* title = L"Title",
+                       const wchar_t* description = L"What it does")
 {
     const COLORREF old = ::SetTextColor(dc, colour);
-    RECT title = {43, 5, kWidth - 5, kHeight - 5};
-    ::DrawTextW(dc, L"Title", -1, &title, DT_CALCRECT | DT_SINGLELINE);
-    ::DrawTextW(dc, L"Title", -1, &title, DT_SINGLELINE);
-    RECT description = {43, title.bottom, kWidth - 5, kHeight - 5};
-    ::DrawTextW(dc, L"What it does", -1, &description, DT_WORDBREAK | DT_EDITCONTROL | DT_HIDEPREFIX);
+    RECT first = {43, 5, kWidth - 5, kHeight - 5};
+    ::DrawTextW(dc, title, -1, &first, DT_CALCRECT | DT_SINGLELINE);
+    ::DrawTextW(dc, title, -1, &first, DT_SINGLELINE);
+    RECT second = {43, first.bottom, kWidth - 5, kHeight - 5};
+    ::DrawTextW(dc, description, -1, &second, DT_WORDBREAK | DT_EDITCONTROL | DT_HIDEPREFIX);
     ::SetTextColor(dc, old);
 }
 
@@ -143,6 +144,31 @@ TEST_F(CmdBtn, LongDescriptionIsWrappedAndTitleIsNot)
     const auto ink = [](COLORREF pixel) { return pixel == ::GetSysColor(COLOR_BTNTEXT); };
     const CRect texts(42, 0, kWidth, kHeight);
     EXPECT_GT(wrapped.Crop(texts).Bounds(ink).bottom, single.Crop(texts).Bounds(ink).bottom + 8);
+}
+
+TEST_F(CmdBtn, AmpersandUnderlinesInTheTitleAndIsHiddenInTheDescription)
+{
+    ASSERT_TRUE(m_button.SetBtn(0x10000, L"What it && what &else it does"));
+    m_button.SetWindowText(L"Ti&tle");
+    const ts::Picture expected = OnPaper([](CDC& dc) {
+        dc.PatBlt(0, 0, kWidth, kHeight, PATCOPY);
+        DrawExpectedTexts(dc, ::GetSysColor(COLOR_BTNTEXT), L"Ti&tle", L"What it && what &else it does");
+    });
+    const CRect texts(42, 0, kWidth, kHeight);
+    EXPECT_TRUE(ts::SamePicture(expected.Crop(texts), Draw(0).Crop(texts)));
+}
+
+TEST_F(CmdBtn, DescriptionIsBrokenInsideLongWordsAndCutAtWholeLines)
+{
+    const wchar_t* const text = L"An_endless_word_that_is_wider_than_the_button_itself and four more lines of text "
+                                L"that do not find room in the button at all";
+    ASSERT_TRUE(m_button.SetBtn(0x10000, text));
+    const ts::Picture expected = OnPaper([=](CDC& dc) {
+        dc.PatBlt(0, 0, kWidth, kHeight, PATCOPY);
+        DrawExpectedTexts(dc, ::GetSysColor(COLOR_BTNTEXT), L"Title", text);
+    });
+    const CRect texts(42, 0, kWidth, kHeight);
+    EXPECT_TRUE(ts::SamePicture(expected.Crop(texts), Draw(0).Crop(texts)));
 }
 
 TEST_F(CmdBtn, TextColourIsRestored)
@@ -232,14 +258,14 @@ TEST_F(CmdBtn, NullDescriptionKeepsTheDescription)
     EXPECT_TRUE(ts::AreaIs(after, CRect(6, 6, 38, 38), kGreen));
 }
 
-TEST_F(CmdBtn, SetBtnInvalidates)
+TEST_F(CmdBtn, SetBtnInvalidatesWithErase)
 {
-    ::UpdateWindow(m_button);
-    ::ValidateRect(m_button, nullptr);
+    Validate(m_button);
     m_button.SetBtn(0x10000, nullptr);
-    CRect dirty;
-    EXPECT_TRUE(::GetUpdateRect(m_button, &dirty, FALSE));
-    EXPECT_EQ(CRect(0, 0, kWidth, kHeight), dirty);
+    EXPECT_EQ(CRect(0, 0, kWidth, kHeight), Dirty(m_button));
+    EXPECT_TRUE(IsErasedByUpdate(m_button));
+    EXPECT_FALSE(m_button.SetBtn(IDI_MISSING, L"Another"));
+    EXPECT_EQ(CRect(0, 0, 0, 0), Dirty(m_button)) << "refused";
 }
 
 TEST_F(CmdBtn, SetBtnWorksBeforeTheWindow)
@@ -318,6 +344,16 @@ TEST_F(CmdBtn, IsHotWhileTheMouseIsOverIt)
     EXPECT_TRUE(ts::PumpUntil([this] { return Look(m_button).Count(kHotFill) == 0; }));
 }
 
+TEST_F(CmdBtn, HotChangesRepaintWithoutErasing)
+{
+    ExpectHotChangesToRepaint(m_button);
+}
+
+TEST_F(CmdBtn, DraggingOffReleasesIt)
+{
+    ExpectDragOffToRelease(m_button, m_host.Log());
+}
+
 TEST_F(CmdBtn, LeaveMessageReturnsOneAndEraseMessageTrue)
 {
     EXPECT_EQ(1, m_button.SendMessage(WM_MOUSELEAVE));
@@ -330,6 +366,25 @@ TEST_F(CmdBtn, ClickReachesTheParent)
 {
     ts::Click(m_button);
     EXPECT_EQ(1u, m_host.Log().Count(ts::Command(6, BN_CLICKED)));
+}
+
+TEST_F(CmdBtn, WithoutWindowItHasADescriptionAndNoTitle)
+{
+    CCmdBtn none;
+    ASSERT_TRUE(none.SetBtn(IDI_SQUARE, L"Text"));
+    const ts::Picture picture = DrawnItem(none, kWidth, kHeight, ODS_DISABLED | ODS_FOCUS);
+    EXPECT_TRUE(ts::PixelIs(picture, 10, 10, RGB(76, 76, 76)));
+    m_button.DestroyWindow();
+    EXPECT_TRUE(m_button.SetBtn(IDI_OTHER, L"Text"));
+    EXPECT_TRUE(ts::AreaIs(DrawnItem(m_button, kWidth, kHeight, 0), CRect(6, 6, 38, 38), kGreen));
+}
+
+TEST_F(CmdBtn, WithoutDeviceContextNothingIsDrawn)
+{
+    CRect rect(0, 0, kWidth, kHeight);
+    m_button.DrawRect(nullptr, rect);
+    m_button.DrawText(nullptr, rect, 3);
+    EXPECT_EQ(CRect(0, 0, kWidth, kHeight), rect);
 }
 
 TEST_F(CmdBtn, ShowingPaintingAndClosingLeavesNothingBehind)

@@ -314,6 +314,16 @@ TEST_F(QorBtn, LeaveMessageReturnsOneAndRepaints)
     EXPECT_EQ(kNormal, DrawnItem(m_button, 80, 21, 0).At(40, 0));
 }
 
+TEST_F(QorBtn, HotChangesRepaintWithoutErasing)
+{
+    ExpectHotChangesToRepaint(m_button);
+}
+
+TEST_F(QorBtn, DraggingOffReleasesIt)
+{
+    ExpectDragOffToRelease(m_button, m_host.Log());
+}
+
 TEST_F(QorBtn, IsPressedWhileTheMouseButtonIsDown)
 {
     ts::MoveMouse(m_button);
@@ -341,6 +351,24 @@ TEST_F(QorBtn, SpaceClicksTheFocusedButton)
     m_button.SetFocus();
     ts::Key(VK_SPACE);
     EXPECT_EQ(1u, m_host.Log().Count(ts::Command(7, BN_CLICKED)));
+}
+
+TEST_F(QorBtn, WithoutWindowItHasAFaceAndNoText)
+{
+    CQorBtn none;
+    EXPECT_EQ(kNormal, DrawnItem(none, 80, 21, 0).At(40, 0));
+    const ts::Picture face = DrawnItem(none, 80, 21, 0);
+    m_button.SetWindowText(L"Text");
+    m_button.DestroyWindow();
+    EXPECT_TRUE(ts::SamePicture(face, DrawnItem(m_button, 80, 21, 0)));
+}
+
+TEST_F(QorBtn, WithoutDeviceContextNothingIsDrawn)
+{
+    CRect rect(0, 0, 80, 21);
+    m_button.DrawBack(nullptr, rect, 0, TRUE);
+    m_button.DrawText(nullptr, rect, FALSE);
+    EXPECT_EQ(CRect(0, 0, 80, 21), rect);
 }
 
 TEST_F(QorBtn, ShowingPaintingAndClosingLeavesNothingBehind)
