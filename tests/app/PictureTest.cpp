@@ -1,4 +1,6 @@
+#include <functional>
 #include <gtest/gtest.h>
+#include <malloc.h>
 #include <memory>
 #include <QorUI/app/GdiPlusFlat.h>
 #include <QorUI/app/Picture.h>
@@ -275,6 +277,44 @@ TEST(ImageFromResource, LeavesNothingBehind)
         ImageOf(IDR_FRAMES);
         ImageOf(IDR_DAMAGED);
     }));
+}
+
+/** Blocks in use in the run-time library's heap. */
+int HeapBlocks()
+{
+    int blocks = 0;
+    _HEAPINFO entry = {};
+    while (::_heapwalk(&entry) == _HEAPOK)
+        blocks += entry._useflag == _USEDENTRY;
+    return blocks;
+}
+
+/** Expects fewer blocks to stay behind than one in each second cycle. */
+void ExpectNoBlocksLeft(const std::function<void()>& cycle)
+{
+    constexpr int kCycles = 200;
+    cycle();
+    const int before = HeapBlocks();
+    for (int i = 0; i < kCycles; ++i)
+        cycle();
+    EXPECT_LT(HeapBlocks() - before, kCycles / 2);
+}
+
+TEST(ImageFromResource, StreamIsReleased)
+{
+    ExpectNoBlocksLeft([] {
+        ImageOf(IDR_FRAMES);
+        ImageOf(IDR_DAMAGED);
+    });
+}
+
+TEST(QorBmp, StreamIsReleasedOnEveryPath)
+{
+    CQorBmp bitmap;
+    ExpectNoBlocksLeft([&] {
+        EXPECT_TRUE(bitmap.Load(Program(), IDR_FRAMES, L"PNG"));
+        EXPECT_FALSE(bitmap.Load(Program(), IDR_DAMAGED, L"PNG"));
+    });
 }
 
 constexpr GUID kNoEncoder = {1, 2, 3, {4, 5, 6, 7, 8, 9, 10, 11}};
