@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <set>
 #include <string>
 
 struct BitmapSize
@@ -47,6 +48,78 @@ TEST_P(BitmapTest, HasItsSizeAnd24Bits)
     EXPECT_EQ(GetParam().height, header.biHeight);
     EXPECT_EQ(24, header.biBitCount);
     EXPECT_EQ(static_cast<DWORD>(BI_RGB), header.biCompression);
+}
+
+struct Strip
+{
+    UINT id;
+    int frames;
+};
+
+class StripTest : public testing::TestWithParam<Strip>
+{
+  protected:
+    static constexpr size_t kPixel = 3; // bytes
+
+    void SetUp() override
+    {
+        m_bytes = ResourceBytes(GetParam().id, RT_BITMAP);
+        ASSERT_GE(m_bytes.size(), sizeof(m_header));
+        std::memcpy(&m_header, m_bytes.data(), sizeof(m_header));
+    }
+
+    /** The pixels of one frame, from the bottom row up. */
+    std::string Frame(int index) const
+    {
+        const size_t stride = (m_header.biWidth * kPixel + 3) / 4 * 4;
+        const size_t row = m_header.biWidth / GetParam().frames * kPixel;
+        std::string pixels;
+        for (LONG y = 0; y < m_header.biHeight; ++y) {
+            const size_t start = m_header.biSize + y * stride + index * row;
+            pixels.append(m_bytes.begin() + start, m_bytes.begin() + start + row);
+        }
+        return pixels;
+    }
+
+    BITMAPINFOHEADER m_header = {};
+
+  private:
+    std::vector<BYTE> m_bytes;
+};
+
+INSTANTIATE_TEST_SUITE_P(All, StripTest,
+                         testing::Values(Strip{200, 6}, Strip{201, 6}, Strip{210, 7}, Strip{211, 2}, Strip{220, 4},
+                                         Strip{221, 4}, Strip{222, 4}, Strip{223, 4}, Strip{261, 2}, Strip{264, 2}),
+                         [](const auto& which) { return std::to_string(which.param.id); });
+
+TEST_P(StripTest, EveryFrameIsAnotherPicture)
+{
+    std::set<std::string> frames;
+    for (int i = 0; i < GetParam().frames; ++i)
+        EXPECT_TRUE(frames.insert(Frame(i)).second) << "frame " << i;
+}
+
+TEST_P(StripTest, NoFrameIsOfOneColour)
+{
+    // Image 0 of the check trees stands for no check box.
+    for (int i = GetParam().id == IDB_CHECK_TREE ? 1 : 0; i < GetParam().frames; ++i) {
+        const std::string pixels = Frame(i);
+        EXPECT_NE(pixels.substr(kPixel), pixels.substr(0, pixels.size() - kPixel)) << "frame " << i;
+    }
+}
+
+TEST(RadioStrip, CornersAreOfTheKeyColour)
+{
+    const std::vector<BYTE> bytes = ResourceBytes(IDB_RADIO, RT_BITMAP);
+    constexpr size_t kStride = (78 * 3 + 3) / 4 * 4;
+    ASSERT_EQ(sizeof(BITMAPINFOHEADER) + 13 * kStride, bytes.size());
+    for (const size_t y : {0, 12})
+        for (size_t x = 0; x < 78; x += 13)
+            for (const size_t corner : {x, x + 12})
+                EXPECT_EQ(std::vector<BYTE>(3, 255),
+                          std::vector<BYTE>(bytes.begin() + sizeof(BITMAPINFOHEADER) + y * kStride + corner * 3,
+                                            bytes.begin() + sizeof(BITMAPINFOHEADER) + y * kStride + corner * 3 + 3))
+                    << corner << ", " << y;
 }
 
 TEST(ProgressPattern, IsABitmapResourceOf472Bytes)
