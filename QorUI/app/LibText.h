@@ -10,3 +10,10 @@ inline constexpr LPCWSTR kQorUIModule = L"QorUI.dll";
  * @return the text, valid while the language stays loaded; the key itself when the data lacks it.
  */
 LPCWSTR QorLibText(LPCWSTR key);
+
+/**
+ * A text of the same section with a value in it.
+ * @param value stands in the result for each "%s"; "%%" gives a percent sign. Whatever else the data has after a
+ *        percent sign stays as it is: language data must not make a format read an argument that is not there.
+ */
+CString QorLibFormat(LPCWSTR key, LPCWSTR value);

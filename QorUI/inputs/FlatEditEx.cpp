@@ -52,8 +52,7 @@ BOOL CFlatEditEx::OnUpdate()
 
 void CFlatEditEx::ShowRefusal()
 {
-    CString text;
-    text.Format(QorLibText(L"STR_INVALID_TEXT"), m_lpszIllegal);
+    CString text = QorLibFormat(L"STR_INVALID_TEXT", m_lpszIllegal);
     EDITBALLOONTIP tip = {};
     tip.cbStruct = sizeof(tip);
     tip.pszText = text;
