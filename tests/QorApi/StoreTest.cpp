@@ -158,6 +158,23 @@ TEST_F(StoreFileTest, ThreadsHaveConnectionsOfTheirOwn)
     EXPECT_TRUE(DeleteFileW(StorePath().c_str()));
 }
 
+TEST_F(StoreFileTest, OpeningLeavesNothingBehind)
+{
+    MakeStore();
+    EXPECT_TRUE(ts::NoLeak([] {
+        EXPECT_EQ(QorOpen(), 0U);
+        EXPECT_EQ(ListAll<_QORVEX_SNAP>(QORLIST_SNAPSHOTS).size(), 5U);
+        QorClose();
+        EXPECT_EQ(ListAll<_QORVEX_TASK>(QORLIST_TASKS).size(), 4U); // connects for itself
+    }));
+}
+
+TEST_F(StoreFileTest, RefusedStoreLeavesNothingBehind)
+{
+    ts::WriteBytes(StorePath(), std::string(5000, 'x'));
+    EXPECT_TRUE(ts::NoLeak([] { EXPECT_EQ(QorOpen(), CORRUPT); }));
+}
+
 TEST_F(StoreFileTest, EmptyFileBecomesAStore)
 {
     ts::WriteBytes(StorePath(), "");

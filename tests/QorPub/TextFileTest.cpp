@@ -1,4 +1,5 @@
 #include <QorPub/QorPub.h>
+#include <tests/support/Leaks.h>
 #include <tests/support/Surroundings.h>
 
 #include <gtest/gtest.h>
@@ -270,4 +271,18 @@ TEST_F(TextFile, PathsLongerThanTheOldLimitWork)
     CTextFile file;
     EXPECT_TRUE(file.Open((path + L"\\a.txt").c_str(), TEXTFILE_CREATE, 0));
     EXPECT_TRUE(file.WriteString(L"x"));
+}
+
+TEST_F(TextFile, OpeningLeavesNoHandles)
+{
+    Fill("text");
+    EXPECT_TRUE(ts::NoLeak([this] {
+        CTextFile file;
+        CString line;
+        EXPECT_TRUE(file.Open(Path().c_str(), TEXTFILE_READ, TEXTFILE_UTF8));
+        EXPECT_TRUE(file.ReadLine(line));
+        EXPECT_TRUE(file.Open(Path().c_str(), TEXTFILE_APPEND, TEXTFILE_UTF8)); // closes the former one
+        EXPECT_FALSE(file.Open(m_folder.File(L"none\\x.txt").c_str(), TEXTFILE_CREATE, TEXTFILE_UTF8));
+        EXPECT_TRUE(file.Open(Path().c_str(), TEXTFILE_READ, TEXTFILE_UTF8)); // closed by the destructor
+    }));
 }

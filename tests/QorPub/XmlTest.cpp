@@ -1,4 +1,5 @@
 #include <QorPub/QorPub.h>
+#include <tests/support/Leaks.h>
 #include <tests/support/Surroundings.h>
 
 #include <gtest/gtest.h>
@@ -398,4 +399,20 @@ TEST(CQorXml, EntitiesForTheFiveSpecialCharacters)
     text.Empty();
     CQorXml::ReplaceEntityChar(text);
     EXPECT_TRUE(text.IsEmpty());
+}
+
+TEST(CQorXml, FilesAreClosedOnEveryPath)
+{
+    ts::TempFolder folder;
+    const std::wstring good = folder.File(L"good.xml");
+    const std::wstring damaged = folder.File(L"damaged.xml");
+    ts::WriteBytes(damaged, "<a>");
+    EXPECT_TRUE(ts::NoLeak([&] {
+        CQorXml xml;
+        xml.CreateRoot(L"a");
+        EXPECT_EQ(0u, xml.Save(good.c_str()));
+        EXPECT_NE(0u, xml.Save(folder.File(L"none\\x.xml").c_str()));
+        EXPECT_EQ(0u, xml.Load(good.c_str()));
+        EXPECT_NE(0u, xml.Load(damaged.c_str()));
+    }));
 }
