@@ -234,6 +234,29 @@ TEST_F(StoreFileTest, DamagedStoreGivesTheErrorFromEveryCall)
     ExpectRefused(CORRUPT);
 }
 
+// A process that was killed leaves a log behind, which the next one takes over: not into a damaged store.
+TEST_F(StoreFileTest, DamagedStoreWithALogIsLeftAlone)
+{
+    MakeStore();
+    const std::wstring copy = File(L"copy.db");
+    {
+        RawDatabase writer(StorePath());
+        writer.Run("PRAGMA journal_mode = WAL");
+        writer.Run("UPDATE logon SET name = 'kept in the log', remember = 1");
+        std::string bytes = ts::ReadBytes(StorePath());
+        bytes.replace(3 * 4096, 64, std::string(64, '\xAA'));
+        ts::WriteBytes(copy, bytes);
+        ts::WriteBytes(copy + L"-wal", ts::ReadBytes(StorePath() + L"-wal"));
+    }
+    const std::string store = ts::ReadBytes(copy);
+    const std::string log = ts::ReadBytes(copy + L"-wal");
+    ASSERT_NE(std::string::npos, log.find("kept in the log"));
+    const ts::EnvironmentVariable other(L"QOR_STORE", copy.c_str());
+    EXPECT_EQ(QorOpen(), CORRUPT);
+    EXPECT_TRUE(ts::ReadBytes(copy) == store);
+    EXPECT_TRUE(ts::ReadBytes(copy + L"-wal") == log);
+}
+
 TEST_F(StoreFileTest, DatabaseOfAnotherProgramIsRefused)
 {
     RawDatabase(StorePath()).Run("CREATE TABLE other(a); INSERT INTO other VALUES(1)");

@@ -64,6 +64,22 @@ TEST_F(PreInstance, AVisibleWindowIsFoundByClassAndTitle)
     EXPECT_EQ(m_window, GetForegroundWindow());
 }
 
+TEST_F(PreInstance, ThePopupThatWasActiveLastComesToTheFront)
+{
+    MakeWindow(WS_VISIBLE);
+    HWND popup = CreateWindowExW(0, L"STATIC", L"Popup", WS_POPUP | WS_CAPTION | WS_VISIBLE, 20, 20, 90, 60, m_window,
+                                 nullptr, nullptr, nullptr);
+    SetForegroundWindow(popup);
+    HWND other = CreateWindowExW(0, L"STATIC", L"Other", WS_POPUP | WS_VISIBLE, 200, 200, 90, 60, nullptr, nullptr,
+                                 nullptr, nullptr);
+    SetForegroundWindow(other);
+    ts::Settle();
+    EXPECT_TRUE(QorShowPreInstanceWnd(L"STATIC", WINDOW_TITLE));
+    EXPECT_EQ(popup, GetForegroundWindow());
+    DestroyWindow(other);
+    DestroyWindow(popup);
+}
+
 TEST_F(PreInstance, AMinimisedWindowIsRestored)
 {
     MakeWindow(WS_VISIBLE | WS_MINIMIZE);

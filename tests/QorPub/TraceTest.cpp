@@ -53,7 +53,7 @@ class Trace : public testing::Test
         }
     }
 
-    static constexpr int COUNT = 150;
+    static constexpr int COUNT = 800;
 
     ts::TempFolder m_folder;
     ts::EnvironmentVariable m_store{L"QOR_STORE", m_folder.File(L"data\\store.db").c_str()};

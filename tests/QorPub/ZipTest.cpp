@@ -233,6 +233,21 @@ TEST_F(Zip, ReportsFilesPercentAndEndInOrder)
     EXPECT_GT(window.Count(ZIPREPORT_PERCENT), 4u);
 }
 
+TEST_F(Zip, HundredPercentMeansThatTheArchiveIsInItsPlace)
+{
+    Make(L"a.bin", std::string(600 * KB, 'a'));
+    bool seen = false;
+    ReportWindow window([&](const ReportLine& line) {
+        if (line.kind == ZIPREPORT_PERCENT) {
+            seen = ts::FileExists(Archive());
+            EXPECT_EQ(line.value == 100, seen) << line.value;
+        }
+        return 0;
+    });
+    ASSERT_EQ(0, Pack(window));
+    EXPECT_TRUE(seen);
+}
+
 TEST_F(Zip, HalfOfTheBytesIsFiftyPercent)
 {
     Make(L"a.bin", std::string(100 * KB, 'a'));
