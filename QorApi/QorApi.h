@@ -296,8 +296,8 @@ constexpr WORD QORSNAP_LOCKED = 0x0001; ///< bit of _QORVEX_SNAP::wFlags: may no
 /** A snapshot, 256 bytes. Unused bytes are 0. */
 struct _QORVEX_SNAP
 {
-    WORD wNumber;
-    WORD wFlags; ///< #QORSNAP_LOCKED
+    WORD wNumber; ///< 1 to 1023
+    WORD wFlags;  ///< #QORSNAP_LOCKED
     BYTE reserved[12];
     _QORTIME time; ///< when it was taken
     BYTE reserved2[8];
@@ -361,20 +361,20 @@ constexpr BYTE QORTASK_SHUTDOWN = 0x04;  ///< nOptions: shut down after defragme
 /** A scheduled task, 128 bytes. Unused bytes are 0. */
 struct _QORVEX_TASK
 {
-    WORD wNumber;   ///< 0 to 31; 32 or more: new
-    BYTE nKind;     ///< QORTASKKIND in bits 2 to 7; bits 0 and 1 are kept as they are
-    BYTE nSchedule; ///< QORSCHEDULE
-    BYTE nFirstHour;
-    BYTE nLastHour;
-    BYTE nDayMask; ///< bit 0 Sunday to bit 6 Saturday
+    WORD wNumber;    ///< 0 to 31; 32 or more: new
+    BYTE nKind;      ///< QORTASKKIND in bits 2 to 7; bits 0 and 1 are kept as they are
+    BYTE nSchedule;  ///< QORSCHEDULE
+    BYTE nFirstHour; ///< 0 to 23: first hour of an hourly task, or of the suspend window
+    BYTE nLastHour;  ///< 0 to 23: its last hour
+    BYTE nDayMask;   ///< hourly and daily tasks: bit 0 Sunday to bit 6 Saturday
     BYTE reserved;
-    BYTE nOptions;
+    BYTE nOptions;  ///< #QORTASK_FIRSTBOOT, #QORTASK_LOCKSNAP, #QORTASK_SHUTDOWN
     BYTE nKeepDays; ///< days to keep the snapshot, 0 for ever
     BYTE nTarget;   ///< roll back to: 2 the latest snapshot, 3 the snapshot wSnapshot
     BYTE nOthers;   ///< other snapshots after the roll-back: 1 keep all, 2 remove all unlocked ones
     BYTE nSuspend;  ///< 1: not within the hours and on the day of the suspend window
     BYTE reserved2[3];
-    _QORTIME start;
+    _QORTIME start; ///< of it a schedule uses what it needs: date and time, minute, or weekday or day with the time
     BYTE reserved3[8];
     WORD wSnapshot; ///< number of a snapshot or #QORSNAP_LATEST
     BYTE reserved4[30];

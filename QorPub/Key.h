@@ -11,9 +11,11 @@
 class QORPUB_API CQorKey
 {
   public:
+    /** Makes an object without key. */
     CQorKey() = default;
     /** Takes over an open key. */
     explicit CQorKey(HKEY key);
+    /** Closes the key as Close does. */
     ~CQorKey();
     CQorKey(const CQorKey&) = delete;
     CQorKey& operator=(const CQorKey&) = delete;
@@ -39,8 +41,10 @@ class QORPUB_API CQorKey
     void Close();
     /** Gives the open key away to the caller, who closes it. */
     HKEY Detach();
+    /** The open key, which stays the object's; null for none. */
     HKEY Get() const { return m_key; }
-    operator HKEY() const { return m_key; }
+    operator HKEY() const { return m_key; } ///< as Get
+    /** Whether the object has a key. */
     BOOL IsOpen() const { return m_key != nullptr; }
 
     /** Type and size in bytes of a value; either result may be null. A null or empty name is the default value. */
@@ -54,8 +58,11 @@ class QORPUB_API CQorKey
     /** Reads a REG_MULTI_SZ value; ERROR_INVALID_DATATYPE for others. */
     LONG QueryMultiString(LPCWSTR name, CStringArray& value) const;
 
+    /** Writes a text value. @param value null counts as empty. @param type REG_SZ or REG_EXPAND_SZ. */
     LONG SetString(LPCWSTR name, LPCWSTR value, DWORD type = REG_SZ);
+    /** Writes a REG_DWORD value. */
     LONG SetDword(LPCWSTR name, DWORD value);
+    /** Writes a REG_BINARY value. @param size bytes at @p data, which may be null for none. */
     LONG SetBinary(LPCWSTR name, const void* data, DWORD size);
     /** Writes a REG_MULTI_SZ value. Empty strings, which would end the list, give ERROR_INVALID_PARAMETER. */
     LONG SetMultiString(LPCWSTR name, const CStringArray& value);
@@ -65,6 +72,7 @@ class QORPUB_API CQorKey
     /** Name and type of the value at @p index (from 0); ERROR_NO_MORE_ITEMS behind the last. @p type may be null. */
     LONG EnumValue(DWORD index, CString& name, DWORD* type = nullptr) const;
 
+    /** Deletes a value; ERROR_FILE_NOT_FOUND when there is none of that name. */
     LONG DeleteValue(LPCWSTR name);
     /** Deletes a sub-key with everything under it; ERROR_INVALID_PARAMETER for an empty path. */
     LONG DeleteKey(LPCWSTR path);

@@ -12,15 +12,23 @@ constexpr DWORD MD5_DIGEST_SIZE = 16;
 class QORPUB_API CQorMd5
 {
   public:
+    /** Makes an object whose first Update or Final starts a digest. */
     CQorMd5();
     ~CQorMd5();
     CQorMd5(const CQorMd5&) = delete;
     CQorMd5& operator=(const CQorMd5&) = delete;
 
-    /** Adds bytes to the digest; the first call after the construction or after Final starts a new one. */
+    /**
+     * Adds bytes to the digest; the first call after the construction or after Final starts a new one.
+     * @return FALSE for null @p data with a size, or when the system has no MD5.
+     */
     BOOL Update(const void* data, DWORD size);
 
-    /** Ends the digest (of no bytes at all when nothing was added) and writes its 16 bytes. */
+    /**
+     * Ends the digest (of no bytes at all when nothing was added).
+     * @param digest takes the 16 bytes.
+     * @return FALSE for null @p digest, or when the system has no MD5.
+     */
     BOOL Final(BYTE* digest);
 
     /** Digest of one block. FALSE for a null @p digest, or null @p data with a size, or when the system has no MD5. */

@@ -28,6 +28,7 @@ enum TextFileEncoding
 class QORPUB_API CTextFile
 {
   public:
+    /** Makes an object without file. */
     CTextFile();
     /** Closes the file. */
     ~CTextFile();
@@ -44,6 +45,7 @@ class QORPUB_API CTextFile
      */
     BOOL Open(LPCWSTR path, int mode, int encoding);
 
+    /** Whether a file is open. */
     BOOL IsOpen() const;
 
     /** Writes a text as it stands. FALSE unless the file is open for writing and everything was written. */

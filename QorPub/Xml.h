@@ -20,6 +20,7 @@ class QORPUB_API CXmlElem
   public:
     /** Makes an element of its own, without parent. The name is taken as it stands. */
     explicit CXmlElem(LPCWSTR name = L"");
+    /** Destroys the children too. */
     ~CXmlElem();
     CXmlElem(const CXmlElem&) = delete;
     CXmlElem& operator=(const CXmlElem&) = delete;
@@ -47,12 +48,14 @@ class QORPUB_API CXmlElem
      */
     int GetAttrInt(LPCWSTR name, int missing = 0) const;
 
+    /** Number of attributes. */
     int GetAttrCount() const;
     /** Name of the attribute at @p index in document order; null when the index is out of range. */
     LPCWSTR GetAttrName(int index) const;
     /** Value of the attribute at @p index in document order; null when the index is out of range. */
     LPCWSTR GetAttrValue(int index) const;
 
+    /** Number of child elements. */
     int GetChildCount() const;
     /** The child element at @p index in document order; null when the index is out of range. */
     CXmlElem* GetChild(int index) const;
@@ -106,6 +109,7 @@ class QORPUB_API CXmlElem
 class QORPUB_API CQorXml
 {
   public:
+    /** Makes an empty document. */
     CQorXml();
     ~CQorXml();
     CQorXml(const CQorXml&) = delete;

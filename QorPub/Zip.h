@@ -36,6 +36,7 @@ constexpr DWORD QORZIP_SUBFOLDERS = 0x40000000;
 class QORPUB_API CQorZip
 {
   public:
+    /** Makes an object without job. */
     CQorZip();
     /** Cancels a running job, without further reports, and waits for its end. */
     ~CQorZip();
@@ -56,6 +57,7 @@ class QORPUB_API CQorZip
     /** Asks a running job to end soon; it then finishes with the HRESULT of ERROR_CANCELLED. */
     void Cancel();
 
+    /** Whether a job was started and has not finished yet. */
     BOOL IsRunning() const;
 
     /**

@@ -13,7 +13,9 @@
 class QORUI_API CQorBmp : public CBitmap
 {
   public:
+    /** Makes an empty object. */
     CQorBmp();
+    /** Frees what the object holds, in the way that suits where its handle came from. */
     ~CQorBmp() override;
 
     /**
@@ -39,7 +41,7 @@ class QORUI_API CQorBmp : public CBitmap
     BOOL Render(HDC dc, int x, int y, int cx, int cy);
 
     /**
-     * Makes the object empty, in the way that suits where its handle came from.
+     * Makes the object empty, as the destructor does.
      * @return whether it held a handle.
      */
     BOOL DeleteObject();

@@ -10,6 +10,7 @@
  */
 struct QORUI_API CQorSysLook
 {
+    /** Reads font and colours from the system. */
     CQorSysLook();
     CQorSysLook(const CQorSysLook&) = delete;
     CQorSysLook& operator=(const CQorSysLook&) = delete;

@@ -10,6 +10,7 @@
 class QORUI_API CBmpBtn : public CButton
 {
   public:
+    /** Makes a button without window. */
     CBmpBtn();
 
     /**
@@ -28,7 +29,10 @@ class QORUI_API CBmpBtn : public CButton
      */
     BOOL SetImage(HINSTANCE inst, UINT id, LPCWSTR type, COLORREF transparent);
 
+    /** Makes the window owner-drawn. */
     void PreSubclassWindow() override;
+
+    /** Draws the button in the state that it has. */
     void DrawItem(LPDRAWITEMSTRUCT item) override;
 
   protected:

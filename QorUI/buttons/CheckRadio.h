@@ -10,6 +10,7 @@
 class QORUI_API CCheckBox : public CButton
 {
   public:
+    /** Makes an unchecked check box without window. */
     CCheckBox();
 
     /** Draws the glyph. @param state 0 normal, 1 hot, 2 disabled. */
@@ -53,6 +54,7 @@ class QORUI_API CCheckBox : public CButton
 class QORUI_API CRadioBox : public CButton
 {
   public:
+    /** Makes an unchecked radio button without window. */
     CRadioBox();
 
     /** Draws the glyph. @param state 0 normal, 1 hot, 2 disabled. */

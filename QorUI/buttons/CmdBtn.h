@@ -8,7 +8,9 @@
 class QORUI_API CCmdBtn : public CButton
 {
   public:
+    /** Makes a button without window, icon and description. */
     CCmdBtn();
+    /** Destroys the grey icon; the icon itself is shared and stays. */
     ~CCmdBtn() override;
 
     /**
@@ -26,7 +28,10 @@ class QORUI_API CCmdBtn : public CButton
      */
     BOOL SetBtn(UINT iconId, LPCWSTR description);
 
+    /** Makes the window owner-drawn. */
     void PreSubclassWindow() override;
+
+    /** Draws the button in the state that it has. */
     void DrawItem(LPDRAWITEMSTRUCT item) override;
 
     /** Draws the highlight that shows that the mouse is over the button. */

@@ -16,6 +16,13 @@ END_MESSAGE_MAP()
 
 CQorBtn::CQorBtn() : m_bHot(FALSE) {}
 
+BOOL CQorBtn::PreCreateWindow(CREATESTRUCT& create)
+{
+    // The window gets its place only after it is bound to the object: what PreSubclassWindow sets would be lost.
+    create.cy = QorLook::kButtonHeight;
+    return CButton::PreCreateWindow(create);
+}
+
 void CQorBtn::PreSubclassWindow()
 {
     ModifyStyle(0, BS_OWNERDRAW);

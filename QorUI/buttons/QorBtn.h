@@ -5,14 +5,22 @@
 /**
  * The ordinary push button of dialogs: rounded and bevelled, with a hot look under the mouse.
  *
- * It is 21 pixels high whatever its template says, and stays owner-drawn when the dialog moves the default button.
+ * It is 21 pixels high whatever its template or its creator says, and stays owner-drawn when the dialog moves the
+ * default button.
  */
 class QORUI_API CQorBtn : public CButton
 {
   public:
+    /** Makes a button without window. */
     CQorBtn();
 
+    /** Makes the window owner-drawn and 21 pixels high. */
     void PreSubclassWindow() override;
+
+    /** Gives a button that is created the height that one of a template gets. */
+    BOOL PreCreateWindow(CREATESTRUCT& create) override;
+
+    /** Draws the button in the state that it has. */
     void DrawItem(LPDRAWITEMSTRUCT item) override;
 
     /**

@@ -52,6 +52,13 @@ TEST_F(QorBtn, CreatedButtonIsOwnerDrawnToo)
     EXPECT_EQ(CRect(120, 30, 200, 51), PlaceIn(m_host, button));
 }
 
+TEST_F(QorBtn, CreatedButtonIs21PixelsHighToo)
+{
+    CQorBtn button;
+    ASSERT_TRUE(button.Create(L"Text", WS_CHILD | WS_VISIBLE, CRect(120, 30, 200, 70), &m_host, 8));
+    EXPECT_EQ(CRect(120, 30, 200, 51), PlaceIn(m_host, button));
+}
+
 TEST_F(QorBtn, StaysBehindTheWindowsThatWereBeforeIt)
 {
     const HWND first = AddButton(m_host, L"", CRect(0, 0, 9, 9), 8);
