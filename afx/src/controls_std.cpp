@@ -11,6 +11,31 @@ IMPLEMENT_DYNAMIC(CComboBox, CWnd)
 IMPLEMENT_DYNAMIC(CEdit, CWnd)
 IMPLEMENT_DYNAMIC(CScrollBar, CWnd)
 
+namespace
+{
+/** Lets a box answer an owner-draw message about its items. @return false for any other message */
+template <class Box>
+bool AnswerItemMessage(Box& box, UINT message, LPARAM lParam, LRESULT& lResult)
+{
+    switch (message) {
+    case WM_DRAWITEM:
+        box.DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+        return true;
+    case WM_MEASUREITEM:
+        box.MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
+        return true;
+    case WM_COMPAREITEM:
+        lResult = box.CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
+        return true;
+    case WM_DELETEITEM:
+        box.DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
+        return true;
+    default:
+        return false;
+    }
+}
+} // namespace
+
 BOOL CStatic::Create(LPCTSTR lpszText, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
     return CWnd::CreateEx(0, WC_STATIC, lpszText, dwStyle, rect, pParentWnd, nID);
@@ -479,28 +504,12 @@ int CListBox::CharToItem(UINT nKey, UINT nIndex)
 BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
     LRESULT lResult = TRUE;
-    switch (message) {
-    case WM_DRAWITEM:
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        break;
-    case WM_MEASUREITEM:
-        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
-        break;
-    case WM_COMPAREITEM:
-        lResult = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
-        break;
-    case WM_DELETEITEM:
-        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
-        break;
-    case WM_VKEYTOITEM:
+    if (message == WM_VKEYTOITEM)
         lResult = VKeyToItem(LOWORD(wParam), HIWORD(wParam));
-        break;
-    case WM_CHARTOITEM:
+    else if (message == WM_CHARTOITEM)
         lResult = CharToItem(LOWORD(wParam), HIWORD(wParam));
-        break;
-    default:
+    else if (!AnswerItemMessage(*this, message, lParam, lResult))
         return CWnd::OnChildNotify(message, wParam, lParam, pResult);
-    }
     if (pResult != nullptr)
         *pResult = lResult;
     return TRUE;
@@ -772,22 +781,8 @@ void CComboBox::DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct)
 BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
     LRESULT lResult = TRUE;
-    switch (message) {
-    case WM_DRAWITEM:
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        break;
-    case WM_MEASUREITEM:
-        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
-        break;
-    case WM_COMPAREITEM:
-        lResult = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
-        break;
-    case WM_DELETEITEM:
-        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
-        break;
-    default:
+    if (!AnswerItemMessage(*this, message, lParam, lResult))
         return CWnd::OnChildNotify(message, wParam, lParam, pResult);
-    }
     if (pResult != nullptr)
         *pResult = lResult;
     return TRUE;

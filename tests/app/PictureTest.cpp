@@ -224,22 +224,23 @@ TEST(QorBmp, MissingFileIsRefusedAndKeepsThePicture)
     EXPECT_EQ(held, bitmap.GetSafeHandle());
 }
 
-TEST(QorBmp, EmptyFileIsRefused)
+void ExpectNoPictureIn(std::string_view bytes)
 {
     const ts::TempFolder folder;
-    ts::WriteBytes(folder.File(L"empty.png"), "");
+    ts::WriteBytes(folder.File(L"file.png"), bytes);
     CQorBmp bitmap;
-    EXPECT_FALSE(bitmap.Load(folder.File(L"empty.png").c_str()));
+    EXPECT_FALSE(bitmap.Load(folder.File(L"file.png").c_str()));
     EXPECT_EQ(nullptr, bitmap.GetSafeHandle());
+}
+
+TEST(QorBmp, EmptyFileIsRefused)
+{
+    ExpectNoPictureIn("");
 }
 
 TEST(QorBmp, FileWithoutPictureIsRefused)
 {
-    const ts::TempFolder folder;
-    ts::WriteBytes(folder.File(L"text.png"), "this is no picture");
-    CQorBmp bitmap;
-    EXPECT_FALSE(bitmap.Load(folder.File(L"text.png").c_str()));
-    EXPECT_EQ(nullptr, bitmap.GetSafeHandle());
+    ExpectNoPictureIn("this is no picture");
 }
 
 std::unique_ptr<Gdiplus::Image> ImageOf(UINT id)

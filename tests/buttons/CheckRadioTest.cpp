@@ -42,6 +42,28 @@ class Checkable : public testing::Test
 
     size_t Clicks() { return m_host.Log().Count(ts::Command(11, BN_CLICKED)); }
 
+    void ExpectPressToTakeTheFocusOnly()
+    {
+        ts::MoveMouse(m_control);
+        ts::MouseDown();
+        EXPECT_EQ(m_control.m_hWnd, ::GetFocus());
+        EXPECT_EQ(nullptr, ::GetCapture());
+        EXPECT_EQ(0, m_control.SendMessage(BM_GETSTATE) & BST_PUSHED);
+        EXPECT_FALSE(IsChecked());
+        ts::MouseUp();
+        EXPECT_TRUE(IsChecked());
+    }
+
+    void ExpectParentMayDestroyIt()
+    {
+        m_host.Log().Answer(WM_COMMAND, [&](const ts::Message&) -> std::optional<LRESULT> {
+            m_control.DestroyWindow();
+            return {};
+        });
+        m_control.SendMessage(WM_LBUTTONUP);
+        EXPECT_EQ(nullptr, m_control.m_hWnd);
+    }
+
     void SetUp() override
     {
         ASSERT_TRUE(m_control.SubclassWindow(AddButton(m_host, L"Text", CRect(20, 10, 140, 40), 11, Style())));
@@ -373,26 +395,12 @@ TEST_F(CheckBox, SecondClickUnchecks)
 
 TEST_F(CheckBox, PressTakesTheFocusAndNoCapture)
 {
-    ts::MoveMouse(m_control);
-    ts::MouseDown();
-    EXPECT_EQ(m_control.m_hWnd, ::GetFocus());
-    EXPECT_EQ(nullptr, ::GetCapture());
-    EXPECT_EQ(0, m_control.SendMessage(BM_GETSTATE) & BST_PUSHED);
-    EXPECT_FALSE(IsChecked());
-    ts::MouseUp();
-    EXPECT_TRUE(IsChecked());
+    ExpectPressToTakeTheFocusOnly();
 }
 
 TEST_F(RadioBox, PressTakesTheFocusAndNoCapture)
 {
-    ts::MoveMouse(m_control);
-    ts::MouseDown();
-    EXPECT_EQ(m_control.m_hWnd, ::GetFocus());
-    EXPECT_EQ(nullptr, ::GetCapture());
-    EXPECT_EQ(0, m_control.SendMessage(BM_GETSTATE) & BST_PUSHED);
-    EXPECT_FALSE(IsChecked());
-    ts::MouseUp();
-    EXPECT_TRUE(IsChecked());
+    ExpectPressToTakeTheFocusOnly();
 }
 
 TEST_F(CheckBox, WhereTheButtonGoesUpDoesNotMatter)
@@ -642,22 +650,12 @@ TEST_F(RadioBox, WithoutWindowItHasAGlyphAndNoTextAndNoGroup)
 
 TEST_F(CheckBox, ParentMayDestroyItOnAClick)
 {
-    m_host.Log().Answer(WM_COMMAND, [&](const ts::Message&) -> std::optional<LRESULT> {
-        m_control.DestroyWindow();
-        return {};
-    });
-    m_control.SendMessage(WM_LBUTTONUP);
-    EXPECT_EQ(nullptr, m_control.m_hWnd);
+    ExpectParentMayDestroyIt();
 }
 
 TEST_F(RadioBox, ParentMayDestroyItOnAClick)
 {
-    m_host.Log().Answer(WM_COMMAND, [&](const ts::Message&) -> std::optional<LRESULT> {
-        m_control.DestroyWindow();
-        return {};
-    });
-    m_control.SendMessage(WM_LBUTTONUP);
-    EXPECT_EQ(nullptr, m_control.m_hWnd);
+    ExpectParentMayDestroyIt();
 }
 
 TEST_F(CheckBox, ShowingPaintingAndClosingLeavesNothingBehind)
