@@ -7,7 +7,9 @@
 
 #include <tests/support/CrashHandler.h>
 #include <tests/support/FontGuard.h>
+#include <tests/support/GdiShortage.h>
 #include <tests/support/HostWindow.h>
+#include <tests/support/ImportRedirection.h>
 #include <tests/support/Input.h>
 #include <tests/support/Leaks.h>
 #include <tests/support/Locale.h>
@@ -16,4 +18,5 @@
 #include <tests/support/ModalDriver.h>
 #include <tests/support/Picture.h>
 #include <tests/support/Pump.h>
+#include <tests/support/ScreenDraws.h>
 #include <tests/support/Surroundings.h>
