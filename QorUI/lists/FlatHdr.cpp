@@ -140,6 +140,7 @@ void CFlatHdr::OnPaint()
     CDC memory;
     CBitmap bitmap;
     if (!memory.CreateCompatibleDC(&dc) || !bitmap.CreateCompatibleBitmap(&dc, rect.Width(), rect.Height())) {
+        PaintInto(dc); // flickers, but shows the header
         return;
     }
     const CSelectSaver select(memory, bitmap);
@@ -148,17 +149,18 @@ void CFlatHdr::OnPaint()
     dc.BitBlt(rect.left, rect.top, rect.Width(), rect.Height(), &memory, rect.left, rect.top, SRCCOPY);
 }
 
-void CFlatHdr::PaintInto(CDC& memory)
+void CFlatHdr::PaintInto(CDC& dc)
 {
-    DefWindowProc(WM_PAINT, reinterpret_cast<WPARAM>(memory.m_hDC), 0);
-    FillRest(memory);
+    DefWindowProc(WM_PAINT, reinterpret_cast<WPARAM>(dc.m_hDC), 0);
+    FillRest(dc);
 }
 
 void CFlatHdr::FillRest(CDC& dc) const
 {
     CRect client;
     GetClientRect(&client);
-    const CRect rest(m_rcLast.right, m_rcLast.top, client.right, m_rcLast.bottom);
+    const CRect last = GetItemCount() > 0 ? m_rcLast : CRect(0, 0, 0, client.bottom);
+    const CRect rest(last.right, last.top, client.right, last.bottom);
     if (rest.right > rest.left) {
         dc.FillSolidRect(&rest, m_clrBack);
     }

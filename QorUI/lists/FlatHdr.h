@@ -39,7 +39,7 @@ class QORUI_API CFlatHdr : public CHeaderCtrl
     void SetOwnerDraw(int index);
     void DrawItemText(HDC dc, const DRAWITEMSTRUCT& draw, bool sorted) const;
     void DrawItemLines(HDC dc, const RECT& rect) const;
-    void PaintInto(CDC& memory);
+    void PaintInto(CDC& dc);
     void FillRest(CDC& dc) const;
     void Repaint();
 

@@ -206,7 +206,8 @@ LRESULT CFlatList::OnSetListExStyle(WPARAM /*mask*/, LPARAM style)
 void CFlatList::OnPaint()
 {
     Default();
-    if (m_lpszEmptyText && GetItemCount() < 1) {
+    // The parent may have destroyed the list when it was told of the painting.
+    if (m_hWnd && m_lpszEmptyText && GetItemCount() < 1) {
         DrawEmptyText();
     }
 }

@@ -2,6 +2,8 @@
 
 #include <QorUI/lists/HdrLayout.h>
 
+#include <array>
+
 namespace
 {
 
@@ -177,6 +179,61 @@ TEST_F(FlatHdr, PartialPaintsFillTheSpaceToo)
         ::RedrawWindow(m_header, part, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
     }
     EXPECT_TRUE(ts::AreaIs(ts::CaptureWindow(m_header), CRect(240, 0, 300, 19), kBack));
+}
+
+TEST_F(FlatHdr, RepaintTouchesTheScreenOnce)
+{
+    m_header.SetSortColumn(0, 1);
+    m_header.UpdateWindow();
+    const ts::ScreenDraws draws;
+    PaintNow(m_header);
+    EXPECT_EQ(1, draws.Count());
+}
+
+TEST_F(FlatHdr, IsPaintedWithoutMemoryForItToo)
+{
+    m_header.SetSortColumn(0, 1);
+    const ts::Picture look = LookOf(m_header);
+    {
+        CClientDC dc(&m_header);
+        dc.FillSolidRect(0, 0, 300, 20, RGB(255, 0, 0));
+        const ts::ImportRedirection failing(
+            {ts::ImportRedirection::Of(&::CreateCompatibleBitmap, &NoCompatibleBitmap)});
+        PaintNow(m_header);
+    }
+    EXPECT_TRUE(ts::SamePicture(look, ts::CaptureWindow(m_header)));
+}
+
+TEST_F(FlatHdr, WithoutItemsIsFilledAsAWhole)
+{
+    while (m_header.GetItemCount() > 0) {
+        m_header.DeleteItem(0);
+    }
+    const ts::Picture look = LookOf(m_header);
+    EXPECT_TRUE(ts::AreaIs(look, CRect(0, 0, 300, 19), kBack));
+    EXPECT_TRUE(ts::AreaIs(look, CRect(0, 19, 300, 20), kLine));
+    CTestHdr fresh;
+    ASSERT_TRUE(fresh.CHeaderCtrl::Create(WS_CHILD | WS_VISIBLE, CRect(0, 40, 300, 60), &m_host, 3));
+    EXPECT_TRUE(ts::SamePicture(look, LookOf(fresh)));
+    fresh.DestroyWindow();
+}
+
+TEST_F(FlatHdr, SpaceFollowsTheColumnsThatAreShown)
+{
+    LookOf(m_header);
+    m_header.DeleteItem(2);
+    EXPECT_TRUE(ts::AreaIs(LookOf(m_header), CRect(180, 0, 300, 19), kBack));
+    const std::array<int, 2> order = {1, 0};
+    ASSERT_TRUE(m_header.SetOrderArray(2, const_cast<int*>(order.data())));
+    const ts::Picture look = LookOf(m_header);
+    EXPECT_TRUE(ts::AreaIs(look, CRect(180, 0, 300, 19), kBack));
+    EXPECT_TRUE(ts::AreaIs(look, CRect(79, 0, 80, 20), kLine));
+}
+
+TEST_F(FlatHdr, SurvivesTheEndOfTheGdiObjects)
+{
+    m_header.SetSortColumn(0, 1);
+    EXPECT_TRUE(SurvivesGdiShortage(m_header));
 }
 
 TEST_F(FlatHdr, OtherColoursRepaintAtOnce)

@@ -1,5 +1,7 @@
 #include "Lists.h"
 
+#include <QorUI/app/SysLook.h>
+
 namespace
 {
 
@@ -238,6 +240,35 @@ TEST_F(FlatList, HasAThinGreyBorder)
     EXPECT_TRUE(ts::FrameIs(frame, CRect(0, 0, 300, 200), kGrey));
 }
 
+TEST_F(FlatList, BorderHasNoInnerFrame)
+{
+    const COLORREF inner = QorSysLook.m_clrWindow; // of the controls that have one
+    QorSysLook.m_clrWindow = RGB(255, 0, 255);
+    ::RedrawWindow(m_list, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW);
+    EXPECT_EQ(0, ts::CaptureFrame(m_list).Count(RGB(255, 0, 255)));
+    QorSysLook.m_clrWindow = inner;
+}
+
+TEST_F(FlatList, SystemDrawsItsScrollBar)
+{
+    AddRows(50);
+    {
+        CWindowDC dc(&m_list);
+        dc.FillSolidRect(0, 0, 300, 200, RGB(255, 0, 255));
+    }
+    ::RedrawWindow(m_list, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    EXPECT_EQ(0, ts::CaptureFrame(m_list).Count(RGB(255, 0, 255)));
+}
+
+TEST_F(FlatList, WithoutAClientEdgeHasNoBorder)
+{
+    m_list.ModifyStyleEx(WS_EX_CLIENTEDGE, 0, SWP_FRAMECHANGED);
+    ::RedrawWindow(m_list, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    const ts::Picture look = ts::CaptureWindow(m_list);
+    EXPECT_EQ(300, look.Width());
+    EXPECT_TRUE(ts::AreaIs(look, CRect(0, 100, 300, 200), kSoft));
+}
+
 TEST_F(FlatList, FocusSelectsTheFirstRowWhenNoneIs)
 {
     AddRows(3);
@@ -302,6 +333,113 @@ TEST_F(FlatList, CheckBoxesCanBeTurnedOffAndOnAgain)
     EXPECT_EQ(images, StateImages(m_list));
     m_list.SendMessage(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_GRIDLINES, LVS_EX_GRIDLINES);
     EXPECT_EQ(images, StateImages(m_list));
+}
+
+/** The images are made once in a process, so one of its own sees that they are missing. */
+TEST_F(FlatList, KeepsTheControlsCheckBoxesWhenTheLibrarysAreMissing)
+{
+    if (!::GetEnvironmentVariableW(L"QOR_TEST_NO_IMAGES", nullptr, 0)) {
+        const ts::EnvironmentVariable missing(L"QOR_TEST_NO_IMAGES", L"1");
+        const ts::ProcessResult result =
+            ts::RunProcess(L"\"" + ts::ProgramPath() +
+                           L"\" --gtest_filter=FlatList.KeepsTheControlsCheckBoxesWhenTheLibrarysAreMissing");
+        EXPECT_EQ(0u, result.status) << result.output;
+        EXPECT_NE(std::string::npos, result.output.find("[  PASSED  ] 1 test.")) << result.output;
+        return;
+    }
+    const ts::ImportRedirection failing({ts::ImportRedirection::Of(&::LoadBitmapW, &NoBitmapResource)});
+    m_list.SetExtendedStyle(LVS_EX_CHECKBOXES);
+    const HIMAGELIST images = StateImages(m_list);
+    ASSERT_NE(nullptr, images);
+    EXPECT_EQ(2, ::ImageList_GetImageCount(images));
+    AddRows(1);
+    m_list.SetCheck(0);
+    EXPECT_TRUE(m_list.GetCheck(0));
+    LookOf(m_list);
+    m_list.SetExtendedStyle(0);
+}
+
+/** Lets the parent destroy the list while it is told something. */
+class DestroyedList : public FlatList
+{
+  protected:
+    void DestroyOn(UINT code)
+    {
+        m_host.Log().Answer(WM_NOTIFY, [this, code](const ts::Message& message) -> std::optional<LRESULT> {
+            if (reinterpret_cast<const NMHDR*>(message.lParam)->code == code && m_list.m_hWnd) {
+                m_list.DestroyWindow();
+                m_destroyed = true;
+            }
+            return std::nullopt;
+        });
+    }
+
+    bool m_destroyed = false;
+};
+
+TEST_F(DestroyedList, ByTheNewsOfTheFocus)
+{
+    AddRows(2);
+    DestroyOn(NM_SETFOCUS);
+    m_list.SetFocus();
+    EXPECT_TRUE(m_destroyed);
+    EXPECT_EQ(nullptr, m_list.m_hWnd);
+}
+
+TEST_F(DestroyedList, ByTheSelectionOfTheFirstRow)
+{
+    AddRows(2);
+    DestroyOn(LVN_ITEMCHANGED);
+    m_list.SetFocus();
+    EXPECT_TRUE(m_destroyed);
+}
+
+TEST_F(DestroyedList, ByAClickOnTheHeader)
+{
+    AddRows(2);
+    DestroyOn(LVN_COLUMNCLICK);
+    ts::Click(m_list.GetFlatHdr(), 20, 8);
+    EXPECT_TRUE(m_destroyed);
+    EXPECT_EQ(nullptr, m_list.GetFlatHdr().m_hWnd);
+}
+
+TEST_F(DestroyedList, ByItsPainting)
+{
+    m_list.SetEmptyText(L"Nothing here");
+    DestroyOn(NM_CUSTOMDRAW);
+    PaintNow(m_list);
+    EXPECT_TRUE(m_destroyed);
+}
+
+TEST_F(FlatList, EndsWithItsParent)
+{
+    AddRows(2);
+    m_list.SetExtendedStyle(LVS_EX_CHECKBOXES);
+    m_host.DestroyWindow();
+    EXPECT_EQ(nullptr, m_list.m_hWnd);
+    EXPECT_EQ(nullptr, m_list.GetFlatHdr().m_hWnd);
+    EXPECT_EQ(0, m_list.GetColumnCount());
+}
+
+TEST_F(FlatList, EmptyAndHugeTextsAreNoHarm)
+{
+    const CString huge(L'x', 20000);
+    EXPECT_EQ(2, m_list.InsertColumn(2, huge, LVCFMT_LEFT, 50));
+    EXPECT_EQ(3, m_list.InsertColumn(3, L"", LVCFMT_LEFT, 50));
+    EXPECT_EQ(4, m_list.InsertColumn(4, nullptr, LVCFMT_LEFT, 50));
+    const ts::Picture bare = LookOf(m_list);
+    m_list.SetEmptyText(L"");
+    EXPECT_TRUE(ts::SamePicture(bare, LookOf(m_list)));
+    m_list.SetEmptyText(huge);
+    EXPECT_FALSE(ts::SamePicture(bare, LookOf(m_list)));
+}
+
+TEST_F(FlatList, SurvivesTheEndOfTheGdiObjects)
+{
+    m_list.SetEmptyText(L"Nothing here");
+    EXPECT_TRUE(SurvivesGdiShortage(m_list));
+    AddRows(2);
+    EXPECT_TRUE(SurvivesGdiShortage(m_list));
 }
 
 TEST_F(FlatList, HundredThousandRowsWithRedrawOff)
