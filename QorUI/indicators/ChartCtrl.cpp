@@ -35,6 +35,7 @@ constexpr int kTextLeft = 134;
 constexpr int kTextRise = 6;
 
 using Font = std::unique_ptr<Gdiplus::GpFont, QorGdip::Deleter<GdipDeleteFont>>;
+using Family = std::unique_ptr<Gdiplus::GpFontFamily, QorGdip::Deleter<GdipDeleteFontFamily>>;
 using StringFormat = std::unique_ptr<Gdiplus::GpStringFormat, QorGdip::Deleter<GdipDeleteStringFormat>>;
 
 Font FontOf(HDC dc, const LOGFONTW& logFont)
@@ -44,15 +45,28 @@ Font FontOf(HDC dc, const LOGFONTW& logFont)
     return Font(font);
 }
 
-/** The title's font; the system chooses a similar one where it is not installed. */
-Font TitleFont(HDC dc)
+/** The title's typeface; the system chooses a similar one where it is not installed. */
+Family TitleFamily(HDC dc)
 {
     LOGFONTW logFont = {};
     logFont.lfHeight = -::MulDiv(kTitlePoints, ::GetDeviceCaps(dc, LOGPIXELSY), 72);
     logFont.lfWeight = FW_NORMAL;
     logFont.lfCharSet = DEFAULT_CHARSET;
     ::lstrcpynW(&logFont.lfFaceName[0], L"Arial", LF_FACESIZE);
-    return FontOf(dc, logFont);
+    Gdiplus::GpFontFamily* family = nullptr;
+    if (const Font font = FontOf(dc, logFont)) {
+        GdipGetFamily(font.get(), &family);
+    }
+    return Family(family);
+}
+
+Font TitleFont(HDC dc)
+{
+    Gdiplus::GpFont* font = nullptr;
+    if (const Family family = TitleFamily(dc)) {
+        GdipCreateFont(family.get(), kTitlePoints, Gdiplus::FontStyleRegular, Gdiplus::UnitPoint, &font);
+    }
+    return Font(font);
 }
 
 /** The control's font, or the device context's one, or, when GDI+ can use neither, the title's. */

@@ -194,6 +194,48 @@ TEST_F(Chart, ErasesNothing)
     EXPECT_EQ(TRUE, m_chart.SendMessage(WM_ERASEBKGND, 0));
 }
 
+TEST_F(Chart, WithoutAFontHasALegendAllTheSame)
+{
+    ::SendMessageW(m_chart, WM_SETFONT, 0, FALSE);
+    Add(1);
+    EXPECT_GT(LookOf(m_chart).Crop(CRect(134, 20, 299, 50)).Count(kSeries[0]), 5);
+}
+
+TEST_F(Chart, LegendHasTheControlsFont)
+{
+    Add(1);
+    const ts::Picture small = LookOf(m_chart);
+    CFont font;
+    ASSERT_TRUE(font.CreatePointFont(160, L"Tahoma"));
+    ::SendMessageW(m_chart, WM_SETFONT, reinterpret_cast<WPARAM>(font.m_hObject), FALSE);
+    const CRect legend(127, 0, 299, 199);
+    const CRect one = small.Crop(legend).BoundsOf(kSeries[0]);
+    const CRect other = LookOf(m_chart).Crop(legend).BoundsOf(kSeries[0]);
+    EXPECT_GT(other.Height(), one.Height() * 3 / 2);
+    EXPECT_GT(other.Width(), one.Width() * 3 / 2);
+}
+
+TEST_F(Chart, TitleWrapsAtTheRightEdge)
+{
+    CString title(L"MMMM MMMM MMMM MMMM MMMM");
+    bool wrapped = false;
+    while (!wrapped && title.GetLength() < 60) {
+        title += L" i";
+        m_chart.SetWindowText(title);
+        const CRect text = LookOf(m_chart).Crop(CRect(0, 0, 299, 199)).BoundsOfOthers(kWhite);
+        EXPECT_LT(text.right, 298) << title.GetLength();
+        wrapped = text.Height() > 16;
+    }
+    EXPECT_TRUE(wrapped);
+}
+
+TEST_F(Chart, SurvivesTheEndOfTheGdiObjects)
+{
+    m_chart.SetWindowText(L"Title");
+    Add(3);
+    EXPECT_TRUE(SurvivesGdiShortage(m_chart));
+}
+
 TEST_F(Chart, ExtremeTextsAndCountsAreNoHarm)
 {
     m_chart.AddItem(nullptr, 1);

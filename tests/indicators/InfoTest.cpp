@@ -86,6 +86,34 @@ TEST_F(Info, OneItemWrapsToTheBottom)
     EXPECT_GT(LookOf(m_info).BoundsOf(kInk).bottom, 16);
 }
 
+TEST_F(Info, LastValueEndsAtTheBottomWithAnEllipsis)
+{
+    CString text;
+    for (int i = 0; i < 60; ++i) {
+        text += L"several words ";
+    }
+    m_info.AddItem(L"A", text);
+    EXPECT_TRUE(ts::SamePicture(
+        Texts({{CRect(0, 0, Width(L"A:"), 16), L"A:", kLine}, {CRect(Width(L"A:") + 6, 0, 200, 100), text, kLast}}),
+        LookOf(m_info)));
+}
+
+TEST_F(Info, WordsThatAreTooLongAreBroken)
+{
+    const CString word(L'x', 100);
+    m_info.AddItem(L"A", word);
+    EXPECT_TRUE(ts::SamePicture(
+        Texts({{CRect(0, 0, Width(L"A:"), 16), L"A:", kLine}, {CRect(Width(L"A:") + 6, 0, 200, 100), word, kLast}}),
+        LookOf(m_info)));
+}
+
+TEST_F(Info, SurvivesTheEndOfTheGdiObjects)
+{
+    m_info.AddItem(L"A", L"one");
+    m_info.AddItem(L"B", L"two");
+    EXPECT_TRUE(SurvivesGdiShortage(m_info));
+}
+
 TEST_F(Info, EmptyLabelHasNoColon)
 {
     m_info.AddItem(L"", L"value");

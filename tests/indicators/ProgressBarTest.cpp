@@ -44,7 +44,9 @@ class ProgressBar : public testing::Test
   protected:
     void SetUp() override
     {
-        m_host.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(GuiFont()), FALSE);
+        m_host.Log().Answer(WM_GETFONT, [](const ts::Message& /*message*/) -> std::optional<LRESULT> {
+            return reinterpret_cast<LRESULT>(GuiFont());
+        });
         ASSERT_TRUE(m_bar.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 210, 60), &m_host, kControlId));
         m_bar.SetRange32(0, 200);
     }
@@ -70,9 +72,141 @@ class ProgressBar : public testing::Test
         return ts::PictureOf(bitmap);
     }
 
+    /** What the bar should look like, drawn by GDI. @param filled width of the fill in pixels. */
+    static ts::Picture Expected(int filled, const wchar_t* text)
+    {
+        CBitmap bitmap;
+        bitmap.Attach(::LoadBitmapW(::GetModuleHandleW(L"QorUI.dll"), MAKEINTRESOURCEW(212)));
+        CBrush pattern(&bitmap);
+        return ts::DrawTo(200, 20, [&](HDC dc) {
+            CDC* const to = CDC::FromHandle(dc);
+            to->Draw3dRect(0, 0, 200, 20, kOuter, kOuter);
+            to->Draw3dRect(1, 1, 198, 18, kWhite, kWhite);
+            const CRect whole(2, 2, 198, 18);
+            const CRect fill(2, 2, 2 + filled, 18);
+            const CRect rest(2 + filled, 2, 198, 18);
+            ::FillRect(dc, &fill, pattern);
+            ::FillRect(dc, &rest, ::GetSysColorBrush(COLOR_WINDOW));
+            ::SelectObject(dc, GuiFont());
+            ::SetBkMode(dc, TRANSPARENT);
+            DrawPart(dc, fill, whole, text, ::GetSysColor(COLOR_WINDOW));
+            DrawPart(dc, rest, whole, text, ::GetSysColor(COLOR_HIGHLIGHT));
+        });
+    }
+
+    static void DrawPart(HDC dc, const CRect& part, CRect whole, const wchar_t* text, COLORREF colour)
+    {
+        CRgn clip;
+        clip.CreateRectRgnIndirect(&part);
+        ::SelectClipRgn(dc, clip);
+        ::SetTextColor(dc, colour);
+        ::DrawTextW(dc, text, -1, &whole, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+        ::SelectClipRgn(dc, nullptr);
+    }
+
     ts::AfxHost m_host{240, 100};
     CProgressBar m_bar;
 };
+
+TEST_F(ProgressBar, LooksAsItShouldAtEveryPosition)
+{
+    EXPECT_TRUE(ts::SamePicture(Expected(0, L"0%"), Bar(0)));
+    EXPECT_TRUE(ts::SamePicture(Expected(98, L"50%"), Bar(100)));
+    EXPECT_TRUE(ts::SamePicture(Expected(91, L"46%"), Bar(93)));   // 91.14 pixels
+    EXPECT_TRUE(ts::SamePicture(Expected(195, L"99%"), Bar(199))); // 195.02 pixels
+    EXPECT_TRUE(ts::SamePicture(Expected(196, L"100%"), Bar(200)));
+    m_bar.SetFormat(L"%d files");
+    EXPECT_TRUE(ts::SamePicture(Expected(98, L"100 files"), Bar(100)));
+}
+
+TEST_F(ProgressBar, StaysInItsPlace)
+{
+    CRect rect;
+    m_bar.GetWindowRect(rect);
+    m_host.ScreenToClient(rect);
+    EXPECT_EQ(CRect(10, 10, 210, 30), rect);
+    const HWND stock = ::CreateWindowExW(0, PROGRESS_CLASSW, L"", WS_CHILD | WS_VISIBLE, 30, 40, 50, 9, m_host.m_hWnd,
+                                         nullptr, nullptr, nullptr);
+    ::SetWindowPos(stock, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    CProgressBar taken;
+    ASSERT_TRUE(taken.SubclassWindow(stock));
+    EXPECT_EQ(stock, ::GetWindow(m_bar, GW_HWNDNEXT)); // not raised
+    taken.GetWindowRect(rect);
+    m_host.ScreenToClient(rect);
+    EXPECT_EQ(CRect(30, 40, 80, 60), rect);
+    taken.DestroyWindow();
+}
+
+TEST_F(ProgressBar, WithoutItsPatternIsAsHighAndFilled)
+{
+    const ts::ImportRedirection failing({ts::ImportRedirection::Of(&::LoadBitmapW, &NoBitmapResource)});
+    CProgressBar bar;
+    ASSERT_TRUE(bar.Create(WS_CHILD | WS_VISIBLE, CRect(10, 50, 110, 90), &m_host, 5));
+    EXPECT_EQ(20, Height(bar));
+    bar.SetFormat(L"");
+    bar.SetPos(50);
+    const ts::Picture look = LookOf(bar);
+    EXPECT_TRUE(ts::AreaIs(look, CRect(2, 2, 50, 18), ::GetSysColor(COLOR_HIGHLIGHT)));
+    EXPECT_TRUE(ts::AreaIs(look, CRect(50, 2, 98, 18), ::GetSysColor(COLOR_WINDOW)));
+    bar.DestroyWindow();
+}
+
+TEST_F(ProgressBar, PatternGoesWithTheWindow)
+{
+    CProgressBar bar;
+    const ts::HandleCounts before = ts::CountHandles();
+    ASSERT_TRUE(bar.Create(WS_CHILD | WS_VISIBLE, CRect(10, 50, 110, 90), &m_host, 5));
+    EXPECT_EQ(1, ts::Difference(before, ts::CountHandles())["brush"]);
+    bar.DestroyWindow();
+    EXPECT_EQ(0, ts::Difference(before, ts::CountHandles())["brush"]);
+}
+
+TEST_F(ProgressBar, NeedsNoParent)
+{
+    CProgressBar bar;
+    ASSERT_TRUE(bar.CWnd::CreateEx(0, PROGRESS_CLASSW, L"", WS_POPUP | WS_VISIBLE, CRect(0, 0, 200, 40), nullptr, 0));
+    bar.SetFormat(L"");
+    EXPECT_TRUE(ts::SamePicture(Expected(0, L""), LookOf(bar)));
+    bar.SetFormat(nullptr);
+    EXPECT_GT(LookOf(bar).Count(::GetSysColor(COLOR_HIGHLIGHT)), 5);
+    bar.DestroyWindow();
+}
+
+TEST_F(ProgressBar, HugeTextIsCutAtTheFrames)
+{
+    const CString huge(L'W', 20000);
+    m_bar.SetFormat(huge);
+    const ts::Picture look = Bar(100);
+    EXPECT_TRUE(ts::FrameIs(look, CRect(0, 0, 200, 20), kOuter));
+    EXPECT_TRUE(ts::FrameIs(look, CRect(1, 1, 199, 19), kWhite));
+}
+
+TEST_F(ProgressBar, FormatIsNotCopied)
+{
+    CString format(L"one");
+    m_bar.SetFormat(format.GetBuffer());
+    EXPECT_TRUE(ts::SamePicture(Expected(98, L"one"), Bar(100)));
+    format.SetAt(0, L'O');
+    EXPECT_TRUE(ts::SamePicture(Expected(98, L"One"), Bar(100)));
+}
+
+TEST_F(ProgressBar, SurvivesTheEndOfTheGdiObjects)
+{
+    m_bar.SetPos(100);
+    EXPECT_TRUE(SurvivesGdiShortage(m_bar));
+}
+
+TEST_F(ProgressBar, DrawsNoFrameOfTheSystem)
+{
+    m_bar.ModifyStyleEx(0, WS_EX_CLIENTEDGE, SWP_FRAMECHANGED);
+    ts::Settle();
+    {
+        CWindowDC dc(&m_bar);
+        dc.FillSolidRect(0, 0, 200, 20, RGB(255, 0, 255));
+    }
+    ::RedrawWindow(m_bar, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW);
+    EXPECT_TRUE(ts::FrameIs(ts::CaptureFrame(m_bar), CRect(0, 0, 200, 20), RGB(255, 0, 255)));
+}
 
 TEST_F(ProgressBar, TakesItsHeightFromThePattern)
 {
@@ -197,7 +331,8 @@ TEST_F(ProgressBar, CalculatesWithItsRange)
 TEST_F(ProgressBar, RangeWithoutWidthIsPainted)
 {
     m_bar.SetRange32(5, 5);
-    EXPECT_TRUE(ts::FrameIs(Bar(5), CRect(0, 0, 200, 20), kOuter));
+    EXPECT_DOUBLE_EQ(0.0, m_bar.CalcFraction(5));
+    EXPECT_TRUE(ts::SamePicture(Expected(0, L"0%"), Bar(5)));
 }
 
 TEST_F(ProgressBar, VerticalBarPaintsNothing)

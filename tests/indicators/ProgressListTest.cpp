@@ -62,6 +62,37 @@ class ProgressList : public testing::Test
         return LookOf(m_list).Crop(rect);
     }
 
+    /** What the cell should look like, drawn by GDI. @param filled width of the fill in pixels. */
+    static ts::Picture Expected(const CSize& size, int filled, const wchar_t* label)
+    {
+        return ts::DrawTo(
+            size.cx, size.cy,
+            [&](HDC dc) {
+                CDC* const to = CDC::FromHandle(dc);
+                ::SelectObject(dc, GuiFont());
+                ::Rectangle(dc, 2, 1, size.cx - 2, size.cy - 1);
+                const CRect whole(3, 2, size.cx - 3, size.cy - 2);
+                const CRect fill(3, 2, 3 + filled, size.cy - 2);
+                const CRect rest(3 + filled, 2, size.cx - 3, size.cy - 2);
+                to->FillSolidRect(&fill, kGreen);
+                to->FillSolidRect(&rest, ::GetSysColor(COLOR_BTNFACE));
+                ::SetBkMode(dc, TRANSPARENT);
+                DrawPart(dc, fill, whole, label, ::GetSysColor(COLOR_WINDOW));
+                DrawPart(dc, rest, whole, label, ::GetSysColor(COLOR_WINDOWTEXT));
+            },
+            RGB(236, 245, 250));
+    }
+
+    static void DrawPart(HDC dc, const CRect& part, CRect whole, const wchar_t* text, COLORREF colour)
+    {
+        CRgn clip;
+        clip.CreateRectRgnIndirect(&part);
+        ::SelectClipRgn(dc, clip);
+        ::SetTextColor(dc, colour);
+        ::DrawTextW(dc, text, -1, &whole, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+        ::SelectClipRgn(dc, nullptr);
+    }
+
     LRESULT Stage(DWORD stage)
     {
         NMLVCUSTOMDRAW draw = {};
@@ -91,6 +122,74 @@ TEST_F(ProgressList, DrawsTheFillAndTheRest)
     EXPECT_TRUE(ts::AreaIs(cell, CRect(3, 2, middle, cell.Height() - 2), kGreen));
     EXPECT_TRUE(ts::AreaIs(cell, CRect(middle, 2, right, cell.Height() - 2), ::GetSysColor(COLOR_BTNFACE)));
     EXPECT_TRUE(ts::FrameIs(cell, CRect(2, 1, 148, cell.Height() - 1), RGB(0, 0, 0)));
+}
+
+TEST_F(ProgressList, LooksAsItShould)
+{
+    const ts::Picture half = Cell(L"50|Copying");
+    const CSize size(half.Width(), half.Height());
+    EXPECT_EQ(150, size.cx);
+    EXPECT_TRUE(ts::SamePicture(Expected(size, 72, L"Copying"), half));
+    EXPECT_TRUE(ts::SamePicture(Expected(size, 48, L"Copying"), Cell(L"33|Copying"))); // 47.52 is rounded
+    EXPECT_TRUE(ts::SamePicture(Expected(size, 0, L"Copying"), Cell(L"-5|Copying")));
+    EXPECT_TRUE(ts::SamePicture(Expected(size, 144, L"a | b"), Cell(L"100|a | b")));
+}
+
+TEST_F(ProgressList, FrameHasPenAndBrushOfTheDeviceContext)
+{
+    m_list.SetItemText(0, 1, L"50|");
+    CRect cell;
+    m_list.GetSubItemRect(0, 1, LVIR_BOUNDS, cell);
+    const ts::Picture look = ts::DrawTo(300, 120, [this](HDC dc) {
+        ::SelectObject(dc, ::GetStockObject(DC_PEN));
+        ::SetDCPenColor(dc, RGB(10, 20, 30));
+        NMLVCUSTOMDRAW draw = {};
+        draw.nmcd.hdc = dc;
+        draw.iSubItem = 1;
+        m_list.DrawSubItem(&draw);
+    });
+    cell.DeflateRect(2, 1);
+    EXPECT_TRUE(ts::FrameIs(look, cell, RGB(10, 20, 30)));
+}
+
+TEST_F(ProgressList, DrawsTheRowItIsAskedFor)
+{
+    m_list.InsertItem(1, L"Another");
+    m_list.SetItemText(1, 1, L"100|");
+    CRect cell;
+    m_list.GetSubItemRect(1, 1, LVIR_BOUNDS, cell);
+    cell.DeflateRect(3, 2);
+    EXPECT_EQ(cell, CRect(LookOf(m_list).BoundsOf(kGreen)));
+}
+
+TEST_F(ProgressList, HugeLabelIsCutAtTheFrame)
+{
+    const CString huge(L'W', 1000);
+    const ts::Picture cell = Cell(L"50|" + huge);
+    EXPECT_TRUE(ts::FrameIs(cell, CRect(2, 1, 148, cell.Height() - 1), RGB(0, 0, 0)));
+}
+
+TEST_F(ProgressList, SurvivesTheEndOfTheGdiObjects)
+{
+    m_list.SetItemText(0, 1, L"50|Copying");
+    EXPECT_TRUE(SurvivesGdiShortage(m_list));
+}
+
+TEST_F(ProgressList, DrawingKeepsTheColoursOfTheDeviceContext)
+{
+    m_list.SetItemText(0, 1, L"50|Copying");
+    ts::DrawTo(300, 120, [this](HDC dc) {
+        ::SetBkColor(dc, RGB(1, 2, 3));
+        ::SetTextColor(dc, RGB(4, 5, 6));
+        ::SetBkMode(dc, OPAQUE);
+        NMLVCUSTOMDRAW draw = {};
+        draw.nmcd.hdc = dc;
+        draw.iSubItem = 1;
+        m_list.DrawSubItem(&draw);
+        EXPECT_EQ(RGB(1, 2, 3), ::GetBkColor(dc));
+        EXPECT_EQ(RGB(4, 5, 6), ::GetTextColor(dc));
+        EXPECT_EQ(OPAQUE, ::GetBkMode(dc));
+    });
 }
 
 TEST_F(ProgressList, TooMuchIsAFullBar)

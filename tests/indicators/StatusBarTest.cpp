@@ -73,6 +73,71 @@ TEST_F(StatusBar, TextsStandSixPixelsInsideTheirParts)
     }
 }
 
+TEST_F(StatusBar, LooksAsItShould)
+{
+    SetThree();
+    m_bar.SetText(0, L"&One");
+    m_bar.SetText(1, CString(L'W', 100));
+    m_bar.SetText(2, L"Three");
+    const CString wide(L'W', 100);
+    const ts::Picture expected = ts::DrawTo(
+        400, 22,
+        [&wide](HDC dc) {
+            CDC* const to = CDC::FromHandle(dc);
+            for (const int left : {320, 200}) {
+                to->FillSolidRect(left, 2, 1, 18, kDark);
+                to->FillSolidRect(left + 1, 2, 1, 18, kLight);
+            }
+            ::SelectObject(dc, GuiFont());
+            ::SetBkMode(dc, TRANSPARENT);
+            ::SetTextColor(dc, kInk);
+            const std::array<std::pair<CRect, CString>, 3> texts = {
+                {{CRect(6, 2, 200, 20), L"&One"}, {CRect(206, 2, 320, 20), wide}, {CRect(326, 2, 400, 20), L"Three"}}};
+            for (auto [rect, text] : texts) {
+                ::DrawTextW(dc, text, -1, &rect, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS);
+            }
+        },
+        kBack);
+    EXPECT_TRUE(ts::SamePicture(expected, LookOf(m_bar)));
+}
+
+TEST_F(StatusBar, PaintingLeavesTheDeviceContextAsItWas)
+{
+    CQorStatusBar bar; // with a device context that it keeps
+    const LPCWSTR name = AfxRegisterWndClass(CS_OWNDC);
+    ASSERT_TRUE(bar.Create(name, L"", WS_CHILD | WS_VISIBLE, CRect(0, 30, 400, 52), &m_host, 3));
+    std::array<int, 2> widths = {0, 100};
+    bar.SetParts(2, widths.data());
+    const HDC dc = ::GetDC(bar);
+    ::SetTextColor(dc, RGB(1, 2, 3));
+    ::SetBkMode(dc, OPAQUE);
+    const HGDIOBJ font = ::GetCurrentObject(dc, OBJ_FONT);
+    PaintNow(bar);
+    EXPECT_EQ(RGB(1, 2, 3), ::GetTextColor(dc));
+    EXPECT_EQ(OPAQUE, ::GetBkMode(dc));
+    EXPECT_EQ(font, ::GetCurrentObject(dc, OBJ_FONT));
+    ::ReleaseDC(bar, dc);
+    bar.DestroyWindow();
+}
+
+TEST_F(StatusBar, SurvivesTheEndOfTheGdiObjects)
+{
+    SetThree();
+    m_bar.SetText(1, L"Text");
+    EXPECT_TRUE(SurvivesGdiShortage(m_bar));
+}
+
+TEST_F(StatusBar, PartsWiderThanTheBarAreNoHarm)
+{
+    std::array<int, 3> widths = {0, 5000, 100};
+    m_bar.SetParts(3, widths.data());
+    m_bar.SetText(0, CString(L'W', 20000));
+    m_bar.SetText(1, L"");
+    const ts::Picture look = LookOf(m_bar);
+    EXPECT_TRUE(ts::AreaIs(look, CRect(300, 2, 301, 20), kDark));
+    EXPECT_EQ(0, look.Count(kInk));
+}
+
 TEST_F(StatusBar, WidthOfTheFirstPartIsIgnored)
 {
     std::array<int, 2> widths = {500, 100};
