@@ -49,7 +49,8 @@ class CProgressPage : public CConsolePage
         m_files.SetFormat(ConText(L"STR_CON_PROG_FORMAT"));
         m_silent.SetRange32(0, kEnd);
         m_silent.SetFormat(L"");
-        Show(333);
+        Show(0);
+        OnRun();
         return AddPush(ConText(L"STR_CON_PROG_RUN"), CRect(kLeft, 520, 152, 541), kRun) &&
                AddPush(ConText(L"STR_CON_PROG_STOP"), CRect(162, 520, 302, 541), kStop) &&
                AddPush(ConText(L"STR_CON_PROG_RESET"), CRect(312, 520, 452, 541), kReset);
@@ -61,7 +62,13 @@ class CProgressPage : public CConsolePage
         DrawHeading(dc, ConText(L"STR_CON_PROG_LIST"), CRect(kLeft, 152, kRight, 172));
     }
 
-    afx_msg void OnRun() { SetTimer(kTimer, kPeriod, nullptr); }
+    afx_msg void OnRun()
+    {
+        if (m_position >= kEnd) {
+            Show(0);
+        }
+        SetTimer(kTimer, kPeriod, nullptr);
+    }
     afx_msg void OnStop() { KillTimer(kTimer); }
     afx_msg void OnReset() { Show(0); }
 
