@@ -21,10 +21,8 @@ void DrawCell(CDC& dc, CRect rect, const QorProgress::Cell& cell)
     rect.DeflateRect(1, 1);
     const CRect filled = QorProgress::FilledCell(rect, cell.percent);
     const CRect empty = QorProgress::Empty(rect, filled);
-    const COLORREF back = dc.GetBkColor();
     dc.FillSolidRect(&filled, kFill);
     dc.FillSolidRect(&empty, QorSysLook.m_clrBtnFace);
-    dc.SetBkColor(back);
     if (!cell.label.IsEmpty()) {
         QorDrawClippedText(dc, cell.label, filled, rect, QorSysLook.m_clrWindow);
         QorDrawClippedText(dc, cell.label, empty, rect, QorSysLook.m_clrWindowText);

@@ -1,13 +1,129 @@
 #include <tests/lists/Lists.h>
 
+#include <QorUI/app/GdiPlusFlat.h>
+
+#include <algorithm>
 #include <array>
+#include <numeric>
+#include <vector>
 
 namespace
 {
 
+using namespace Gdiplus::DllExports;
+
 constexpr std::array<COLORREF, 5> kSeries = {RGB(47, 162, 244), RGB(250, 160, 90), RGB(248, 194, 57), RGB(247, 101, 43),
                                              RGB(130, 205, 195)};
 constexpr COLORREF kWhite = RGB(255, 255, 255);
+
+/** What a chart of 300 x 200 should look like, drawn by GDI+ in a window. */
+class ExpectedChart
+{
+  public:
+    /** @param values of the items "Name". */
+    ExpectedChart(bool bars, std::vector<UINT> values, CString title = L"")
+        : m_bars(bars), m_values(std::move(values)), m_title(std::move(title))
+    {
+    }
+
+    /** @param window of that size. */
+    ts::Picture DrawIn(CWnd& window)
+    {
+        ts::Settle();
+        {
+            CClientDC dc(&window);
+            dc.FillSolidRect(0, 0, 300, 200, kWhite);
+            m_graphics = QorGdip::GraphicsOn(dc);
+            GdipSetSmoothingMode(m_graphics.get(), Gdiplus::SmoothingModeHighQuality);
+            DrawTitle(dc);
+            DrawItems(dc);
+            m_graphics.reset();
+        }
+        return ts::CaptureWindow(window);
+    }
+
+  private:
+    static Gdiplus::GpFont* FontOf(HDC dc, HGDIOBJ object)
+    {
+        LOGFONTW logFont = {};
+        ::GetObjectW(object, sizeof(logFont), &logFont);
+        Gdiplus::GpFont* font = nullptr;
+        GdipCreateFontFromLogfontW(dc, &logFont, &font);
+        return font;
+    }
+
+    void DrawTitle(HDC dc)
+    {
+        CFont arial;
+        arial.CreatePointFont(100, L"Arial");
+        Gdiplus::GpFont* near10 = FontOf(dc, arial);
+        Gdiplus::GpFontFamily* family = nullptr;
+        Gdiplus::GpFont* font = nullptr;
+        GdipGetFamily(near10, &family);
+        GdipCreateFont(family, 10, Gdiplus::FontStyleRegular, Gdiplus::UnitPoint, &font);
+        Gdiplus::GpStringFormat* format = nullptr;
+        GdipCreateStringFormat(0, LANG_NEUTRAL, &format);
+        GdipSetStringFormatLineAlign(format, Gdiplus::StringAlignmentCenter);
+        const Gdiplus::RectF place(8, 0, 292, 30);
+        GdipDrawString(m_graphics.get(), m_title, m_title.GetLength(), font, &place, format,
+                       QorGdip::Solid(0xFF000000).get());
+        GdipDeleteStringFormat(format);
+        GdipDeleteFont(font);
+        GdipDeleteFontFamily(family);
+        GdipDeleteFont(near10);
+    }
+
+    void DrawItems(HDC dc)
+    {
+        m_font = FontOf(dc, GuiFont());
+        float angle = 0;
+        int y = 33;
+        for (size_t i = 0; i < m_values.size(); ++i, y += 20) {
+            const Gdiplus::ARGB colour = QorGdip::Opaque(kSeries.at(i % 5));
+            const QorGdip::Pen pen = QorGdip::SolidPen(colour, 8);
+            GdipSetPenStartCap(pen.get(), Gdiplus::LineCapRound);
+            GdipSetPenEndCap(pen.get(), Gdiplus::LineCapRound);
+            if (m_bars) {
+                DrawBar(pen.get(), y, static_cast<int>(m_values[i] * 90 / Most()), colour);
+            } else {
+                const float sweep = static_cast<float>(m_values[i]) * 360 / static_cast<float>(Sum());
+                GdipDrawArc(m_graphics.get(), pen.get(), 13, 30, 90, 90, angle, sweep);
+                angle += sweep;
+            }
+            DrawLegend(y, m_values[i], colour);
+        }
+        GdipDeleteFont(m_font);
+    }
+
+    void DrawBar(Gdiplus::GpPen* pen, int y, int length, Gdiplus::ARGB colour)
+    {
+        if (length > 0) {
+            GdipDrawLine(m_graphics.get(), pen, 13, static_cast<float>(y), static_cast<float>(13 + length),
+                         static_cast<float>(y));
+        } else {
+            GdipFillEllipse(m_graphics.get(), QorGdip::Solid(colour).get(), 9, static_cast<float>(y - 4), 8, 8);
+        }
+    }
+
+    void DrawLegend(int y, UINT value, Gdiplus::ARGB colour)
+    {
+        const QorGdip::SolidBrush brush = QorGdip::Solid(colour);
+        GdipFillRectangle(m_graphics.get(), brush.get(), 118, static_cast<float>(y - 3), 8, 8);
+        CString text;
+        text.Format(L"Name (%u)", value);
+        const Gdiplus::RectF place(134, static_cast<float>(y - 6), 0, 0);
+        GdipDrawString(m_graphics.get(), text, text.GetLength(), m_font, &place, nullptr, brush.get());
+    }
+
+    UINT Most() const { return *std::max_element(m_values.begin(), m_values.end()); }
+    UINT Sum() const { return std::accumulate(m_values.begin(), m_values.end(), 0u); }
+
+    bool m_bars;
+    std::vector<UINT> m_values;
+    CString m_title;
+    QorGdip::Graphics m_graphics;
+    Gdiplus::GpFont* m_font = nullptr;
+};
 
 class Chart : public testing::Test
 {
@@ -25,16 +141,44 @@ class Chart : public testing::Test
         }
     }
 
+    /** The chart with items "Name" of these values. */
+    ts::Picture Look(int type, const std::vector<UINT>& values, const wchar_t* title = L"")
+    {
+        m_chart.RemoveAll();
+        m_chart.SetType(type);
+        m_chart.SetWindowText(title);
+        for (const UINT value : values) {
+            m_chart.AddItem(L"Name", value);
+        }
+        return LookOf(m_chart).Crop(CRect(0, 0, 299, 199));
+    }
+
+    ts::Picture Expected(int type, const std::vector<UINT>& values, const wchar_t* title = L"")
+    {
+        CStatic canvas;
+        EXPECT_TRUE(canvas.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 210, 300, 410), &m_host, 3));
+        const ts::Picture picture = ExpectedChart(type == 1, values, title).DrawIn(canvas);
+        canvas.DestroyWindow();
+        return picture.Crop(CRect(0, 0, 299, 199));
+    }
+
     /** Colour of the swatch of a row. */
     static COLORREF Swatch(const ts::Picture& look, int row) { return look.At(121, 33 + 20 * row); }
 
-    ts::AfxHost m_host{320, 220};
+    ts::AfxHost m_host{320, 420};
     CChartCtrl m_chart;
 };
 
 TEST_F(Chart, WithoutItemsIsWhite)
 {
     EXPECT_TRUE(ts::AreaIs(LookOf(m_chart), CRect(0, 0, 299, 199), kWhite));
+}
+
+TEST_F(Chart, LooksAsItShould)
+{
+    EXPECT_TRUE(ts::SamePicture(Expected(2, {}, L"A title"), Look(2, {}, L"A title")));
+    EXPECT_TRUE(ts::SamePicture(Expected(2, {1, 2, 4}, L"A title"), Look(2, {1, 2, 4}, L"A title")));
+    EXPECT_TRUE(ts::SamePicture(Expected(1, {7, 0, 3, 5, 1, 2}), Look(1, {7, 0, 3, 5, 1, 2})));
 }
 
 TEST_F(Chart, ItemsWithoutAnyValueShowNothing)
@@ -100,6 +244,28 @@ TEST_F(Chart, LegendShowsNameAndValue)
     EXPECT_GT(one.BoundsOfOthers(kWhite).right, other.BoundsOfOthers(kWhite).right);
 }
 
+TEST_F(Chart, LegendIsNameAndUnsignedValueInParentheses)
+{
+    m_chart.AddItem(L"Name", 4000000000);
+    const CRect legend(128, 20, 299, 50);
+    const ts::Picture one = LookOf(m_chart).Crop(legend);
+    m_chart.RemoveAll();
+    m_chart.AddItem(L"Name (4000000000)", 1); // the same beginning
+    CRect shown = one.BoundsOfOthers(kWhite);
+    shown.right -= 1;
+    EXPECT_GT(shown.Width(), 60);
+    EXPECT_TRUE(ts::SamePicture(one.Crop(shown), LookOf(m_chart).Crop(legend).Crop(shown)));
+}
+
+TEST_F(Chart, LeavesTheLastRowAndColumn)
+{
+    CClientDC(&m_chart).FillSolidRect(0, 0, 300, 200, RGB(255, 0, 255));
+    const ts::Picture look = LookOf(m_chart);
+    EXPECT_TRUE(ts::AreaIs(look, CRect(0, 0, 299, 199), kWhite));
+    EXPECT_TRUE(ts::AreaIs(look, CRect(299, 0, 300, 200), RGB(255, 0, 255)));
+    EXPECT_TRUE(ts::AreaIs(look, CRect(0, 199, 300, 200), RGB(255, 0, 255)));
+}
+
 TEST_F(Chart, SingleItemIsAFullRing)
 {
     Add(1);
@@ -159,6 +325,13 @@ TEST_F(Chart, HugeValuesDoNotOverflow)
     m_chart.AddItem(L"Much", UINT_MAX);
     const CRect bar = LookOf(m_chart).Crop(CRect(0, 0, 115, 50)).BoundsOf(kSeries[0]);
     EXPECT_NEAR(107, bar.right, 1);
+    m_chart.RemoveAll();
+    m_chart.AddItem(L"Much", 0x80000000);
+    m_chart.AddItem(L"Much", 0x80000000);
+    m_chart.SetType(2);
+    const ts::Picture ring = LookOf(m_chart);
+    EXPECT_TRUE(ts::PixelIs(ring, 58, 120, kSeries[0]));
+    EXPECT_TRUE(ts::PixelIs(ring, 58, 30, kSeries[1]));
 }
 
 TEST_F(Chart, OnlyTheTwoTypesAreTaken)
@@ -187,6 +360,16 @@ TEST_F(Chart, ChangesOfTheItemsRepaint)
     m_chart.RemoveAll();
     EXPECT_TRUE(::GetUpdateRect(m_chart, nullptr, FALSE));
     EXPECT_TRUE(ts::AreaIs(LookOf(m_chart), CRect(0, 0, 299, 199), kWhite));
+}
+
+TEST_F(Chart, NewItemsAskForErasing)
+{
+    m_chart.UpdateWindow();
+    ts::MessageRecorder log(m_chart);
+    log.RecordOnly({WM_ERASEBKGND});
+    Add(1);
+    m_chart.UpdateWindow();
+    EXPECT_EQ(1u, log.Messages().size());
 }
 
 TEST_F(Chart, ErasesNothing)
@@ -243,6 +426,13 @@ TEST_F(Chart, ExtremeTextsAndCountsAreNoHarm)
     Add(500);
     m_chart.SetWindowText(CString(L'y', 5000));
     EXPECT_EQ(kSeries[0], Swatch(LookOf(m_chart), 0));
+}
+
+TEST(ChartAlone, ChildNeedsAParent)
+{
+    CChartCtrl chart;
+    EXPECT_FALSE(chart.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 10, 10), nullptr, 1));
+    EXPECT_EQ(nullptr, chart.m_hWnd);
 }
 
 TEST(ChartAlone, TakesItemsWithoutAWindow)

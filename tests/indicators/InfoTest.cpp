@@ -139,6 +139,19 @@ TEST_F(Info, ChangesRepaint)
     EXPECT_TRUE(ts::AreaIs(LookOf(m_info), CRect(0, 0, 200, 100), kSoft));
 }
 
+TEST_F(Info, ChangesAskForErasing)
+{
+    m_info.UpdateWindow();
+    ts::MessageRecorder log(m_info);
+    log.RecordOnly({WM_ERASEBKGND});
+    m_info.AddItem(L"A", L"b");
+    m_info.UpdateWindow();
+    EXPECT_EQ(1u, log.Messages().size());
+    m_info.RemoveAll();
+    m_info.UpdateWindow();
+    EXPECT_EQ(2u, log.Messages().size());
+}
+
 TEST_F(Info, ErasesNothing)
 {
     EXPECT_EQ(TRUE, m_info.SendMessage(WM_ERASEBKGND, 0));
@@ -150,6 +163,13 @@ TEST_F(Info, MissingAndHugeTextsAreNoHarm)
     EXPECT_TRUE(ts::AreaIs(LookOf(m_info), CRect(0, 0, 200, 100), kSoft));
     m_info.AddItem(L"A", CString(L'x', 20000));
     EXPECT_GT(LookOf(m_info).Count(kInk), 0);
+}
+
+TEST(InfoAlone, ChildNeedsAParent)
+{
+    CQorInfo info;
+    EXPECT_FALSE(info.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 10, 10), nullptr, 1));
+    EXPECT_EQ(nullptr, info.m_hWnd);
 }
 
 TEST(InfoAlone, TakesItemsWithoutAWindow)

@@ -361,6 +361,13 @@ TEST_F(ProgressBar, CanBeCreatedAgain)
     EXPECT_TRUE(ts::PixelIs(Bar(200), 100, 9, Pattern().At(100 % Pattern().Width(), 9)));
 }
 
+TEST(ProgressBarAlone, ChildNeedsAParent)
+{
+    CProgressBar bar;
+    EXPECT_FALSE(bar.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 10, 10), nullptr, 1));
+    EXPECT_EQ(nullptr, bar.m_hWnd);
+}
+
 TEST(ProgressBarAlone, WorksWithoutAWindow)
 {
     CProgressBar bar;

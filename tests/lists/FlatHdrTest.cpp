@@ -129,6 +129,19 @@ TEST_F(FlatHdr, SettingTheSortColumnInvalidatesTheWholeHeader)
     EXPECT_EQ(client, update);
 }
 
+TEST_F(FlatHdr, ChangesEraseBeforeTheyRepaint)
+{
+    m_header.UpdateWindow();
+    ts::MessageRecorder log(m_header);
+    log.RecordOnly({WM_ERASEBKGND});
+    m_header.SetSortColumn(0, 1);
+    m_header.UpdateWindow();
+    EXPECT_EQ(1u, log.Messages().size());
+    m_header.SetColor(kOtherBack, kOtherLine);
+    m_header.UpdateWindow();
+    EXPECT_EQ(2u, log.Messages().size());
+}
+
 TEST_F(FlatHdr, OwnerDrawIsAddedToTheFormats)
 {
     EXPECT_EQ(HDF_OWNERDRAW | HDF_STRING | HDF_LEFT, Format(0));
@@ -179,6 +192,64 @@ TEST_F(FlatHdr, PartialPaintsFillTheSpaceToo)
         ::RedrawWindow(m_header, part, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
     }
     EXPECT_TRUE(ts::AreaIs(ts::CaptureWindow(m_header), CRect(240, 0, 300, 19), kBack));
+}
+
+/** What an item should look like, drawn by GDI: without an arrow, its text in a rectangle. */
+ts::Picture ExpectedItem(const CRect& item, const wchar_t* text, CRect place, UINT align)
+{
+    return ts::DrawTo(item.right + 10, item.bottom + 10, [&](HDC dc) {
+        CDC* const to = CDC::FromHandle(dc);
+        to->FillSolidRect(&item, kBack);
+        ::SelectObject(dc, GuiFont());
+        ::SetBkMode(dc, TRANSPARENT);
+        ::DrawTextW(dc, text, -1, &place,
+                    align | DT_VCENTER | DT_SINGLELINE | DT_NOCLIP | DT_NOPREFIX | DT_END_ELLIPSIS);
+        to->FillSolidRect(item.right - 1, item.top, 1, item.Height(), kLine);
+        to->FillSolidRect(item.left, item.bottom - 1, item.Width(), 1, kLine);
+    });
+}
+
+TEST_F(FlatHdr, ItemsLookAsTheyShould)
+{
+    const CRect item(20, 5, 120, 25);
+    const CRect text(26, 5, 114, 25);
+    EXPECT_TRUE(ts::SamePicture(ExpectedItem(item, L"Name", text, DT_LEFT), Item(item, 0, 0)));
+    EXPECT_TRUE(ts::SamePicture(ExpectedItem(item, L"Size", text, DT_RIGHT), Item(item, 0, 1)));
+    EXPECT_TRUE(ts::SamePicture(ExpectedItem(item, L"Date", text, DT_CENTER), Item(item, 0, 2)));
+    const CRect pressed(27, 7, 115, 25);
+    EXPECT_TRUE(ts::SamePicture(ExpectedItem(item, L"Size", pressed, DT_RIGHT), Item(item, ODS_SELECTED, 1)));
+}
+
+TEST_F(FlatHdr, TextEndsBeforeTheArrow)
+{
+    Add(L"A & wide one", 60, HDF_LEFT);
+    m_header.SetSortColumn(3, 0);
+    const CRect item(0, 0, 70, 20);
+    const CRect beside(0, 0, 58, 20); // the arrow stands right of it
+    EXPECT_TRUE(ts::SamePicture(ExpectedItem(item, L"A & wide one", CRect(6, 0, 46, 20), DT_LEFT).Crop(beside),
+                                Item(item, 0, 3).Crop(beside)));
+    EXPECT_TRUE(ts::AreaIs(Item(item, 0, 3), CRect(59, 8, 64, 9), kLine));
+}
+
+TEST_F(FlatHdr, TextHasTwoHundredAndSixtyCharactersAtMost)
+{
+    const CString shown(L'i', 259); // and the character that ends it
+    Add(shown + CString(L'M', 40), 60, HDF_LEFT);
+    const CRect item(0, 0, 1500, 20);
+    EXPECT_TRUE(ts::SamePicture(ExpectedItem(item, shown, CRect(6, 0, 1494, 20), DT_LEFT), Item(item, 0, 3)));
+}
+
+TEST_F(FlatHdr, TallTextIsNotClipped)
+{
+    CFont tall;
+    ASSERT_TRUE(tall.CreatePointFont(300, L"Tahoma"));
+    ::SendMessageW(m_header, WM_SETFONT, reinterpret_cast<WPARAM>(tall.m_hObject), FALSE);
+    const CRect item(20, 20, 220, 40);
+    const ts::Picture look = Item(item);
+    const CRect ink = look.BoundsOf(RGB(0, 0, 0));
+    EXPECT_LT(ink.top, item.top);
+    EXPECT_EQ(0, look.Crop(CRect(0, 0, 230, 20)).Count(kBack)); // the text has no background
+    ::SendMessageW(m_header, WM_SETFONT, reinterpret_cast<WPARAM>(GuiFont()), FALSE);
 }
 
 TEST_F(FlatHdr, RepaintTouchesTheScreenOnce)

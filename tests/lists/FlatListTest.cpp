@@ -90,6 +90,12 @@ TEST_F(FlatList, NewColumnsAreOwnerDrawn)
     EXPECT_EQ(80, m_list.GetColumnWidth(1));
 }
 
+TEST_F(FlatList, NewColumnHasTheIndexThatTheControlGaveIt)
+{
+    EXPECT_EQ(2, m_list.InsertColumn(99, L"Last", LVCFMT_LEFT, 30));
+    EXPECT_EQ(0, m_list.InsertColumn(0, L"First", LVCFMT_LEFT, 30));
+}
+
 TEST_F(FlatList, ColumnsOfOthersAreNotTouchedByInsertColumn)
 {
     m_list.CListCtrl::InsertColumn(2, L"Other", LVCFMT_LEFT, 20);
@@ -126,6 +132,10 @@ TEST_F(FlatList, FindsRowsByTheirData)
     EXPECT_EQ(3, m_list.FindItemData(103));
     EXPECT_EQ(0, m_list.FindItemData(100));
     EXPECT_EQ(-1, m_list.FindItemData(99));
+    m_list.SetItemData(1, 0x100000064); // 100 in its lower half
+    EXPECT_EQ(1, m_list.FindItemData(0x100000064));
+    m_list.SetItemData(0, 5);
+    EXPECT_EQ(-1, m_list.FindItemData(100));
 }
 
 TEST_F(FlatList, SelectsWithoutTheFocus)
@@ -140,6 +150,11 @@ TEST_F(FlatList, SelectsWithoutTheFocus)
     EXPECT_TRUE(m_list.SelectItem(1, FALSE));
     EXPECT_EQ(2, m_list.GetSelectedItem());
     EXPECT_FALSE(m_list.SelectItem(3, TRUE));
+    m_list.SetItemState(0, LVIS_FOCUSED, LVIS_FOCUSED);
+    for (const BOOL select : {TRUE, FALSE}) {
+        m_list.SelectItem(0, select);
+        EXPECT_EQ(static_cast<UINT>(LVIS_FOCUSED), m_list.GetItemState(0, LVIS_FOCUSED)) << select;
+    }
 }
 
 TEST_F(FlatList, DataOfTheSelectedRowOrTheDefault)
@@ -148,6 +163,8 @@ TEST_F(FlatList, DataOfTheSelectedRowOrTheDefault)
     EXPECT_EQ(7u, m_list.GetSelectedData(7));
     m_list.SelectItem(2, TRUE);
     EXPECT_EQ(102u, m_list.GetSelectedData(7));
+    m_list.SelectItem(0, TRUE);
+    EXPECT_EQ(100u, m_list.GetSelectedData(7));
 }
 
 TEST_F(FlatList, SharesTheSortColumnWithItsHeader)
@@ -220,6 +237,33 @@ TEST_F(FlatList, EmptyTextStandsTenPixelsBelowTheHeaderInTheMiddle)
     EXPECT_EQ(10, box.top);
     const int middle = look.Width() / 2;
     EXPECT_NEAR(middle, box.CenterPoint().x, 2);
+}
+
+TEST_F(FlatList, EmptyTextIsDrawnAsItIs)
+{
+    CString many(L"A && B");
+    for (int i = 0; i < 120; ++i) {
+        many += L" several words";
+    }
+    for (const CString& text : {CString(L"Nothing & nobody"), many}) {
+        LookOf(m_list);
+        CRect place;
+        m_list.GetClientRect(place);
+        CRect item;
+        m_list.GetFlatHdr().GetItemRect(0, item);
+        place.top += item.bottom;
+        place.DeflateRect(10, 10);
+        {
+            CClientDC dc(&m_list);
+            const HGDIOBJ old = ::SelectObject(dc, GuiFont());
+            ::DrawTextW(dc, text, -1, &place, 0x911);
+            ::SelectObject(dc, old);
+        }
+        const ts::Picture expected = ts::CaptureWindow(m_list);
+        m_list.SetEmptyText(text);
+        EXPECT_TRUE(ts::SamePicture(expected, LookOf(m_list)));
+        m_list.SetEmptyText(nullptr);
+    }
 }
 
 TEST_F(FlatList, EmptyTextWithoutHeaderItemsBeginsAtTheTop)
@@ -403,12 +447,25 @@ TEST_F(DestroyedList, ByAClickOnTheHeader)
     EXPECT_EQ(nullptr, m_list.GetFlatHdr().m_hWnd);
 }
 
+int g_emptyTexts = 0;
+
+int WINAPI CountEmptyTexts(HDC dc, LPCWSTR text, int length, LPRECT rect, UINT format)
+{
+    g_emptyTexts += std::wstring(L"Nothing here") == text ? 1 : 0;
+    return ::DrawTextExW(dc, const_cast<LPWSTR>(text), length, rect, format, nullptr);
+}
+
 TEST_F(DestroyedList, ByItsPainting)
 {
+    const ts::ImportRedirection counting({ts::ImportRedirection::Of(&::DrawTextW, &CountEmptyTexts)});
     m_list.SetEmptyText(L"Nothing here");
+    g_emptyTexts = 0;
+    PaintNow(m_list);
+    EXPECT_EQ(1, g_emptyTexts);
     DestroyOn(NM_CUSTOMDRAW);
     PaintNow(m_list);
     EXPECT_TRUE(m_destroyed);
+    EXPECT_EQ(1, g_emptyTexts); // not on the screen, when there is no window left
 }
 
 TEST_F(FlatList, EndsWithItsParent)
@@ -453,6 +510,14 @@ TEST_F(FlatList, HundredThousandRowsWithRedrawOff)
     EXPECT_EQ(100000, m_list.GetItemCount());
     EXPECT_EQ(99999, m_list.FindItemData(99999));
     LookOf(m_list);
+}
+
+TEST(FlatListAlone, ChildNeedsAParent)
+{
+    CFlatList list;
+    EXPECT_FALSE(list.Create(kStyle, kPlace, nullptr, 1));
+    EXPECT_EQ(nullptr, list.m_hWnd);
+    EXPECT_EQ(nullptr, list.GetFlatHdr().m_hWnd);
 }
 
 TEST(FlatListAlone, WithoutAWindowEverythingIsRefused)
