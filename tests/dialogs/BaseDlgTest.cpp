@@ -29,6 +29,27 @@ TEST(BaseDialog, TakesTextsFromItsLanguageElement)
     EXPECT_STREQ(L"STR_NOT_THERE", dialog.GetDlgString(L"STR_NOT_THERE"));
 }
 
+TEST(BaseDialog, LanguageElementSetsItsTextsWhenAskedTo)
+{
+    CTestBaseDlg dialog;
+    ASSERT_TRUE(dialog.Create(IDD_PLAIN));
+    CString text;
+    dialog.SetDlgLang(L"QorUI.dll", L"IDD_DLG_LOGON", 0);
+    dialog.GetWindowText(text);
+    EXPECT_STREQ(L"", text);
+    dialog.SetDlgLang(L"QorUI.dll", L"IDD_DLG_LOGON", 1);
+    dialog.GetWindowText(text);
+    EXPECT_STREQ(dialog.GetDlgString(L"Text"), text);
+    EXPECT_FALSE(text.IsEmpty());
+}
+
+TEST(BaseDialog, LanguageElementIsFoundWithoutAWindow)
+{
+    CTestBaseDlg dialog;
+    dialog.SetDlgLang(L"QorUI.dll", L"IDD_DLG_LOGON", 1);
+    EXPECT_STRNE(L"STR_LOGON_FAIL", dialog.GetDlgString(L"STR_LOGON_FAIL"));
+}
+
 TEST(BaseDialog, UnknownLanguageElementGivesKeys)
 {
     CTestBaseDlg dialog;
@@ -83,6 +104,18 @@ TEST(BaseDialog, FocusedPushButtonOfOwnerDrawnStyleIsTheDefault)
     EXPECT_EQ(MAKELONG(IDC_PUSH, DC_HASDEFID), DefId(dialog));
 }
 
+TEST(BaseDialog, FocusedDefaultPushButtonIsTheDefault)
+{
+    CTestBaseDlg dialog;
+    ASSERT_TRUE(dialog.Create(IDD_PLAIN));
+    dialog.ShowWindow(SW_SHOW);
+    dialog.SetDefID(IDC_THIRD);
+    CWnd* push = dialog.GetDlgItem(IDC_PUSH);
+    push->SetFocus();
+    push->ModifyStyle(BS_TYPEMASK, BS_DEFPUSHBUTTON);
+    EXPECT_EQ(MAKELONG(IDC_PUSH, DC_HASDEFID), DefId(dialog));
+}
+
 TEST(BaseDialog, FocusedCheckBoxIsTheDefault)
 {
     CTestBaseDlg dialog;
@@ -99,9 +132,21 @@ TEST(BaseDialog, WithoutABitInTheFocusedStyleTheDefaultIdStays)
     dialog.ShowWindow(SW_SHOW);
     dialog.SetDefID(IDC_THIRD);
     CWnd* push = dialog.GetDlgItem(IDC_PUSH);
-    push->ModifyStyle(BS_TYPEMASK, BS_PUSHBUTTON);
     push->SetFocus();
-    ASSERT_EQ(0, push->GetStyle() & BS_DEFPUSHBUTTON);
+    for (const DWORD style : {BS_PUSHBUTTON, BS_CHECKBOX, BS_RADIOBUTTON}) {
+        push->ModifyStyle(BS_TYPEMASK, style);
+        ASSERT_EQ(0, push->GetStyle() & BS_DEFPUSHBUTTON);
+        EXPECT_EQ(MAKELONG(IDC_THIRD, DC_HASDEFID), DefId(dialog)) << style;
+    }
+}
+
+TEST(BaseDialog, WithoutAFocusTheDefaultIdStays)
+{
+    CTestBaseDlg dialog;
+    ASSERT_TRUE(dialog.Create(IDD_PLAIN));
+    dialog.SetDefID(IDC_THIRD);
+    ::SetFocus(nullptr);
+    ASSERT_EQ(nullptr, ::GetFocus());
     EXPECT_EQ(MAKELONG(IDC_THIRD, DC_HASDEFID), DefId(dialog));
 }
 
@@ -139,7 +184,9 @@ TEST(BaseDialog, EditsAreWhiteAndEverythingElseIsTheDialogBody)
     CTestBaseDlg dialog;
     ASSERT_TRUE(dialog.Create(IDD_PLAIN));
     CClientDC dc(&dialog);
+    dc.SetBkMode(OPAQUE);
     EXPECT_EQ(::GetStockObject(WHITE_BRUSH), dialog.OnCtlColor(&dc, &dialog, CTLCOLOR_EDIT));
+    EXPECT_EQ(OPAQUE, dc.GetBkMode());
     for (const UINT kind : {CTLCOLOR_BTN, CTLCOLOR_DLG, CTLCOLOR_LISTBOX, CTLCOLOR_STATIC, CTLCOLOR_SCROLLBAR}) {
         dc.SetBkMode(OPAQUE);
         EXPECT_EQ(QorGetDlgBkBrush(), dialog.OnCtlColor(&dc, &dialog, kind)) << kind;
@@ -155,6 +202,19 @@ TEST(BaseDialog, ControlsReallyGetTheBodyColour)
     const auto brush = dialog.SendMessage(WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.GetSafeHdc()),
                                           reinterpret_cast<LPARAM>(::GetDlgItem(dialog, IDC_FIRST)));
     EXPECT_EQ(reinterpret_cast<LRESULT>(QorGetDlgBkBrush()), brush);
+}
+
+TEST(BaseDialog, LeavesNothingBehind)
+{
+    EXPECT_TRUE(ts::NoLeak([] {
+        CTestBaseDlg dialog;
+        dialog.Create(IDD_PLAIN);
+        dialog.SetDlgLang(L"QorUI.dll", L"IDD_DLG_LOGON", 1);
+        dialog.SetDlgCtrlText(IDC_FIRST, 7, L"nine");
+        dialog.ShowWindow(SW_SHOW);
+        dialog.UpdateWindow();
+        dialog.DestroyWindow();
+    }));
 }
 
 } // namespace

@@ -2,6 +2,11 @@
 
 #include <QorApi/QorApi.h>
 #include <QorPub/QorPub.h>
+#include <tests/support/ImportHook.h>
+
+#include <algorithm>
+#include <array>
+#include <memory>
 
 namespace
 {
@@ -71,15 +76,26 @@ TEST(Dialog, PlacesCancelAtTheRightOfTheBandAndOkLeftOfIt)
     EXPECT_EQ(21, ok.Height());
 }
 
-TEST(Dialog, ButtonsStandLowerInTheBandOnOldSystems)
+/** Top of the OK button on a system of that version, below where it is on this one. */
+int OkLowerOn(WORD version, WORD servicePack)
 {
-    const WORD version = g_OsVer;
-    g_OsVer = 1;
+    const WORD oldVersion = g_OsVer;
+    const WORD oldServicePack = g_SpVer;
+    g_OsVer = version;
+    g_SpVer = servicePack;
     CTestDialog dialog(IDD_OK_CANCEL, 1);
     const bool opened = dialog.Open();
-    g_OsVer = version;
-    ASSERT_TRUE(opened);
-    EXPECT_EQ(BandY(dialog.ClientSize().cy) + 2, dialog.CtrlRect(IDOK).top);
+    g_OsVer = oldVersion;
+    g_SpVer = oldServicePack;
+    EXPECT_TRUE(opened);
+    return dialog.CtrlRect(IDOK).top - BandY(dialog.ClientSize().cy);
+}
+
+TEST(Dialog, ButtonsStandLowerInTheBandOnOldSystems)
+{
+    EXPECT_EQ(2, OkLowerOn(0, 0));
+    EXPECT_EQ(2, OkLowerOn(1, 0xFFFF));
+    EXPECT_EQ(0, OkLowerOn(2, 0));
 }
 
 TEST(Dialog, WithoutCancelOkStandsAtTheRightOfTheBand)
@@ -122,6 +138,76 @@ TEST(Dialog, AButtonLeftOfAMissingControlIsNotMoved)
     EXPECT_EQ(dialog.ClientSize().cx - 18 - before.Width(), dialog.CtrlRect(IDC_PUSH).left);
 }
 
+std::vector<HWND> ChildrenOf(HWND parent)
+{
+    std::vector<HWND> children;
+    for (HWND child = ::GetWindow(parent, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        children.push_back(child);
+    }
+    return children;
+}
+
+TEST(Dialog, PlacingAButtonKeepsItsTurnInTheTabOrder)
+{
+    CTestDialog dialog(IDD_PLAIN, 1);
+    ASSERT_TRUE(dialog.Open());
+    CQorBtn button;
+    ASSERT_TRUE(button.SubclassDlgItem(IDC_PUSH, &dialog));
+    const std::vector<HWND> before = ChildrenOf(dialog);
+    ASSERT_NE(before.front(), button.m_hWnd);
+    dialog.AdjustBtnInArea(button, 0);
+    EXPECT_EQ(before, ChildrenOf(dialog));
+}
+
+/** Counts how often the values of its controls are exchanged. */
+class CExchangingDialog : public CTestDialog
+{
+  public:
+    CExchangingDialog() : CTestDialog(IDD_OK_CANCEL, 1) {}
+    std::vector<BOOL> m_exchanges;
+    bool m_refuse = false;
+
+  protected:
+    void DoDataExchange(CDataExchange* exchange) override
+    {
+        m_exchanges.push_back(exchange->m_bSaveAndValidate);
+        if (m_refuse) {
+            exchange->Fail();
+        }
+    }
+};
+
+TEST(Dialog, FillsItsControlsWhenItOpensAndReadsThemOnOk)
+{
+    CExchangingDialog dialog;
+    ts::ModalDriver driver;
+    driver.InDialog([](HWND wnd) { ts::Click(::GetDlgItem(wnd, IDOK)); });
+    EXPECT_EQ(IDOK, dialog.DoModal());
+    EXPECT_EQ((std::vector<BOOL>{FALSE, TRUE}), dialog.m_exchanges);
+}
+
+TEST(Dialog, OkGetsTheFocusWhenItOpens)
+{
+    CTestDialog dialog(IDD_OK_CANCEL, 1);
+    int focus = 0;
+    const CInitDialogAnswers answers;
+    ts::ModalDriver driver;
+    driver.InDialog([&focus](HWND) {
+        focus = ::GetDlgCtrlID(::GetFocus());
+        ts::Key(VK_ESCAPE);
+    });
+    dialog.DoModal();
+    EXPECT_EQ(IDOK, focus);
+    EXPECT_EQ(std::vector<LRESULT>{TRUE}, answers.Answers());
+}
+
+TEST(Dialog, DoesNotOpenWhenItsControlsCannotBeFilled)
+{
+    CExchangingDialog dialog;
+    dialog.m_refuse = true;
+    EXPECT_EQ(-1, dialog.DoModal());
+}
+
 TEST(Dialog, ClientPlaceLeavesTheBandFree)
 {
     CTestDialog dialog(IDD_OK_CANCEL, 1);
@@ -162,13 +248,35 @@ TEST(Dialog, ShapeFollowsTheSize)
     EXPECT_EQ(CRect(350, 1, 392, 18), dialog.CtrlRect(kCloseId));
 }
 
+TEST(Dialog, FreesItsShapeWhenItIsDestroyed)
+{
+    std::array<std::unique_ptr<CTestDialog>, 20> dialogs;
+    const auto openAndClose = [](std::unique_ptr<CTestDialog>& dialog) {
+        dialog = std::make_unique<CTestDialog>(IDD_OK_CANCEL, 1);
+        dialog->Open();
+        dialog->DestroyWindow();
+    };
+    openAndClose(dialogs[0]);
+    const ts::HandleCounts before = ts::CountHandles();
+    for (auto& dialog : dialogs) {
+        openAndClose(dialog);
+    }
+    const ts::HandleCounts kept = ts::Difference(before, ts::CountHandles());
+    EXPECT_EQ(0u, kept.count("region")) << kept.at("region");
+}
+
 // --- drawing
 
 ts::Picture PaintOf(CTestDialog& dialog)
 {
     const CSize size = dialog.ClientSize();
     return ts::DrawTo(
-        size.cx, size.cy, [&dialog](HDC dc) { dialog.Paint(*CDC::FromHandle(dc)); }, RGB(1, 2, 3));
+        size.cx, size.cy,
+        [&dialog](HDC dc) {
+            ::SetBkColor(dc, RGB(3, 2, 1));
+            dialog.Paint(*CDC::FromHandle(dc));
+        },
+        RGB(1, 2, 3));
 }
 
 TEST(DialogFrame, CaptionIsWhiteAndTheBodyPaleBlue)
@@ -195,7 +303,26 @@ TEST(DialogFrame, OutlineEndsTwoPixelsBeforeTheRightAndBottom)
     EXPECT_TRUE(ts::PixelIs(picture, midX, size.cy - 2, kOutline));
     EXPECT_TRUE(ts::PixelIs(picture, size.cx - 1, midY, kBody));
     EXPECT_TRUE(ts::PixelIs(picture, midX, size.cy - 1, kBody));
+    EXPECT_TRUE(ts::PixelIs(picture, size.cx - 3, midY, kBody));
+    EXPECT_TRUE(ts::PixelIs(picture, midX, size.cy - 3, kBody));
     EXPECT_FALSE(ts::PixelIs(picture, 0, 0, kOutline));
+}
+
+TEST(DialogFrame, OutlineIsRoundedByTwelve)
+{
+    CTestDialog dialog(IDD_OK_CANCEL, 1);
+    ASSERT_TRUE(dialog.Open());
+    const CSize size = dialog.ClientSize();
+    const ts::Picture expected = ts::DrawTo(
+        size.cx, size.cy,
+        [size](HDC dc) {
+            ::SelectObject(dc, ::GetStockObject(NULL_BRUSH));
+            ::SelectObject(dc, ::GetStockObject(DC_PEN));
+            ::SetDCPenColor(dc, kOutline);
+            ::RoundRect(dc, 0, 0, size.cx - 1, size.cy - 1, 12, 12);
+        },
+        kCaption);
+    EXPECT_TRUE(ts::SamePicture(expected.Crop({0, 0, 8, 8}), PaintOf(dialog).Crop({0, 0, 8, 8})));
 }
 
 /** The caption without the outline and its corners, as it should look with a title. */
@@ -228,12 +355,56 @@ TEST(DialogFrame, TitleStandsBetweenTheIconAndTheCloseButton)
     }
 }
 
+CRect g_titlePlace;
+UINT g_titleFormat = 0;
+
+int WINAPI RecordDrawText(HDC, LPCWSTR, int, RECT* place, UINT format)
+{
+    g_titlePlace = *place;
+    g_titleFormat = format;
+    return 0;
+}
+
+TEST(DialogFrame, TitleIsOneLineWithoutPrefixEndingInAnEllipsis)
+{
+    CTestDialog dialog(IDD_OK_CANCEL, 1);
+    ASSERT_TRUE(dialog.Open());
+    dialog.SetWindowText(L"Title");
+    const ts::ImportHook hook(L"afx.dll", "DrawTextW", &RecordDrawText);
+    PaintOf(dialog);
+    EXPECT_EQ(CRect(32, 0, dialog.ClientSize().cx - 58, 32), g_titlePlace);
+    EXPECT_EQ(static_cast<UINT>(DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_HIDEPREFIX), g_titleFormat);
+}
+
 TEST(DialogFrame, EmptyTitleLeavesTheCaptionEmpty)
 {
     CTestDialog dialog(IDD_OK_CANCEL, 1);
     ASSERT_TRUE(dialog.Open());
     dialog.SetWindowText(L"");
     EXPECT_TRUE(ts::AreaIs(PaintOf(dialog), CRect(12, 1, dialog.ClientSize().cx - 12, 32), kCaption));
+}
+
+/** A red icon of 16 x 16 that is transparent in its upper half. */
+HICON HalfTransparentIcon()
+{
+    std::array<BYTE, 32> mask = {};
+    std::fill_n(mask.begin(), 16, BYTE{0xFF});
+    std::array<DWORD, 256> colours = {};
+    std::fill_n(colours.begin() + 128, 128, 0xFF0000);
+    return ::CreateIcon(nullptr, 16, 16, 1, 32, mask.data(), reinterpret_cast<const BYTE*>(colours.data()));
+}
+
+TEST(DialogFrame, ApplicationIconLetsThroughTheCaption)
+{
+    CTestDialog dialog(IDD_OK_CANCEL, 1);
+    ASSERT_TRUE(dialog.Open());
+    const HICON icon = HalfTransparentIcon();
+    QorSetAppIcon(icon, FALSE);
+    const ts::Picture picture = PaintOf(dialog);
+    QorSetAppIcon(nullptr, FALSE);
+    ::DestroyIcon(icon);
+    EXPECT_TRUE(ts::AreaIs(picture, CRect(8, 8, 24, 16), kCaption));
+    EXPECT_TRUE(ts::AreaIs(picture, CRect(8, 16, 24, 24), RGB(255, 0, 0)));
 }
 
 TEST(DialogFrame, ApplicationIconStandsAtEightEight)
@@ -336,6 +507,14 @@ TEST(DialogHitTest, WithoutSystemMenuTheSpotIsCaption)
     EXPECT_EQ(HTCAPTION, dialog.Hit(10, 10));
 }
 
+TEST(DialogHitTest, BelowTheCaptionTheDefaultAnswers)
+{
+    CTestDialog dialog(IDD_OK_CANCEL, 1);
+    ASSERT_TRUE(dialog.Open());
+    EXPECT_EQ(HTCLIENT, dialog.Hit(100, 100));
+    EXPECT_EQ(HTNOWHERE, dialog.Hit(-50, 100));
+}
+
 TEST(DialogHitTest, CaptionBandEndsAtThirtyTwo)
 {
     CTestDialog dialog(IDD_OK_CANCEL, 1);
@@ -366,8 +545,8 @@ class CCommandDialog : public CTestDialog
     }
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
+        m_defaults += message == WM_NCLBUTTONDOWN || message == WM_GETMINMAXINFO || message == WM_SIZE;
         if (message == WM_NCLBUTTONDOWN) {
-            ++m_defaults;
             return 0;
         }
         return CTestDialog::DefWindowProc(message, wParam, lParam);
@@ -378,22 +557,36 @@ TEST(DialogSizing, EveryBorderCodeStartsItsSizingCommand)
 {
     CCommandDialog dialog(IDD_OK_CANCEL, 5);
     ASSERT_TRUE(dialog.Open());
+    const int defaults = dialog.m_defaults;
     for (UINT hit = HTLEFT; hit <= HTBOTTOMRIGHT; ++hit) {
         dialog.SendMessage(WM_NCLBUTTONDOWN, hit, MAKELPARAM(120, 130));
         EXPECT_EQ(static_cast<WPARAM>(SC_SIZE + hit - 9), dialog.m_command);
         EXPECT_EQ(MAKELPARAM(120, 130), dialog.m_point);
     }
-    EXPECT_EQ(0, dialog.m_defaults);
+    EXPECT_EQ(0, dialog.m_defaults - defaults);
+}
+
+TEST(DialogSizing, SizesAndTheirLimitsGetTheDefaultToo)
+{
+    CCommandDialog dialog(IDD_OK_CANCEL, 5);
+    ASSERT_TRUE(dialog.Open());
+    const int defaults = dialog.m_defaults;
+    dialog.SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(300, 195));
+    EXPECT_EQ(1, dialog.m_defaults - defaults);
+    MINMAXINFO info = {};
+    dialog.SendMessage(WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
+    EXPECT_EQ(2, dialog.m_defaults - defaults);
 }
 
 TEST(DialogSizing, OtherCodesGetTheDefault)
 {
     CCommandDialog dialog(IDD_OK_CANCEL, 5);
     ASSERT_TRUE(dialog.Open());
-    for (const UINT hit : {HTCAPTION, HTCLIENT, HTBORDER, HTSYSMENU}) {
+    const int defaults = dialog.m_defaults;
+    for (const UINT hit : {HTCAPTION, HTCLIENT, HTVSCROLL, HTBORDER, HTSYSMENU}) {
         dialog.SendMessage(WM_NCLBUTTONDOWN, hit, 0);
     }
-    EXPECT_EQ(4, dialog.m_defaults);
+    EXPECT_EQ(5, dialog.m_defaults - defaults);
     EXPECT_EQ(0u, dialog.m_command);
 }
 
@@ -426,6 +619,7 @@ TEST(DialogClosing, CloseButtonCancels)
     ts::ModalDriver driver;
     driver.InDialog([](HWND wnd) { ts::Click(::GetDlgItem(wnd, kCloseId)); });
     EXPECT_EQ(IDCANCEL, dialog.DoModal());
+    EXPECT_EQ(1, dialog.m_canceled) << "by way of the dialog's own OnCancel";
     EXPECT_TRUE(driver.Finished());
 }
 
@@ -477,6 +671,32 @@ TEST(DialogClosing, DisablingGraysTheCloseButtonAndTheSystemMenu)
     EXPECT_EQ(0u, ::GetMenuState(dialog.GetSystemMenu(FALSE)->m_hMenu, SC_CLOSE, MF_BYCOMMAND) & MF_GRAYED);
 }
 
+TEST(DialogClosing, DisablingKeepsTheBandAndTheSizingBorder)
+{
+    CTestDialog dialog(IDD_OK_CANCEL, 5);
+    ASSERT_TRUE(dialog.Open());
+    for (const BOOL disable : {TRUE, FALSE}) {
+        dialog.DisableClose(disable);
+        CRect place;
+        dialog.GetClientPos(place);
+        EXPECT_EQ(dialog.ClientSize().cy - 51, place.bottom) << disable;
+        EXPECT_EQ(HTLEFT, dialog.Hit(2, 100)) << disable;
+    }
+}
+
+TEST(DialogClosing, DisabledAndEnabledAgainItCanBeCanceled)
+{
+    CTestDialog dialog(IDD_OK_CANCEL, 1);
+    ts::ModalDriver driver;
+    driver.InDialog([&dialog](HWND) {
+        dialog.DisableClose(TRUE);
+        dialog.DisableClose(FALSE);
+        ts::Key(VK_ESCAPE);
+    });
+    EXPECT_EQ(IDCANCEL, dialog.DoModal());
+    EXPECT_TRUE(driver.Finished());
+}
+
 TEST(DialogClosing, DisablingWithoutSystemMenuIsSafe)
 {
     CTestDialog dialog(IDD_OK_ONLY, 1);
@@ -493,15 +713,13 @@ TEST(Dialog, LeavesNothingBehind)
     EXPECT_TRUE(ts::NoLeak([] {
         CTestDialog dialog(IDD_OK_CANCEL, 5);
         dialog.Open();
+        dialog.SetWindowText(L"Title");
+        dialog.UpdateWindow();
+        dialog.SetWindowPos(nullptr, 0, 0, 400, 300, SWP_NOMOVE | SWP_NOZORDER);
+        dialog.DisableClose(TRUE);
         dialog.UpdateWindow();
         dialog.DestroyWindow();
     }));
-}
-
-TEST(Dialog, FailsToOpenWithoutItsTemplate)
-{
-    CTestDialog dialog(9999, 1);
-    EXPECT_EQ(-1, dialog.DoModal());
 }
 
 } // namespace

@@ -1,4 +1,10 @@
-#include "TestDialogs.h"
+#include "TestFrame.h"
+
+#include <QorUI/app/GdiPlusFlat.h>
+#include <tests/support/ImportHook.h>
+
+#include <algorithm>
+#include <memory>
 
 namespace
 {
@@ -8,66 +14,6 @@ constexpr COLORREF kOutline = RGB(189, 189, 189);
 constexpr UINT kMinimize = 1000;
 constexpr UINT kMaximize = 1001;
 constexpr UINT kClose = 1002;
-
-class CTestFrame : public CQorFrame
-{
-  public:
-    using CQorFrame::DisableTitleBtn;
-    using CQorFrame::GetClientPos;
-    using CQorFrame::m_hAccel;
-    using CQorFrame::PreCreateWindow;
-    using CQorFrame::PreTranslateMessage;
-
-    ~CTestFrame() override
-    {
-        if (m_hWnd) {
-            DestroyWindow();
-        }
-    }
-
-    bool Open(LPCWSTR className = nullptr)
-    {
-        if (!CreateEx(0, className, L"Frame", 0, CRect(100, 50, 700, 450), nullptr, 0)) {
-            return false;
-        }
-        ShowWindow(SW_SHOW);
-        ts::Settle();
-        return true;
-    }
-
-    LRESULT Hit(int x, int y)
-    {
-        CRect window;
-        GetWindowRect(window);
-        return SendMessage(WM_NCHITTEST, 0, MAKELPARAM(window.left + x, window.top + y));
-    }
-
-    CRect CtrlRect(UINT id)
-    {
-        CRect rect;
-        QorGetCtrlRect(this, id, rect);
-        return rect;
-    }
-
-    std::vector<WPARAM> m_sysCommands;
-    bool m_swallowSysCommands = false;
-    WORD m_command = 0;
-
-  protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        if (message == WM_SYSCOMMAND) {
-            m_sysCommands.push_back(wParam);
-            if (m_swallowSysCommands) {
-                return 0;
-            }
-        }
-        if (message == WM_COMMAND && lParam == 0) {
-            m_command = LOWORD(wParam);
-        }
-        return CQorFrame::WindowProc(message, wParam, lParam);
-    }
-};
 
 TEST(Frame, StylesAreFixedBeforeCreation)
 {
@@ -82,6 +28,7 @@ TEST(Frame, StylesAreFixedBeforeCreation)
     WNDCLASSW wndClass = {};
     ASSERT_TRUE(::GetClassInfoW(AfxGetInstanceHandle(), cs.lpszClass, &wndClass));
     EXPECT_EQ(nullptr, wndClass.hbrBackground);
+    EXPECT_EQ(0u, wndClass.style);
 }
 
 TEST(Frame, RegistersTheCallersClassWithNothingButAProcedure)
@@ -122,6 +69,8 @@ TEST(Frame, TitleButtonsFollowTheSize)
     CTestFrame frame;
     ASSERT_TRUE(frame.Open());
     frame.SetWindowPos(nullptr, 0, 0, 500, 300, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(500 - 101, frame.CtrlRect(kMinimize).left);
+    EXPECT_EQ(500 - 75, frame.CtrlRect(kMaximize).left);
     EXPECT_EQ(500 - 50, frame.CtrlRect(kClose).left);
     EXPECT_FALSE(InShape(frame, 498, 0));
     EXPECT_TRUE(InShape(frame, 498, 150));
@@ -143,6 +92,23 @@ TEST(Frame, TitleButtonsShowTheirStrips)
     }
 }
 
+int g_transparent = 0;
+
+BOOL WINAPI CountTransparent(HDC, int, int, int, int, HDC, int, int, int, int, UINT)
+{
+    ++g_transparent;
+    return TRUE;
+}
+
+TEST(Frame, TitleButtonsAreOpaque)
+{
+    const ts::ImportHook hook(L"QorUI.dll", "GdiTransparentBlt", &CountTransparent);
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    ts::CaptureWindow(frame);
+    EXPECT_EQ(0, g_transparent);
+}
+
 TEST(Frame, IsRoundedByTwelve)
 {
     CTestFrame frame;
@@ -159,6 +125,7 @@ TEST(Frame, TakesTheApplicationIcon)
     CTestFrame frame;
     ASSERT_TRUE(frame.Open());
     EXPECT_EQ(reinterpret_cast<LRESULT>(icon), frame.SendMessage(WM_GETICON, ICON_SMALL));
+    EXPECT_EQ(0, frame.SendMessage(WM_GETICON, ICON_BIG));
     QorSetAppIcon(nullptr, FALSE);
 }
 
@@ -211,8 +178,10 @@ TEST(FrameHitTest, NeverAsksForTheDefault)
 {
     CTestFrame frame;
     ASSERT_TRUE(frame.Open());
+    frame.m_defaults.clear();
     EXPECT_EQ(HTCLIENT, frame.Hit(300, 250));
     EXPECT_EQ(HTTOPLEFT, frame.Hit(-50, -50)); // the default would answer HTNOWHERE
+    EXPECT_TRUE(frame.m_defaults.empty());
 }
 
 // --- cursors and sizing
@@ -249,12 +218,46 @@ TEST(Frame, BorderStartsTheSizingCommand)
     }
 }
 
+TEST(Frame, OtherCodesThanTheBordersGetTheDefault)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    frame.m_swallowSysCommands = true;
+    frame.m_defaults.clear();
+    for (UINT hit = HTLEFT; hit <= HTBOTTOMRIGHT; ++hit) {
+        frame.SendMessage(WM_NCLBUTTONDOWN, hit, 0);
+    }
+    EXPECT_EQ(0, std::count(frame.m_defaults.begin(), frame.m_defaults.end(), static_cast<UINT>(WM_NCLBUTTONDOWN)));
+    frame.m_sysCommands.clear();
+    for (const UINT hit : {HTCAPTION, HTCLIENT, HTVSCROLL, HTBORDER}) {
+        frame.SendMessage(WM_NCLBUTTONDOWN, hit, 0);
+    }
+    EXPECT_EQ(4, std::count(frame.m_defaults.begin(), frame.m_defaults.end(), static_cast<UINT>(WM_NCLBUTTONDOWN)));
+    EXPECT_TRUE(frame.m_sysCommands.empty());
+}
+
+TEST(Frame, SizesLimitsAndActivationGetTheDefaultToo)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    frame.m_defaults.clear();
+    MINMAXINFO info = {};
+    frame.SendMessage(WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
+    frame.SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(600, 400));
+    frame.SendMessage(WM_ACTIVATE, WA_INACTIVE, 0);
+    for (const UINT message : {WM_GETMINMAXINFO, WM_SIZE, WM_ACTIVATE}) {
+        EXPECT_EQ(1, std::count(frame.m_defaults.begin(), frame.m_defaults.end(), message)) << message;
+    }
+}
+
 TEST(Frame, SizeLimitsAreTheSmallestSizeAndTheWorkArea)
 {
     CTestFrame frame;
     ASSERT_TRUE(frame.Open());
     MINMAXINFO info = {};
+    info.ptMaxSize.x = 1234;
     frame.SendMessage(WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
+    EXPECT_EQ(1234, info.ptMaxSize.x);
     EXPECT_EQ(CPoint(360, 260), CPoint(info.ptMinTrackSize));
     CRect work;
     ASSERT_TRUE(::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0));
@@ -313,7 +316,11 @@ TEST(FrameButtons, DisablingMaximizeRemovesItsStyle)
     ASSERT_TRUE(frame.Open());
     frame.DisableTitleBtn(1, TRUE);
     EXPECT_EQ(0u, frame.GetStyle() & WS_MAXIMIZEBOX);
+    EXPECT_NE(0u, frame.GetStyle() & WS_MINIMIZEBOX);
     EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(frame, kMaximize)));
+    frame.DisableTitleBtn(1, FALSE);
+    EXPECT_NE(0u, frame.GetStyle() & WS_MAXIMIZEBOX);
+    EXPECT_TRUE(::IsWindowEnabled(::GetDlgItem(frame, kMaximize)));
 }
 
 TEST(FrameButtons, DisablingCloseGraysTheSystemMenu)
@@ -356,6 +363,28 @@ TEST(Frame, ClientPlaceLiesBelowTheBanner)
     EXPECT_EQ(CRect(9, 63, 590, 390), place);
 }
 
+TEST(Frame, OutlineIsRoundedByTwelve)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    const ts::Picture expected = ts::DrawTo(
+        600, 400,
+        [](HDC dc) {
+            ::SelectObject(dc, ::GetStockObject(DC_BRUSH));
+            ::SetDCBrushColor(dc, kBack);
+            ::SelectObject(dc, ::GetStockObject(DC_PEN));
+            ::SetDCPenColor(dc, kOutline);
+            ::RoundRect(dc, 0, 0, 599, 399, 12, 12);
+        },
+        RGB(1, 2, 3));
+    const ts::Picture shown = ts::CaptureWindow(frame);
+    for (int i = 0; i < 81; ++i) { // the banner starts at (9, 9)
+        const int x = i % 9;
+        const int y = i / 9;
+        EXPECT_TRUE(!InShape(frame, x, y) || ts::PixelIs(shown, x, y, expected.At(x, y))) << x << ", " << y;
+    }
+}
+
 TEST(Frame, BackgroundAndOutlineHaveTheirColours)
 {
     CTestFrame frame;
@@ -366,42 +395,82 @@ TEST(Frame, BackgroundAndOutlineHaveTheirColours)
     EXPECT_TRUE(ts::PixelIs(picture, 0, 200, kOutline));
     EXPECT_TRUE(ts::PixelIs(picture, 598, 200, kOutline));
     EXPECT_TRUE(ts::PixelIs(picture, 300, 398, kOutline));
+    EXPECT_TRUE(ts::PixelIs(picture, 597, 200, kBack));
+    EXPECT_TRUE(ts::PixelIs(picture, 300, 397, kBack));
 }
 
-/** Size of a PNG picture of the library's resources, from its header. */
-CSize PngSize(UINT id)
+/** A picture of the library's resources. */
+std::unique_ptr<Gdiplus::Image> LibraryPicture(UINT id)
 {
     const HINSTANCE library = ::GetModuleHandleW(L"QorUI.dll");
-    const HRSRC found = ::FindResourceW(library, MAKEINTRESOURCEW(id), L"PNG");
-    const auto* bytes = static_cast<const BYTE*>(::LockResource(::LoadResource(library, found)));
-    return CSize((bytes[18] << 8) | bytes[19], (bytes[22] << 8) | bytes[23]);
+    auto* image = static_cast<const Gdiplus::Image*>(QorImageFromResource(library, MAKEINTRESOURCEW(id), L"PNG"));
+    return std::unique_ptr<Gdiplus::Image>(const_cast<Gdiplus::Image*>(image));
 }
 
-void ExpectBannerAt(UINT id, BOOL flag)
+/** The frame's area left of its buttons, with that flag of the application icon. */
+ts::Picture BannerArea(BOOL flag)
 {
     QorSetAppIcon(nullptr, flag);
     CTestFrame frame;
     const bool opened = frame.Open();
     const ts::Picture picture = ts::CaptureWindow(frame);
     QorSetAppIcon(nullptr, FALSE);
-    ASSERT_TRUE(opened);
-    const CSize size = PngSize(id);
-    const CRect banner(picture.Crop(CRect(2, 2, 490, 200)).BoundsOfOthers(kBack));
-    EXPECT_FALSE(banner.IsRectEmpty());
-    EXPECT_GE(banner.left + 2, 9);
-    EXPECT_GE(banner.top + 2, 9);
-    EXPECT_LE(banner.right + 2, 9 + size.cx);
-    EXPECT_LE(banner.bottom + 2, 9 + size.cy);
+    EXPECT_TRUE(opened);
+    return picture.Crop(CRect(2, 2, 490, 200));
+}
+
+void ExpectBannerAtNineNine(UINT id, BOOL flag)
+{
+    const std::unique_ptr<Gdiplus::Image> banner = LibraryPicture(id);
+    ASSERT_NE(nullptr, banner);
+    const auto width = static_cast<int>(banner->GetWidth());
+    const auto height = static_cast<int>(banner->GetHeight());
+    const ts::Picture expected = ts::DrawTo(
+        600, 400, [&](HDC dc) { Gdiplus::Graphics(dc).DrawImage(banner.get(), 9, 9, width, height); }, kBack);
+    const ts::Picture shown = BannerArea(flag);
+    EXPECT_TRUE(ts::SamePicture(expected.Crop(CRect(2, 2, 490, 200)), shown));
+    EXPECT_FALSE(CRect(shown.BoundsOfOthers(kBack)).IsRectEmpty());
 }
 
 TEST(Frame, DrawsTheHighBannerWithoutTheFlag)
 {
-    ExpectBannerAt(281, FALSE);
+    ExpectBannerAtNineNine(281, FALSE);
 }
 
 TEST(Frame, DrawsTheLowBannerWithTheFlag)
 {
-    ExpectBannerAt(282, TRUE);
+    ExpectBannerAtNineNine(282, TRUE);
+}
+
+int g_freedImages = 0;
+
+Gdiplus::GpStatus WINGDIPAPI CountFreed(Gdiplus::GpImage* image)
+{
+    ++g_freedImages;
+    return Gdiplus::DllExports::GdipDisposeImage(image);
+}
+
+TEST(Frame, FreesTheBannerAfterEachPaint)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    const ts::ImportHook hook(L"QorUI.dll", "GdipDisposeImage", &CountFreed);
+    g_freedImages = 0;
+    for (int i = 0; i < 3; ++i) {
+        frame.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    }
+    EXPECT_EQ(3, g_freedImages);
+}
+
+HRSRC WINAPI NoResource(HMODULE, LPCWSTR, LPCWSTR)
+{
+    return nullptr;
+}
+
+TEST(Frame, WithoutItsPictureTheBannerIsEmpty)
+{
+    const ts::ImportHook hook(L"QorPub.dll", "FindResourceW", &NoResource);
+    EXPECT_TRUE(ts::AreaIs(BannerArea(FALSE), CRect(0, 0, 488, 198), kBack));
 }
 
 // --- keyboard and focus
@@ -449,6 +518,17 @@ TEST(FrameKeyboard, AcceleratorsComeFirst)
     content.frame.m_hAccel = nullptr;
 }
 
+TEST(FrameKeyboard, OtherMessagesAreNotTranslated)
+{
+    FrameWithEdits content;
+    ts::HostWindow other;
+    MSG foreign = {};
+    foreign.hwnd = other.Hwnd();
+    foreign.message = WM_KEYDOWN;
+    foreign.wParam = VK_TAB;
+    EXPECT_FALSE(content.frame.PreTranslateMessage(&foreign));
+}
+
 TEST(FrameKeyboard, FocusComesBackAfterDeactivation)
 {
     FrameWithEdits content;
@@ -477,6 +557,8 @@ TEST(Frame, LeavesNothingBehind)
         CTestFrame frame;
         frame.CreateEx(0, nullptr, L"Frame", 0, CRect(100, 50, 700, 450), nullptr, 0);
         frame.ShowWindow(SW_SHOW);
+        frame.UpdateWindow();
+        frame.SetWindowPos(nullptr, 0, 0, 700, 500, SWP_NOMOVE | SWP_NOZORDER);
         frame.UpdateWindow();
         frame.DestroyWindow();
     }));

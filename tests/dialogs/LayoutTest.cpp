@@ -1,5 +1,9 @@
 #include "TestDialogs.h"
 
+#include <tests/support/ImportHook.h>
+
+#include <algorithm>
+
 namespace
 {
 
@@ -88,11 +92,71 @@ TEST_F(Layout, ListSkipsMissingControls)
     EXPECT_FALSE(Enabled(1005));
 }
 
+std::vector<int> g_enabled; // ids, in the order of the calls
+
+BOOL WINAPI RecordEnable(HWND wnd, BOOL enable)
+{
+    g_enabled.push_back(::GetDlgCtrlID(wnd));
+    return ::EnableWindow(wnd, enable);
+}
+
+TEST_F(Layout, ListIsDoneInItsOrder)
+{
+    const ts::ImportHook hook(L"QorUI.dll", "EnableWindow", &RecordEnable);
+    g_enabled.clear();
+    QorEnableCtrlsV(&m_dialog, FALSE, 3, 1005, 1001, 1002);
+    EXPECT_EQ((std::vector<int>{1005, 1001, 1002}), g_enabled);
+}
+
+TEST_F(Layout, ListEnablesToo)
+{
+    QorEnableCtrls(&m_dialog, kFirst, kLast, FALSE);
+    QorEnableCtrlsV(&m_dialog, TRUE, 1, 1002);
+    EXPECT_FALSE(Enabled(1001));
+    EXPECT_TRUE(Enabled(1002));
+}
+
+std::vector<int> g_shown; // the show commands
+
+BOOL WINAPI RecordShow(HWND wnd, int command)
+{
+    g_shown.push_back(command);
+    return ::ShowWindow(wnd, command);
+}
+
+TEST_F(Layout, ShowsAsNormalWindows)
+{
+    const ts::ImportHook hook(L"QorUI.dll", "ShowWindow", &RecordShow);
+    g_shown.clear();
+    QorShowCtrls(&m_dialog, 1001, 1001, FALSE);
+    QorShowCtrls(&m_dialog, 1001, 1001, 17);
+    QorMoveCtrls(&m_dialog, 1001, 1001, 1, 1);
+    EXPECT_EQ((std::vector<int>{SW_HIDE, SW_SHOWNORMAL, SW_SHOWNORMAL}), g_shown);
+}
+
+std::vector<BOOL> g_repaints;
+
+BOOL WINAPI RecordMove(HWND wnd, int x, int y, int cx, int cy, BOOL repaint)
+{
+    g_repaints.push_back(repaint);
+    return ::MoveWindow(wnd, x, y, cx, cy, repaint);
+}
+
+TEST_F(Layout, MovedControlsAreRepainted)
+{
+    const ts::ImportHook hook(L"QorUI.dll", "MoveWindow", &RecordMove);
+    g_repaints.clear();
+    QorMoveCtrls(&m_dialog, 1001, 1002, 5, 0);
+    EXPECT_EQ((std::vector<BOOL>{TRUE, TRUE}), g_repaints);
+}
+
 TEST_F(Layout, HidesAndShowsARange)
 {
     QorShowCtrls(&m_dialog, kFirst, kLast, FALSE);
     EXPECT_FALSE(Shown(1001));
+    EXPECT_FALSE(Shown(1002));
     EXPECT_FALSE(Shown(1005));
+    EXPECT_TRUE(Shown(IDC_EDIT));
     QorShowCtrls(&m_dialog, kFirst, 1002, TRUE);
     EXPECT_TRUE(Shown(1002));
     EXPECT_FALSE(Shown(1005));
@@ -201,6 +265,15 @@ LOGFONTW FontOf(CWnd& dialog, UINT id)
     return font;
 }
 
+TEST_F(Layout, TopicControlIsRedrawnInItsFont)
+{
+    ts::MessageRecorder recorder(::GetDlgItem(m_dialog, 1001));
+    recorder.RecordOnly({WM_SETFONT});
+    QorSetTopicCtrl(&m_dialog, 1001, nullptr, -16);
+    const auto font = m_dialog.SendDlgItemMessage(1001, WM_GETFONT);
+    EXPECT_TRUE(recorder.Is({ts::Msg(WM_SETFONT, static_cast<WPARAM>(font), TRUE)}));
+}
+
 TEST_F(Layout, TopicFontIsBoldArialOfTheFirstHeight)
 {
     QorSetTopicCtrl(&m_dialog, 1001, L"Topic", -16);
@@ -210,6 +283,8 @@ TEST_F(Layout, TopicFontIsBoldArialOfTheFirstHeight)
     EXPECT_EQ(-16, font.lfHeight);
     EXPECT_EQ(700, font.lfWeight);
     EXPECT_STREQ(L"Arial", font.lfFaceName);
+    EXPECT_EQ(0, font.lfItalic);
+    EXPECT_EQ(ANSI_CHARSET, font.lfCharSet);
     EXPECT_EQ(-16, FontOf(m_dialog, 1002).lfHeight);
     CString text;
     m_dialog.GetDlgItemText(1001, text);

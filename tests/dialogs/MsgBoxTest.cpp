@@ -1,6 +1,7 @@
 #include "TestDialogs.h"
 
 #include <QorApi/QorApi.h>
+#include <tests/support/ImportHook.h>
 
 namespace
 {
@@ -30,6 +31,7 @@ struct Shown
     HICON icon = nullptr;
     bool topmost = false;
     std::vector<std::pair<int, CString>> buttons; // id and text, from left to right
+    bool skinned = true;                          // all of the buttons
     int focus = 0;
 };
 
@@ -57,6 +59,7 @@ Shown Look(HWND box)
     }
     for (const auto& [left, button] : byLeft) {
         shown.buttons.emplace_back(::GetDlgCtrlID(button), TextOf(button));
+        shown.skinned = shown.skinned && (::GetWindowLongW(button, GWL_STYLE) & BS_TYPEMASK) == BS_OWNERDRAW;
     }
     return shown;
 }
@@ -99,6 +102,7 @@ class SingleButtonBox : public testing::TestWithParam<KindCase>
 TEST_P(SingleButtonBox, ShowsCaptionIconTextAndOk)
 {
     const KindCase& kind = GetParam();
+    const CInitDialogAnswers answers;
     Shown shown;
     EXPECT_EQ(1u, Answer(L"What happened", kind.kind, 0, IDOK, shown));
     EXPECT_STREQ(QorGetString(kind.captionKey), shown.caption);
@@ -106,12 +110,15 @@ TEST_P(SingleButtonBox, ShowsCaptionIconTextAndOk)
     EXPECT_STREQ(L"What happened", shown.text);
     EXPECT_EQ(Expect({{IDOK, L"STR_OK"}}), shown.buttons);
     EXPECT_EQ(IDOK, shown.focus);
+    EXPECT_EQ(std::vector<LRESULT>{TRUE}, answers.Answers());
     EXPECT_FALSE(shown.topmost);
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, SingleButtonBox,
                          testing::Values(KindCase{0, L"STR_ERROR", IDI_HAND}, KindCase{1, L"STR_WARN", IDI_EXCLAMATION},
                                          KindCase{2, L"STR_INFO", IDI_ASTERISK}, KindCase{9, L"STR_INFO", IDI_ASTERISK},
+                                         KindCase{6, L"STR_INFO", IDI_ASTERISK},
+                                         KindCase{0x45, L"STR_INFO", IDI_ASTERISK},
                                          KindCase{0x7F, L"STR_INFO", IDI_ASTERISK}));
 
 TEST(MsgBox, SingleButtonStandsWhereCancelWouldStand)
@@ -144,6 +151,7 @@ TEST(MsgBox, RetryHasRetryIgnoreAndCancel)
     Shown shown;
     EXPECT_EQ(4u, Answer(L"Busy", QOR_MSG_RETRY, 0, IDRETRY, shown));
     EXPECT_EQ(Expect({{IDRETRY, L"STR_RETRY"}, {IDIGNORE, L"STR_IGNORE"}, {IDCANCEL, L"STR_CANCEL"}}), shown.buttons);
+    EXPECT_TRUE(shown.skinned);
     EXPECT_STREQ(QorGetString(L"STR_CONFIRM"), shown.caption);
     EXPECT_EQ(::LoadIconW(nullptr, IDI_QUESTION), shown.icon);
     EXPECT_EQ(IDIGNORE, shown.focus);
@@ -156,6 +164,9 @@ TEST(MsgBox, YesNoHasYesNoAndCancel)
     Shown shown;
     EXPECT_EQ(6u, Answer(L"Go on?", QOR_MSG_YESNO, 0, IDYES, shown));
     EXPECT_EQ(Expect({{IDYES, L"STR_YES"}, {IDNO, L"STR_NO"}, {IDCANCEL, L"STR_CANCEL"}}), shown.buttons);
+    EXPECT_TRUE(shown.skinned);
+    EXPECT_STREQ(QorGetString(L"STR_CONFIRM"), shown.caption);
+    EXPECT_EQ(::LoadIconW(nullptr, IDI_QUESTION), shown.icon);
     EXPECT_EQ(IDNO, shown.focus);
     EXPECT_EQ(7u, Answer(L"Go on?", QOR_MSG_YESNO, 0, IDNO, shown));
     EXPECT_EQ(2u, Answer(L"Go on?", QOR_MSG_YESNO, 0, IDCANCEL, shown));
@@ -230,8 +241,36 @@ TEST(MsgBox, TabGoesThroughTheButtonsInTheirOrder)
 TEST(MsgBox, TopmostBitKeepsItAbove)
 {
     Shown shown;
-    Answer(L"x", QOR_MSG_INFO | kTopmost, 0, IDOK, shown);
+    EXPECT_EQ(1u, Answer(L"x", QOR_MSG_INFO | kTopmost, 0, IDOK, shown));
     EXPECT_TRUE(shown.topmost);
+    EXPECT_EQ(Expect({{IDOK, L"STR_OK"}}), shown.buttons);
+}
+
+UINT g_topmostFlags = 0;
+
+BOOL WINAPI RecordTopmost(HWND wnd, HWND after, int x, int y, int cx, int cy, UINT flags)
+{
+    if (after == HWND_TOPMOST) {
+        g_topmostFlags = flags;
+    }
+    return ::SetWindowPos(wnd, after, x, y, cx, cy, flags);
+}
+
+TEST(MsgBox, TopmostBitLeavesPlaceAndSize)
+{
+    const ts::ImportHook hook(L"afx.dll", "SetWindowPos", &RecordTopmost);
+    g_topmostFlags = 0;
+    Shown shown;
+    Answer(L"x", QOR_MSG_INFO | kTopmost, 0, IDOK, shown);
+    EXPECT_EQ(static_cast<UINT>(SWP_NOSIZE | SWP_NOMOVE), g_topmostFlags);
+}
+
+TEST(MsgBox, UpperBitsOfTheTypeDoNotMatter)
+{
+    Shown shown;
+    EXPECT_EQ(7u, Answer(L"x", 0xABCD0005, 0, IDNO, shown));
+    EXPECT_FALSE(shown.topmost);
+    EXPECT_EQ(3u, shown.buttons.size());
 }
 
 TEST(MsgBox, EmptyErrorTextSaysThatTheOperationFailed)
@@ -286,6 +325,22 @@ TEST(MsgBox, AllOnesStandForTheLastError)
     EXPECT_STREQ(WithCode(L"It failed", ERROR_FILE_NOT_FOUND), shown.text);
 }
 
+TEST(MsgBox, LastErrorIsTheOneAtTheTimeOfTheCall)
+{
+    // Texts that are looked for in vain change the last error.
+    const ts::TempFolder folder;
+    const ts::EnvironmentVariable texts(L"QOR_LANG_DIR", folder.Path().c_str());
+    Shown shown;
+    ts::ModalDriver driver;
+    driver.InDialog([&shown](HWND box) {
+        shown = Look(box);
+        ::PostMessageW(box, WM_COMMAND, IDOK, 0);
+    });
+    ::SetLastError(ERROR_CRC);
+    QorMsgBox(L"", 0, 0xFFFFFFFF, nullptr);
+    EXPECT_STREQ(WithCode(L"STR_OPERATE_FAIL", ERROR_CRC), shown.text);
+}
+
 TEST(MsgBox, LastErrorOfZeroAppendsNothing)
 {
     Shown shown;
@@ -299,6 +354,31 @@ TEST(MsgBox, LastErrorOfZeroAppendsNothing)
     EXPECT_STREQ(L"Plain", shown.text);
 }
 
+TEST(MsgBox, FormattedBoxTakesTheLastErrorToo)
+{
+    Shown shown;
+    ts::ModalDriver driver;
+    driver.InDialog([&shown](HWND box) {
+        shown = Look(box);
+        ::PostMessageW(box, WM_COMMAND, IDOK, 0);
+    });
+    ::SetLastError(ERROR_FILE_NOT_FOUND);
+    QorMsgBox(QOR_MSG_ERROR, 0xFFFFFFFF, L"It %s", L"failed");
+    EXPECT_STREQ(WithCode(L"It failed", ERROR_FILE_NOT_FOUND), shown.text);
+}
+
+TEST(MsgBox, FormattedBoxWithoutAFormatIsEmpty)
+{
+    Shown shown;
+    ts::ModalDriver driver;
+    driver.InDialog([&shown](HWND box) {
+        shown = Look(box);
+        ::PostMessageW(box, WM_COMMAND, IDOK, 0);
+    });
+    EXPECT_EQ(1u, QorMsgBox(QOR_MSG_INFO, 0, nullptr));
+    EXPECT_STREQ(L"", shown.text);
+}
+
 TEST(MsgBox, FormatsItsText)
 {
     Shown shown;
@@ -309,6 +389,63 @@ TEST(MsgBox, FormatsItsText)
     });
     EXPECT_EQ(1u, QorMsgBox(QOR_MSG_INFO, 0, L"%s %d%%", L"free", 12));
     EXPECT_STREQ(L"free 12%", shown.text);
+}
+
+struct Timer
+{
+    UINT_PTR id;
+    UINT time;
+};
+
+std::vector<Timer> g_timers;
+std::vector<UINT_PTR> g_killed;
+
+UINT_PTR WINAPI RecordTimer(HWND, UINT_PTR id, UINT time, TIMERPROC)
+{
+    g_timers.push_back({id, time});
+    return id;
+}
+
+BOOL WINAPI RecordKill(HWND wnd, UINT_PTR id)
+{
+    g_killed.push_back(id);
+    return ::KillTimer(wnd, id);
+}
+
+/** The timers that a box of that type sets. */
+std::vector<Timer> TimersOf(UINT type)
+{
+    const ts::ImportHook hook(L"afx.dll", "SetTimer", &RecordTimer);
+    g_timers.clear();
+    Shown shown;
+    Answer(L"x", type, 0, IDOK, shown);
+    return g_timers;
+}
+
+TEST(MsgBox, ClosingTimeIsTheSecondByteInSeconds)
+{
+    for (const UINT seconds : {1u, 5u, 128u, 255u}) {
+        const std::vector<Timer> timers = TimersOf(0xFFFF0000 | seconds << 8);
+        ASSERT_EQ(1u, timers.size()) << seconds;
+        EXPECT_EQ(1u, timers[0].id);
+        EXPECT_EQ(seconds * 1000, timers[0].time);
+    }
+}
+
+TEST(MsgBox, WithoutSecondsThereIsNoTimer)
+{
+    EXPECT_TRUE(TimersOf(0).empty());
+    EXPECT_TRUE(TimersOf(kTopmost | QOR_MSG_INFO).empty());
+}
+
+TEST(MsgBox, TimerEndsWithTheBox)
+{
+    const ts::ImportHook hook(L"afx.dll", "KillTimer", &RecordKill);
+    g_killed.clear();
+    ts::ModalDriver driver;
+    driver.InDialog([](HWND box) { ::PostMessageW(box, WM_TIMER, 1, 0); });
+    EXPECT_EQ(32000u, QorMsgBox(L"x", 0x6400, 0, nullptr));
+    EXPECT_EQ(std::vector<UINT_PTR>{1}, g_killed);
 }
 
 TEST(MsgBox, ClosesItselfWhenTheTimeIsUp)
@@ -344,17 +481,54 @@ TEST(MsgBox, StandsOnItsParentAndDisablesIt)
     EXPECT_TRUE(::IsWindowEnabled(host.Hwnd()));
 }
 
-TEST(MsgBox, HasTheStatedSize)
+TEST(MsgBox, HasTheStatedSizeWhateverItsText)
 {
     ASSERT_TRUE(ts::HasStandardDialogFont());
-    CRect client;
+    for (const CString& text : {CString(L"x"), CString(L'W', 100000)}) {
+        CRect client;
+        ts::ModalDriver driver;
+        driver.InDialog([&client](HWND box) {
+            ::GetClientRect(box, client);
+            ::PostMessageW(box, WM_COMMAND, IDOK, 0);
+        });
+        QorMsgBox(text, QOR_MSG_INFO, 0, nullptr);
+        EXPECT_EQ(CSize(398, 197), client.Size());
+    }
+}
+
+TEST(MsgBox, ButtonsStandInTheBand)
+{
+    CRect ok;
+    CRect cancel;
     ts::ModalDriver driver;
-    driver.InDialog([&client](HWND box) {
-        ::GetClientRect(box, client);
+    driver.InDialog([&](HWND box) {
+        CWnd* wnd = CWnd::FromHandle(box);
+        QorGetCtrlRect(wnd, IDOK, ok);
+        QorGetCtrlRect(wnd, IDCANCEL, cancel);
         ::PostMessageW(box, WM_COMMAND, IDOK, 0);
     });
-    QorMsgBox(L"x", QOR_MSG_INFO, 0, nullptr);
-    EXPECT_EQ(CSize(398, 197), client.Size());
+    QorMsgBox(L"x", QOR_MSG_CONFIRM, 0, nullptr);
+    EXPECT_EQ(398 - 18, cancel.right);
+    EXPECT_EQ(cancel.left - 9, ok.right);
+    EXPECT_EQ(197 - 49 + (40 - 21) / 2 + 1, cancel.top);
+    EXPECT_EQ(cancel.top, ok.top);
+}
+
+TEST(MsgBox, ComesFromTheLibraryThoughTheHostHasADialogOfThatNumber)
+{
+    ASSERT_NE(nullptr, ::FindResourceW(nullptr, MAKEINTRESOURCEW(IDD_OF_THE_HOST), RT_DIALOG));
+    Shown shown;
+    EXPECT_EQ(1u, Answer(L"What happened", QOR_MSG_INFO, 0, IDOK, shown));
+    EXPECT_STREQ(L"What happened", shown.text);
+}
+
+TEST(MsgBox, AParentWithoutAWindowIsNone)
+{
+    CWnd none;
+    ts::ModalDriver driver;
+    driver.InDialog([](HWND) { ts::Key(VK_ESCAPE); });
+    EXPECT_EQ(2u, QorMsgBox(L"x", QOR_MSG_INFO, 0, &none));
+    EXPECT_TRUE(driver.Finished());
 }
 
 TEST(MsgBox, ResourcesComeFromTheHostWhileItIsOpenAndAfterwards)

@@ -90,3 +90,34 @@ inline bool HasShape(HWND wnd, const CRgn& expected)
     return ::GetWindowRgn(wnd, shape) != ERROR &&
            ::CombineRgn(shape, shape, static_cast<HRGN>(expected.GetSafeHandle()), RGN_XOR) == NULLREGION;
 }
+
+/** Looks at how the dialogs of the thread answer WM_INITDIALOG. */
+class CInitDialogAnswers
+{
+  public:
+    CInitDialogAnswers() : m_hook(::SetWindowsHookExW(WH_CALLWNDPROCRET, &Hook, nullptr, ::GetCurrentThreadId()))
+    {
+        Answers().clear();
+    }
+    ~CInitDialogAnswers() { ::UnhookWindowsHookEx(m_hook); }
+    CInitDialogAnswers(const CInitDialogAnswers&) = delete;
+    CInitDialogAnswers& operator=(const CInitDialogAnswers&) = delete;
+
+    static std::vector<LRESULT>& Answers()
+    {
+        static std::vector<LRESULT> answers;
+        return answers;
+    }
+
+  private:
+    static LRESULT CALLBACK Hook(int code, WPARAM wParam, LPARAM lParam)
+    {
+        const auto* call = reinterpret_cast<const CWPRETSTRUCT*>(lParam);
+        if (code >= 0 && call->message == WM_INITDIALOG) {
+            Answers().push_back(call->lResult);
+        }
+        return ::CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    HHOOK m_hook;
+};

@@ -1,5 +1,6 @@
 #pragma once
 
+#define IDD_OF_THE_HOST 101 // the number of the library's message box
 #define IDD_PLAIN 300
 #define IDD_OK_CANCEL 301
 #define IDD_OK_ONLY 302
