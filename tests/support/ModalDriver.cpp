@@ -193,9 +193,14 @@ void ModalDriver::Force()
         EndMenu();
     if (GetCapture())
         ReleaseCapture();
+    // EndDialog hides a dialog with a loop of its own, and does not end the loop: such a dialog is still to be
+    // destroyed.
     for (const HWND window : NewWindows()) {
-        if (!CanBeDialog(window))
-            continue;
+        if (CanBeDialog(window) && std::find(m_stuck.begin(), m_stuck.end(), window) == m_stuck.end())
+            m_stuck.push_back(window);
+    }
+    std::erase_if(m_stuck, [](HWND window) { return !IsWindow(window); });
+    for (const HWND window : m_stuck) {
         if (m_attempts <= kAttemptsByCommand) {
             PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
             PostMessageW(window, WM_CLOSE, 0, 0);

@@ -75,6 +75,7 @@ class ModalDriver
     int m_done = 0;
     int m_attempts = 0;
     bool m_forced = false;
+    std::vector<HWND> m_stuck; // what is being ended by force, also when it is hidden by now
     bool m_running = false;
 };
 

@@ -198,6 +198,25 @@ TEST(ModalDriver, EndsADialogThatRefusesToClose)
     EXPECT_NONFATAL_FAILURE(LeaveStubbornDialogOpen(), "still there after the last step");
 }
 
+/** A modeless dialog in a loop of its own, as a class library runs its modal dialogs. */
+void LeaveDialogWithItsOwnLoopOpen()
+{
+    const ts::HostWindow host;
+    const DialogData data;
+    ts::ModalDriver driver(200);
+    driver.InDialog([](HWND) {});
+    const HWND dialog =
+        CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &data.header, host.Hwnd(), DialogProcedure, TRUE);
+    MSG message;
+    while (IsWindow(dialog) && GetMessageW(&message, nullptr, 0, 0) > 0)
+        DispatchMessageW(&message);
+}
+
+TEST(ModalDriver, EndsADialogWithALoopOfItsOwnThatRefusesToClose)
+{
+    EXPECT_NONFATAL_FAILURE(LeaveDialogWithItsOwnLoopOpen(), "still there after the last step");
+}
+
 void WaitForMenuInDialog()
 {
     const ts::HostWindow host;
