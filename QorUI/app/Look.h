@@ -33,11 +33,12 @@ inline constexpr int kCloseButtonRight = 50;  ///< from the window's right edge 
 inline constexpr int kTitleButtonTop = 1;     ///< top of the title buttons
 inline constexpr int kSizeCorner = 6;         ///< corners of the sizing border
 inline constexpr int kSizeEdge = 3;           ///< edges of the sizing border
-inline constexpr int kBandBottom = 9;         ///< space below the button band
-inline constexpr int kBandTop = 49;           ///< from the bottom of a dialog up to the top of its button band
+inline constexpr int kContentLeft = 9;        ///< left end of what a dialog or frame window contains
+inline constexpr int kContentRight = 10;      ///< space right of it
 inline constexpr int kBandMargin = 9;         ///< space right of the button band
 inline constexpr int kBandGap = 9;            ///< space between the buttons of the band
 inline constexpr int kBandHeight = 40;        ///< height of the button band
+inline constexpr int kBandBottom = 9;         ///< space below the button band
 inline constexpr int kGlyphSize = 13;         ///< check and radio glyphs
 inline constexpr int kGlyphPos = 2;           ///< left and top of check and radio glyphs
 

@@ -1,5 +1,6 @@
 #include "QorDialog.h"
 
+#include "CtrlLayout.h"
 #include "DialogFrame.h"
 #include "WindowShape.h"
 #include <QorUI/app/GdiSavers.h>
@@ -15,6 +16,8 @@ namespace
 
 const CSize kMinTrackSize(260, 200);
 const CSize kCaptionChange(108, QorLook::kCaptionHeight); // close button and the end of the title
+constexpr int kContentBottom = 11;                        // space below the content
+constexpr int kContentBottomWithBand = 51;                // the same with a button band
 constexpr int kSysMenuNear = 6;
 constexpr int kSysMenuFar = 22;
 
@@ -89,29 +92,27 @@ void CQorDialog::AdjustBtnInArea(CQorBtn& button, UINT leftOf)
     GetClientRect(client);
     int right = client.Width() - QorLook::kBandMargin;
     if (leftOf != 0) {
-        const CWnd* neighbour = GetDlgItem(static_cast<int>(leftOf));
-        if (!neighbour) {
+        CRect neighbour;
+        if (!QorGetCtrlRect(this, leftOf, neighbour)) {
             return;
         }
-        CRect rect;
-        neighbour->GetWindowRect(rect);
-        ScreenToClient(rect);
-        right = rect.left;
+        right = neighbour.left;
     }
     CRect own;
     button.GetWindowRect(own);
     const int x = right - QorLook::kBandGap - own.Width();
-    const int y = client.Height() - QorLook::kBandTop + (QorLook::kBandHeight - own.Height()) / 2 + BandOffset();
+    const int bandTop = client.Height() - QorLook::kBandBottom - QorLook::kBandHeight;
+    const int y = bandTop + (QorLook::kBandHeight - own.Height()) / 2 + BandOffset();
     button.SetWindowPos(nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
 }
 
 void CQorDialog::GetClientPos(CRect& rect) const
 {
     GetClientRect(rect);
-    rect.left += 9;
+    rect.left += QorLook::kContentLeft;
     rect.top += QorLook::kCaptionHeight;
-    rect.right -= 10;
-    rect.bottom -= (m_flags & ButtonBand) ? 51 : 11;
+    rect.right -= QorLook::kContentRight;
+    rect.bottom -= (m_flags & ButtonBand) ? kContentBottomWithBand : kContentBottom;
 }
 
 void CQorDialog::DisableClose(BOOL disable)

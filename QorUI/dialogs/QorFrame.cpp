@@ -14,6 +14,7 @@ namespace
 constexpr int kBannerHeightLow = 64;  // with the flag of the application icon set
 constexpr int kBannerHeightHigh = 84; // without it
 const CPoint kBannerPos(9, 9);
+constexpr int kContentBottom = 10;       // space below the content
 constexpr int kTitleButtonsChange = 159; // title buttons and the rounded end of the banner
 const CSize kMinTrackSize(360, 260);
 
@@ -68,16 +69,16 @@ bool RegisterNamedClass(LPCWSTR name)
 void DrawBanner(CDC& dc)
 {
     const UINT id = QorGetAppIcon().flag ? IDR_PNG_BANNER2 : IDR_PNG_BANNER;
-    const std::unique_ptr<const Gdiplus::Image> banner(
-        static_cast<const Gdiplus::Image*>(QorImageFromResource(g_QorUIApp.m_hInstance, MAKEINTRESOURCEW(id), L"PNG")));
+    const void* picture = QorImageFromResource(g_QorUIApp.m_hInstance, MAKEINTRESOURCEW(id), L"PNG");
+    // GDI+ asks for the size through an object that may change.
+    const std::unique_ptr<Gdiplus::Image> banner(static_cast<Gdiplus::Image*>(const_cast<void*>(picture)));
     if (!banner) {
         return;
     }
-    auto* image = const_cast<Gdiplus::Image*>(banner.get()); // GDI+ asks sizes through a non-const object
-    const auto width = static_cast<INT>(image->GetWidth());
-    const auto height = static_cast<INT>(image->GetHeight());
+    const auto width = static_cast<INT>(banner->GetWidth());
+    const auto height = static_cast<INT>(banner->GetHeight());
     Gdiplus::Graphics graphics(dc);
-    graphics.DrawImage(image, kBannerPos.x, kBannerPos.y, width, height);
+    graphics.DrawImage(banner.get(), kBannerPos.x, kBannerPos.y, width, height);
 }
 
 } // namespace
@@ -208,10 +209,10 @@ void CQorFrame::OnGetMinMaxInfo(MINMAXINFO* info)
 void CQorFrame::GetClientPos(CRect& rect) const
 {
     GetClientRect(rect);
-    rect.left += 9;
+    rect.left += QorLook::kContentLeft;
     rect.top += BannerHeight() - 1;
-    rect.right -= 10;
-    rect.bottom -= 10;
+    rect.right -= QorLook::kContentRight;
+    rect.bottom -= kContentBottom;
 }
 
 void CQorFrame::DisableTitleBtn(UINT which, BOOL disable)
