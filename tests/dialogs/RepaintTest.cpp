@@ -3,6 +3,7 @@
 #include <tests/support/ImportHook.h>
 
 #include <algorithm>
+#include <functional>
 
 // What is asked to be painted anew is seen in the calls: the system adds what a change of size uncovers by itself.
 namespace
@@ -128,6 +129,48 @@ TEST(FrameRepaint, ANewShapeIsRedrawn)
     g_shapeRedraws.clear();
     frame.SetWindowPos(nullptr, 0, 0, 700, 500, SWP_NOMOVE | SWP_NOZORDER);
     EXPECT_EQ(std::vector<BOOL>{TRUE}, g_shapeRedraws);
+}
+
+std::vector<int> g_saved;
+std::vector<int> g_restored;
+
+int WINAPI RecordSave(HDC dc)
+{
+    g_saved.push_back(::SaveDC(dc));
+    return g_saved.back();
+}
+
+BOOL WINAPI RecordRestore(HDC dc, int level)
+{
+    g_restored.push_back(level);
+    return ::RestoreDC(dc, level);
+}
+
+/** Whether drawing saves the state of its device context once and goes back to what was saved. */
+bool KeepsState(const std::function<void()>& draw)
+{
+    const ts::ImportHook save(L"QorUI.dll", "SaveDC", &RecordSave);
+    const ts::ImportHook restore(L"QorUI.dll", "RestoreDC", &RecordRestore);
+    g_saved.clear();
+    g_restored.clear();
+    draw();
+    return g_saved.size() == 1 && g_saved == g_restored;
+}
+
+TEST(DialogRepaint, TheDeviceContextsStateIsSavedAndRestored)
+{
+    CTestDialog dialog(IDD_OK_CANCEL, 1);
+    ASSERT_TRUE(dialog.Open());
+    CClientDC dc(&dialog);
+    EXPECT_TRUE(KeepsState([&] { dialog.Paint(dc); }));
+}
+
+TEST(FrameRepaint, TheDeviceContextsStateIsSavedAndRestored)
+{
+    CTestFrame frame;
+    ASSERT_TRUE(frame.Open());
+    EXPECT_TRUE(KeepsState(
+        [&frame] { frame.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_NOCHILDREN); }));
 }
 
 } // namespace
