@@ -2,7 +2,7 @@
 
 #include <QorApi/QorApi.h>
 #include <QorPub/QorPub.h>
-#include <tests/support/ImportHook.h>
+#include <tests/support/Imports.h>
 
 #include <algorithm>
 #include <array>
@@ -370,7 +370,7 @@ TEST(DialogFrame, TitleIsOneLineWithoutPrefixEndingInAnEllipsis)
     CTestDialog dialog(IDD_OK_CANCEL, 1);
     ASSERT_TRUE(dialog.Open());
     dialog.SetWindowText(L"Title");
-    const ts::ImportHook hook(L"afx.dll", "DrawTextW", &RecordDrawText);
+    const ts::ReplacedImport hook(L"afx.dll", "DrawTextW", &RecordDrawText);
     PaintOf(dialog);
     EXPECT_EQ(CRect(32, 0, dialog.ClientSize().cx - 58, 32), g_titlePlace);
     EXPECT_EQ(static_cast<UINT>(DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_HIDEPREFIX), g_titleFormat);

@@ -1,6 +1,6 @@
 #include "TestFrame.h"
 
-#include <tests/support/ImportHook.h>
+#include <tests/support/Imports.h>
 
 // What dialogs and frame windows do when the system refuses them something.
 namespace
@@ -24,7 +24,7 @@ HBITMAP WINAPI NoBitmap(HINSTANCE, LPCWSTR)
 
 TEST(DialogFailure, DoesNotOpenWithoutACloseButton)
 {
-    const ts::ImportHook hook(L"afx.dll", "CreateWindowExW", &RefuseButtons);
+    const ts::ReplacedImport hook(L"afx.dll", "CreateWindowExW", &RefuseButtons);
     CTestDialog modeless(IDD_OK_CANCEL, 1);
     ASSERT_FALSE(modeless.Create(IDD_OK_CANCEL));
     CTestDialog modal(IDD_OK_CANCEL, 1);
@@ -39,7 +39,7 @@ TEST(DialogFailure, FailsToOpenWithoutItsTemplate)
 
 TEST(DialogFailure, LeavesNothingBehindWhenItDoesNotOpen)
 {
-    const ts::ImportHook hook(L"afx.dll", "CreateWindowExW", &RefuseButtons);
+    const ts::ReplacedImport hook(L"afx.dll", "CreateWindowExW", &RefuseButtons);
     EXPECT_TRUE(ts::NoLeak([] {
         CTestDialog dialog(IDD_OK_CANCEL, 5);
         dialog.DoModal();
@@ -48,7 +48,7 @@ TEST(DialogFailure, LeavesNothingBehindWhenItDoesNotOpen)
 
 TEST(DialogFailure, OpensWithoutThePictureOfItsCloseButton)
 {
-    const ts::ImportHook hook(L"QorUI.dll", "LoadBitmapW", &NoBitmap);
+    const ts::ReplacedImport hook(L"QorUI.dll", "LoadBitmapW", &NoBitmap);
     CTestDialog dialog(IDD_OK_CANCEL, 1);
     ts::ModalDriver driver;
     driver.InDialog([](HWND wnd) { ts::Click(::GetDlgItem(wnd, 1003)); });
@@ -63,7 +63,7 @@ TEST(MsgBoxFailure, ABoxThatCannotBeCreatedAnswersMinusOne)
     ts::HostWindow host;
     const HINSTANCE before = AfxGetModuleState()->m_hCurrentResourceHandle;
     AfxGetModuleState()->m_hCurrentResourceHandle = ::GetModuleHandleW(L"kernel32.dll");
-    const ts::ImportHook hook(L"afx.dll", "CreateWindowExW", &RefuseButtons);
+    const ts::ReplacedImport hook(L"afx.dll", "CreateWindowExW", &RefuseButtons);
     EXPECT_EQ(0xFFFFFFFFu, QorMsgBox(L"x", QOR_MSG_CONFIRM, 0, CWnd::FromHandle(host.Hwnd())));
     EXPECT_TRUE(::IsWindowEnabled(host.Hwnd()));
     EXPECT_EQ(::GetModuleHandleW(nullptr), AfxGetModuleState()->m_hCurrentResourceHandle);
@@ -72,7 +72,7 @@ TEST(MsgBoxFailure, ABoxThatCannotBeCreatedAnswersMinusOne)
 
 TEST(MsgBoxFailure, LeavesNothingBehindWhenItCannotBeCreated)
 {
-    const ts::ImportHook hook(L"afx.dll", "CreateWindowExW", &RefuseButtons);
+    const ts::ReplacedImport hook(L"afx.dll", "CreateWindowExW", &RefuseButtons);
     EXPECT_TRUE(ts::NoLeak([] { QorMsgBox(L"x", QOR_MSG_YESNO, 5, nullptr); }));
 }
 
@@ -86,7 +86,7 @@ ATOM WINAPI NoClass(const WNDCLASSW*)
 
 TEST(FrameFailure, IsNotCreatedWhenItsClassCannotBeRegistered)
 {
-    const ts::ImportHook hook(L"afx.dll", "RegisterClassW", &NoClass);
+    const ts::ReplacedImport hook(L"afx.dll", "RegisterClassW", &NoClass);
     CTestFrame frame;
     CREATESTRUCT cs = {};
     cs.lpszClass = L"QorFrameRefusedClass";
@@ -96,7 +96,7 @@ TEST(FrameFailure, IsNotCreatedWhenItsClassCannotBeRegistered)
 
 TEST(FrameFailure, IsNotCreatedWithoutItsTitleButtons)
 {
-    const ts::ImportHook hook(L"afx.dll", "CreateWindowExW", &RefuseButtons);
+    const ts::ReplacedImport hook(L"afx.dll", "CreateWindowExW", &RefuseButtons);
     CTestFrame frame;
     EXPECT_FALSE(frame.Open());
     EXPECT_EQ(nullptr, frame.m_hWnd);
@@ -104,7 +104,7 @@ TEST(FrameFailure, IsNotCreatedWithoutItsTitleButtons)
 
 TEST(FrameFailure, LeavesNothingBehindWhenItIsNotCreated)
 {
-    const ts::ImportHook hook(L"afx.dll", "CreateWindowExW", &RefuseButtons);
+    const ts::ReplacedImport hook(L"afx.dll", "CreateWindowExW", &RefuseButtons);
     EXPECT_TRUE(ts::NoLeak([] {
         CTestFrame frame;
         frame.CreateEx(0, nullptr, L"Frame", 0, CRect(100, 50, 700, 450), nullptr, 0);
@@ -113,7 +113,7 @@ TEST(FrameFailure, LeavesNothingBehindWhenItIsNotCreated)
 
 TEST(FrameFailure, OpensWithoutThePicturesOfItsTitleButtons)
 {
-    const ts::ImportHook hook(L"QorUI.dll", "LoadBitmapW", &NoBitmap);
+    const ts::ReplacedImport hook(L"QorUI.dll", "LoadBitmapW", &NoBitmap);
     CTestFrame frame;
     ASSERT_TRUE(frame.Open());
     ts::Click(::GetDlgItem(frame, 1002));
@@ -127,7 +127,7 @@ BOOL WINAPI NoSystemParameters(UINT, UINT, void*, UINT)
 
 TEST(FrameFailure, WithoutAWorkAreaTheMaximizedHeightStays)
 {
-    const ts::ImportHook hook(L"QorUI.dll", "SystemParametersInfoW", &NoSystemParameters);
+    const ts::ReplacedImport hook(L"QorUI.dll", "SystemParametersInfoW", &NoSystemParameters);
     CTestFrame frame;
     ASSERT_TRUE(frame.Open());
     MINMAXINFO info = {};

@@ -1,7 +1,7 @@
 #include "TestFrame.h"
 
 #include <QorUI/app/GdiPlusFlat.h>
-#include <tests/support/ImportHook.h>
+#include <tests/support/Imports.h>
 
 #include <algorithm>
 #include <memory>
@@ -102,7 +102,7 @@ BOOL WINAPI CountTransparent(HDC, int, int, int, int, HDC, int, int, int, int, U
 
 TEST(Frame, TitleButtonsAreOpaque)
 {
-    const ts::ImportHook hook(L"QorUI.dll", "GdiTransparentBlt", &CountTransparent);
+    const ts::ReplacedImport hook(L"QorUI.dll", "GdiTransparentBlt", &CountTransparent);
     CTestFrame frame;
     ASSERT_TRUE(frame.Open());
     ts::CaptureWindow(frame);
@@ -454,7 +454,7 @@ TEST(Frame, FreesTheBannerAfterEachPaint)
 {
     CTestFrame frame;
     ASSERT_TRUE(frame.Open());
-    const ts::ImportHook hook(L"QorUI.dll", "GdipDisposeImage", &CountFreed);
+    const ts::ReplacedImport hook(L"QorUI.dll", "GdipDisposeImage", &CountFreed);
     g_freedImages = 0;
     for (int i = 0; i < 3; ++i) {
         frame.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
@@ -469,7 +469,7 @@ HRSRC WINAPI NoResource(HMODULE, LPCWSTR, LPCWSTR)
 
 TEST(Frame, WithoutItsPictureTheBannerIsEmpty)
 {
-    const ts::ImportHook hook(L"QorPub.dll", "FindResourceW", &NoResource);
+    const ts::ReplacedImport hook(L"QorPub.dll", "FindResourceW", &NoResource);
     EXPECT_TRUE(ts::AreaIs(BannerArea(FALSE), CRect(0, 0, 488, 198), kBack));
 }
 

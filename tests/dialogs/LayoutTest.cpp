@@ -1,6 +1,6 @@
 #include "TestDialogs.h"
 
-#include <tests/support/ImportHook.h>
+#include <tests/support/Imports.h>
 
 #include <algorithm>
 
@@ -102,7 +102,7 @@ BOOL WINAPI RecordEnable(HWND wnd, BOOL enable)
 
 TEST_F(Layout, ListIsDoneInItsOrder)
 {
-    const ts::ImportHook hook(L"QorUI.dll", "EnableWindow", &RecordEnable);
+    const ts::ReplacedImport hook(L"QorUI.dll", "EnableWindow", &RecordEnable);
     g_enabled.clear();
     QorEnableCtrlsV(&m_dialog, FALSE, 3, 1005, 1001, 1002);
     EXPECT_EQ((std::vector<int>{1005, 1001, 1002}), g_enabled);
@@ -126,7 +126,7 @@ BOOL WINAPI RecordShow(HWND wnd, int command)
 
 TEST_F(Layout, ShowsAsNormalWindows)
 {
-    const ts::ImportHook hook(L"QorUI.dll", "ShowWindow", &RecordShow);
+    const ts::ReplacedImport hook(L"QorUI.dll", "ShowWindow", &RecordShow);
     g_shown.clear();
     QorShowCtrls(&m_dialog, 1001, 1001, FALSE);
     QorShowCtrls(&m_dialog, 1001, 1001, 17);
@@ -144,7 +144,7 @@ BOOL WINAPI RecordMove(HWND wnd, int x, int y, int cx, int cy, BOOL repaint)
 
 TEST_F(Layout, MovedControlsAreRepainted)
 {
-    const ts::ImportHook hook(L"QorUI.dll", "MoveWindow", &RecordMove);
+    const ts::ReplacedImport hook(L"QorUI.dll", "MoveWindow", &RecordMove);
     g_repaints.clear();
     QorMoveCtrls(&m_dialog, 1001, 1002, 5, 0);
     EXPECT_EQ((std::vector<BOOL>{TRUE, TRUE}), g_repaints);

@@ -1,7 +1,7 @@
 #include "TestDialogs.h"
 
 #include <QorApi/QorApi.h>
-#include <tests/support/ImportHook.h>
+#include <tests/support/Imports.h>
 
 namespace
 {
@@ -258,7 +258,7 @@ BOOL WINAPI RecordTopmost(HWND wnd, HWND after, int x, int y, int cx, int cy, UI
 
 TEST(MsgBox, TopmostBitLeavesPlaceAndSize)
 {
-    const ts::ImportHook hook(L"afx.dll", "SetWindowPos", &RecordTopmost);
+    const ts::ReplacedImport hook(L"afx.dll", "SetWindowPos", &RecordTopmost);
     g_topmostFlags = 0;
     Shown shown;
     Answer(L"x", QOR_MSG_INFO | kTopmost, 0, IDOK, shown);
@@ -415,7 +415,7 @@ BOOL WINAPI RecordKill(HWND wnd, UINT_PTR id)
 /** The timers that a box of that type sets. */
 std::vector<Timer> TimersOf(UINT type)
 {
-    const ts::ImportHook hook(L"afx.dll", "SetTimer", &RecordTimer);
+    const ts::ReplacedImport hook(L"afx.dll", "SetTimer", &RecordTimer);
     g_timers.clear();
     Shown shown;
     Answer(L"x", type, 0, IDOK, shown);
@@ -440,7 +440,7 @@ TEST(MsgBox, WithoutSecondsThereIsNoTimer)
 
 TEST(MsgBox, TimerEndsWithTheBox)
 {
-    const ts::ImportHook hook(L"afx.dll", "KillTimer", &RecordKill);
+    const ts::ReplacedImport hook(L"afx.dll", "KillTimer", &RecordKill);
     g_killed.clear();
     ts::ModalDriver driver;
     driver.InDialog([](HWND box) { ::PostMessageW(box, WM_TIMER, 1, 0); });

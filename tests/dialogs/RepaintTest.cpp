@@ -1,6 +1,6 @@
 #include "TestFrame.h"
 
-#include <tests/support/ImportHook.h>
+#include <tests/support/Imports.h>
 
 #include <algorithm>
 #include <functional>
@@ -27,7 +27,7 @@ BOOL WINAPI RecordInvalidate(HWND wnd, const RECT* rect, BOOL erase)
 /** Gives a window another size. @return what was invalidated of the window itself; nothing of it is to be erased. */
 std::vector<CRect> PartsAfter(HWND wnd, int cx, int cy)
 {
-    const ts::ImportHook hook(L"afx.dll", "InvalidateRect", &RecordInvalidate);
+    const ts::ReplacedImport hook(L"afx.dll", "InvalidateRect", &RecordInvalidate);
     g_invalidated.clear();
     ::SetWindowPos(wnd, nullptr, 0, 0, cx, cy, SWP_NOMOVE | SWP_NOZORDER);
     std::vector<CRect> parts;
@@ -53,7 +53,7 @@ TEST(DialogRepaint, SizingPaintsOnlyWhatChanges)
 
 TEST(DialogRepaint, TheWholeDialogIsPaintedWhenItsCloseButtonWasMade)
 {
-    const ts::ImportHook hook(L"afx.dll", "InvalidateRect", &RecordInvalidate);
+    const ts::ReplacedImport hook(L"afx.dll", "InvalidateRect", &RecordInvalidate);
     g_invalidated.clear();
     CTestDialog dialog(IDD_OK_CANCEL, 1);
     ASSERT_TRUE(dialog.Create(IDD_OK_CANCEL));
@@ -101,7 +101,7 @@ TEST(FrameRepaint, TitleButtonsMoveWithoutRepaintAndAreInvalidated)
 {
     CTestFrame frame;
     ASSERT_TRUE(frame.Open());
-    const ts::ImportHook hook(L"afx.dll", "MoveWindow", &RecordMove);
+    const ts::ReplacedImport hook(L"afx.dll", "MoveWindow", &RecordMove);
     g_repaints.clear();
     PartsAfter(frame, 700, 500);
     EXPECT_EQ((std::vector<BOOL>{FALSE, FALSE, FALSE}), g_repaints);
@@ -125,7 +125,7 @@ TEST(FrameRepaint, ANewShapeIsRedrawn)
 {
     CTestFrame frame;
     ASSERT_TRUE(frame.Open());
-    const ts::ImportHook hook(L"afx.dll", "SetWindowRgn", &RecordShape);
+    const ts::ReplacedImport hook(L"afx.dll", "SetWindowRgn", &RecordShape);
     g_shapeRedraws.clear();
     frame.SetWindowPos(nullptr, 0, 0, 700, 500, SWP_NOMOVE | SWP_NOZORDER);
     EXPECT_EQ(std::vector<BOOL>{TRUE}, g_shapeRedraws);
@@ -149,8 +149,8 @@ BOOL WINAPI RecordRestore(HDC dc, int level)
 /** Whether drawing saves the state of its device context once and goes back to what was saved. */
 bool KeepsState(const std::function<void()>& draw)
 {
-    const ts::ImportHook save(L"QorUI.dll", "SaveDC", &RecordSave);
-    const ts::ImportHook restore(L"QorUI.dll", "RestoreDC", &RecordRestore);
+    const ts::ReplacedImport save(L"QorUI.dll", "SaveDC", &RecordSave);
+    const ts::ReplacedImport restore(L"QorUI.dll", "RestoreDC", &RecordRestore);
     g_saved.clear();
     g_restored.clear();
     draw();

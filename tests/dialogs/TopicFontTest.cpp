@@ -1,6 +1,6 @@
 #include "TestDialogs.h"
 
-#include <tests/support/ImportHook.h>
+#include <tests/support/Imports.h>
 
 // The topic font is made once in a process, so what happens when it cannot be made needs a program of its own, and the
 // steps of its one test follow from each other.
@@ -34,7 +34,7 @@ TEST(TopicFont, IsTriedAgainUntilItOrTheStockFaceCanBeMade)
 {
     CTestBaseDlg dialog;
     ASSERT_TRUE(dialog.Create(IDD_PLAIN));
-    const ts::ImportHook hook(L"afx.dll", "CreateFontIndirectW", &MakeOrFail);
+    const ts::ReplacedImport hook(L"afx.dll", "CreateFontIndirectW", &MakeOrFail);
 
     const HFONT before = FontHandle(dialog, IDC_FIRST);
     g_failures = 2;

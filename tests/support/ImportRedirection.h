@@ -39,9 +39,7 @@ class ImportRedirection
         void* original;
     };
 
-    void Redirect(HMODULE module);
-    void RedirectImports(void** place);
-    static void Write(void** place, void* value);
+    void Redirect(void** place);
 
     std::vector<Function> m_functions;
     std::vector<Slot> m_slots;
