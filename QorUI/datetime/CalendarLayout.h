@@ -134,15 +134,10 @@ inline DayPlace PlaceOfDay(int left, int top, int slot, int dayWidth, int dayHei
     return {{x, y + 1, x + dayWidth, y + dayHeight + 1}, {x - kDayLeft, y, x + dayWidth + 2, y + dayHeight + kWeekGap}};
 }
 
-/** The date of the first slot: the last day up to the 1st of the month that has the weekday; 1 is Sunday. */
-inline COleDateTime FirstSlotDate(Month month, int firstDayOfWeek)
+/** The slot of a month's first day: its place in a week that begins with the given weekday; 1 is Sunday. */
+inline int FirstSlot(const COleDateTime& first, int firstDayOfWeek)
 {
-    const COleDateTime first(month.year, month.month, 1, 0, 0, 0);
-    if (first.GetStatus() != COleDateTime::valid) {
-        return first;
-    }
-    const int before = (first.GetDayOfWeek() - firstDayOfWeek + kWeekDays) % kWeekDays;
-    return first - COleDateTimeSpan(before);
+    return (first.GetDayOfWeek() - firstDayOfWeek + kWeekDays) % kWeekDays;
 }
 
 /** First and last day of a selection. */

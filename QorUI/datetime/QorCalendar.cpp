@@ -405,13 +405,13 @@ int CQorCalendar::DrawDays(CDC& dc, int y, int x, int row, int col, int month, i
     const CTextModeSaver mode(dc, m_crNormal, TRANSPARENT);
     const int left = QorMonth::RowLeft(x, m_nCellWidth, m_nDayWidth);
     const COleDateTimeSpan oneDay(1);
-    COleDateTime date = QorMonth::FirstSlotDate({year, month}, m_nFirstDayOfWeek);
-    for (int slot = 0; slot < QorMonth::kSlots; ++slot, date += oneDay) {
-        if (date.GetMonth() == month) {
-            const QorMonth::DayPlace place = QorMonth::PlaceOfDay(left, y, slot, m_nDayWidth, m_nDayHeight);
-            DrawDay(dc, date, place.text, place.area);
-            SetCellDayPos(row, col, slot, date, place.area);
-        }
+    COleDateTime date(year, month, 1, 0, 0, 0);
+    // Counted from the month's first day: there may be no dates before it.
+    int slot = QorMonth::FirstSlot(date, m_nFirstDayOfWeek);
+    for (; slot < QorMonth::kSlots && date.GetMonth() == month; ++slot, date += oneDay) {
+        const QorMonth::DayPlace place = QorMonth::PlaceOfDay(left, y, slot, m_nDayWidth, m_nDayHeight);
+        DrawDay(dc, date, place.text, place.area);
+        SetCellDayPos(row, col, slot, date, place.area);
     }
     const int height = QorMonth::kWeeks * (m_nDayHeight + QorMonth::kWeekGap);
     const int width = QorMonth::RowWidth(m_nDayWidth);
@@ -548,27 +548,38 @@ BOOL CQorCalendar::InCellDay(CPoint& point)
 /** Moves on by one grid of months. @param direction 1 forwards, -1 backwards */
 void CQorCalendar::Page(int direction)
 {
-    const CWaitCursor wait;
     ClearDays();
     const QorMonth::Month first = QorMonth::AddMonths({m_nYear, m_nMonth}, direction * m_nRows * m_nCols);
     m_nYear = first.year;
     m_nMonth = first.month;
 }
 
-void CQorCalendar::ScrollLeft(int pages)
+/** Moves on by so many grids and shows where that leads, which takes time when the special days are slow to tell. */
+void CQorCalendar::Scroll(int direction, int pages)
 {
+    const CWaitCursor wait;
     for (; pages > 0; --pages) {
-        Page(-1);
+        Page(direction);
     }
     Repaint();
 }
 
+void CQorCalendar::ScrollLeft(int pages)
+{
+    if (pages < 1) {
+        Repaint();
+    } else {
+        Scroll(-1, pages);
+    }
+}
+
 void CQorCalendar::ScrollRight(int pages)
 {
-    for (; pages > 0; --pages) {
-        Page(1);
+    if (pages < 1) {
+        Repaint();
+    } else {
+        Scroll(1, pages);
     }
-    Repaint();
 }
 
 /** Direction of the arrow under a point: -1, 1, or 0 without one. */
@@ -588,8 +599,7 @@ void CQorCalendar::OnLButtonDown(UINT /*flags*/, CPoint point)
     m_dtAnchor.SetStatus(COleDateTime::invalid);
     if (const int direction = PageAt(point); direction != 0) {
         m_bTrackArrow = TRUE;
-        Page(direction);
-        Repaint();
+        Scroll(direction, 1);
     } else if (InCellHdr(point)) {
         OpenMonthList(HdrHitTest(point));
     } else if (InCellDay(point) && m_nMaxSelDays != 0) {
@@ -649,15 +659,14 @@ void CQorCalendar::OnMouseMove(UINT /*flags*/, CPoint point)
         }
     } else if (m_bTrackArrow) {
         if (const int direction = PageAt(point); direction != 0) {
-            Page(direction);
-            Repaint();
+            Scroll(direction, 1);
         }
     }
 }
 
 void CQorCalendar::TrackCellDay(CalendarDay* day)
 {
-    if (!day || m_nMaxSelDays == 0 || !IsValid(m_dtAnchor)) {
+    if (!day || m_nMaxSelDays == 0 || (m_nMaxSelDays > 1 && !IsValid(m_dtAnchor))) {
         return;
     }
     const QorMonth::DayRange range = QorMonth::DragRange(m_dtAnchor, day->date, m_nMaxSelDays);

@@ -197,6 +197,7 @@ class QORUI_API CQorCalendar : public CWnd
     void DrawMonth(CDC& dc, int row, int col, int month, int year);
     void Select(const COleDateTime& start, const COleDateTime& end);
     void Page(int direction);
+    void Scroll(int direction, int pages);
     int PageAt(CPoint point) const;
     void OpenMonthList(CalendarCell* cell);
     void CloseMonthList();

@@ -2,6 +2,7 @@
 
 #include <QorUI/datetime/QorCalendar.h>
 #include <tests/support/AfxHost.h>
+#include <tests/support/Imports.h>
 #include <tests/support/Support.h>
 
 /** @file What the tests of the calendar share. */
@@ -83,6 +84,46 @@ inline std::wstring Selection(CQorCalendar& calendar)
     }
     return std::wstring(start.Format(L"%Y-%m-%d")) + L" to " + end.Format(L"%Y-%m-%d").GetString();
 }
+
+/** Watches that a window changes only by pictures that are copied to it whole. */
+class ScreenWatch
+{
+  public:
+    explicit ScreenWatch(HWND wnd) : m_wnd(wnd), m_last(ts::CaptureWindow(wnd)) { s_current = this; }
+    ~ScreenWatch() { s_current = nullptr; }
+    ScreenWatch(const ScreenWatch&) = delete;
+    ScreenWatch& operator=(const ScreenWatch&) = delete;
+
+    /** How many pictures were copied. Fails the test when anything else was drawn. */
+    int Copies()
+    {
+        Compare();
+        return m_copies;
+    }
+
+  private:
+    void Compare() { EXPECT_TRUE(ts::SamePicture(m_last, ts::CaptureWindow(m_wnd))) << "drawn beside the copies"; }
+
+    static BOOL WINAPI Copy(HDC to, int x, int y, int cx, int cy, HDC from, int fromX, int fromY, DWORD operation)
+    {
+        const bool watched = s_current && ::WindowFromDC(to) == s_current->m_wnd;
+        if (watched) {
+            s_current->Compare();
+        }
+        const BOOL copied = ::BitBlt(to, x, y, cx, cy, from, fromX, fromY, operation);
+        if (watched) {
+            ++s_current->m_copies;
+            s_current->m_last = ts::CaptureWindow(s_current->m_wnd);
+        }
+        return copied;
+    }
+
+    static inline ScreenWatch* s_current = nullptr;
+    HWND m_wnd;
+    ts::Picture m_last;
+    int m_copies = 0;
+    ts::ReplacedImport m_import{L"afx.dll", "BitBlt", &Copy};
+};
 
 /** A calendar in a window; weeks begin with Sunday and the first month is March 2009, which begins with one. */
 class CalendarFixture : public testing::Test

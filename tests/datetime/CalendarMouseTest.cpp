@@ -197,6 +197,34 @@ TEST_F(CalendarMouse, HeldArrowPagesWithEveryMove)
     EXPECT_EQ(5, m_calendar.m_nMonth);
 }
 
+TEST_F(CalendarMouse, WaitCursorIsShownUntilAPageIsPainted)
+{
+    HCURSOR whilePainting = nullptr;
+    Make(
+        1, 1,
+        [](COleDateTime& /*date*/, void* data) {
+            *static_cast<HCURSOR*>(data) = GetCursor();
+            return 0;
+        },
+        &whilePainting);
+    const HCURSOR wait = LoadCursorW(nullptr, IDC_WAIT);
+    Press(m_calendar.m_rcRightArrow);
+    EXPECT_EQ(wait, whilePainting);
+    EXPECT_NE(wait, GetCursor());
+    const CPoint middle = CRect(m_calendar.m_rcRightArrow).CenterPoint();
+    whilePainting = nullptr;
+    ts::MoveMouse(m_calendar.m_hWnd, middle.x, middle.y + 1);
+    EXPECT_EQ(wait, whilePainting);
+    ts::MouseUp();
+    EXPECT_NE(wait, whilePainting);
+    m_calendar.ScrollLeft(1);
+    EXPECT_EQ(wait, whilePainting);
+    m_calendar.ScrollRight(0);
+    EXPECT_NE(wait, whilePainting);
+    m_calendar.ScrollRight(2);
+    EXPECT_EQ(wait, whilePainting);
+}
+
 TEST_F(CalendarMouse, ArrowsWinOverTheHeader)
 {
     Begin(1);
@@ -243,6 +271,52 @@ TEST_F(CalendarMouse, TrackingWithoutADayIsIgnored)
     m_calendar.TrackCellDay(nullptr);
     m_calendar.TrackCellDay(&m_calendar.m_pCells[0].days[3]);
     EXPECT_EQ(L"none", Selection(m_calendar));
+}
+
+TEST_F(CalendarMouse, SingleDayNeedsNoBeginningToFollowTheMouse)
+{
+    Begin(1);
+    m_calendar.TrackCellDay(&m_calendar.m_pCells[0].days[3]);
+    EXPECT_EQ(L"2009-03-04 to 2009-03-04", Selection(m_calendar));
+}
+
+TEST_F(CalendarMouse, EveryPressForgetsWhereTheLastDragBegan)
+{
+    Begin(7);
+    Drag(Date(2009, 3, 10), Date(2009, 3, 12));
+    EXPECT_EQ(L"2009-03-10 00:00", Text(m_calendar.m_dtAnchor));
+    Press(m_calendar.m_rcRightArrow);
+    EXPECT_EQ(L"none", Text(m_calendar.m_dtAnchor));
+    ts::MouseUp();
+    EXPECT_EQ(L"2009-03-10 to 2009-03-12", Selection(m_calendar)) << "the selection stays";
+}
+
+TEST_F(CalendarMouse, CaptureIsGivenBackBeforeTheParentIsTold)
+{
+    Begin(7);
+    HWND capture = m_host.m_hWnd;
+    std::wstring selection;
+    m_host.Log().Answer(WM_NOTIFY, [&](const ts::Message& /*message*/) {
+        capture = GetCapture();
+        selection = Selection(m_calendar);
+        return std::nullopt;
+    });
+    Drag(Date(2009, 3, 10), Date(2009, 3, 12));
+    EXPECT_EQ(nullptr, capture);
+    EXPECT_EQ(L"2009-03-10 to 2009-03-12", selection);
+}
+
+TEST_F(CalendarMouse, DragGoesOnWithTheMouseOutside)
+{
+    Begin(7);
+    PressOn(Date(2009, 3, 10));
+    ts::MoveMouse(m_host.m_hWnd, 480, 380);
+    EXPECT_EQ(L"2009-03-10 to 2009-03-10", Selection(m_calendar));
+    MoveTo(Date(2009, 3, 11));
+    EXPECT_EQ(L"2009-03-10 to 2009-03-11", Selection(m_calendar));
+    ts::MoveMouse(m_host.m_hWnd, 480, 380);
+    ts::MouseUp();
+    EXPECT_TRUE(m_host.Log().Is({kClick}));
 }
 
 TEST_F(CalendarMouse, NotificationIsSentAfterARepaint)

@@ -364,6 +364,25 @@ TEST_F(CalendarPaint, MonthsBeyondTheLastYearAreEmpty)
     EXPECT_EQ(10000, m_calendar.m_nYear);
 }
 
+TEST_F(CalendarPaint, MonthsBeforeTheFirstYearAreEmpty)
+{
+    m_calendar.SetFirstDayOfWeek(1);
+    m_calendar.SetCurrentYearMonth(101, 2);
+    ASSERT_TRUE(m_calendar.Create(&m_host, kCalendarId, nullptr, nullptr, 1, 2));
+    m_calendar.ScrollLeft(7);
+    EXPECT_EQ(99, m_calendar.m_nYear);
+    EXPECT_EQ(12, m_calendar.m_nMonth);
+    for (const CalendarDay& day : m_calendar.m_pCells[0].days) {
+        EXPECT_TRUE(IsRectEmpty(&day.rc));
+    }
+    // The first date that there is has no days before it, whatever weekday the weeks begin with.
+    EXPECT_NE(nullptr, PlaceOf(Date(100, 1, 1)));
+    EXPECT_NE(nullptr, PlaceOf(Date(100, 1, 31)));
+    EXPECT_TRUE(m_calendar.m_pCells[1].days[Date(100, 1, 1).GetDayOfWeek() - 1].date == Date(100, 1, 1));
+    m_calendar.ScrollLeft(1000);
+    EXPECT_EQ(L"none", Selection(m_calendar));
+}
+
 TEST_F(CalendarPaint, ErasingDoesNothing)
 {
     Make();
@@ -373,31 +392,13 @@ TEST_F(CalendarPaint, ErasingDoesNothing)
     EXPECT_EQ(400, picture.Count(kPaper));
 }
 
-TEST_F(CalendarPaint, NothingIsSeenBeforeThePictureIsComplete)
+TEST_F(CalendarPaint, PictureReachesTheScreenInOneStep)
 {
-    struct Watch
-    {
-        CTestCalendar* calendar = nullptr;
-        ts::Picture old;
-        int compared = 0;
-    } watch;
-    Make(
-        1, 1,
-        [](COleDateTime& /*date*/, void* data) {
-            Watch& seen = *static_cast<Watch*>(data);
-            if (seen.calendar) {
-                ++seen.compared;
-                EXPECT_TRUE(ts::SamePicture(seen.old, ts::CaptureWindow(seen.calendar->m_hWnd)));
-            }
-            return 0;
-        },
-        &watch);
-    watch.old = Look();
-    watch.calendar = &m_calendar;
+    Make(2, 2, &IsMonday);
+    ScreenWatch watch(m_calendar.m_hWnd);
     m_calendar.SetBkColor(RGB(0, 200, 0));
     m_calendar.RedrawWindow();
-    watch.calendar = nullptr;
-    EXPECT_EQ(31, watch.compared);
+    EXPECT_EQ(1, watch.Copies());
     EXPECT_TRUE(ts::PixelIs(Look(), 1, DaysTop() + 1, RGB(0, 200, 0)));
 }
 

@@ -12,6 +12,19 @@ COleDateTime Invalid()
     return date;
 }
 
+int g_fontsLeft = 0;
+
+/** The system's function until its fonts run out. */
+HFONT WINAPI FewFonts(const LOGFONTW* font)
+{
+    return g_fontsLeft-- > 0 ? ::CreateFontIndirectW(font) : nullptr;
+}
+
+HWND WINAPI NoWindow(DWORD, LPCWSTR, LPCWSTR, DWORD, int, int, int, int, HWND, HMENU, HINSTANCE, LPVOID)
+{
+    return nullptr;
+}
+
 class Calendar : public CalendarFixture
 {
   protected:
@@ -101,6 +114,27 @@ TEST_F(Calendar, CreateWorksAfterARefusal)
     EXPECT_TRUE(m_calendar.Create(&m_host, kCalendarId, nullptr, nullptr, 1, 1));
     EXPECT_FALSE(m_calendar.Create(&m_host, kCalendarId, nullptr, nullptr, 1, 1));
     EXPECT_EQ(1, m_calendar.m_nRows);
+}
+
+TEST_F(Calendar, CreateFailsWithoutItsFontsOrItsWindow)
+{
+    const auto create = [this] { return m_calendar.Create(&m_host, kCalendarId, nullptr, nullptr, 2, 3); };
+    for (const int fonts : {0, 1, 2, 3}) { // each of the two is made twice
+        const ts::ReplacedImport few(L"afx.dll", "CreateFontIndirectW", &FewFonts);
+        g_fontsLeft = fonts;
+        EXPECT_FALSE(create()) << fonts;
+        EXPECT_EQ(nullptr, m_calendar.m_hWnd) << fonts;
+        EXPECT_EQ(nullptr, m_calendar.m_pCells.get()) << fonts;
+        EXPECT_EQ(0, m_calendar.m_nRows + m_calendar.m_nCols) << fonts;
+    }
+    {
+        const ts::ReplacedImport none(L"afx.dll", "CreateWindowExW", &NoWindow);
+        EXPECT_FALSE(create());
+        EXPECT_EQ(nullptr, m_calendar.m_pCells.get());
+        EXPECT_EQ(0, m_calendar.m_nRows + m_calendar.m_nCols);
+    }
+    EXPECT_EQ(nullptr, ::GetWindow(m_host.m_hWnd, GW_CHILD)) << "no window is left";
+    EXPECT_TRUE(create());
 }
 
 TEST_F(Calendar, WindowIsAsLargeAsItsMonths)

@@ -3,6 +3,7 @@
 #include <QorUI/datetime/QorClock.h>
 #include <tests/app/Drawn.h>
 #include <tests/support/AfxHost.h>
+#include <tests/support/Imports.h>
 
 namespace
 {
@@ -15,6 +16,19 @@ const CPoint kCenter(80, 80);
 
 const ts::Expected kBegin = ts::Notify(kClockId, static_cast<UINT>(-4000));
 const ts::Expected kEnd = ts::Notify(kClockId, static_cast<UINT>(-4001));
+
+UINT g_period = 0;
+
+UINT_PTR WINAPI RefuseTimer(HWND, UINT_PTR, UINT period, TIMERPROC)
+{
+    g_period = period;
+    return 0;
+}
+
+HDC WINAPI NoMemoryDc(HDC)
+{
+    return nullptr;
+}
 
 int Nearest(double value)
 {
@@ -156,6 +170,16 @@ TEST_F(Clock, ErasingDrawsTheDial)
     EXPECT_EQ(1, m_clock.SendMessage(WM_ERASEBKGND, 0));
 }
 
+TEST_F(Clock, ErasingWithoutAMemoryDcDrawsNothingAndIsDone)
+{
+    Make();
+    const ts::ReplacedImport none(L"QorUI.dll", "CreateCompatibleDC", &NoMemoryDc);
+    const ts::Picture erased = ts::DrawTo(
+        161, 161, [this](HDC dc) { EXPECT_EQ(1, m_clock.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc))); },
+        kPaper);
+    EXPECT_EQ(161 * 161, erased.Count(kPaper));
+}
+
 TEST_F(Clock, PaintsTheHandsAndTheHalfOfTheDay)
 {
     Make();
@@ -223,6 +247,77 @@ TEST_F(Clock, DragTellsTheParentItsBeginningAndEnd)
     ts::MouseUp();
     EXPECT_EQ(nullptr, GetCapture());
     EXPECT_TRUE(m_host.Log().Is({kBegin, kEnd}));
+}
+
+TEST_F(Clock, ParentIsToldWithTheMouseCapturedAndWhenItIsFreeAgain)
+{
+    Make();
+    std::vector<HWND> captures;
+    m_host.Log().Answer(WM_NOTIFY, [&](const ts::Message& message) {
+        captures.push_back(GetCapture());
+        EXPECT_EQ(m_clock.m_hWnd, message.from);
+        return std::nullopt;
+    });
+    Grab();
+    ts::MouseUp();
+    EXPECT_EQ((std::vector<HWND>{m_clock.m_hWnd, nullptr}), captures);
+}
+
+TEST_F(Clock, HandStaysTakenUntilTheNextMoveWithoutAButton)
+{
+    Make();
+    Grab();
+    MoveToMinute(10); // beyond the end of the hand
+    // By messages: the system tells of a move when the capture is given back.
+    for (const UINT message : {WM_LBUTTONUP, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_MOUSEMOVE, WM_LBUTTONDOWN}) {
+        m_clock.SendMessage(message, message == WM_LBUTTONDOWN ? MK_LBUTTON : 0, MAKELPARAM(80, 5));
+    }
+    EXPECT_TRUE(m_host.Log().Is({kBegin, kEnd, kBegin, kEnd}));
+    ts::MouseUp();
+}
+
+TEST_F(Clock, CursorIsTheHandAgainWhenTheParentChangedIt)
+{
+    Make();
+    m_host.Log().Answer(WM_NOTIFY, [&](const ts::Message& /*message*/) {
+        SetCursor(Cursor(IDC_CROSS));
+        return std::nullopt;
+    });
+    Grab();
+    EXPECT_EQ(Cursor(IDC_HAND), GetCursor());
+    ts::MouseUp();
+}
+
+TEST_F(Clock, PassingTwelveIsSeenFromTheMinuteOfTheLastDrag)
+{
+    Make();
+    m_clock.SetTime(11, 58); // no drag: half past was dragged last
+    Show();
+    Grab();
+    MoveToMinute(3);
+    EXPECT_EQ("11:03", Time());
+    MoveToMinute(58);
+    EXPECT_EQ("10:58", Time());
+    MoveToMinute(2);
+    EXPECT_EQ("11:02", Time());
+    ts::MouseUp();
+}
+
+TEST_F(Clock, EveryStepOfADragIsPainted)
+{
+    Make();
+    Grab();
+    const ts::Picture half = Look();
+    MoveToMinute(35);
+    const ts::Picture later = Look();
+    EXPECT_FALSE(ts::SamePicture(half, later));
+    m_clock.ValidateRect(nullptr);
+    m_clock.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(10, 80));
+    EXPECT_TRUE(NeedsPaint());
+    m_clock.ValidateRect(nullptr);
+    m_clock.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(11, 80));
+    EXPECT_FALSE(NeedsPaint()) << "the same minute";
+    ts::MouseUp();
 }
 
 TEST_F(Clock, PressBesideTheHandDoesNothing)
@@ -366,6 +461,40 @@ TEST_F(Clock, AnimationRunsByItself)
     m_clock.SetTimeAnimate(14, 0, TRUE);
     EXPECT_TRUE(ts::PumpUntil([this] { return Time() == "14:00"; }));
     EXPECT_TRUE(ts::PumpUntil([this] { return !m_clock.KillTimer(1); }));
+}
+
+TEST_F(Clock, AnimationTakesAboutHalfASecond)
+{
+    Make();
+    const ULONGLONG start = GetTickCount64();
+    m_clock.SetTimeAnimate(14, 0, TRUE);
+    EXPECT_TRUE(ts::PumpUntil([this] { return Time() == "14:00"; }));
+    EXPECT_GE(GetTickCount64() - start, 400u);
+}
+
+TEST_F(Clock, WithoutATimerTheTimeIsShownAtOnce)
+{
+    Make();
+    const ts::ReplacedImport refuse(L"afx.dll", "SetTimer", &RefuseTimer);
+    m_clock.SetTimeAnimate(14, 5, TRUE);
+    EXPECT_EQ(50u, g_period);
+    EXPECT_EQ("14:05", Time());
+    EXPECT_TRUE(NeedsPaint());
+    m_clock.OnTimer(1);
+    EXPECT_EQ("14:05", Time());
+}
+
+TEST_F(Clock, NewAnimationTakesTheOthersPlace)
+{
+    Make();
+    m_clock.SetTime(23, 50);
+    m_clock.SetTimeAnimate(0, 10, TRUE);
+    m_clock.SetTimeAnimate(20, 30, FALSE);
+    for (int tick = 0; tick < 10; ++tick) {
+        m_clock.OnTimer(1);
+    }
+    EXPECT_EQ("20:30", Time());
+    EXPECT_FALSE(m_clock.KillTimer(1));
 }
 
 TEST_F(Clock, AnimationToTheShownTimeSetsNoTimer)

@@ -102,23 +102,17 @@ TEST(CalendarGeometry, DaysStandInColumnsAndWeeks)
     EXPECT_EQ(CRect(299, 365, 316, 378), PlaceOfDay(200, 300, 41, kDayWidth, kDayHeight).area);
 }
 
-TEST(CalendarFirstSlot, IsTheLastSuchWeekdayUpToTheFirst)
+TEST(CalendarFirstSlot, DependsOnTheWeekdayThatBeginsTheWeek)
 {
-    EXPECT_TRUE(FirstSlotDate({2009, 4}, 1) == Day(29, 3));
-    EXPECT_TRUE(FirstSlotDate({2009, 4}, 2) == Day(30, 3));
-    EXPECT_TRUE(FirstSlotDate({2009, 4}, 5) == Day(26, 3));
+    EXPECT_EQ(3, FirstSlot(Day(1, 4), 1));
+    EXPECT_EQ(2, FirstSlot(Day(1, 4), 2));
+    EXPECT_EQ(6, FirstSlot(Day(1, 4), 5));
 }
 
 TEST(CalendarFirstSlot, MonthThatBeginsOnTheWeekdayBeginsInTheFirstSlot)
 {
-    EXPECT_TRUE(FirstSlotDate({2009, 3}, 1) == Day(1));
-    EXPECT_TRUE(FirstSlotDate({2009, 4}, 4) == Day(1, 4));
-}
-
-TEST(CalendarFirstSlot, MonthOutsideTheDatesHasNone)
-{
-    EXPECT_NE(COleDateTime::valid, FirstSlotDate({10000, 1}, 1).GetStatus());
-    EXPECT_NE(COleDateTime::valid, FirstSlotDate({99, 12}, 1).GetStatus());
+    EXPECT_EQ(0, FirstSlot(Day(1), 1));
+    EXPECT_EQ(0, FirstSlot(Day(1, 4), 4));
 }
 
 TEST(CalendarDrag, ForwardsTakesTheFirstDays)

@@ -1,5 +1,16 @@
 #include <QorUI/datetime/MemDC.h>
 #include <tests/app/Drawn.h>
+#include <tests/support/Imports.h>
+
+namespace
+{
+
+HBITMAP WINAPI NoBitmap(HDC, int, int)
+{
+    return nullptr;
+}
+
+} // namespace
 
 TEST(MemDC, DrawsAtTheTargetsCoordinates)
 {
@@ -44,6 +55,19 @@ TEST(MemDC, EmptyClipBoxPaintsNothing)
         CMemDC memory(&dc);
         memory.FillSolidRect(0, 0, 20, 20, RGB(10, 20, 30));
     });
+    EXPECT_EQ(400, picture.Count(kPaper));
+}
+
+TEST(MemDC, WithoutMemoryForThePictureNothingIsPainted)
+{
+    const ts::ReplacedImport none(L"afx.dll", "CreateCompatibleBitmap", &NoBitmap);
+    ts::Picture picture = ts::DrawTo(
+        20, 20,
+        [](HDC dc) {
+            CMemDC memory(CDC::FromHandle(dc));
+            memory.FillSolidRect(0, 0, 20, 20, RGB(10, 20, 30));
+        },
+        kPaper);
     EXPECT_EQ(400, picture.Count(kPaper));
 }
 

@@ -5,6 +5,11 @@
 namespace
 {
 
+HWND WINAPI NoWindow(DWORD, LPCWSTR, LPCWSTR, DWORD, int, int, int, int, HWND, HMENU, HINSTANCE, LPVOID)
+{
+    return nullptr;
+}
+
 class MonthList : public CalendarFixture
 {
   protected:
@@ -188,6 +193,54 @@ TEST_F(MonthList, MovesInsideSetTheScrollingBack)
     MoveToRow(3);
     MoveOutside(5, 9);
     EXPECT_EQ(Name(6, 2009), Choose());
+}
+
+TEST_F(MonthList, PictureReachesTheScreenInOneStep)
+{
+    Open();
+    const ts::Picture before = ts::CaptureWindow(List());
+    ScreenWatch watch(List());
+    MoveToRow(6);
+    EXPECT_LE(1, watch.Copies());
+    EXPECT_FALSE(ts::SamePicture(before, ts::CaptureWindow(List())));
+    ts::MouseUp();
+}
+
+TEST_F(MonthList, OnlyMouseMovesScroll)
+{
+    Open();
+    MoveOutside(-5, 9);
+    MSG other = {m_calendar.m_hWnd, WM_TIMER, 0, 0, 0, {0, 0}};
+    for (int i = 0; i < 20; ++i) {
+        m_calendar.PreTranslateMessage(&other);
+    }
+    EXPECT_EQ(Name(12, 2008), Choose());
+}
+
+TEST_F(MonthList, ScrollsBackAsFarAsTheYearOneHundredAndTheCalendarShowsTheNext)
+{
+    m_calendar.SetFirstDayOfWeek(1);
+    m_calendar.SetCurrentYearMonth(101, 2);
+    ASSERT_TRUE(m_calendar.Create(&m_host, kCalendarId, nullptr, nullptr, 1, 1));
+    Show();
+    ts::SetPreTranslate([this](MSG& msg) { return CWnd::WalkPreTranslateTree(m_host.m_hWnd, &msg) != FALSE; });
+    PressHeader(0);
+    MoveOutside(-40, 25); // five moves for two months
+    MoveToRow(3);
+    EXPECT_EQ(Name(12, 101), Choose()) << "December 100, taken into the calendar's years";
+}
+
+TEST_F(MonthList, WithoutItsWindowNothingIsTracked)
+{
+    Make();
+    {
+        const ts::ReplacedImport none(L"afx.dll", "CreateWindowExW", &NoWindow);
+        PressHeader(0);
+    }
+    EXPECT_EQ(nullptr, m_calendar.m_pSelMonthWnd);
+    EXPECT_FALSE(m_calendar.m_bTrackMonth);
+    EXPECT_EQ(nullptr, GetCapture());
+    EXPECT_EQ(Name(3, 2009), Choose());
 }
 
 TEST_F(MonthList, ErasingDoesNothing)
