@@ -8,6 +8,7 @@
 
 BEGIN_MESSAGE_MAP(CQorLink, CStatic)
     ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
     ON_WM_MOUSEMOVE()
     ON_WM_SETCURSOR()
     ON_CONTROL_REFLECT(STN_CLICKED, &CQorLink::OnClicked)
@@ -203,6 +204,21 @@ void CQorLink::OnPaint()
     CRect client;
     GetClientRect(&client);
     dc.DrawText(text, &client, DT_WORDBREAK | DT_EDITCONTROL);
+}
+
+BOOL CQorLink::OnEraseBkgnd(CDC* dc)
+{
+    // Smoothed text gets bolder when it is drawn over itself. The system's own brush says nothing about the parent.
+    const HWND parent = ::GetParent(m_hWnd);
+    const CDcStateSaver saver(dc->m_hDC);
+    const auto brush = reinterpret_cast<HBRUSH>(::SendMessageW(
+        parent, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc->m_hDC), reinterpret_cast<LPARAM>(m_hWnd)));
+    if (brush && brush != ::GetSysColorBrush(COLOR_BTNFACE)) {
+        CRect client;
+        GetClientRect(&client);
+        ::FillRect(dc->m_hDC, &client, brush);
+    }
+    return TRUE;
 }
 
 void CQorLink::SetOver(BOOL over)

@@ -2,6 +2,7 @@
 
 #include <QorUI/app/Messages.h>
 #include <QorUI/buttons/Links.h>
+#include <tests/support/Imports.h>
 
 namespace
 {
@@ -42,6 +43,46 @@ class Links : public testing::Test
     ts::AfxHost m_host{300, 160, WS_OVERLAPPEDWINDOW | WS_VISIBLE, kBack};
 };
 
+/** What the shell was asked to open last, and what it answers. */
+struct Opened
+{
+    HWND owner;
+    std::wstring verb, file;
+    bool extras;
+    INT show;
+};
+std::vector<Opened> g_opened;
+INT_PTR g_openAnswer = 0;
+
+HINSTANCE WINAPI TakeOpening(HWND owner, LPCWSTR verb, LPCWSTR file, LPCWSTR parameters, LPCWSTR folder, INT show)
+{
+    g_opened.push_back({owner, verb, file, parameters || folder, show});
+    return reinterpret_cast<HINSTANCE>(g_openAnswer);
+}
+
+HCURSOR WINAPI NoCursor(HINSTANCE, LPCWSTR)
+{
+    return nullptr;
+}
+
+/** What a text looks like in a font on the background of the tests. */
+ts::Picture TextPicture(CSize size, const wchar_t* text, HGDIOBJ font, COLORREF colour, COLORREF back, UINT format)
+{
+    return ts::DrawTo(
+        size.cx, size.cy,
+        [&](HDC dc) {
+            const HGDIOBJ old = ::SelectObject(dc, font);
+            ::SetTextColor(dc, colour);
+            ::SetBkMode(dc, TRANSPARENT);
+            RECT rect = {0, 0, size.cx, size.cy};
+            ::DrawTextW(dc, text, -1, &rect, format);
+            ::SelectObject(dc, old);
+        },
+        back);
+}
+
+constexpr wchar_t kLongText[] = L"A &text that is too long for one line of the control";
+
 /** A link with the text "Text" that opens a program. */
 class QorLink : public Links
 {
@@ -60,6 +101,19 @@ class QorLink : public Links
     }
 
     bool Shows(COLORREF colour) { return Look(m_link).Count(colour) > 0; }
+
+    /** Whether a call leaves the link to be painted again, with its background erased. */
+    bool Repaints(const std::function<void()>& call)
+    {
+        ::UpdateWindow(m_link);
+        ts::MessageRecorder log(m_link);
+        log.RecordOnly({WM_ERASEBKGND, WM_PAINT});
+        call();
+        ::UpdateWindow(m_link);
+        return log.Has(ts::Msg(WM_PAINT)) && log.Has(ts::Msg(WM_ERASEBKGND));
+    }
+
+    void TearDown() override { g_opened.clear(); }
 
     /** Text that the tooltip shows. */
     std::wstring Tip()
@@ -314,6 +368,58 @@ TEST_F(QorLink, BackgroundIsNotPainted)
     EXPECT_TRUE(Shows(kBack));
 }
 
+/** A link in a font that is smoothed, in a parent that gives static controls a brush. */
+class LinkOnABrush : public QorLink
+{
+  protected:
+    void SetUp() override
+    {
+        QorLink::SetUp();
+        m_brush.CreateSolidBrush(kBrush);
+        m_host.Log().Answer(WM_CTLCOLORSTATIC, [this](const ts::Message& message) -> std::optional<LRESULT> {
+            ::SetTextColor(reinterpret_cast<HDC>(message.wParam), RGB(255, 0, 0));
+            return reinterpret_cast<LRESULT>(m_brush.GetSafeHandle());
+        });
+        m_font.CreateFont(24, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, ANTIALIASED_QUALITY, 0, L"Tahoma");
+        const HWND control = AddStatic(L"Text", SS_LEFT | WS_VISIBLE);
+        ::SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(m_font.GetSafeHandle()), TRUE);
+        ASSERT_TRUE(m_link.SubclassWindow(control));
+    }
+
+    static constexpr COLORREF kBrush = RGB(220, 230, 210);
+    CBrush m_brush;
+    CFont m_font;
+};
+
+TEST_F(LinkOnABrush, TextIsDrawnOnTheBrush)
+{
+    const ts::Picture look = Look(m_link);
+    const HGDIOBJ font = reinterpret_cast<HGDIOBJ>(m_link.SendMessage(WM_GETFONT));
+    const ts::Picture expected =
+        TextPicture({look.Width(), look.Height()}, L"Text", font, kLink, kBrush, DT_WORDBREAK | DT_EDITCONTROL);
+    EXPECT_TRUE(ts::SamePicture(expected, look));
+}
+
+TEST_F(LinkOnABrush, LooksTheSameHoweverOftenTheMouseComes)
+{
+    const ts::Picture before = Look(m_link);
+    for (int i = 0; i < 3; ++i) {
+        ts::MoveMouse(m_link);
+        EXPECT_FALSE(ts::SamePicture(before, Look(m_link)));
+        ts::MoveMouse(m_host.m_hWnd, 250, 140);
+        EXPECT_TRUE(ts::SamePicture(before, Look(m_link)));
+    }
+}
+
+TEST_F(LinkOnABrush, LineUnderTheTextGoesWithoutATrace)
+{
+    const ts::Picture before = Look(m_link);
+    m_link.SetUnderline(TRUE);
+    EXPECT_FALSE(ts::SamePicture(before, Look(m_link)));
+    m_link.SetUnderline(FALSE);
+    EXPECT_TRUE(ts::SamePicture(before, Look(m_link)));
+}
+
 TEST_F(QorLink, SettersWorkBeforeTheWindow)
 {
     CQorLink link;
@@ -324,6 +430,169 @@ TEST_F(QorLink, SettersWorkBeforeTheWindow)
     link.SetAutoSize(TRUE);
     link.SetUnderline(TRUE);
     EXPECT_EQ(nullptr, link.m_hWnd);
+}
+
+TEST_F(QorLink, TextIsBrokenIntoLinesInTheLinkFont)
+{
+    m_link.SetAutoSize(FALSE);
+    m_link.SetUnderline(TRUE);
+    Take(SS_LEFT, kLongText);
+    const HGDIOBJ font = reinterpret_cast<HGDIOBJ>(m_link.SendMessage(WM_GETFONT));
+    const ts::Picture expected = TextPicture({150, 40}, kLongText, font, kLink, kBack, DT_WORDBREAK | DT_EDITCONTROL);
+    EXPECT_TRUE(ts::SamePicture(expected, Look(m_link)));
+    EXPECT_GT(CRect(expected.BoundsOf(kLink)).Height(), 2 * Extent(L"x", Gui()).cy - 4) << "two lines at least";
+}
+
+TEST_F(QorLink, WithoutTextNothingIsDrawn)
+{
+    m_link.SetAutoSize(FALSE);
+    Take(SS_LEFT, L"");
+    EXPECT_EQ(150 * 40, Look(m_link).Count(kBack));
+    m_link.SetAutoSize(TRUE);
+    EXPECT_EQ(CSize(0, 0), PlaceIn(m_host, m_link).Size());
+}
+
+TEST_F(QorLink, SetUrlFitsTheSizeToATextThatHasChanged)
+{
+    Take();
+    m_link.SetWindowText(L"A longer text");
+    m_link.SetURL(L"x");
+    EXPECT_EQ(Extent(L"A longer text", Gui()), PlaceIn(m_host, m_link).Size());
+}
+
+TEST_F(QorLink, CentringInHeightAloneKeepsTheLeftEdge)
+{
+    Take(SS_LEFT | SS_CENTERIMAGE);
+    const CSize text = Extent(L"Text", Gui());
+    const int top = 10 + (40 - text.cy) / 2;
+    EXPECT_EQ(CRect(20, top, 20 + text.cx, top + text.cy), PlaceIn(m_host, m_link));
+}
+
+TEST_F(QorLink, PlaceInTheZOrderIsKept)
+{
+    Take();
+    const HWND above = AddStatic(L"above", SS_LEFT);
+    ::SetWindowPos(above, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    m_link.SetWindowText(L"A longer text");
+    m_link.SetURL(L"x");
+    EXPECT_EQ(above, ::GetWindow(m_link, GW_HWNDPREV));
+}
+
+TEST_F(QorLink, MessagesAreRelayedToTheTooltip)
+{
+    Take();
+    ts::MessageRecorder log(FindTip());
+    log.RecordOnly({TTM_RELAYEVENT});
+    MSG move = {m_link.m_hWnd, WM_MOUSEMOVE, 0, 0, 0, {0, 0}};
+    EXPECT_FALSE(m_link.PreTranslateMessage(&move));
+    EXPECT_TRUE(log.Is({ts::Msg(TTM_RELAYEVENT)}));
+}
+
+TEST_F(QorLink, TooltipComesUpOverTheLink)
+{
+    Take(SS_LEFT, L"http://example.org");
+    ts::SetPreTranslate([this](MSG& msg) { return CWnd::WalkPreTranslateTree(m_host.m_hWnd, &msg) != FALSE; });
+    ::SendMessageW(FindTip(), TTM_SETDELAYTIME, TTDT_INITIAL, 20);
+    ts::MoveMouse(m_link, 4, 4);
+    ts::MoveMouse(m_link, 5, 5);
+    EXPECT_TRUE(ts::PumpUntil([this] { return ::IsWindowVisible(FindTip()) != FALSE; }));
+}
+
+TEST_F(QorLink, ChangesOfTheLookAreRepainted)
+{
+    Take();
+    EXPECT_TRUE(Repaints([this] { m_link.SetColors(1, 2, 3); }));
+    EXPECT_TRUE(Repaints([this] { m_link.SetUnderline(TRUE); }));
+}
+
+TEST_F(QorLink, HoverIsShownAtOnce)
+{
+    Take();
+    ::UpdateWindow(m_link);
+    ts::MessageRecorder log(m_link);
+    log.RecordOnly({WM_ERASEBKGND, WM_PAINT});
+    m_link.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(1, 1));
+    EXPECT_TRUE(log.Is({ts::Msg(WM_PAINT), ts::Msg(WM_ERASEBKGND)}));
+    m_link.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(2, 2));
+    EXPECT_EQ(2u, log.Messages().size()) << "a move over the link changes nothing";
+    m_link.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(-1, 1));
+    EXPECT_TRUE(log.Is({ts::Msg(WM_PAINT), ts::Msg(WM_ERASEBKGND), ts::Msg(WM_PAINT), ts::Msg(WM_ERASEBKGND)}));
+    EXPECT_EQ(nullptr, ::GetCapture());
+}
+
+TEST_F(QorLink, VisitedLinkHoversToo)
+{
+    Take();
+    m_link.SetVisited(TRUE);
+    ts::MoveMouse(m_link);
+    EXPECT_TRUE(Shows(::GetSysColor(COLOR_HIGHLIGHT)));
+    ts::MoveMouse(m_host.m_hWnd, 250, 140);
+    EXPECT_TRUE(Shows(kVisited));
+}
+
+TEST_F(QorLink, ClickAsksTheShellToOpenTheUrl)
+{
+    const ts::ReplacedImport opening(L"QorUI.dll", "ShellExecuteW", &TakeOpening);
+    g_openAnswer = 33;
+    Take(SS_LEFT, L"http://example.org");
+    ts::Click(m_link);
+    ASSERT_EQ(1u, g_opened.size());
+    EXPECT_EQ(nullptr, g_opened[0].owner);
+    EXPECT_EQ(L"open", g_opened[0].verb);
+    EXPECT_EQ(L"http://example.org", g_opened[0].file);
+    EXPECT_FALSE(g_opened[0].extras);
+    EXPECT_EQ(SW_SHOW, g_opened[0].show);
+}
+
+TEST_F(QorLink, OpeningCountsFromThirtyThreeOn)
+{
+    const ts::ReplacedImport opening(L"QorUI.dll", "ShellExecuteW", &TakeOpening);
+    Take();
+    const auto click = [this] {
+        m_host.SendMessage(WM_COMMAND, MAKEWPARAM(15, STN_CLICKED), reinterpret_cast<LPARAM>(m_link.m_hWnd));
+    };
+    g_openAnswer = 33;
+    EXPECT_TRUE(Repaints(click));
+    EXPECT_TRUE(Shows(kVisited));
+    g_openAnswer = 32;
+    EXPECT_FALSE(Repaints(click));
+    m_link.RedrawWindow();
+    EXPECT_TRUE(Shows(kLink));
+}
+
+TEST_F(QorLink, WithoutAHandTheDefaultCursorIsLeft)
+{
+    Take();
+    const ts::ReplacedImport none(L"QorUI.dll", "LoadCursorW", &NoCursor);
+    const HCURSOR before = ::LoadCursorW(nullptr, IDC_CROSS);
+    ::SetCursor(before);
+    EXPECT_EQ(FALSE, m_link.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(m_link.m_hWnd),
+                                        MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));
+    EXPECT_EQ(before, ::GetCursor());
+}
+
+TEST_F(QorLink, HugeTextAndUrlAreNoHarm)
+{
+    m_link.SetURL(CString(L'u', 100000));
+    const CString huge(L'm', 3000);
+    Take(SS_LEFT, huge);
+    EXPECT_EQ(Extent(huge, Gui()).cx, PlaceIn(m_host, m_link).Width());
+    Look(m_link);
+    m_link.SetURL(L"");
+    EXPECT_EQ(L"", Tip());
+}
+
+TEST_F(QorLink, LinkWithoutAParentIsPlacedOnTheScreen)
+{
+    const HWND lone =
+        ::CreateWindowW(L"STATIC", L"Text", WS_POPUP | SS_RIGHT, 40, 30, 150, 40, nullptr, nullptr, nullptr, nullptr);
+    ::SendMessageW(lone, WM_SETFONT, reinterpret_cast<WPARAM>(Gui()), FALSE);
+    ASSERT_TRUE(m_link.SubclassWindow(lone));
+    const CSize text = Extent(L"Text", Gui());
+    CRect place;
+    m_link.GetWindowRect(&place);
+    EXPECT_EQ(CRect(190 - text.cx, 30, 190, 30 + text.cy), place);
+    m_link.DestroyWindow();
 }
 
 TEST_F(QorLink, ShowingPaintingAndClosingLeavesNothingBehind)
@@ -360,18 +629,9 @@ class TextLink : public Links
 
 TEST_F(TextLink, ParentPaintsTheBackgroundBeforeTheText)
 {
-    Take(L"Text &one");
-    const ts::Picture expected = ts::DrawTo(
-        150, 40,
-        [](HDC dc) {
-            const HGDIOBJ old = ::SelectObject(dc, ::GetStockObject(DEFAULT_GUI_FONT));
-            ::SetTextColor(dc, RGB(255, 255, 255));
-            ::SetBkMode(dc, TRANSPARENT);
-            RECT rect = {0, 0, 150, 40};
-            ::DrawTextW(dc, L"Text &one", -1, &rect, DT_WORDBREAK | DT_EDITCONTROL | DT_HIDEPREFIX);
-            ::SelectObject(dc, old);
-        },
-        RGB(0, 90, 0));
+    Take(kLongText);
+    const ts::Picture expected = TextPicture({150, 40}, kLongText, Gui(), RGB(255, 255, 255), RGB(0, 90, 0),
+                                             DT_WORDBREAK | DT_EDITCONTROL | DT_HIDEPREFIX);
     EXPECT_TRUE(ts::SamePicture(expected, Look(m_link)));
     EXPECT_NE(0, expected.Count(RGB(255, 255, 255)));
     EXPECT_EQ(&m_link, m_sender);
@@ -422,6 +682,41 @@ TEST_F(TextLink, ClickReachesTheParent)
     Take(L"Text");
     ts::Click(m_link);
     EXPECT_EQ(1u, m_host.Log().Count(ts::Command(15, STN_CLICKED)));
+}
+
+TEST_F(TextLink, WithoutAParentNobodyIsAsked)
+{
+    CTextLink link;
+    ASSERT_TRUE(link.SubclassWindow(::CreateWindowW(L"STATIC", L"Text", WS_POPUP | WS_VISIBLE, 40, 30, 150, 40, nullptr,
+                                                    nullptr, nullptr, nullptr)));
+    link.RedrawWindow();
+    CSize size;
+    EXPECT_TRUE(link.GetExtent(size));
+    EXPECT_EQ(Extent(L"Text", Gui()), size);
+    link.DestroyWindow();
+}
+
+TEST_F(TextLink, HugeTextIsMeasuredAndPainted)
+{
+    const CString huge(L'm', 30000);
+    Take(huge);
+    CSize size;
+    EXPECT_TRUE(m_link.GetExtent(size));
+    EXPECT_EQ(Extent(huge, Gui()), size);
+    EXPECT_NE(0, Look(m_link).Count(RGB(255, 255, 255)));
+}
+
+TEST_F(TextLink, ShowingPaintingAndClosingLeavesNothingBehind)
+{
+    EXPECT_TRUE(ts::NoLeak([this] {
+        CTextLink link;
+        link.SubclassWindow(AddStatic(L"Text", SS_NOTIFY | WS_VISIBLE));
+        CSize size;
+        link.GetExtent(size);
+        link.RedrawWindow();
+        link.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(link.m_hWnd), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+        link.DestroyWindow();
+    }));
 }
 
 } // namespace
