@@ -36,7 +36,8 @@ class QORUI_API CFlatRichEdit : public CRichEditCtrl
     BOOL SetIndent(long start, long right);
 
   protected:
-    /** Turns the detection of URLs and the notification `EN_LINK` on or off. @return whether it could. */
+    /** Turns the detection of URLs and the notification `EN_LINK` on or off. @return the control's answer: 0 for
+     * success. */
     BOOL AutoURLDetect(BOOL enable);
 
     afx_msg void OnNcPaint();

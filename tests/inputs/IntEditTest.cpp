@@ -1,11 +1,17 @@
 #include "Inputs.h"
 
 #include <QorUI/inputs/IntEdit.h>
+#include <tests/support/Imports.h>
 
 #include <climits>
 
 namespace
 {
+
+HWND WINAPI NoWindow(DWORD, LPCWSTR, LPCWSTR, DWORD, int, int, int, int, HWND, HMENU, HINSTANCE, LPVOID)
+{
+    return nullptr;
+}
 
 /** A number edit with the range from 0 to 100 and the value 50. */
 class IntEdit : public testing::Test
@@ -339,6 +345,55 @@ TEST_F(IntEdit, WithASpinTheParentIsToldOfSetValues)
     EXPECT_EQ(1u, Changes());
     m_edit.SetRange(0, 9, 3);
     EXPECT_EQ(2u, Changes());
+}
+
+TEST_F(IntEdit, WithoutASpinTheParentIsToldOnce)
+{
+    m_edit.SetValue(20);
+    EXPECT_EQ(1u, Changes()) << "by the edit control itself";
+}
+
+TEST_F(IntEdit, ParentMayDestroyItWhenEnterIsPressed)
+{
+    Take(ES_WANTRETURN);
+    m_host.Log().Answer(WM_COMMAND, [this](const ts::Message& message) -> std::optional<LRESULT> {
+        if (message.wParam == kControlId && message.lParam == 0) {
+            m_edit.DestroyWindow();
+        }
+        return std::nullopt;
+    });
+    ts::Key(VK_RETURN);
+    EXPECT_EQ(nullptr, m_edit.m_hWnd);
+}
+
+TEST_F(IntEdit, ParentMayDestroyItWhenTheValueChanges)
+{
+    Take(ES_MULTILINE);
+    ASSERT_TRUE(m_edit.AddSpin());
+    m_host.Log().Answer(WM_COMMAND, [this](const ts::Message& message) -> std::optional<LRESULT> {
+        if (message.wParam == MAKEWPARAM(kControlId, EN_CHANGE) && m_edit.m_hWnd) {
+            m_edit.DestroyWindow();
+        }
+        return std::nullopt;
+    });
+    ClickSpin(true);
+    EXPECT_EQ(nullptr, m_edit.m_hWnd);
+}
+
+TEST_F(IntEdit, HugeNumbersInTheTextAreClamped)
+{
+    m_edit.SetLimitText(10000);
+    m_edit.SetWindowText(CString(L'9', 5000));
+    m_edit.SetSel(5000, 5000);
+    ts::Type(L"9");
+    const int value = m_edit.GetValue();
+    EXPECT_TRUE(value >= 0 && value <= 100) << value;
+}
+
+TEST_F(IntEdit, SpinThatCannotBeMadeIsTold)
+{
+    const ts::ReplacedImport none(L"afx.dll", "CreateWindowExW", &NoWindow);
+    EXPECT_FALSE(m_edit.AddSpin());
 }
 
 TEST_F(IntEdit, SpinWritesEveryStepOnceToTheParent)

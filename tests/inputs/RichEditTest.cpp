@@ -1,6 +1,7 @@
 #include "Inputs.h"
 
 #include <QorUI/inputs/FlatRichEdit.h>
+#include <tests/support/Imports.h>
 
 namespace
 {
@@ -14,6 +15,16 @@ class COpenRichEdit : public CFlatRichEdit
     using CFlatRichEdit::AutoURLDetect;
     using CFlatRichEdit::m_cf;
 };
+
+int WINAPI NoObject(HANDLE, int, LPVOID)
+{
+    return 0;
+}
+
+HGDIOBJ WINAPI NoStockObject(int)
+{
+    return nullptr;
+}
 
 class RichEdit : public testing::Test
 {
@@ -69,6 +80,18 @@ TEST_F(RichEdit, FormatStartsWithTheFaceOfDialogs)
     EXPECT_EQ(0, m_edit.m_cf.yHeight);
     EXPECT_EQ(0u, m_edit.m_cf.crTextColor);
     EXPECT_EQ(0, m_edit.m_cf.yOffset);
+}
+
+TEST(RichEditFormat, HasNoFaceWhenTheFontOfDialogsCannotBeRead)
+{
+    {
+        const ts::ReplacedImport none(L"QorUI.dll", "GetObjectW", &NoObject);
+        const COpenRichEdit edit;
+        EXPECT_EQ(0xC000000Fu, edit.m_cf.dwMask);
+        EXPECT_STREQ(L"", edit.m_cf.szFaceName);
+    }
+    const ts::ReplacedImport none(L"QorUI.dll", "GetStockObject", &NoStockObject);
+    EXPECT_EQ(0xC000000Fu, COpenRichEdit().m_cf.dwMask);
 }
 
 TEST_F(RichEdit, SetFormatStoresPixelsAsTwips)

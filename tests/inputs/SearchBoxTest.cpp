@@ -2,6 +2,7 @@
 
 #include <QorUI/inputs/SearchBox.h>
 #include <QorUI/res/resource.h>
+#include <tests/support/Imports.h>
 
 namespace
 {
@@ -13,6 +14,16 @@ class COpenSearchBox : public CSearchBox
   public:
     using CSearchBox::m_hWndEdit;
 };
+
+HBITMAP WINAPI NoBitmap(HINSTANCE, LPCWSTR)
+{
+    return nullptr;
+}
+
+HDC WINAPI NoMemoryDc(HDC)
+{
+    return nullptr;
+}
 
 class SearchBox : public testing::Test
 {
@@ -86,6 +97,28 @@ TEST_F(SearchBox, MagnifierStandsOverTheButton)
     const int x = look.Width() - 1 - 17;
     const int y = (look.Height() - 2 - 16) / 2;
     EXPECT_TRUE(ts::SamePicture(glyph, look.Crop({x, y, x + 16, y + 17})));
+}
+
+TEST_F(SearchBox, WithoutItsBitmapOrAMemoryDcTheButtonIsLeftAsItIs)
+{
+    // What is under the magnifier: the same two frames over a plain combo box.
+    const auto magnifier = [this](const ts::Picture& look) {
+        const int x = look.Width() - 1 - 17;
+        return look.Crop({x, 2, x + 15, look.Height() - 2});
+    };
+    const HWND plain = ::CreateWindowW(L"COMBOBOX", L"", WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, 10, 40, 140, 150,
+                                       m_host.m_hWnd, nullptr, nullptr, nullptr);
+    ::SendMessageW(plain, WM_SETFONT, reinterpret_cast<WPARAM>(GuiFont()), FALSE);
+    const ts::Picture bare = magnifier(LookOf(*CWnd::FromHandle(plain)));
+    {
+        const ts::ReplacedImport none(L"QorUI.dll", "LoadBitmapW", &NoBitmap);
+        EXPECT_TRUE(ts::SamePicture(bare, magnifier(LookOf(m_box))));
+    }
+    {
+        const ts::ReplacedImport none(L"QorUI.dll", "CreateCompatibleDC", &NoMemoryDc);
+        EXPECT_TRUE(ts::SamePicture(bare, magnifier(LookOf(m_box))));
+    }
+    EXPECT_FALSE(ts::SamePicture(bare, magnifier(LookOf(m_box))));
 }
 
 TEST_F(SearchBox, ButtonStillDropsTheList)
