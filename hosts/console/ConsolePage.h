@@ -102,6 +102,7 @@ std::unique_ptr<CConsolePage> MakeLayoutPage();
 std::unique_ptr<CConsolePage> MakeMessagePage();
 std::unique_ptr<CConsolePage> MakeDrawingPage();
 std::unique_ptr<CConsolePage> MakeAccountPage();
+std::unique_ptr<CConsolePage> MakeLinksPage();
 std::unique_ptr<CConsolePage> MakeCalendarPage();
 std::unique_ptr<CConsolePage> MakeClockPage();
 std::unique_ptr<CConsolePage> MakeEditsPage();

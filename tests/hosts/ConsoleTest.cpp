@@ -61,8 +61,10 @@ TEST_F(Console, ShotsLeavesAPictureOfEveryPageAndBox)
     ASSERT_EQ(0u, result.status) << result.output;
     const std::set<std::wstring> pictures = Pictures();
     for (const wchar_t* name :
-         {L"buttons.png", L"layout.png", L"layout-dialog.png", L"messages.png", L"messagebox-error.png",
-          L"messagebox-yesno.png", L"messagebox-code.png", L"drawing.png", L"drawing-1.png", L"account.png"}) {
+         {L"buttons.png", L"links.png", L"links-1.png", L"layout.png", L"layout-dialog.png", L"messages.png",
+          L"messagebox-error.png", L"messagebox-yesno.png", L"messagebox-code.png", L"drawing.png", L"drawing-1.png",
+          L"account.png", L"edits-2.png", L"pickers-2.png", L"calendar-3.png", L"clock-2.png", L"list.png",
+          L"progress.png", L"info.png"}) {
         EXPECT_EQ(1u, pictures.count(name)) << ts::ToUtf8(name);
     }
 }

@@ -21,6 +21,7 @@ constexpr int kLeft = 12;
 constexpr int kTop = 44;
 constexpr int kDialSize = 161;
 constexpr int kSide = 220;
+constexpr COLORREF kDialBack = RGB(236, 245, 250); // around the dial in its bitmap
 
 class CClockPage : public CConsolePage
 {
@@ -38,7 +39,7 @@ class CClockPage : public CConsolePage
   protected:
     bool Build() override
     {
-        if (!m_clock.Create(IDB_DIAL, this, kClock, RGB(255, 255, 255))) {
+        if (!m_clock.Create(IDB_DIAL, this, kClock, kDialBack)) {
             return false;
         }
         m_clock.SetWindowPos(nullptr, kLeft, kTop, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -93,9 +94,9 @@ class CClockPage : public CConsolePage
     {
         const bool made =
             AddLabel(L"", CRect(kSide, kTop, kSide + 240, kTop + 18), kTime) &&
-            AddLabel(ConText(L"STR_CON_CLK_HOUR"), CRect(kSide, kTop + 33, kSide + 70, kTop + 50)) &&
+            AddCaption(ConText(L"STR_CON_CLK_HOUR"), CRect(kSide, kTop + 30, kSide + 70, kTop + 50)) &&
             AddEdit(CRect(kSide + 74, kTop + 30, kSide + 114, kTop + 50), kHour, ES_NUMBER) &&
-            AddLabel(ConText(L"STR_CON_CLK_MINUTE"), CRect(kSide + 126, kTop + 33, kSide + 196, kTop + 50)) &&
+            AddCaption(ConText(L"STR_CON_CLK_MINUTE"), CRect(kSide + 126, kTop + 30, kSide + 196, kTop + 50)) &&
             AddEdit(CRect(kSide + 200, kTop + 30, kSide + 240, kTop + 50), kMinute, ES_NUMBER);
         if (made) {
             SetDlgItemInt(kHour, 9);

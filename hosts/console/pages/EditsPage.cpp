@@ -136,11 +136,15 @@ class CEditsPage : public CConsolePage
     {
         CFlatEdit* plain = AddFlat<CFlatEdit>(0, L"STR_CON_PLAIN", kPlain, kFieldRight, ES_AUTOHSCROLL);
         m_name = AddFlat<CFlatEditEx>(1, L"STR_CON_FILE", kName, kFieldRight, ES_AUTOHSCROLL);
-        const DWORD secret = ES_AUTOHSCROLL | ES_PASSWORD;
-        if (!plain || !m_name || !AddLabel(L"", Note(1, kFieldRight + 12), kNameState) ||
-            !AddFlat<CFlatEdit>(2, L"STR_CON_SECRET", kSecret, kFieldRight, secret)) {
+        if (!plain || !m_name || !AddLabel(L"", Note(1, kFieldRight + 12), kNameState)) {
             return false;
         }
+        const DWORD hidden = ES_AUTOHSCROLL | ES_PASSWORD;
+        CFlatEdit* secret = AddFlat<CFlatEdit>(2, L"STR_CON_SECRET", kSecret, kFieldRight, hidden);
+        if (!secret) {
+            return false;
+        }
+        secret->SetWindowText(L"secret");
         plain->SetWindowText(ConText(L"STR_CON_CMD_NOTE"));
         m_name->SetIllegalChars(kRefused);
         m_name->SetWindowText(L"report");
