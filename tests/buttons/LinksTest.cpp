@@ -320,6 +320,19 @@ TEST_F(QorLink, UnderlineRemakesTheFont)
     EXPECT_FALSE(Font().lfUnderline);
 }
 
+TEST_F(QorLink, UnderlineIsMadeFromTheFontThatTheControlHasByThen)
+{
+    Take();
+    CFont big;
+    big.CreatePointFont(200, L"Tahoma");
+    LOGFONTW description = {};
+    ASSERT_TRUE(big.GetLogFont(&description));
+    m_link.SetFont(&big);
+    m_link.SetUnderline(TRUE);
+    EXPECT_EQ(description.lfHeight, Font().lfHeight);
+    EXPECT_TRUE(Font().lfUnderline);
+}
+
 TEST_F(QorLink, UnderlineSetBeforeTheWindowIsUsed)
 {
     m_link.SetUnderline(TRUE);
@@ -398,6 +411,16 @@ TEST_F(LinkOnABrush, TextIsDrawnOnTheBrush)
     const ts::Picture expected =
         TextPicture({look.Width(), look.Height()}, L"Text", font, kLink, kBrush, DT_WORDBREAK | DT_EDITCONTROL);
     EXPECT_TRUE(ts::SamePicture(expected, look));
+}
+
+TEST_F(LinkOnABrush, TextKeepsTheLinkFont)
+{
+    const ts::Picture before = Look(m_link);
+    CFont other;
+    other.CreatePointFont(100, L"Tahoma");
+    m_link.SetFont(&other);
+    m_link.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    EXPECT_TRUE(ts::SamePicture(before, Look(m_link)));
 }
 
 TEST_F(LinkOnABrush, LooksTheSameHoweverOftenTheMouseComes)

@@ -255,6 +255,20 @@ TEST_F(CalendarMouse, HitTestsFindHeadersAndDays)
     EXPECT_FALSE(m_calendar.InCellDay(outside));
 }
 
+TEST_F(CalendarMouse, DaysAreHitWithinTheWeeksOnly)
+{
+    Begin(1);
+    const CRect sunday(PlaceOf(Date(2009, 3, 8)));
+    CPoint inside(m_calendar.m_pCells[0].rcCell.left, sunday.CenterPoint().y);
+    ASSERT_EQ(sunday.left + 3, inside.x);
+    ASSERT_NE(nullptr, m_calendar.DayHitTest(inside));
+    CPoint beside(inside.x - 1, inside.y);
+    EXPECT_EQ(nullptr, m_calendar.DayHitTest(beside));
+    Press(CRect(beside, CSize(1, 1)));
+    EXPECT_EQ(L"none", Selection(m_calendar));
+    ts::MouseUp();
+}
+
 TEST_F(CalendarMouse, StaleSlotCanStillBeHit)
 {
     Begin(1);

@@ -232,6 +232,23 @@ TEST_F(Calendar, LongHeadersWidenTheCells)
               m_calendar.m_nCellWidth);
 }
 
+TEST_F(Calendar, HeadersOfTenYearsToEitherSideFit)
+{
+    for (CString& name : m_calendar.m_strMonths) {
+        name = L"A month with an unusually long name";
+    }
+    const auto width = [this](int year) {
+        m_calendar.SetCurrentYearMonth(year, 1);
+        EXPECT_TRUE(m_calendar.Create(&m_host, kCalendarId, nullptr, nullptr, 1, 1));
+        const int cell = m_calendar.m_nCellWidth;
+        m_calendar.DestroyWindow();
+        return cell;
+    };
+    const int digits = width(500); // three in every year
+    EXPECT_EQ(digits, width(989));
+    EXPECT_LT(digits, width(990)) << "the year 1000";
+}
+
 TEST_F(Calendar, YearAndMonthAreTakenIntoRange)
 {
     m_calendar.SetCurrentYearMonth(100, 5);

@@ -393,6 +393,28 @@ TEST_F(Clock, DragPastTwelveInTheMiddleOfTheMorningKeepsTheHalf)
     ts::MouseUp();
 }
 
+TEST_F(Clock, DragGoesRoundAndRound)
+{
+    Make();
+    m_clock.SetTime(10, 50);
+    Show();
+    Grab();
+    for (const char* expected : {"11:03", "12:03", "13:03"}) {
+        for (const UINT minute : {50u, 57u, 3u}) {
+            MoveToMinute(minute);
+        }
+        EXPECT_EQ(expected, Time());
+        for (const UINT minute : {20u, 35u}) {
+            MoveToMinute(minute);
+        }
+    }
+    for (const UINT minute : {20u, 3u, 57u, 35u, 20u, 3u, 57u}) {
+        MoveToMinute(minute);
+    }
+    EXPECT_EQ("11:57", Time());
+    ts::MouseUp();
+}
+
 TEST_F(Clock, DragGoesOnWithTheMouseOutside)
 {
     Make();

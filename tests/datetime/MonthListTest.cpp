@@ -230,6 +230,17 @@ TEST_F(MonthList, ScrollsBackAsFarAsTheYearOneHundredAndTheCalendarShowsTheNext)
     EXPECT_EQ(Name(12, 101), Choose()) << "December 100, taken into the calendar's years";
 }
 
+TEST_F(MonthList, YearThatItCannotShowStaysTodays)
+{
+    m_calendar.SetFirstDayOfWeek(1);
+    m_calendar.SetCurrentYearMonth(9999, 12);
+    ASSERT_TRUE(m_calendar.Create(&m_host, kCalendarId, nullptr, nullptr, 1, 2));
+    Show();
+    PressHeader(1);
+    MoveToRow(3);
+    EXPECT_EQ(Name(12, COleDateTime::GetCurrentTime().GetYear() - 1), Choose()) << "January in the pressed cell";
+}
+
 TEST_F(MonthList, WithoutItsWindowNothingIsTracked)
 {
     Make();
