@@ -154,6 +154,8 @@ TEST_F(RichEdit, TextIsFoundAndCutOut)
     CString part;
     EXPECT_EQ(m_edit.GetTextRange(4, 7, part), 3);
     EXPECT_STREQ(part, TEXT("two"));
+    EXPECT_EQ(m_edit.GetTextRange(4, -1, part), 9);
+    EXPECT_STREQ(part, TEXT("two\rthree"));
     find.lpstrText = const_cast<LPTSTR>(TEXT("none"));
     EXPECT_EQ(m_edit.FindText(FR_DOWN, &find), -1);
 }
@@ -171,6 +173,23 @@ TEST_F(RichEdit, LinesAndPositions)
     EXPECT_EQ(m_edit.CharFromPos(m_edit.GetCharPos(9)), 9);
     EXPECT_EQ(m_edit.GetFirstVisibleLine(), 0);
     EXPECT_EQ(m_edit.GetTextLengthEx(GTL_NUMCHARS), 13);
+}
+
+TEST_F(RichEdit, WordsAreFormattedAndTheSelectionIsHidden)
+{
+    ts::MessageRecorder log(m_edit);
+    log.RecordOnly({EM_SETCHARFORMAT, EM_HIDESELECTION});
+    CHARFORMAT format = {};
+    CHARFORMAT2 format2 = {};
+    m_edit.SetWordCharFormat(format);
+    m_edit.SetWordCharFormat(format2);
+    m_edit.HideSelection(TRUE, FALSE);
+    m_edit.HideSelection(FALSE, TRUE);
+    EXPECT_TRUE(log.Is({ts::Msg(EM_SETCHARFORMAT, SCF_SELECTION | SCF_WORD, reinterpret_cast<LPARAM>(&format)),
+                        ts::Msg(EM_SETCHARFORMAT, SCF_SELECTION | SCF_WORD, reinterpret_cast<LPARAM>(&format2)),
+                        ts::Msg(EM_HIDESELECTION, TRUE, FALSE), ts::Msg(EM_HIDESELECTION, FALSE, TRUE)}));
+    EXPECT_EQ(sizeof(CHARFORMAT), format.cbSize);
+    EXPECT_EQ(sizeof(CHARFORMAT2), format2.cbSize);
 }
 
 TEST_F(RichEdit, ScrollsByLines)

@@ -181,6 +181,17 @@ TEST_F(CheckList, SpaceChangesTheItemWithTheFocus)
     EXPECT_EQ(L"011", Checks());
 }
 
+TEST_F(CheckList, SpaceWithCtrlSelectsAsInAPlainList)
+{
+    Make(LBS_MULTIPLESEL);
+    m_list.SetFocus();
+    m_list.SetCaretIndex(1);
+    ts::Chord({VK_CONTROL, VK_SPACE});
+    EXPECT_EQ(L"000", Checks());
+    EXPECT_EQ(0u, Changes());
+    EXPECT_EQ(1, m_list.GetSel(1));
+}
+
 TEST_F(CheckList, SpaceDoesNotLookForAnItem)
 {
     m_list.InsertString(0, L" blank");
@@ -285,6 +296,20 @@ TEST_F(CheckList, ResetForgetsAllStates)
     EXPECT_TRUE(m_list.IsEnabled(0));
 }
 
+TEST_F(CheckList, FileNamesInASortedListTakeTheStatesAway)
+{
+    const ts::TempFolder folder;
+    ts::WriteBytes(folder.File(L"aaa.txt"), "x");
+    const std::wstring pattern = folder.File(L"*.txt");
+    for (const DWORD style : {DWORD{0}, DWORD{LBS_SORT}}) {
+        Make(style);
+        m_list.SetCheck(1, BST_CHECKED);
+        m_list.SendMessage(LB_DIR, DDL_READWRITE, reinterpret_cast<LPARAM>(pattern.c_str()));
+        ASSERT_EQ(4, m_list.GetCount());
+        EXPECT_EQ(style ? L"0000" : L"0100", Checks()) << "they may stand before the others";
+    }
+}
+
 TEST_F(CheckList, ItemDataBelongToTheProgram)
 {
     m_list.SetItemData(1, 4711);
@@ -373,6 +398,37 @@ TEST_F(CheckList, SelectionStopsAtTheBox)
     EXPECT_TRUE(ts::AreaIs(look, {item.right - 10, item.top, item.right, item.bottom}, ::GetSysColor(COLOR_HIGHLIGHT)));
     EXPECT_TRUE(ts::AreaIs(look, {left, item.top, left + 1, item.bottom}, ::GetSysColor(COLOR_HIGHLIGHT)));
     EXPECT_TRUE(ts::AreaIs(look, {left - 3, item.top, left, item.bottom}, ::GetSysColor(COLOR_WINDOW)));
+}
+
+TEST_F(CheckList, AmpersandsAreShown)
+{
+    const auto width = [this](const wchar_t* text) {
+        m_list.ResetContent();
+        m_list.AddString(text);
+        CRect rect = Item(0);
+        rect.left = Box(0).right + 1;
+        return CRect(ts::CaptureWindow(m_list).Crop(rect).BoundsOf(::GetSysColor(COLOR_WINDOWTEXT))).Width();
+    };
+    const int plain = width(L"xx");
+    EXPECT_GT(width(L"x&x"), plain + 3);
+}
+
+TEST_F(CheckList, FocusIsFramedUnlessTheSystemHidesIt)
+{
+    const auto drawn = [this](UINT state) {
+        return ts::DrawTo(60, 16, [this, state](HDC dc) {
+            DRAWITEMSTRUCT item = {};
+            item.CtlType = ODT_LISTBOX;
+            item.itemState = state;
+            item.hwndItem = m_list.m_hWnd;
+            item.hDC = dc;
+            item.rcItem = {0, 0, 60, 16};
+            m_list.DrawItem(&item);
+        });
+    };
+    const ts::Picture plain = drawn(0);
+    EXPECT_FALSE(plain == drawn(ODS_FOCUS));
+    EXPECT_TRUE(ts::SamePicture(plain, drawn(ODS_FOCUS | ODS_NOFOCUSRECT)));
 }
 
 TEST_F(CheckList, BoxCanBePlacedElsewhere)

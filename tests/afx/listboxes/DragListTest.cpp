@@ -198,6 +198,31 @@ TEST_F(DragList, CursorTellsWhereADropWorks)
     ts::MouseUp();
 }
 
+TEST_F(DragList, ScrollsWithThePointerBelowAndTakesTheMarkAwayBefore)
+{
+    for (int i = 0; i < 20; ++i)
+        m_list.AddString(L"x");
+    CRect client;
+    m_list.GetClientRect(&client);
+    ts::MessageRecorder log(m_list);
+    std::vector<int> marks;
+    log.Answer(LB_SETTOPINDEX, [&](const ts::Message&) -> std::optional<LRESULT> {
+        marks.push_back(m_list.marks.back());
+        return std::nullopt;
+    });
+    Press(0);
+    MoveTo(3);
+    ASSERT_EQ(3, m_list.marks.back());
+    for (int i = 0; i < 200 && marks.empty(); ++i) {
+        ts::MoveMouse(m_list, 20 + i % 2, client.bottom + 6);
+        ::Sleep(10);
+    }
+    ts::MouseUp();
+    ASSERT_FALSE(marks.empty());
+    EXPECT_EQ(-1, marks.front());
+    EXPECT_LT(0, m_list.GetTopIndex());
+}
+
 TEST_F(DragList, ItemFromPtKnowsItemsOnly)
 {
     EXPECT_EQ(2, m_list.ItemFromPt(OnScreen(Middle(2)), FALSE));

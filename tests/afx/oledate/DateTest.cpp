@@ -1,6 +1,7 @@
 #include <afxdisp.h>
 #include <atlcomtime.h>
 #include <ctime>
+#include <tests/support/Imports.h>
 #include <tests/support/Support.h>
 #include <vector>
 
@@ -181,11 +182,31 @@ TEST(OleDateTime, FileTimeBecomesLocalTime)
     EXPECT_EQ(COleDateTime::invalid, COleDateTime(impossible).GetStatus());
 }
 
+/** A time zone, which the system of the test need not have. */
+BOOL WINAPI OneHourLater(const TIME_ZONE_INFORMATION* /*zone*/, const SYSTEMTIME* universal, SYSTEMTIME* local)
+{
+    *local = *universal;
+    ++local->wHour;
+    return local->wHour < 24;
+}
+
+TEST(OleDateTime, FileTimeIsTakenIntoTheTimeZone)
+{
+    const ts::ReplacedImport zone(L"afx.dll", "SystemTimeToTzSpecificLocalTime", &OneHourLater);
+    SYSTEMTIME universal = {2009, 7, 0, 14, 15, 16, 17, 0};
+    FILETIME file;
+    ASSERT_TRUE(SystemTimeToFileTime(&universal, &file));
+    EXPECT_EQ((std::vector{2009, 7, 14, 16, 16, 17}), PartsOf(COleDateTime(file)));
+    universal.wHour = 23; // the conversion fails
+    ASSERT_TRUE(SystemTimeToFileTime(&universal, &file));
+    EXPECT_EQ(COleDateTime::invalid, COleDateTime(file).GetStatus());
+}
+
 TEST(OleDateTime, DosDateAndTime)
 {
     const WORD date = (29 << 9) | (3 << 5) | 14;
-    const WORD time = (15 << 11) | (16 << 5) | 9;
-    EXPECT_EQ((std::vector{2009, 3, 14, 15, 16, 18}), PartsOf(COleDateTime(date, time)));
+    const WORD time = (15 << 11) | (47 << 5) | 9;
+    EXPECT_EQ((std::vector{2009, 3, 14, 15, 47, 18}), PartsOf(COleDateTime(date, time)));
     EXPECT_EQ(COleDateTime::invalid, COleDateTime(static_cast<WORD>(0), time).GetStatus());
 }
 
