@@ -11,7 +11,7 @@ void CDragLB::EnableDrag(BOOL enable)
 
 int CDragLB::AddString(LPCWSTR text)
 {
-    const int index = CDragListBox::AddString(text);
+    const int index = m_hWnd ? CDragListBox::AddString(text) : LB_ERR;
     if (index >= 0) {
         UpdateWidth(text);
     }
@@ -20,7 +20,7 @@ int CDragLB::AddString(LPCWSTR text)
 
 int CDragLB::InsertString(int index, LPCWSTR text)
 {
-    const int inserted = CDragListBox::InsertString(index, text);
+    const int inserted = m_hWnd ? CDragListBox::InsertString(index, text) : LB_ERR;
     if (inserted >= 0) {
         UpdateWidth(text);
     }
@@ -29,7 +29,7 @@ int CDragLB::InsertString(int index, LPCWSTR text)
 
 int CDragLB::DeleteString(int index)
 {
-    const int left = CDragListBox::DeleteString(static_cast<UINT>(index));
+    const int left = m_hWnd ? CDragListBox::DeleteString(static_cast<UINT>(index)) : LB_ERR;
     if (left >= 0) {
         m_nMaxWidth = QorRefitList(*this);
     }

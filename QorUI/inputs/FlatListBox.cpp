@@ -10,7 +10,7 @@ CFlatListBox::CFlatListBox() : m_nMaxWidth(0) {}
 
 int CFlatListBox::AddString(LPCWSTR text)
 {
-    const int index = CListBox::AddString(text);
+    const int index = m_hWnd ? CListBox::AddString(text) : LB_ERR;
     if (index >= 0) {
         UpdateWidth(text);
     }
@@ -19,7 +19,7 @@ int CFlatListBox::AddString(LPCWSTR text)
 
 int CFlatListBox::InsertString(int index, LPCWSTR text)
 {
-    const int inserted = CListBox::InsertString(index, text);
+    const int inserted = m_hWnd ? CListBox::InsertString(index, text) : LB_ERR;
     if (inserted >= 0) {
         UpdateWidth(text);
     }
@@ -33,7 +33,7 @@ int CFlatListBox::SetString(int index, LPCWSTR text)
 
 int CFlatListBox::DeleteString(int index)
 {
-    const int left = CListBox::DeleteString(static_cast<UINT>(index));
+    const int left = m_hWnd ? CListBox::DeleteString(static_cast<UINT>(index)) : LB_ERR;
     if (left >= 0) {
         m_nMaxWidth = QorRefitList(*this);
     }

@@ -169,6 +169,14 @@ TEST_F(FlatCombo, DropsDownAndSelectsByKeyboard)
     EXPECT_FALSE(m_combo.GetDroppedState());
 }
 
+TEST_F(FlatCombo, WithoutAWindowNothingIsFoundOrChanged)
+{
+    CFlatCombo combo;
+    EXPECT_EQ(-1, combo.RemoveItem(0));
+    EXPECT_EQ(-1, combo.SelectItem(0));
+    EXPECT_FALSE(combo.Create(WS_CHILD | CBS_DROPDOWNLIST, CRect(0, 0, 10, 10), nullptr, 19));
+}
+
 TEST_F(FlatCombo, TinyBoxIsPaintedWithoutHarm)
 {
     CFlatCombo combo;

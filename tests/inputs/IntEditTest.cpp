@@ -410,6 +410,16 @@ TEST_F(IntEdit, TextMayBeLeftEmptyAtAMinimumOfZero)
     EXPECT_STREQ(L"", TextOf(m_edit));
 }
 
+TEST_F(IntEdit, WithoutAWindowOnlyTheRangeIsKept)
+{
+    CIntEdit edit;
+    edit.SetRange(3, 7, 5);
+    edit.SetValue(6);
+    EXPECT_EQ(0, edit.GetValue());
+    EXPECT_EQ(7, edit.GetRange(nullptr));
+    EXPECT_FALSE(edit.Create(WS_CHILD, CRect(0, 0, 10, 10), nullptr, 18));
+}
+
 TEST_F(IntEdit, PaintsItsBorderFlat)
 {
     EXPECT_TRUE(HasFlatBorder(m_edit));

@@ -128,6 +128,17 @@ TYPED_TEST(WidestText, HugeTextIsMeasured)
     EXPECT_EQ(this->Width(huge), this->m_list.GetHorizontalExtent());
 }
 
+TYPED_TEST(WidestText, WithoutAWindowNothingHappens)
+{
+    TypeParam list;
+    EXPECT_EQ(LB_ERR, list.AddString(kShort));
+    EXPECT_EQ(LB_ERR, list.InsertString(0, kLong));
+    EXPECT_EQ(LB_ERR, list.DeleteString(0));
+    EXPECT_NO_THROW(list.ResetContent());
+    EXPECT_EQ(nullptr, list.m_hWnd);
+    EXPECT_FALSE(list.Create(WS_CHILD, CRect(0, 0, 10, 10), nullptr, 18));
+}
+
 TYPED_TEST(WidestText, LeavesNothingBehind)
 {
     EXPECT_TRUE(ts::NoLeak([this] {
@@ -160,6 +171,7 @@ TEST_F(FlatListBox, SetStringReplacesAnItem)
 
 TEST_F(FlatListBox, SetStringOfAMissingItemIsRefused)
 {
+    EXPECT_EQ(-1, CFlatListBox().SetString(0, kShort));
     m_list.AddString(kShort);
     EXPECT_EQ(-1, m_list.SetString(1, kLong));
     EXPECT_EQ(1, m_list.GetCount());

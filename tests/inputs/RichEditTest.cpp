@@ -299,6 +299,29 @@ TEST_F(RichEdit, DetectedUrlIsALink)
     EXPECT_TRUE(format.dwEffects & CFE_LINK);
 }
 
+TEST_F(RichEdit, WithoutAWindowNothingIsInserted)
+{
+    COpenRichEdit edit;
+    EXPECT_NO_THROW(edit.InsertText(-2, L"x"));
+    EXPECT_NO_THROW(edit.DeleteText(0, 1));
+    EXPECT_NO_THROW(edit.ClearText());
+    EXPECT_FALSE(edit.SetAlign(PFA_CENTER));
+    EXPECT_FALSE(edit.SetIndent(1, 2));
+    EXPECT_EQ(0, edit.AutoURLDetect(TRUE));
+    EXPECT_FALSE(edit.Create(WS_CHILD, CRect(0, 0, 10, 10), nullptr, 18));
+}
+
+TEST_F(RichEdit, PositionsOutsideTheTextAreItsEnds)
+{
+    m_edit.InsertText(1000, L"ab");
+    m_edit.InsertText(1000, L"c");
+    m_edit.DeleteText(5, 2);
+    EXPECT_EQ(L"ab", Text());
+    m_edit.DeleteText(-5, -9);
+    m_edit.DeleteText(0, 1000);
+    EXPECT_EQ(L"", Text());
+}
+
 TEST_F(RichEdit, PaintsItsBorderFlat)
 {
     EXPECT_TRUE(HasFlatBorder(m_edit));
