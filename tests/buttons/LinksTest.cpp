@@ -181,6 +181,20 @@ TEST_F(QorLink, GivenUrlIsKeptBesideTheText)
     EXPECT_EQ(L"http://example.org", Tip());
 }
 
+TEST_F(QorLink, CreatedLinkWorksToo)
+{
+    m_link.SetURL(L"http://example.org");
+    ASSERT_TRUE(m_link.Create(L"Text", WS_CHILD | WS_VISIBLE, CRect(20, 10, 170, 50), &m_host, 15));
+    EXPECT_TRUE(m_link.GetStyle() & SS_NOTIFY);
+    EXPECT_EQ(L"http://example.org", Tip());
+    CString text;
+    m_link.GetWindowText(text);
+    EXPECT_STREQ(L"Text", text);
+    EXPECT_TRUE(Shows(kLink));
+    ts::MoveMouse(m_link, 4, 4);
+    EXPECT_TRUE(Shows(::GetSysColor(COLOR_HIGHLIGHT)));
+}
+
 TEST_F(QorLink, SetUrlChangesTheTooltip)
 {
     Take();

@@ -270,7 +270,7 @@ class CLinksPage : public CConsolePage
     {
         auto& label = Own<CTextLink>();
         auto& note = Own<CTextLink>();
-        const CRect right(kBand.right - 340, kBand.top + 10, kBand.right - 12, kBand.bottom - 8);
+        const CRect right(kBand.right - 340, kBand.top + 15, kBand.right - 12, kBand.bottom - 8);
         CSize size;
         if (!Take(label, ConText(L"STR_CON_LINK_LABEL"), SS_NOTIFY, kBand, kLabel) || !label.GetExtent(size)) {
             return false;
