@@ -225,6 +225,39 @@ TEST_F(CalendarMouse, WaitCursorIsShownUntilAPageIsPainted)
     EXPECT_EQ(wait, whilePainting);
 }
 
+TEST_F(CalendarMouse, EveryStepIsPaintedAtOnce)
+{
+    int days = 0;
+    Make(
+        1, 1,
+        [](COleDateTime& /*date*/, void* data) {
+            ++*static_cast<int*>(data);
+            return 0;
+        },
+        &days);
+    const auto paints = [&](UINT message, CPoint point) {
+        days = 0;
+        m_calendar.SendMessage(message, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+        return days >= 28;
+    };
+    const CPoint day = CRect(PlaceOf(Date(2009, 3, 10))).CenterPoint();
+    const CPoint beside(day.x, m_calendar.m_nHdrHeight + 1);
+    EXPECT_TRUE(paints(WM_LBUTTONDOWN, day));
+    EXPECT_TRUE(paints(WM_MOUSEMOVE, day));
+    EXPECT_FALSE(paints(WM_MOUSEMOVE, beside)) << "no day is hit";
+    EXPECT_TRUE(paints(WM_LBUTTONUP, beside));
+    EXPECT_FALSE(paints(WM_LBUTTONUP, beside)) << "nothing was pressed";
+    EXPECT_TRUE(paints(WM_LBUTTONDBLCLK, day));
+    const CPoint arrow = CRect(m_calendar.m_rcRightArrow).CenterPoint();
+    EXPECT_TRUE(paints(WM_LBUTTONDOWN, arrow));
+    EXPECT_TRUE(paints(WM_MOUSEMOVE, arrow));
+    EXPECT_FALSE(paints(WM_MOUSEMOVE, beside));
+    EXPECT_TRUE(paints(WM_LBUTTONUP, beside));
+    const CPoint header = CRect(m_calendar.m_pCells[0].rcHdr).CenterPoint();
+    paints(WM_LBUTTONDOWN, header);
+    EXPECT_TRUE(paints(WM_LBUTTONUP, header));
+}
+
 TEST_F(CalendarMouse, ArrowsWinOverTheHeader)
 {
     Begin(1);

@@ -536,6 +536,15 @@ TEST_F(Clock, SettingTheTimeEndsAnAnimation)
     EXPECT_EQ("5:06", Time());
 }
 
+TEST_F(Clock, TimerThatComesWithoutAnAnimationIsEnded)
+{
+    Make();
+    m_clock.SetTimer(1, 10000, nullptr);
+    m_clock.OnTimer(1);
+    EXPECT_EQ("1:30", Time());
+    EXPECT_FALSE(m_clock.KillTimer(1));
+}
+
 TEST_F(Clock, TimersOfOthersMoveNothing)
 {
     Make();
