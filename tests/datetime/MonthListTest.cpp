@@ -206,6 +206,19 @@ TEST_F(MonthList, PictureReachesTheScreenInOneStep)
     ts::MouseUp();
 }
 
+TEST_F(MonthList, EveryMoveIsPaintedAtOnce)
+{
+    Open();
+    ts::MessageRecorder log(List());
+    log.RecordOnly({WM_PAINT});
+    MSG move = {m_calendar.m_hWnd, WM_MOUSEMOVE, 0, 0, 0, {0, 0}};
+    m_calendar.PreTranslateMessage(&move);
+    EXPECT_EQ(1u, log.Messages().size());
+    m_calendar.PreTranslateMessage(&move);
+    EXPECT_EQ(2u, log.Messages().size());
+    ts::MouseUp();
+}
+
 TEST_F(MonthList, OnlyMouseMovesScroll)
 {
     Open();

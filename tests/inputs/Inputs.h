@@ -53,6 +53,23 @@ inline testing::AssertionResult HasFlatBorder(const CWnd& control)
     return ts::FrameIs(picture, CRect(1, 1, outer.right - 1, outer.bottom - 1), ::GetSysColor(COLOR_WINDOW));
 }
 
+/** Whether a control with a vertical scroll bar in its frame paints that with the frame. */
+inline testing::AssertionResult PaintsItsScrollBar(CWnd& control)
+{
+    constexpr COLORREF marked = RGB(200, 10, 200);
+    const ts::Picture before = FrameOf(control);
+    CRect bar(0, 0, before.Width(), before.Height());
+    bar.DeflateRect(2, 2);
+    bar.left = bar.right - ::GetSystemMetrics(SM_CXVSCROLL);
+    {
+        CWindowDC dc(&control);
+        dc.FillSolidRect(&bar, marked);
+    }
+    control.SendMessage(WM_NCPAINT, 1);
+    const int left = ts::CaptureFrame(control.m_hWnd).Crop(bar).Count(marked);
+    return left == 0 ? testing::AssertionSuccess() : testing::AssertionFailure() << left << " pixels are not painted";
+}
+
 inline CString TextOf(const CWnd& control)
 {
     CString text;

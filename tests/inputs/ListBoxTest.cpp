@@ -207,6 +207,23 @@ TEST_F(FlatListBox, PaintsItsBorderFlat)
     EXPECT_TRUE(HasFlatBorder(m_list));
 }
 
+template <class List>
+void ExpectScrollBar(CWnd& parent, DWORD style)
+{
+    List list;
+    const CRect rect(120, 10, 190, 110);
+    ASSERT_TRUE(list.SubclassWindow(
+        AddSystem(parent, L"LISTBOX", WS_VSCROLL | LBS_DISABLENOSCROLL | style, WS_EX_CLIENTEDGE, rect)));
+    EXPECT_TRUE(PaintsItsScrollBar(list));
+    EXPECT_TRUE(HasFlatBorder(list));
+}
+
+TEST_F(FlatListBox, ScrollBarInTheFrameIsStillPainted)
+{
+    ExpectScrollBar<CFlatListBox>(m_host, 0);
+    ExpectScrollBar<CFlatChkList>(m_host, LBS_OWNERDRAWFIXED | LBS_HASSTRINGS);
+}
+
 /** A check list in a parent that can be asked what it was told. */
 class FlatChkList : public testing::Test
 {

@@ -327,6 +327,14 @@ TEST_F(RichEdit, PaintsItsBorderFlat)
     EXPECT_TRUE(HasFlatBorder(m_edit));
 }
 
+TEST_F(RichEdit, ScrollBarInTheFrameIsStillPainted)
+{
+    COpenRichEdit edit;
+    const DWORD style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | ES_MULTILINE | ES_DISABLENOSCROLL;
+    ASSERT_TRUE(edit.CreateEx(WS_EX_CLIENTEDGE, style, CRect(10, 10, 200, 120), &m_host, 18));
+    EXPECT_TRUE(PaintsItsScrollBar(edit));
+}
+
 TEST_F(RichEdit, ShowingPaintingAndClosingLeavesNothingBehind)
 {
     EXPECT_TRUE(ts::NoLeak([this] {
