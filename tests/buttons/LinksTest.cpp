@@ -569,7 +569,7 @@ TEST_F(QorLink, VisitedLinkHoversToo)
 
 TEST_F(QorLink, ClickAsksTheShellToOpenTheUrl)
 {
-    const ts::ReplacedImport opening(L"QorUI.dll", "ShellExecuteW", &TakeOpening);
+    const ts::ReplacedFunction opening(L"shell32.dll", "ShellExecuteW", &TakeOpening);
     g_openAnswer = 33;
     Take(SS_LEFT, L"http://example.org");
     ts::Click(m_link);
@@ -583,7 +583,7 @@ TEST_F(QorLink, ClickAsksTheShellToOpenTheUrl)
 
 TEST_F(QorLink, OpeningCountsFromThirtyThreeOn)
 {
-    const ts::ReplacedImport opening(L"QorUI.dll", "ShellExecuteW", &TakeOpening);
+    const ts::ReplacedFunction opening(L"shell32.dll", "ShellExecuteW", &TakeOpening);
     Take();
     const auto click = [this] {
         m_host.SendMessage(WM_COMMAND, MAKEWPARAM(15, STN_CLICKED), reinterpret_cast<LPARAM>(m_link.m_hWnd));
