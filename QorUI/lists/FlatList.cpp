@@ -206,8 +206,7 @@ LRESULT CFlatList::OnSetListExStyle(WPARAM /*mask*/, LPARAM style)
 void CFlatList::OnPaint()
 {
     Default();
-    // The parent may have destroyed the list when it was told of the painting.
-    if (m_hWnd && m_lpszEmptyText && GetItemCount() < 1) {
+    if (m_lpszEmptyText && GetItemCount() < 1) {
         DrawEmptyText();
     }
 }

@@ -86,6 +86,21 @@ TEST_F(Info, OneItemWrapsToTheBottom)
     EXPECT_GT(LookOf(m_info).BoundsOf(kInk).bottom, 16);
 }
 
+TEST_F(Info, ValuesReachToTheRightEdge)
+{
+    const int left = Width(L"A:") + 6;
+    for (int length = 40; length < 70; ++length) {
+        const CString value(L'i', length);
+        m_info.RemoveAll();
+        m_info.AddItem(L"A", value);
+        m_info.AddItem(L"", L"");
+        ASSERT_TRUE(ts::SamePicture(
+            Texts({{CRect(0, 0, Width(L"A:"), 16), L"A:", kLine}, {CRect(left, 0, 200, 16), value, kLine}}),
+            LookOf(m_info)))
+            << length;
+    }
+}
+
 TEST_F(Info, LastValueEndsAtTheBottomWithAnEllipsis)
 {
     CString text;

@@ -2,6 +2,8 @@
 
 #include <QorUI/indicators/ProgressParts.h>
 
+#include <functional>
+
 namespace
 {
 
@@ -307,17 +309,21 @@ TEST_F(ProgressBar, EveryStepRepaintsTheWholeBar)
     expectWhole("a step");
 }
 
-TEST_F(ProgressBar, ReachingTheEndErasesBeforePainting)
+TEST_F(ProgressBar, OnlyReachingTheEndErasesBeforePainting)
 {
     LookOf(m_bar);
     ts::MessageRecorder log(m_bar);
     log.RecordOnly({WM_ERASEBKGND});
-    m_bar.SetPos(100);
-    m_bar.UpdateWindow();
-    const size_t before = log.Count(ts::Msg(WM_ERASEBKGND));
-    m_bar.SetPos(200);
-    m_bar.UpdateWindow();
-    EXPECT_GT(log.Count(ts::Msg(WM_ERASEBKGND)), before);
+    const auto erasings = [this, &log](const std::function<void()>& move) {
+        log.Clear();
+        move();
+        m_bar.UpdateWindow();
+        return log.Messages().size();
+    };
+    const size_t stock = erasings([this] { m_bar.CProgressCtrl::SetPos(50); });
+    EXPECT_EQ(stock, erasings([this] { m_bar.SetPos(100); }));
+    EXPECT_EQ(stock, erasings([this] { m_bar.SetPos(199); }));
+    EXPECT_EQ(stock + 1, erasings([this] { m_bar.SetPos(200); }));
 }
 
 TEST_F(ProgressBar, CalculatesWithItsRange)

@@ -167,6 +167,9 @@ TEST_F(StatusBar, SetPartsReplacesAllTexts)
 TEST_F(StatusBar, ChangesRepaint)
 {
     SetThree();
+    m_bar.UpdateWindow();
+    EXPECT_FALSE(::GetUpdateRect(m_bar, nullptr, FALSE));
+    SetThree();
     EXPECT_TRUE(::GetUpdateRect(m_bar, nullptr, FALSE));
     ::ValidateRect(m_bar, nullptr);
     m_bar.SetText(0, L"Text");

@@ -294,8 +294,8 @@ TEST_F(FlatHdr, SpaceFollowsTheColumnsThatAreShown)
     LookOf(m_header);
     m_header.DeleteItem(2);
     EXPECT_TRUE(ts::AreaIs(LookOf(m_header), CRect(180, 0, 300, 19), kBack));
-    const std::array<int, 2> order = {1, 0};
-    ASSERT_TRUE(m_header.SetOrderArray(2, const_cast<int*>(order.data())));
+    std::array<int, 2> order = {1, 0};
+    ASSERT_TRUE(m_header.SetOrderArray(2, order.data()));
     const ts::Picture look = LookOf(m_header);
     EXPECT_TRUE(ts::AreaIs(look, CRect(180, 0, 300, 19), kBack));
     EXPECT_TRUE(ts::AreaIs(look, CRect(79, 0, 80, 20), kLine));
