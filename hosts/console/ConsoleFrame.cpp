@@ -23,6 +23,7 @@ BEGIN_MESSAGE_MAP(CConsoleFrame, CQorFrame)
     ON_WM_CTLCOLOR()
     ON_LBN_SELCHANGE(kListId, &CConsoleFrame::OnSelectPage)
     ON_COMMAND(IDOK, &CConsoleFrame::OnEnter)
+    ON_MESSAGE(WM_NEXTDLGCTL, &CConsoleFrame::OnNextDlgCtl)
 END_MESSAGE_MAP()
 
 BOOL CConsoleFrame::Create()
@@ -146,6 +147,21 @@ void CConsoleFrame::OnEnter()
     if (focus && (::SendMessageW(focus, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON)) {
         ::SendMessageW(focus, BM_CLICK, 0, 0);
     }
+}
+
+/** What a dialog does: Wine asks for it when the mnemonic of a label is pressed, twice, for the label and then on. */
+LRESULT CConsoleFrame::OnNextDlgCtl(WPARAM control, LPARAM isHandle)
+{
+    const HWND next =
+        LOWORD(isHandle) ? reinterpret_cast<HWND>(control) : ::GetNextDlgTabItem(m_hWnd, ::GetFocus(), control != 0);
+    if (!next) {
+        return 0;
+    }
+    ::SetFocus(next);
+    if (::SendMessageW(next, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) {
+        ::SendMessageW(next, EM_SETSEL, 0, -1);
+    }
+    return 0;
 }
 
 HBRUSH CConsoleFrame::OnCtlColor(CDC* dc, CWnd* wnd, UINT kind)

@@ -25,6 +25,7 @@ class CConsoleFrame : public CQorFrame
     afx_msg void OnClose();
     afx_msg void OnSelectPage();
     afx_msg void OnEnter();
+    afx_msg LRESULT OnNextDlgCtl(WPARAM control, LPARAM isHandle);
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* wnd, UINT kind);
     DECLARE_MESSAGE_MAP()
 

@@ -291,7 +291,7 @@ class CLinksPage : public CConsolePage
         address.SetFont(PageFont());
         m_link = &OwnLink();
         return Take(*m_link, ConText(L"STR_CON_LINK_TEXT"), SS_LEFT, LivePlace(), kLink) && BuildChoices() &&
-               AddLabel(L"", CRect(kLeft, kLiveTop + 98, kRight, kLiveTop + 116), kResult);
+               AddLabel(ConText(L"STR_CON_NOTHING"), CRect(kLeft, kLiveTop + 98, kRight, kLiveTop + 116), kResult);
     }
 
     bool BuildChoices()
