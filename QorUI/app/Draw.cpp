@@ -22,22 +22,24 @@ void DrawLine(HDC dc, POINT from, POINT to)
     ::LineTo(dc, to.x, to.y);
 }
 
+/** Draws two lines that meet in a corner; nothing when there is no pen to be had. */
+void DrawCorner(HDC dc, POINT corner, POINT oneEnd, POINT otherEnd, COLORREF colour)
+{
+    CPen pen;
+    pen.CreatePen(PS_SOLID, 1, colour);
+    const CSelectSaver select(dc, pen.GetSafeHandle());
+    if (select) {
+        DrawLine(dc, corner, oneEnd);
+        DrawLine(dc, corner, otherEnd);
+    }
+}
+
 void DrawEdge(HDC dc, const CRect& rect, COLORREF topLeft, COLORREF bottomRight)
 {
-    const POINT leftTop = {rect.left, rect.top};
     const POINT rightTop = {rect.right, rect.top};
     const POINT leftBottom = {rect.left, rect.bottom};
-    const POINT rightBottom = {rect.right, rect.bottom};
-    {
-        CPen pen(PS_SOLID, 1, topLeft);
-        const CSelectSaver select(dc, pen.GetSafeHandle());
-        DrawLine(dc, leftTop, rightTop);
-        DrawLine(dc, leftTop, leftBottom);
-    }
-    CPen pen(PS_SOLID, 1, bottomRight);
-    const CSelectSaver select(dc, pen.GetSafeHandle());
-    DrawLine(dc, rightBottom, rightTop);
-    DrawLine(dc, rightBottom, leftBottom);
+    DrawCorner(dc, {rect.left, rect.top}, rightTop, leftBottom, topLeft);
+    DrawCorner(dc, {rect.right, rect.bottom}, rightTop, leftBottom, bottomRight);
 }
 
 COLORREF GrayOf(COLORREF pixel)
@@ -91,8 +93,10 @@ void QorDrawBox(HDC dc, int x, int y, int cx, int cy, COLORREF fill)
     rect.DeflateRect(1, 1);
     DrawEdge(dc, rect, kBoxInnerLight, kBoxInnerDark);
     rect.DeflateRect(1, 1);
-    CBrush brush(fill);
-    ::FillRect(dc, &rect, static_cast<HBRUSH>(brush.GetSafeHandle()));
+    CBrush brush;
+    if (brush.CreateSolidBrush(fill)) {
+        ::FillRect(dc, &rect, brush);
+    }
 }
 
 void QorDrawGradientLine(CDC* dc, CPoint start, int length)

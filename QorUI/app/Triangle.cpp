@@ -35,10 +35,15 @@ void QorDrawTriangle(CDC* dc, const RECT& rect, int direction, COLORREF colour)
     if (!dc || !corners) {
         return;
     }
-    CBrush brush(colour);
-    CPen pen(PS_SOLID, 1, colour);
+    CBrush brush;
+    brush.CreateSolidBrush(colour);
+    CPen pen;
+    pen.CreatePen(PS_SOLID, 1, colour);
     const CSelectSaver selectBrush(dc->m_hDC, brush.GetSafeHandle());
     const CSelectSaver selectPen(dc->m_hDC, pen.GetSafeHandle());
+    if (!selectBrush || !selectPen) {
+        return;
+    }
     const int fillMode = ::SetPolyFillMode(dc->m_hDC, WINDING);
     ::Polygon(dc->m_hDC, corners->data(), static_cast<int>(corners->size()));
     ::SetPolyFillMode(dc->m_hDC, fillMode);

@@ -108,7 +108,8 @@ void CCmdBtn::DrawRect(CDC* dc, CRect& rect)
     if (!dc) {
         return;
     }
-    CBrush brush(QorLook::kCmdHotFill);
+    CBrush brush;
+    brush.CreateSolidBrush(QorLook::kCmdHotFill);
     QorDrawRounded(dc->m_hDC, rect, QorLook::kCmdHotBorder, brush.GetSafeHandle());
 }
 

@@ -475,6 +475,30 @@ TEST(ImageList, BitmapIsFreedOnEveryPath)
     }));
 }
 
+TEST(WithoutGdiHandles, BoxIsNotDrawnAndNothingIsThrown)
+{
+    const ts::Picture picture = Drawn(60, 40, [](CDC& dc) {
+        const NoGdiHandles handles;
+        ASSERT_TRUE(handles.AreGone());
+        QorDrawBox(dc, 5, 6, 40, 20, RGB(9, 8, 7));
+    });
+    EXPECT_EQ(60 * 40, picture.Count(kPaper));
+}
+
+TEST(WithoutGdiHandles, GreyPicturesAndImageListsAreRefused)
+{
+    ColourRow source({RGB(255, 0, 0), 0});
+    const HICON icon = ::LoadIconW(Program(), MAKEINTRESOURCEW(IDI_SQUARE));
+    CImageList list;
+    UINT size = 77;
+    const NoGdiHandles handles;
+    ASSERT_TRUE(handles.AreGone());
+    EXPECT_EQ(nullptr, QorCreateGrayBmp(source.Handle()));
+    EXPECT_EQ(nullptr, QorCreateGrayIcon(icon));
+    EXPECT_EQ(0, QorCreateImageList(list, IDB_ICONS, Program(), 0, &size));
+    EXPECT_EQ(77u, size);
+}
+
 /** A tree and a list, each with items, in a window. */
 class PopupPoint : public testing::Test
 {

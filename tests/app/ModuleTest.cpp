@@ -213,6 +213,16 @@ TEST_F(Module, MissingPicturesLeaveTheObjectsEmptyAndInitSucceeds)
     EXPECT_NE(nullptr, QorGetDlgBkBrush());
 }
 
+TEST_F(Module, InitSucceedsWithoutGdiHandles)
+{
+    g_QorUIApp.m_hInstance = m_library;
+    const NoGdiHandles handles;
+    ASSERT_TRUE(handles.AreGone());
+    EXPECT_TRUE(g_QorUIApp.InitInstance());
+    EXPECT_EQ(nullptr, QorGetDlgBkBrush());
+    EXPECT_EQ(nullptr, g_BtnStyles[0].brush.GetSafeHandle());
+}
+
 TEST_F(Module, ExitStopsGdiplusWithItsToken)
 {
     InitWithPictures();

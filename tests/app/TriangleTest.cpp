@@ -79,6 +79,16 @@ TEST(DrawTriangle, LeavesTheDeviceContextAsItWas)
     });
 }
 
+TEST(DrawTriangle, WithoutGdiHandlesNothingIsDrawnOrThrown)
+{
+    const ts::Picture picture = Drawn(20, 14, [](CDC& dc) {
+        const NoGdiHandles handles;
+        ASSERT_TRUE(handles.AreGone());
+        QorDrawTriangle(&dc, kPlace, 0, kInk);
+    });
+    EXPECT_EQ(20 * 14, picture.Count(kPaper));
+}
+
 TEST(DrawTriangle, LeavesNothingBehind)
 {
     EXPECT_TRUE(ts::NoLeak([] { DrawnTriangle(0); }));

@@ -368,6 +368,29 @@ TEST_F(CmdBtn, ClickReachesTheParent)
     EXPECT_EQ(1u, m_host.Log().Count(ts::Command(6, BN_CLICKED)));
 }
 
+TEST_F(CmdBtn, DisabledButtonDrawsItsIconWhenNoGreyOneCanBeMade)
+{
+    const ts::Picture picture = OnPaper([&](CDC& dc) {
+        DRAWITEMSTRUCT request = DrawRequest(m_button, dc, CRect(0, 0, kWidth, kHeight), ODS_DISABLED);
+        const NoGdiHandles handles;
+        ASSERT_TRUE(handles.AreGone());
+        m_button.DrawItem(&request);
+    });
+    EXPECT_NE(RGB(76, 76, 76), picture.At(10, 10));
+    EXPECT_TRUE(ts::PixelIs(Draw(ODS_DISABLED), 10, 10, RGB(76, 76, 76))) << "made at the next chance";
+}
+
+TEST_F(CmdBtn, HighlightWithoutGdiHandlesIsNotFilledAndNothingIsThrown)
+{
+    const ts::Picture picture = OnPaper([&](CDC& dc) {
+        CRect rect(0, 0, kWidth, kHeight);
+        const NoGdiHandles handles;
+        ASSERT_TRUE(handles.AreGone());
+        m_button.DrawRect(&dc, rect);
+    });
+    EXPECT_EQ(0, picture.Count(kHotFill));
+}
+
 TEST_F(CmdBtn, WithoutWindowItHasADescriptionAndNoTitle)
 {
     CCmdBtn none;
