@@ -400,13 +400,6 @@ TEST(GrayIcon, NoIconGivesNull)
     EXPECT_EQ(nullptr, QorCreateGrayIcon(nullptr));
 }
 
-/** A cursor without colours: its one bitmap holds both masks. */
-HICON MonochromeIcon()
-{
-    const std::vector<BYTE> masks(2 * 32 * 32 / 8);
-    return ::CreateIcon(nullptr, 32, 32, 1, 1, masks.data(), masks.data());
-}
-
 TEST(GrayIcon, BitmapsAreFreedOnEveryPath)
 {
     const HICON colours = ::LoadIconW(Program(), MAKEINTRESOURCEW(IDI_SQUARE));
@@ -415,10 +408,9 @@ TEST(GrayIcon, BitmapsAreFreedOnEveryPath)
         EXPECT_NE(nullptr, gray);
         ::DestroyIcon(gray);
     }));
-    const HICON monochrome = MonochromeIcon();
+    const HICON monochrome = ::LoadIconW(Program(), MAKEINTRESOURCEW(IDI_MONO));
     ASSERT_NE(nullptr, monochrome);
-    EXPECT_TRUE(ts::NoLeak([=] { ::DestroyIcon(QorCreateGrayIcon(monochrome)); }));
-    ::DestroyIcon(monochrome);
+    EXPECT_TRUE(ts::NoLeak([=] { EXPECT_EQ(nullptr, QorCreateGrayIcon(monochrome)); }));
 }
 
 TEST(ImageList, StripOf80By16GivesFiveSquareImages)

@@ -40,6 +40,18 @@ def icon(rows):
     return struct.pack("<HHH", 0, 1, 1) + entry + info + body
 
 
+def monochrome_icon(rows):
+    """Icon of black and white pixels, without a colour bitmap."""
+    size = len(rows)
+    body = b"".join(sum((pixel == WHITE) << (size - 1 - x) for x, pixel in enumerate(row)).to_bytes(size // 8, "big")
+                    for row in reversed(rows))
+    body += bytes(len(body))
+    palette = bytes(4) + b"\xff\xff\xff\0"
+    info = struct.pack("<IiiHHIIiiII", 40, size, size * 2, 1, 1, 0, len(body), 0, 0, 2, 0) + palette
+    entry = struct.pack("<BBBBHHII", size, size, 2, 0, 1, 1, len(info) + len(body), 22)
+    return struct.pack("<HHH", 0, 1, 1) + entry + info + body
+
+
 def strip(colours, width, height, left_column=None):
     """Frames of one colour each; the first column of each frame may have a colour of its own."""
     row = []
@@ -62,6 +74,7 @@ def main():
         "damaged.png": png(frames)[:40],
         "square.ico": icon([[RED] * 16 + [WHITE] * 16] * 16 + [[BLACK] * 32] * 16),
         "other.ico": icon([[GREEN] * 32] * 32),
+        "mono.ico": monochrome_icon([[WHITE] * 16 + [BLACK] * 16] * 32),
     }
     for name, data in files.items():
         (HERE / name).write_bytes(data)

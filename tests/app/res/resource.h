@@ -10,6 +10,7 @@
 #define IDR_DAMAGED 1102
 #define IDI_SQUARE 1200
 #define IDI_OTHER 1201
+#define IDI_MONO 1202
 #define IDI_MISSING 1299
 #define IDD_BUTTONS 1300
 #define IDC_FIRST 1301
