@@ -470,8 +470,7 @@ TEST(ImageList, BitmapIsFreedOnEveryPath)
 TEST(WithoutGdiHandles, BoxIsNotDrawnAndNothingIsThrown)
 {
     const ts::Picture picture = Drawn(60, 40, [](CDC& dc) {
-        const NoGdiHandles handles;
-        ASSERT_TRUE(handles.AreGone());
+        const ts::GdiShortage shortage;
         QorDrawBox(dc, 5, 6, 40, 20, RGB(9, 8, 7));
     });
     EXPECT_EQ(60 * 40, picture.Count(kPaper));
@@ -483,8 +482,7 @@ TEST(WithoutGdiHandles, GreyPicturesAndImageListsAreRefused)
     const HICON icon = ::LoadIconW(Program(), MAKEINTRESOURCEW(IDI_SQUARE));
     CImageList list;
     UINT size = 77;
-    const NoGdiHandles handles;
-    ASSERT_TRUE(handles.AreGone());
+    const ts::GdiShortage shortage;
     EXPECT_EQ(nullptr, QorCreateGrayBmp(source.Handle()));
     EXPECT_EQ(nullptr, QorCreateGrayIcon(icon));
     EXPECT_EQ(0, QorCreateImageList(list, IDB_ICONS, Program(), 0, &size));

@@ -216,8 +216,7 @@ TEST_F(Module, MissingPicturesLeaveTheObjectsEmptyAndInitSucceeds)
 TEST_F(Module, InitSucceedsWithoutGdiHandles)
 {
     g_QorUIApp.m_hInstance = m_library;
-    const NoGdiHandles handles;
-    ASSERT_TRUE(handles.AreGone());
+    const ts::GdiShortage shortage;
     EXPECT_TRUE(g_QorUIApp.InitInstance());
     EXPECT_EQ(nullptr, QorGetDlgBkBrush());
     EXPECT_EQ(nullptr, g_BtnStyles[0].brush.GetSafeHandle());

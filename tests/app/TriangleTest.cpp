@@ -82,8 +82,7 @@ TEST(DrawTriangle, LeavesTheDeviceContextAsItWas)
 TEST(DrawTriangle, WithoutGdiHandlesNothingIsDrawnOrThrown)
 {
     const ts::Picture picture = Drawn(20, 14, [](CDC& dc) {
-        const NoGdiHandles handles;
-        ASSERT_TRUE(handles.AreGone());
+        const ts::GdiShortage shortage;
         QorDrawTriangle(&dc, kPlace, 0, kInk);
     });
     EXPECT_EQ(20 * 14, picture.Count(kPaper));

@@ -380,8 +380,7 @@ TEST_F(CmdBtn, GreyIconThatCouldNotBeMadeIsMadeLater)
 {
     OnPaper([&](CDC& dc) {
         DRAWITEMSTRUCT request = DrawRequest(m_button, dc, CRect(0, 0, kWidth, kHeight), ODS_DISABLED);
-        const NoGdiHandles handles;
-        ASSERT_TRUE(handles.AreGone());
+        const ts::GdiShortage shortage;
         m_button.DrawItem(&request);
     });
     EXPECT_TRUE(ts::PixelIs(Draw(ODS_DISABLED), 10, 10, RGB(76, 76, 76)));
@@ -391,8 +390,7 @@ TEST_F(CmdBtn, HighlightWithoutGdiHandlesIsNotFilledAndNothingIsThrown)
 {
     const ts::Picture picture = OnPaper([&](CDC& dc) {
         CRect rect(0, 0, kWidth, kHeight);
-        const NoGdiHandles handles;
-        ASSERT_TRUE(handles.AreGone());
+        const ts::GdiShortage shortage;
         m_button.DrawRect(&dc, rect);
     });
     EXPECT_EQ(0, picture.Count(kHotFill));
