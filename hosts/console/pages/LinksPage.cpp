@@ -208,7 +208,7 @@ class CLinksPage : public CConsolePage
             {kBand.right, kBand.bottom, Wide(GetRValue(kBandBottom)), Wide(GetGValue(kBandBottom)),
              Wide(GetBValue(kBandBottom)), 0}};
         GRADIENT_RECT whole = {0, 1};
-        ::GradientFill(dc.m_hDC, corners, 2, &whole, 1, GRADIENT_FILL_RECT_V);
+        ::GdiGradientFill(dc.m_hDC, corners, 2, &whole, 1, GRADIENT_FILL_RECT_V);
     }
 
     static COLOR16 Wide(BYTE value) { return static_cast<COLOR16>(value << 8); }
