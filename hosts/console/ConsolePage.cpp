@@ -146,6 +146,11 @@ HBRUSH CConsolePage::OnCtlColor(CDC* dc, CWnd* wnd, UINT kind)
     return QorGetDlgBkBrush();
 }
 
+LRESULT CConsolePage::OnGetFont(WPARAM /*wParam*/, LPARAM /*lParam*/)
+{
+    return reinterpret_cast<LRESULT>(PageFont()->m_hObject);
+}
+
 LRESULT CConsolePage::OnDrawParentBack(WPARAM dc, LPARAM control)
 {
     CRect client;

@@ -299,6 +299,25 @@ TEST_F(ProgressPage, BarsAndListShowThePosition)
     CRect cell;
     list.GetSubItemRect(1, 1, LVIR_BOUNDS, cell);
     EXPECT_TRUE(ts::PixelIs(ts::CaptureWindow(list), cell.left + 5, cell.top + 3, RGB(6, 177, 36)));
+    EXPECT_GE(cell.Height(), 18);
+}
+
+TEST_F(ProgressPage, BarsHaveThePagesFont)
+{
+    m_frame.CurrentPage()->ShowState(2); // empty bars
+    const ts::Picture bar = ts::CaptureWindow(Control(kPercent));
+    const COLORREF ink = ::GetSysColor(COLOR_HIGHLIGHT);
+    const ts::Picture expected = ts::DrawTo(
+        bar.Width(), bar.Height(),
+        [&](HDC dc) {
+            CRect inside(2, 2, bar.Width() - 2, bar.Height() - 2);
+            ::SelectObject(dc, ::GetStockObject(DEFAULT_GUI_FONT));
+            ::SetTextColor(dc, ink);
+            ::DrawTextW(dc, L"0%", 2, &inside, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+        },
+        ::GetSysColor(COLOR_WINDOW));
+    EXPECT_EQ(CRect(expected.BoundsOf(ink)), CRect(bar.BoundsOf(ink)));
+    EXPECT_EQ(expected.Count(ink), bar.Count(ink));
 }
 
 TEST_F(ProgressPage, WorksByKeyboardAlone)

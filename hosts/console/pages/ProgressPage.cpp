@@ -21,6 +21,7 @@ constexpr int kRight = 716;
 constexpr int kFileCount = 250;
 constexpr int kEnd = 1000;
 constexpr int kStep = 5;
+constexpr int kRowHeight = 18;      // room for a label inside a cell's frame
 constexpr int kDoneFile = kEnd / 5; // the files of the list are copied one after the other
 
 /** Progress bars that run, and a list of files with their progress. */
@@ -94,11 +95,15 @@ class CProgressPage : public CConsolePage
 
     bool BuildList()
     {
-        const DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_SHOWSELALWAYS | LVS_SINGLESEL;
+        const DWORD style =
+            WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_SHOWSELALWAYS | LVS_SINGLESEL | LVS_SHAREIMAGELISTS;
         if (!m_list.CreateEx(WS_EX_CLIENTEDGE, style, CRect(kLeft, 186, kRight, 506), this, kList)) {
             return false;
         }
         m_list.SetFont(PageFont());
+        if (m_rows.Create(1, kRowHeight, ILC_COLOR, 0, 1)) {
+            m_list.SetImageList(&m_rows, LVSIL_SMALL); // empty: it makes the rows higher
+        }
         m_list.InsertColumn(0, ConText(L"STR_CON_ROW_NAME"), LVCFMT_LEFT, 260);
         m_list.InsertColumn(1, ConText(L"STR_CON_PROG_STATE"), LVCFMT_LEFT, 300);
         static constexpr std::array<LPCWSTR, 5> files = {L"Archive.zip", L"Budget.xls", L"Letter.doc", L"Photo.jpg",
@@ -140,6 +145,7 @@ class CProgressPage : public CConsolePage
     CProgressBar m_percent;
     CProgressBar m_files;
     CProgressBar m_silent;
+    CImageList m_rows;
     CProgressList m_list;
     int m_position = 0;
 };
