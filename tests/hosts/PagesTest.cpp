@@ -4,8 +4,9 @@
 
 #include <QorApi/QorApi.h>
 
+#include <algorithm>
 #include <array>
-#include <memory>
+#include <vector>
 
 namespace
 {
