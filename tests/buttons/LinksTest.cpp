@@ -10,7 +10,8 @@ namespace
 constexpr COLORREF kLink = RGB(0, 0, 238);
 constexpr COLORREF kVisited = RGB(85, 26, 139);
 constexpr COLORREF kBack = RGB(240, 241, 242);
-constexpr wchar_t kProgram[] = L"C:\\windows\\system32\\hostname.exe"; ///< opens, does nothing and ends
+/** Opens, does nothing and ends; without a console, whose window would take the foreground from the next test. */
+constexpr wchar_t kProgram[] = L"C:\\windows\\system32\\rundll32.exe";
 constexpr wchar_t kMissing[] = L"C:\\no such folder\\no such file.zzz";
 
 CSize Extent(const wchar_t* text, HGDIOBJ font)
@@ -529,6 +530,7 @@ TEST_F(QorLink, TooltipComesUpOverTheLink)
 {
     Take(SS_LEFT, L"http://example.org");
     ts::SetPreTranslate([this](MSG& msg) { return CWnd::WalkPreTranslateTree(m_host.m_hWnd, &msg) != FALSE; });
+    ts::BringToFront(m_host); // a tooltip comes up over active windows only
     ::SendMessageW(FindTip(), TTM_SETDELAYTIME, TTDT_INITIAL, 20);
     ts::MoveMouse(m_link, 4, 4);
     ts::MoveMouse(m_link, 5, 5);
