@@ -208,8 +208,11 @@ void CQorLink::OnPaint()
 
 BOOL CQorLink::OnEraseBkgnd(CDC* dc)
 {
-    // Smoothed text gets bolder when it is drawn over itself. The system's own brush says nothing about the parent.
     const HWND parent = ::GetParent(m_hWnd);
+    if (!dc || !parent) {
+        return TRUE;
+    }
+    // Smoothed text gets bolder when it is drawn over itself. The system's own brush says nothing about the parent.
     const CDcStateSaver saver(dc->m_hDC);
     const auto brush = reinterpret_cast<HBRUSH>(::SendMessageW(
         parent, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc->m_hDC), reinterpret_cast<LPARAM>(m_hWnd)));

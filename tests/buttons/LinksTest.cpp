@@ -428,6 +428,17 @@ TEST_F(LinkOnABrush, TextIsDrawnOnTheBrush)
     EXPECT_TRUE(ts::SamePicture(expected, look));
 }
 
+TEST_F(LinkOnABrush, ErasingLeavesTheDeviceContextAsItWas)
+{
+    EXPECT_EQ(TRUE, m_link.SendMessage(WM_ERASEBKGND, 0));
+    ts::DrawTo(10, 10, [this](HDC dc) {
+        ::SetTextColor(dc, RGB(1, 2, 3));
+        EXPECT_EQ(TRUE, m_link.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc)));
+        EXPECT_EQ(RGB(1, 2, 3), ::GetTextColor(dc));
+        EXPECT_EQ(kBrush, ::GetPixel(dc, 5, 5));
+    });
+}
+
 TEST_F(LinkOnABrush, TextKeepsTheLinkFont)
 {
     const ts::Picture before = Look(m_link);
