@@ -51,6 +51,13 @@ DWORD StartAttempt(CDatabase& db, const CString& name, ATTEMPT& attempt)
     return CQuery(db, "UPDATE logon SET failures = failures + 1").Run();
 }
 
+/** Ends the rows of failures: the account's, and that of the unknown names, which nothing else could ever end. */
+DWORD EndFailures(CDatabase& db, long long accountId)
+{
+    CQuery(db, "UPDATE user SET failures = 0 WHERE id = ?1").Bind(1, accountId).Run();
+    return CQuery(db, "UPDATE logon SET failures = 0").Run();
+}
+
 void DelayAnswer(int failures)
 {
     if (failures >= FREE_FAILURES)
@@ -89,9 +96,7 @@ DWORD QorLogonUser(LPCWSTR name, LPCWSTR password)
         return status;
     if (!right)
         return ERROR_LOGON_FAILURE;
-    status = WriteStore([&](CDatabase& db) {
-        return CQuery(db, "UPDATE user SET failures = 0 WHERE id = ?1").Bind(1, attempt.accountId).Run();
-    });
+    status = WriteStore([&](CDatabase& db) { return EndFailures(db, attempt.accountId); });
     if (status != 0)
         return status;
     if (attempt.flags & QORUSER_INACTIVE)

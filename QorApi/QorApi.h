@@ -257,7 +257,7 @@ QORAPI_API BOOL QorHasUserRight(DWORD rights);
  *
  * Every failure is counted with the account (unknown names share one count). After five failures in a row each further
  * answer is delayed, 2 seconds at first and twice as long after every further failure, up to 32 seconds. The count is
- * kept in the store and goes back to 0 with a right password.
+ * kept in the store and goes back to 0 with a right password; that of the unknown names with anybody's.
  * @return status: ERROR_LOGON_FAILURE (unknown name or wrong password, not told apart), ERROR_ACCOUNT_DISABLED (right
  *         password of an inactive account).
  */

@@ -134,6 +134,16 @@ TEST_F(LogonTest, UnknownNamesShareOneCount)
     EXPECT_EQ(Delays(), std::vector<DWORD>{2000});
 }
 
+TEST_F(LogonTest, RightPasswordEndsTheRowOfUnknownNames)
+{
+    FailTimes(5, L"first");
+    LogonBuiltin();
+    FailTimes(5, L"second");
+    EXPECT_TRUE(Delays().empty());
+    FailTimes(1, L"third");
+    EXPECT_EQ(Delays(), std::vector<DWORD>{2000});
+}
+
 TEST_F(LogonTest, CountIsKeptInTheStore)
 {
     Add(L"Anna", nullptr);
