@@ -146,11 +146,6 @@ HBRUSH CConsolePage::OnCtlColor(CDC* dc, CWnd* wnd, UINT kind)
     return QorGetDlgBkBrush();
 }
 
-LRESULT CConsolePage::OnGetFont(WPARAM /*wParam*/, LPARAM /*lParam*/)
-{
-    return reinterpret_cast<LRESULT>(PageFont()->m_hObject);
-}
-
 LRESULT CConsolePage::OnDrawParentBack(WPARAM dc, LPARAM control)
 {
     CRect client;
