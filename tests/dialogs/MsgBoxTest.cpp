@@ -64,6 +64,15 @@ Shown Look(HWND box)
     return shown;
 }
 
+/** Keeps what the box shows that comes up next, and presses OK. */
+void LookAndPressOk(ts::ModalDriver& driver, Shown& shown)
+{
+    driver.InDialog([&shown](HWND box) {
+        shown = Look(box);
+        ::PostMessageW(box, WM_COMMAND, IDOK, 0);
+    });
+}
+
 /** Opens a box, looks at it, and answers with the button of that id. */
 UINT Answer(LPCWSTR text, UINT type, DWORD error, int button, Shown& shown)
 {
@@ -316,10 +325,7 @@ TEST(MsgBox, AllOnesStandForTheLastError)
 {
     Shown shown;
     ts::ModalDriver driver;
-    driver.InDialog([&shown](HWND box) {
-        shown = Look(box);
-        ::PostMessageW(box, WM_COMMAND, IDOK, 0);
-    });
+    LookAndPressOk(driver, shown);
     ::SetLastError(ERROR_FILE_NOT_FOUND);
     QorMsgBox(L"It failed", 0, 0xFFFFFFFF, nullptr);
     EXPECT_STREQ(WithCode(L"It failed", ERROR_FILE_NOT_FOUND), shown.text);
@@ -332,10 +338,7 @@ TEST(MsgBox, LastErrorIsTheOneAtTheTimeOfTheCall)
     const ts::EnvironmentVariable texts(L"QOR_LANG_DIR", folder.Path().c_str());
     Shown shown;
     ts::ModalDriver driver;
-    driver.InDialog([&shown](HWND box) {
-        shown = Look(box);
-        ::PostMessageW(box, WM_COMMAND, IDOK, 0);
-    });
+    LookAndPressOk(driver, shown);
     ::SetLastError(ERROR_CRC);
     QorMsgBox(L"", 0, 0xFFFFFFFF, nullptr);
     EXPECT_STREQ(WithCode(L"STR_OPERATE_FAIL", ERROR_CRC), shown.text);
@@ -345,10 +348,7 @@ TEST(MsgBox, LastErrorOfZeroAppendsNothing)
 {
     Shown shown;
     ts::ModalDriver driver;
-    driver.InDialog([&shown](HWND box) {
-        shown = Look(box);
-        ::PostMessageW(box, WM_COMMAND, IDOK, 0);
-    });
+    LookAndPressOk(driver, shown);
     ::SetLastError(0);
     QorMsgBox(L"Plain", 0, 0xFFFFFFFF, nullptr);
     EXPECT_STREQ(L"Plain", shown.text);
@@ -358,10 +358,7 @@ TEST(MsgBox, FormattedBoxTakesTheLastErrorToo)
 {
     Shown shown;
     ts::ModalDriver driver;
-    driver.InDialog([&shown](HWND box) {
-        shown = Look(box);
-        ::PostMessageW(box, WM_COMMAND, IDOK, 0);
-    });
+    LookAndPressOk(driver, shown);
     ::SetLastError(ERROR_FILE_NOT_FOUND);
     QorMsgBox(QOR_MSG_ERROR, 0xFFFFFFFF, L"It %s", L"failed");
     EXPECT_STREQ(WithCode(L"It failed", ERROR_FILE_NOT_FOUND), shown.text);
@@ -371,10 +368,7 @@ TEST(MsgBox, FormattedBoxWithoutAFormatIsEmpty)
 {
     Shown shown;
     ts::ModalDriver driver;
-    driver.InDialog([&shown](HWND box) {
-        shown = Look(box);
-        ::PostMessageW(box, WM_COMMAND, IDOK, 0);
-    });
+    LookAndPressOk(driver, shown);
     EXPECT_EQ(1u, QorMsgBox(QOR_MSG_INFO, 0, nullptr));
     EXPECT_STREQ(L"", shown.text);
 }
@@ -383,10 +377,7 @@ TEST(MsgBox, FormatsItsText)
 {
     Shown shown;
     ts::ModalDriver driver;
-    driver.InDialog([&shown](HWND box) {
-        shown = Look(box);
-        ::PostMessageW(box, WM_COMMAND, IDOK, 0);
-    });
+    LookAndPressOk(driver, shown);
     EXPECT_EQ(1u, QorMsgBox(QOR_MSG_INFO, 0, L"%s %d%%", L"free", 12));
     EXPECT_STREQ(L"free 12%", shown.text);
 }

@@ -1,24 +1,10 @@
 #include "Checks.h"
+#include "TraceCatcher.h"
 
 #include <string>
 
 namespace
 {
-CString g_strOutput;
-
-class CTraceCatcher
-{
-  public:
-    CTraceCatcher() : m_pfnOld(AfxSetTraceHook([](LPCWSTR lpszText) { g_strOutput += lpszText; }))
-    {
-        g_strOutput.Empty();
-    }
-    ~CTraceCatcher() { AfxSetTraceHook(m_pfnOld); }
-
-  private:
-    AFX_TRACE_HOOK m_pfnOld;
-};
-
 /** Tracks the framework's heap for one test. */
 class CTracking
 {

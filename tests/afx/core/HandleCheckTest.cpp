@@ -1,25 +1,11 @@
 #include "Checks.h"
+#include "TraceCatcher.h"
 
 #include <afxcmn.h>
 #include <tests/support/Surroundings.h>
 
 namespace
 {
-CString g_strOutput;
-
-class CTraceCatcher
-{
-  public:
-    CTraceCatcher() : m_pfnOld(AfxSetTraceHook([](LPCWSTR lpszText) { g_strOutput += lpszText; }))
-    {
-        g_strOutput.Empty();
-    }
-    ~CTraceCatcher() { AfxSetTraceHook(m_pfnOld); }
-
-  private:
-    AFX_TRACE_HOOK m_pfnOld;
-};
-
 /** What objects of this thread own more than when this was made. */
 class CGrowth
 {
