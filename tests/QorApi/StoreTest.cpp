@@ -244,7 +244,7 @@ TEST_F(StoreFileTest, DamagedStoreWithALogIsLeftAlone)
         writer.Run("PRAGMA journal_mode = WAL");
         writer.Run("UPDATE logon SET name = 'kept in the log', remember = 1");
         std::string bytes = ts::ReadBytes(StorePath());
-        bytes.replace(3 * 4096, 64, std::string(64, '\xAA'));
+        bytes.replace(size_t{3} * 4096, 64, std::string(64, '\xAA'));
         ts::WriteBytes(copy, bytes);
         ts::WriteBytes(copy + L"-wal", ts::ReadBytes(StorePath() + L"-wal"));
     }
