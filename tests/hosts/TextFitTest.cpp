@@ -12,7 +12,7 @@ namespace
 constexpr UINT kPageList = 2000;
 constexpr int kMargin = 2;        // of check boxes and radio buttons
 constexpr int kGlyph = 17;        // and what their glyph takes
-constexpr int kPushMargin = 3; // of push buttons, at each side: border, bevel, focus
+constexpr int kPushMargin = 3;    // of push buttons, at each side: border, bevel, focus
 constexpr int kCommandMargin = 5; // of command buttons
 constexpr int kCommandIcon = 38;  // and what their icon takes
 constexpr int kHeaderMargin = 6;  // of header items, at each side

@@ -111,7 +111,7 @@ TEST_P(StripTest, NoFrameIsOfOneColour)
 TEST(RadioStrip, CornersAreOfTheKeyColour)
 {
     const std::vector<BYTE> bytes = ResourceBytes(IDB_RADIO, RT_BITMAP);
-    constexpr size_t kStride = (78 * 3 + 3) / 4 * 4;
+    constexpr size_t kStride = (size_t{78} * 3 + 3) / 4 * 4;
     ASSERT_EQ(sizeof(BITMAPINFOHEADER) + 13 * kStride, bytes.size());
     for (const size_t y : {0, 12})
         for (size_t x = 0; x < 78; x += 13)
