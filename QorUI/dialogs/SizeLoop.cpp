@@ -57,6 +57,7 @@ class CSizing
             Handle(message);
         }
         if (message.message == WM_QUIT) {
+            ::ReleaseCapture();
             ::PostQuitMessage(static_cast<int>(message.wParam));
         }
         ::SendMessageW(m_wnd, WM_EXITSIZEMOVE, 0, 0);

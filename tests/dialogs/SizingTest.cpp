@@ -139,6 +139,20 @@ TEST(Sizing, EscapeTakesTheSizeBack)
     EXPECT_EQ(CRect(100, 50, 700, 450), frame.WindowRect());
 }
 
+TEST(Sizing, AnEndOfTheProgramEndsItAndIsPassedOn)
+{
+    CSizedFrame frame;
+    ASSERT_TRUE(frame.Open());
+    frame.SetFocus();
+    ts::MoveMouse(frame.m_hWnd, 595, 395);
+    ::PostQuitMessage(7);
+    QorShape::TrackSize(frame, HTBOTTOMRIGHT, CPoint(695, 445));
+    EXPECT_EQ(nullptr, ::GetCapture());
+    MSG message = {};
+    ASSERT_TRUE(::PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(7u, message.wParam);
+}
+
 TEST(Sizing, ResizableDialogIsSizedToo)
 {
     CTestDialog dialog(IDD_PLAIN, 4);
