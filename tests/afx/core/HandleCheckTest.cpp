@@ -43,19 +43,23 @@ TEST(HandleCheck, CountsTheHandlesThatObjectsOwnByKind)
     {
         CWnd wnd;
         ASSERT_TRUE(wnd.CreateEx(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr));
-        CMenu menu;
-        menu.CreatePopupMenu();
-        CDC dc;
-        dc.CreateCompatibleDC(nullptr);
-        CPen pen(PS_SOLID, 1, RGB(1, 2, 3));
-        CBrush brush(RGB(1, 2, 3));
-        CImageList list;
-        list.Create(1, 1, ILC_COLOR, 1, 1);
+        CMenu menus[2]; // of each kind another number, so that none is taken for another
+        for (CMenu& menu : menus)
+            menu.CreatePopupMenu();
+        CDC contexts[3];
+        for (CDC& dc : contexts)
+            dc.CreateCompatibleDC(nullptr);
+        CPen pens[4];
+        for (CPen& pen : pens)
+            pen.CreatePen(PS_SOLID, 1, RGB(1, 2, 3));
+        CImageList lists[5];
+        for (CImageList& list : lists)
+            list.Create(1, 1, ILC_COLOR, 1, 1);
         EXPECT_EQ(1, growth.Of(CHandleState::windows));
-        EXPECT_EQ(1, growth.Of(CHandleState::menus));
-        EXPECT_EQ(1, growth.Of(CHandleState::deviceContexts));
-        EXPECT_EQ(2, growth.Of(CHandleState::gdiObjects));
-        EXPECT_EQ(1, growth.Of(CHandleState::imageLists));
+        EXPECT_EQ(2, growth.Of(CHandleState::menus));
+        EXPECT_EQ(3, growth.Of(CHandleState::deviceContexts));
+        EXPECT_EQ(4, growth.Of(CHandleState::gdiObjects));
+        EXPECT_EQ(5, growth.Of(CHandleState::imageLists));
         EXPECT_FALSE(growth.IsNone());
         wnd.DestroyWindow();
     }
