@@ -12,6 +12,8 @@ namespace
 {
 constexpr int kAbsoluteRange = 65536;
 constexpr int kDragSteps = 6;
+constexpr UINT kNoDoubleClick = 1; // milliseconds within which two presses are one double click
+constexpr UINT kDoubleClick = 60000;
 
 struct ButtonFlags
 {
@@ -143,6 +145,7 @@ void MouseUp(Button button)
 void Click(HWND window, int x, int y, Button button)
 {
     MoveMouse(window, x, y);
+    Sleep(kNoDoubleClick);
     MouseDown(button);
     MouseUp(button);
 }
@@ -156,7 +159,9 @@ void Click(HWND window)
 void DoubleClick(HWND window, int x, int y, Button button)
 {
     Click(window, x, y, button);
+    SetDoubleClickTime(kDoubleClick);
     MouseDown(button);
+    SetDoubleClickTime(kNoDoubleClick);
     MouseUp(button);
 }
 
@@ -239,6 +244,11 @@ void ReleaseInput()
 void SetHoverTime(UINT milliseconds)
 {
     SystemParametersInfoW(SPI_SETMOUSEHOVERTIME, milliseconds, nullptr, 0);
+}
+
+void KeepClicksApart()
+{
+    SetDoubleClickTime(kNoDoubleClick);
 }
 
 bool BringToFront(HWND window)

@@ -35,7 +35,7 @@ void Click(HWND window, int x, int y, Button button = Button::Left);
 /** Clicks into the middle of the client area. */
 void Click(HWND window);
 
-/** Two clicks at one place, fast enough for the system to join them. */
+/** Two clicks at one place that the system joins, however slow the machine is. */
 void DoubleClick(HWND window, int x, int y, Button button = Button::Left);
 
 /** Presses at one place, moves in steps, releases at the other. */
@@ -65,6 +65,9 @@ void ReleaseInput();
 
 /** Makes WM_MOUSELEAVE and WM_MOUSEHOVER arrive fast: sets the system's hover time, in milliseconds. */
 void SetHoverTime(UINT milliseconds);
+
+/** Makes DoubleClick() the only way to a double click: clicks at one place stay apart, however fast they follow. */
+void KeepClicksApart();
 
 /** Brings the window to the foreground and waits until it is there. @return Whether it is. */
 bool BringToFront(HWND window);

@@ -42,6 +42,7 @@ int wmain(int argc, wchar_t** argv)
         return EXIT_FAILURE;
     InitialiseControls();
     ts::SetHoverTime(kHoverTime);
+    ts::KeepClicksApart();
     testing::UnitTest::GetInstance()->listeners().Append(new Tidy);
     const int result = RUN_ALL_TESTS();
     OleUninitialize();
