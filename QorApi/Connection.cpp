@@ -17,7 +17,7 @@ struct ThreadLink
 class CLinkTable
 {
   public:
-    CLinkTable() : m_index(FlsAlloc(Drop)) {}
+    CLinkTable() : m_index(IsProcessEnding() ? FLS_OUT_OF_INDEXES : FlsAlloc(Drop)) {}
     ~CLinkTable()
     {
         if (IsProcessEnding())
@@ -42,7 +42,9 @@ class CLinkTable
     static bool IsProcessEnding()
     {
         using Query = BOOLEAN(NTAPI*)();
-        const auto query = reinterpret_cast<Query>(
+        // Looked up by the constructor: Drop() runs under a lock of the system that ending threads take while they have
+        // the loader's, so it must not ask the loader for anything.
+        static const auto query = reinterpret_cast<Query>(
             reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "RtlDllShutdownInProgress")));
         return query && query();
     }

@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 
+#include <atomic>
 #include <thread>
 
 namespace
@@ -33,6 +34,26 @@ class RawDatabase
 
   private:
     sqlite3* m_db = nullptr;
+};
+
+/** Keeps other threads from loading, looking up and leaving modules. */
+class LoaderLock
+{
+  public:
+    LoaderLock() { Call<LONG(NTAPI*)(ULONG, ULONG*, ULONG_PTR*)>("LdrLockLoaderLock")(0, nullptr, &m_cookie); }
+    ~LoaderLock() { Call<LONG(NTAPI*)(ULONG, ULONG_PTR)>("LdrUnlockLoaderLock")(0, m_cookie); }
+    LoaderLock(const LoaderLock&) = delete;
+    LoaderLock& operator=(const LoaderLock&) = delete;
+
+  private:
+    template <class Function>
+    static Function Call(const char* name)
+    {
+        return reinterpret_cast<Function>(
+            reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), name)));
+    }
+
+    ULONG_PTR m_cookie = 0;
 };
 
 class StoreFileTest : public StoreTest
@@ -156,6 +177,26 @@ TEST_F(StoreFileTest, ThreadsHaveConnectionsOfTheirOwn)
     QorClose();
     std::thread([] { EXPECT_EQ(QorOpen(), 0U); }).join(); // ends without QorClose
     EXPECT_TRUE(DeleteFileW(StorePath().c_str()));
+}
+
+// The system drops a thread's link under a lock that other ending threads want while they have the loader's.
+TEST_F(StoreFileTest, EndingThreadClosesItsStoreWithoutTheLoader)
+{
+    std::atomic<bool> opened = false;
+    std::atomic<bool> mayEnd = false;
+    std::thread thread([&] {
+        EXPECT_EQ(QorOpen(), 0U);
+        opened = true;
+        mayEnd.wait(false);
+    });
+    EXPECT_TRUE(ts::PumpUntil([&] { return opened.load(); }, 10000));
+    {
+        const LoaderLock lock;
+        mayEnd = true;
+        mayEnd.notify_one();
+        EXPECT_TRUE(ts::PumpUntil([&] { return DeleteFileW(StorePath().c_str()) != FALSE; }, 5000));
+    }
+    thread.join();
 }
 
 TEST_F(StoreFileTest, OpeningLeavesNothingBehind)
