@@ -248,11 +248,17 @@ BOOL CRichEditCtrl::SetTextMode(UINT fMode)
     return Ask<BOOL>(*this, EM_SETTEXTMODE, fMode);
 }
 
+int CRichEditCtrl::GetLine(int nIndex, LPTSTR lpszBuffer) const
+{
+    return Ask<int>(*this, EM_GETLINE, nIndex, lpszBuffer);
+}
+
 int CRichEditCtrl::GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const
 {
-    // The buffer's first word tells its size.
+    if (!lpszBuffer || nMaxLength <= 0)
+        return 0;
     *reinterpret_cast<WORD*>(lpszBuffer) = static_cast<WORD>(nMaxLength);
-    return Ask<int>(*this, EM_GETLINE, nIndex, lpszBuffer);
+    return GetLine(nIndex, lpszBuffer);
 }
 
 CPoint CRichEditCtrl::GetCharPos(long lChar) const

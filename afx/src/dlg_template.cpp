@@ -200,6 +200,8 @@ BOOL CDialogTemplate::Load(LPCTSTR lpDialogTemplateID)
 
 HGLOBAL CDialogTemplate::Attach(HGLOBAL hGlobal)
 {
+    if (m_hTemplate && m_hTemplate != hGlobal)
+        ::GlobalFree(m_hTemplate);
     m_hTemplate = hGlobal;
     const Locked locked(hGlobal);
     m_dwTemplateSize = locked.Get() ? static_cast<DWORD>(TemplateReader(locked.Get()).EndOfItems()) : 0;

@@ -1,5 +1,6 @@
 #include <afxwin.h>
 
+#include "adopt.h"
 #include "handlemaps.h"
 
 #include <string>
@@ -225,12 +226,14 @@ void CDC::ReleaseOutputDC()
 
 BOOL CDC::CreateDC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszOutput, const void* lpInitData)
 {
-    return Attach(::CreateDC(lpszDriverName, lpszDeviceName, lpszOutput, static_cast<const DEVMODE*>(lpInitData)));
+    return AfxAdopt(*this,
+                    ::CreateDC(lpszDriverName, lpszDeviceName, lpszOutput, static_cast<const DEVMODE*>(lpInitData)));
 }
 
 BOOL CDC::CreateIC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszOutput, const void* lpInitData)
 {
-    return Attach(::CreateIC(lpszDriverName, lpszDeviceName, lpszOutput, static_cast<const DEVMODE*>(lpInitData)));
+    return AfxAdopt(*this,
+                    ::CreateIC(lpszDriverName, lpszDeviceName, lpszOutput, static_cast<const DEVMODE*>(lpInitData)));
 }
 
 BOOL CDC::CreateCompatibleDC(CDC* pDC)
@@ -238,7 +241,7 @@ BOOL CDC::CreateCompatibleDC(CDC* pDC)
     // An empty object is not the screen: it is a failed call further up.
     if (pDC != nullptr && pDC->m_hDC == nullptr)
         return FALSE;
-    return Attach(::CreateCompatibleDC(HandleOf(pDC)));
+    return AfxAdopt(*this, ::CreateCompatibleDC(HandleOf(pDC)));
 }
 
 BOOL CDC::DeleteDC()

@@ -2,6 +2,7 @@
 
 #include <afxcmn.h>
 
+#include "adopt.h"
 #include "handlemaps.h"
 
 IMPLEMENT_DYNCREATE(CImageList, CObject)
@@ -36,7 +37,7 @@ CImageList::~CImageList()
 
 BOOL CImageList::Create(int cx, int cy, UINT nFlags, int nInitial, int nGrow)
 {
-    return Attach(::ImageList_Create(cx, cy, nFlags, nInitial, nGrow));
+    return AfxAdopt(*this, ::ImageList_Create(cx, cy, nFlags, nInitial, nGrow));
 }
 
 BOOL CImageList::Create(UINT nBitmapID, int cx, int nGrow, COLORREF crMask)
@@ -47,17 +48,18 @@ BOOL CImageList::Create(UINT nBitmapID, int cx, int nGrow, COLORREF crMask)
 BOOL CImageList::Create(LPCTSTR lpszBitmapID, int cx, int nGrow, COLORREF crMask)
 {
     HINSTANCE hInst = AfxFindResourceHandle(lpszBitmapID, RT_BITMAP);
-    return Attach(::ImageList_LoadImage(hInst, lpszBitmapID, cx, nGrow, crMask, IMAGE_BITMAP, 0));
+    return AfxAdopt(*this, ::ImageList_LoadImage(hInst, lpszBitmapID, cx, nGrow, crMask, IMAGE_BITMAP, 0));
 }
 
 BOOL CImageList::Create(CImageList& imagelist1, int nImage1, CImageList& imagelist2, int nImage2, int dx, int dy)
 {
-    return Attach(::ImageList_Merge(imagelist1.m_hImageList, nImage1, imagelist2.m_hImageList, nImage2, dx, dy));
+    return AfxAdopt(*this,
+                    ::ImageList_Merge(imagelist1.m_hImageList, nImage1, imagelist2.m_hImageList, nImage2, dx, dy));
 }
 
 BOOL CImageList::Create(CImageList* pImageList)
 {
-    return HandleOf(pImageList) != nullptr && Attach(::ImageList_Duplicate(HandleOf(pImageList)));
+    return HandleOf(pImageList) != nullptr && AfxAdopt(*this, ::ImageList_Duplicate(HandleOf(pImageList)));
 }
 
 BOOL CImageList::DeleteImageList()

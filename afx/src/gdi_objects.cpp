@@ -1,5 +1,6 @@
 #include <afxwin.h>
 
+#include "adopt.h"
 #include "handlemaps.h"
 
 #include <string>
@@ -129,19 +130,19 @@ CPen::operator HPEN() const
 
 BOOL CPen::CreatePen(int nPenStyle, int nWidth, COLORREF crColor)
 {
-    return Attach(::CreatePen(nPenStyle, nWidth, crColor));
+    return AfxAdopt(*this, ::CreatePen(nPenStyle, nWidth, crColor));
 }
 
 BOOL CPen::CreatePen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount, const DWORD* lpStyle)
 {
     if (pLogBrush == nullptr)
         return FALSE;
-    return Attach(::ExtCreatePen(nPenStyle, nWidth, pLogBrush, nStyleCount, lpStyle));
+    return AfxAdopt(*this, ::ExtCreatePen(nPenStyle, nWidth, pLogBrush, nStyleCount, lpStyle));
 }
 
 BOOL CPen::CreatePenIndirect(LPLOGPEN lpLogPen)
 {
-    return lpLogPen != nullptr && Attach(::CreatePenIndirect(lpLogPen));
+    return lpLogPen != nullptr && AfxAdopt(*this, ::CreatePenIndirect(lpLogPen));
 }
 
 int CPen::GetLogPen(LOGPEN* pLogPen)
@@ -192,23 +193,23 @@ CBrush::operator HBRUSH() const
 
 BOOL CBrush::CreateSolidBrush(COLORREF crColor)
 {
-    return Attach(::CreateSolidBrush(crColor));
+    return AfxAdopt(*this, ::CreateSolidBrush(crColor));
 }
 
 BOOL CBrush::CreateHatchBrush(int nIndex, COLORREF crColor)
 {
-    return Attach(::CreateHatchBrush(nIndex, crColor));
+    return AfxAdopt(*this, ::CreateHatchBrush(nIndex, crColor));
 }
 
 BOOL CBrush::CreateBrushIndirect(const LOGBRUSH* lpLogBrush)
 {
-    return lpLogBrush != nullptr && Attach(::CreateBrushIndirect(lpLogBrush));
+    return lpLogBrush != nullptr && AfxAdopt(*this, ::CreateBrushIndirect(lpLogBrush));
 }
 
 BOOL CBrush::CreatePatternBrush(CBitmap* pBitmap)
 {
     HBITMAP hBitmap = static_cast<HBITMAP>(HandleOf(pBitmap));
-    return hBitmap != nullptr && Attach(::CreatePatternBrush(hBitmap));
+    return hBitmap != nullptr && AfxAdopt(*this, ::CreatePatternBrush(hBitmap));
 }
 
 BOOL CBrush::CreateDIBPatternBrush(HGLOBAL hPackedDIB, UINT nUsage)
@@ -223,7 +224,7 @@ BOOL CBrush::CreateDIBPatternBrush(HGLOBAL hPackedDIB, UINT nUsage)
 
 BOOL CBrush::CreateDIBPatternBrush(const void* lpPackedDIB, UINT nUsage)
 {
-    return lpPackedDIB != nullptr && Attach(::CreateDIBPatternBrushPt(lpPackedDIB, nUsage));
+    return lpPackedDIB != nullptr && AfxAdopt(*this, ::CreateDIBPatternBrushPt(lpPackedDIB, nUsage));
 }
 
 BOOL CBrush::CreateSysColorBrush(int nIndex)
@@ -248,15 +249,16 @@ CFont::operator HFONT() const
 
 BOOL CFont::CreateFontIndirect(const LOGFONT* lpLogFont)
 {
-    return lpLogFont != nullptr && Attach(::CreateFontIndirect(lpLogFont));
+    return lpLogFont != nullptr && AfxAdopt(*this, ::CreateFontIndirect(lpLogFont));
 }
 
 BOOL CFont::CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight, BYTE bItalic,
                        BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet, BYTE nOutPrecision, BYTE nClipPrecision,
                        BYTE nQuality, BYTE nPitchAndFamily, LPCTSTR lpszFacename)
 {
-    return Attach(::CreateFont(nHeight, nWidth, nEscapement, nOrientation, nWeight, bItalic, bUnderline, cStrikeOut,
-                               nCharSet, nOutPrecision, nClipPrecision, nQuality, nPitchAndFamily, lpszFacename));
+    return AfxAdopt(*this,
+                    ::CreateFont(nHeight, nWidth, nEscapement, nOrientation, nWeight, bItalic, bUnderline, cStrikeOut,
+                                 nCharSet, nOutPrecision, nClipPrecision, nQuality, nPitchAndFamily, lpszFacename));
 }
 
 BOOL CFont::CreatePointFont(int nPointSize, LPCTSTR lpszFaceName, CDC* pDC)
@@ -305,7 +307,7 @@ CBitmap::operator HBITMAP() const
 BOOL CBitmap::LoadBitmap(LPCTSTR lpszResourceName)
 {
     HINSTANCE hInst = AfxFindResourceHandle(lpszResourceName, RT_BITMAP);
-    return Attach(::LoadBitmap(hInst, lpszResourceName));
+    return AfxAdopt(*this, ::LoadBitmap(hInst, lpszResourceName));
 }
 
 BOOL CBitmap::LoadBitmap(UINT nIDResource)
@@ -315,33 +317,33 @@ BOOL CBitmap::LoadBitmap(UINT nIDResource)
 
 BOOL CBitmap::LoadOEMBitmap(UINT nIDBitmap)
 {
-    return Attach(::LoadBitmap(nullptr, MAKEINTRESOURCE(nIDBitmap)));
+    return AfxAdopt(*this, ::LoadBitmap(nullptr, MAKEINTRESOURCE(nIDBitmap)));
 }
 
 BOOL CBitmap::LoadMappedBitmap(UINT nIDBitmap, UINT nFlags, LPCOLORMAP lpColorMap, int nMapSize)
 {
     HINSTANCE hInst = AfxFindResourceHandle(MAKEINTRESOURCE(nIDBitmap), RT_BITMAP);
-    return Attach(::CreateMappedBitmap(hInst, nIDBitmap, nFlags, lpColorMap, nMapSize));
+    return AfxAdopt(*this, ::CreateMappedBitmap(hInst, nIDBitmap, nFlags, lpColorMap, nMapSize));
 }
 
 BOOL CBitmap::CreateBitmap(int nWidth, int nHeight, UINT nPlanes, UINT nBitcount, const void* lpBits)
 {
-    return Attach(::CreateBitmap(nWidth, nHeight, nPlanes, nBitcount, lpBits));
+    return AfxAdopt(*this, ::CreateBitmap(nWidth, nHeight, nPlanes, nBitcount, lpBits));
 }
 
 BOOL CBitmap::CreateBitmapIndirect(LPBITMAP lpBitmap)
 {
-    return lpBitmap != nullptr && Attach(::CreateBitmapIndirect(lpBitmap));
+    return lpBitmap != nullptr && AfxAdopt(*this, ::CreateBitmapIndirect(lpBitmap));
 }
 
 BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight)
 {
-    return pDC != nullptr && Attach(::CreateCompatibleBitmap(pDC->m_hDC, nWidth, nHeight));
+    return pDC != nullptr && AfxAdopt(*this, ::CreateCompatibleBitmap(pDC->m_hDC, nWidth, nHeight));
 }
 
 BOOL CBitmap::CreateDiscardableBitmap(CDC* pDC, int nWidth, int nHeight)
 {
-    return pDC != nullptr && Attach(::CreateDiscardableBitmap(pDC->m_hDC, nWidth, nHeight));
+    return pDC != nullptr && AfxAdopt(*this, ::CreateDiscardableBitmap(pDC->m_hDC, nWidth, nHeight));
 }
 
 int CBitmap::GetBitmap(BITMAP* pBitMap)
@@ -385,12 +387,12 @@ CPalette::operator HPALETTE() const
 
 BOOL CPalette::CreatePalette(LPLOGPALETTE lpLogPalette)
 {
-    return lpLogPalette != nullptr && Attach(::CreatePalette(lpLogPalette));
+    return lpLogPalette != nullptr && AfxAdopt(*this, ::CreatePalette(lpLogPalette));
 }
 
 BOOL CPalette::CreateHalftonePalette(CDC* pDC)
 {
-    return pDC != nullptr && Attach(::CreateHalftonePalette(pDC->m_hDC));
+    return pDC != nullptr && AfxAdopt(*this, ::CreateHalftonePalette(pDC->m_hDC));
 }
 
 int CPalette::GetEntryCount()
@@ -437,47 +439,47 @@ CRgn::operator HRGN() const
 
 BOOL CRgn::CreateRectRgn(int x1, int y1, int x2, int y2)
 {
-    return Attach(::CreateRectRgn(x1, y1, x2, y2));
+    return AfxAdopt(*this, ::CreateRectRgn(x1, y1, x2, y2));
 }
 
 BOOL CRgn::CreateRectRgnIndirect(LPCRECT lpRect)
 {
-    return lpRect != nullptr && Attach(::CreateRectRgnIndirect(lpRect));
+    return lpRect != nullptr && AfxAdopt(*this, ::CreateRectRgnIndirect(lpRect));
 }
 
 BOOL CRgn::CreateEllipticRgn(int x1, int y1, int x2, int y2)
 {
-    return Attach(::CreateEllipticRgn(x1, y1, x2, y2));
+    return AfxAdopt(*this, ::CreateEllipticRgn(x1, y1, x2, y2));
 }
 
 BOOL CRgn::CreateEllipticRgnIndirect(LPCRECT lpRect)
 {
-    return lpRect != nullptr && Attach(::CreateEllipticRgnIndirect(lpRect));
+    return lpRect != nullptr && AfxAdopt(*this, ::CreateEllipticRgnIndirect(lpRect));
 }
 
 BOOL CRgn::CreatePolygonRgn(const POINT* lpPoints, int nCount, int nMode)
 {
-    return Attach(::CreatePolygonRgn(lpPoints, nCount, nMode));
+    return AfxAdopt(*this, ::CreatePolygonRgn(lpPoints, nCount, nMode));
 }
 
 BOOL CRgn::CreatePolyPolygonRgn(const POINT* lpPoints, const INT* lpPolyCounts, int nCount, int nPolyFillMode)
 {
-    return Attach(::CreatePolyPolygonRgn(lpPoints, lpPolyCounts, nCount, nPolyFillMode));
+    return AfxAdopt(*this, ::CreatePolyPolygonRgn(lpPoints, lpPolyCounts, nCount, nPolyFillMode));
 }
 
 BOOL CRgn::CreateRoundRectRgn(int x1, int y1, int x2, int y2, int x3, int y3)
 {
-    return Attach(::CreateRoundRectRgn(x1, y1, x2, y2, x3, y3));
+    return AfxAdopt(*this, ::CreateRoundRectRgn(x1, y1, x2, y2, x3, y3));
 }
 
 BOOL CRgn::CreateFromPath(CDC* pDC)
 {
-    return pDC != nullptr && Attach(::PathToRegion(pDC->m_hDC));
+    return pDC != nullptr && AfxAdopt(*this, ::PathToRegion(pDC->m_hDC));
 }
 
 BOOL CRgn::CreateFromData(const XFORM* lpXForm, int nCount, const RGNDATA* pRgnData)
 {
-    return Attach(::ExtCreateRegion(lpXForm, nCount, pRgnData));
+    return AfxAdopt(*this, ::ExtCreateRegion(lpXForm, nCount, pRgnData));
 }
 
 void CRgn::SetRectRgn(int x1, int y1, int x2, int y2)

@@ -1,5 +1,6 @@
 #include <afxwin.h>
 
+#include "adopt.h"
 #include "handlemaps.h"
 
 IMPLEMENT_DYNCREATE(CMenu, CObject)
@@ -24,18 +25,18 @@ CMenu::~CMenu()
 
 BOOL CMenu::CreateMenu()
 {
-    return Attach(::CreateMenu());
+    return AfxAdopt(*this, ::CreateMenu());
 }
 
 BOOL CMenu::CreatePopupMenu()
 {
-    return Attach(::CreatePopupMenu());
+    return AfxAdopt(*this, ::CreatePopupMenu());
 }
 
 BOOL CMenu::LoadMenu(LPCTSTR lpszResourceName)
 {
     HINSTANCE hInst = AfxFindResourceHandle(lpszResourceName, RT_MENU);
-    return Attach(::LoadMenu(hInst, lpszResourceName));
+    return AfxAdopt(*this, ::LoadMenu(hInst, lpszResourceName));
 }
 
 BOOL CMenu::LoadMenu(UINT nIDResource)
@@ -45,7 +46,7 @@ BOOL CMenu::LoadMenu(UINT nIDResource)
 
 BOOL CMenu::LoadMenuIndirect(const void* lpMenuTemplate)
 {
-    return lpMenuTemplate != nullptr && Attach(::LoadMenuIndirect(lpMenuTemplate));
+    return lpMenuTemplate != nullptr && AfxAdopt(*this, ::LoadMenuIndirect(lpMenuTemplate));
 }
 
 BOOL CMenu::DestroyMenu()

@@ -106,7 +106,7 @@ class AFX_LIB CDialog : public CWnd
   protected:
     virtual void OnOK();
     virtual void OnCancel();
-    /** Called before and after a modal dialog's window is made, for special set-up. */
+    /** Called once the window is there, before OnInitDialog, for set-up that a derived class's OnInitDialog needs. */
     virtual void PreInitDialog();
     void PreSubclassWindow() override;
 
@@ -120,7 +120,8 @@ class AFX_LIB CDialog : public CWnd
 
     /** Makes the dialog's window from a template in memory; hInst is the module that holds the template. */
     BOOL CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, HINSTANCE hInst);
-    /** Disables the parent. @return the window that owns the dialog. */
+    /** Disables the top-level window when the dialog has no parent of its own. @return the window that owns the dialog.
+     */
     HWND PreModal();
     void PostModal();
 

@@ -16,7 +16,7 @@ class AFX_LIB CDialogTemplate
 
     /** Copies a template resource found by AfxFindResourceHandle. */
     BOOL Load(LPCTSTR lpDialogTemplateID);
-    /** Takes over a global memory block with a template. */
+    /** Takes over a global memory block with a template, and frees the one it had. */
     HGLOBAL Attach(HGLOBAL hGlobal);
     /** Gives the memory block to the caller. */
     HGLOBAL Detach();

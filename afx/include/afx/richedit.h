@@ -22,6 +22,10 @@ class AFX_LIB CRichEditCtrl : public CWnd
     virtual BOOL CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 
     int GetLineCount() const;
+    /** @param lpszBuffer its first word holds its size, in characters, at the call. @return characters copied; no zero
+     *  follows them. */
+    int GetLine(int nIndex, LPTSTR lpszBuffer) const;
+    /** @param nMaxLength size of the buffer, in characters. */
     int GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const;
     BOOL CanUndo() const;
     BOOL CanRedo() const;

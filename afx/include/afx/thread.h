@@ -109,7 +109,7 @@ class AFX_LIB CWinApp : public CWinThread
 AFX_LIB CWinThread* AfxGetThread();
 /** The application object of the current module state, or null. */
 AFX_LIB CWinApp* AfxGetApp();
-/** The main window of the calling thread, or null. */
+/** The main window of the calling thread, or its active window when it has none; null without both. */
 AFX_LIB CWnd* AfxGetMainWnd();
 AFX_LIB LPCTSTR AfxGetAppName();
 

@@ -58,6 +58,29 @@ TEST(GdiObject, AttachTakesOwnershipOnceOnly)
     EXPECT_FALSE(brush.DeleteObject());
 }
 
+TEST(GdiObject, OwnerOfAnotherObjectRefusesANewOneAndLeavesNothingBehind)
+{
+    EXPECT_TRUE(ts::NoLeak([] {
+        CBrush brush(RED);
+        EXPECT_FALSE(brush.CreateSolidBrush(0));
+        EXPECT_FALSE(brush.CreateHatchBrush(HS_CROSS, 0));
+        CPen pen(PS_SOLID, 1, RED);
+        EXPECT_FALSE(pen.CreatePen(PS_DOT, 1, COLORREF(0)));
+        CFont font;
+        EXPECT_TRUE(font.CreatePointFont(90, TEXT("Arial")));
+        EXPECT_FALSE(font.CreatePointFont(90, TEXT("Arial")));
+        CBitmap bitmap;
+        EXPECT_TRUE(bitmap.CreateBitmap(8, 8, 1, 1, nullptr));
+        EXPECT_FALSE(bitmap.CreateBitmap(8, 8, 1, 1, nullptr));
+        CRgn region;
+        EXPECT_TRUE(region.CreateRectRgn(0, 0, 1, 1));
+        EXPECT_FALSE(region.CreateRectRgn(0, 0, 1, 1));
+        CDC dc;
+        EXPECT_TRUE(dc.CreateCompatibleDC(nullptr));
+        EXPECT_FALSE(dc.CreateCompatibleDC(nullptr));
+    }));
+}
+
 TEST(GdiObject, FromHandleGivesTheOwnerWhileItOwns)
 {
     CPen pen(PS_SOLID, 1, RED);

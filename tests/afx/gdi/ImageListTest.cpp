@@ -25,6 +25,16 @@ TEST(ImageList, DestructorDestroysTheList)
     }));
 }
 
+TEST(ImageList, OwnerOfAListRefusesANewOneAndLeavesNothingBehind)
+{
+    EXPECT_TRUE(ts::NoLeak([] {
+        Strip list;
+        EXPECT_FALSE(list.Create(8, 8, ILC_COLOR, 1, 1));
+        EXPECT_FALSE(list.Create(&list));
+        EXPECT_EQ(3, list.GetImageCount());
+    }));
+}
+
 TEST(ImageList, OwnerAndTemporaryObjects)
 {
     HIMAGELIST handle = nullptr;

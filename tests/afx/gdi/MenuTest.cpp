@@ -234,6 +234,17 @@ TEST(Menu, ComparesHandles)
     EXPECT_TRUE(first != second);
 }
 
+TEST(Menu, OwnerOfAMenuRefusesANewOneAndLeavesNothingBehind)
+{
+    EXPECT_TRUE(ts::NoLeak([] {
+        CMenu menu;
+        EXPECT_TRUE(menu.CreateMenu());
+        EXPECT_FALSE(menu.CreatePopupMenu());
+        EXPECT_FALSE(menu.LoadMenu(IDM_MAIN));
+        EXPECT_EQ(0u, menu.GetMenuItemCount());
+    }));
+}
+
 TEST(Menu, LeavesNoMenuBehind)
 {
     EXPECT_TRUE(ts::NoLeak([] {

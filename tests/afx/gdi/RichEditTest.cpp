@@ -169,6 +169,11 @@ TEST_F(RichEdit, LinesAndPositions)
     TCHAR line[16] = {};
     EXPECT_GE(m_edit.GetLine(1, line, 15), 5);
     EXPECT_EQ(std::wstring(line, 5), L"three");
+    line[0] = 3; // the buffer's size
+    EXPECT_EQ(m_edit.GetLine(1, line), 3);
+    EXPECT_EQ(std::wstring(line, 3), L"thr");
+    EXPECT_EQ(m_edit.GetLine(1, line, 0), 0);
+    EXPECT_EQ(m_edit.GetLine(1, nullptr, 9), 0);
     EXPECT_GT(m_edit.PosFromChar(9).x, m_edit.PosFromChar(8).x);
     EXPECT_EQ(m_edit.CharFromPos(m_edit.GetCharPos(9)), 9);
     EXPECT_EQ(m_edit.GetFirstVisibleLine(), 0);

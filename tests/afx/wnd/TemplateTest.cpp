@@ -88,6 +88,21 @@ TEST(DialogTemplate, ChangedFontGivesADialogThatStillHasItsControls)
     }
 }
 
+TEST(DialogTemplate, AttachedBlockReplacesTheFormer)
+{
+    CDialogTemplate dialogTemplate;
+    ASSERT_TRUE(dialogTemplate.Load(MAKEINTRESOURCE(IDD_SIMPLE)));
+    const HGLOBAL hFormer = dialogTemplate.m_hTemplate;
+    const DWORD dwSize = dialogTemplate.m_dwTemplateSize;
+    EXPECT_EQ(hFormer, dialogTemplate.Attach(hFormer));
+    EXPECT_EQ(dwSize, dialogTemplate.m_dwTemplateSize);
+    CDialogTemplate other;
+    ASSERT_TRUE(other.Load(MAKEINTRESOURCE(IDD_EXTENDED)));
+    const HGLOBAL hOther = other.Detach();
+    EXPECT_EQ(hOther, dialogTemplate.Attach(hOther));
+    EXPECT_EQ(UINT(GMEM_INVALID_HANDLE), ::GlobalFlags(hFormer));
+}
+
 TEST(DialogTemplate, SystemFontReplacesFaceAndSize)
 {
     CDialogTemplate dialogTemplate;
