@@ -1,5 +1,9 @@
 #pragma once
 
+/** @file
+ * Keys of the registry, and the acronyms of the predefined ones.
+ */
+
 #include <QorPub/QorPubDef.h>
 
 #include <vector>

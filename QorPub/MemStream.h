@@ -1,5 +1,9 @@
 #pragma once
 
+/** @file
+ * Resources in memory, and streams over memory.
+ */
+
 #include <QorPub/QorPubDef.h>
 
 #include <objidl.h>

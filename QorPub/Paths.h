@@ -1,5 +1,9 @@
 #pragma once
 
+/** @file
+ * Where the program and the store are.
+ */
+
 #include <QorPub/QorPubDef.h>
 
 /** Folder of the host program, with a trailing backslash. */

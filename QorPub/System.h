@@ -1,5 +1,9 @@
 #pragma once
 
+/** @file
+ * The system that the program runs on, and its other instances.
+ */
+
 #include <QorPub/QorPubDef.h>
 
 /**

@@ -1,5 +1,9 @@
 #pragma once
 
+/** @file
+ * Conversion and formatting of texts.
+ */
+
 #include <QorPub/QorPubDef.h>
 
 /**

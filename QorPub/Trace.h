@@ -1,5 +1,9 @@
 #pragma once
 
+/** @file
+ * The trace log.
+ */
+
 #include <QorPub/QorPubDef.h>
 
 /** Size in bytes from which the trace log is moved to "qor.log.1" and begun anew. */

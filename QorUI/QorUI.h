@@ -10,6 +10,7 @@
 #include <QorUI/app/QorBmp.h>
 #include <QorUI/app/QorUIDef.h>
 #include <QorUI/app/Shared.h>
+#include <QorUI/app/SysLook.h>
 #include <QorUI/buttons/BmpBtn.h>
 #include <QorUI/buttons/CheckRadio.h>
 #include <QorUI/buttons/CmdBtn.h>

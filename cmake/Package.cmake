@@ -18,12 +18,9 @@ foreach(_dll IN LISTS QOR_RUNTIME_DLLS)
 endforeach()
 
 install(DIRECTORY afx/include/ DESTINATION include/afx FILES_MATCHING PATTERN "*.h")
-foreach(_library QorPub QorApi)
-    install(DIRECTORY ${_library}/ DESTINATION include/${_library} FILES_MATCHING PATTERN "*.h")
-endforeach()
 
-# A header of QorUI is public when the umbrella header reaches it.
-set(_reached QorUI/QorUI.h)
+# A header is public when its library's umbrella header reaches it.
+set(_reached QorUI/QorUI.h QorPub/QorPub.h QorApi/QorApi.h)
 set(_headers "")
 while(_reached)
     list(POP_FRONT _reached _header)
@@ -31,7 +28,7 @@ while(_reached)
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${_header}")
     cmake_path(GET _header PARENT_PATH _dir)
     install(FILES "${_header}" DESTINATION "include/${_dir}")
-    file(STRINGS "${_header}" _includes REGEX "^#include (<QorUI/|\")")
+    file(STRINGS "${_header}" _includes REGEX "^#include (<Qor(UI|Pub|Api)/|\")")
     foreach(_include IN LISTS _includes)
         string(REGEX REPLACE "^#include [<\"]([^>\"]+)[>\"].*" "\\1" _name "${_include}")
         if(_include MATCHES "\"")

@@ -1,5 +1,9 @@
 #pragma once
 
+/** @file
+ * Drawing helpers: boxes, pies, the gradient rule, grey copies, image lists.
+ */
+
 #include "QorUIDef.h"
 
 /**

@@ -1,5 +1,9 @@
 #pragma once
 
+/** @file
+ * Pictures from resources, and encoders for writing them.
+ */
+
 #include "QorUIDef.h"
 
 /**

@@ -1,5 +1,9 @@
 #pragma once
 
+/** @file
+ * What all controls of the library share.
+ */
+
 #include "QorUIDef.h"
 
 /**

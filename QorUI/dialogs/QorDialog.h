@@ -22,6 +22,11 @@ class QORUI_API CQorDialog : public CQorBaseDlg
         Resizable = 4,     ///< the user sizes the dialog, down to 260 x 200 pixels
     };
 
+    /**
+     * @param idd    dialog template, found by the framework's resource search when the dialog opens
+     * @param parent owner, or null for the main window
+     * @param flags  values of `Flags`, joined
+     */
     CQorDialog(UINT idd, CWnd* parent, DWORD flags);
 
   protected:

@@ -1,5 +1,9 @@
 #pragma once
 
+/** @file
+ * The flat border and the plain edit control with it.
+ */
+
 #include <QorUI/app/QorUIDef.h>
 
 /**
