@@ -16,6 +16,7 @@ class RatioReporter : public benchmark::ConsoleReporter
     {
         ConsoleReporter::ReportRuns(runs);
         for (const Run& run : runs) {
+            m_failed = m_failed || run.error_occurred;
             if (!run.error_occurred && run.run_type == Run::RT_Iteration) {
                 m_times[run.benchmark_name()] = run.GetAdjustedRealTime();
             }
@@ -38,8 +39,12 @@ class RatioReporter : public benchmark::ConsoleReporter
         }
     }
 
+    /** Whether a case ended with an error. */
+    bool HasFailed() const { return m_failed; }
+
   private:
     std::map<std::string, double> m_times;
+    bool m_failed = false;
 };
 
 } // namespace
@@ -53,5 +58,5 @@ int RunBenchmarks(int argc, char** argv)
     RatioReporter reporter;
     const size_t run = benchmark::RunSpecifiedBenchmarks(&reporter);
     benchmark::Shutdown();
-    return run > 0 ? 0 : 1;
+    return run > 0 && !reporter.HasFailed() ? 0 : 1;
 }

@@ -127,7 +127,7 @@ function(qor_test name)
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 300)
     endif()
-    math(EXPR limit "${ARG_TIMEOUT} + 60")
+    math(EXPR limit "${ARG_TIMEOUT} + 120") # the report of a hang takes its time
     set(env "QOR_TIMEOUT=${ARG_TIMEOUT}" "QOR_WINEPREFIX=${QOR_TEST_PREFIX}")
     if(ARG_X11)
         set_tests_properties(${name} PROPERTIES LABELS x11)

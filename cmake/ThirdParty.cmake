@@ -81,7 +81,7 @@ if(QOR_BUILD_BENCHMARKS)
     qor_debian_source(benchmark _benchmark)
     file(GLOB _sources "${_benchmark}/src/*.cc")
     list(FILTER _sources EXCLUDE REGEX "benchmark_main\\.cc$")
-    add_library(qor_benchmark STATIC ${_sources})
+    add_library(qor_benchmark STATIC EXCLUDE_FROM_ALL ${_sources})
     target_include_directories(qor_benchmark SYSTEM PUBLIC "${_benchmark}/include")
     target_compile_definitions(qor_benchmark PUBLIC BENCHMARK_STATIC_DEFINE PRIVATE HAVE_STD_REGEX NDEBUG)
     # Its sources call the narrow Windows functions by their short names.

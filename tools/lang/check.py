@@ -32,7 +32,7 @@ class Faults(list):
 
 
 def kind_of(kind, size):
-    """The kind as the library's own parser names it; None for a combination that it does not take."""
+    """The kind as the library's own parser names it."""
     if kind in "diuoxX":
         return SIZES.get(size, "") + {"i": "d", "X": "x"}.get(kind, kind)
     if kind in "eEfFgGaA":
