@@ -9,6 +9,53 @@ namespace
 
 constexpr int kSizedStrip = 9; // the outline and the band's margin: what moves with the right and bottom edges
 
+/** Notes whether the system is about to carry out a sizing command: a window may also keep it to itself. */
+class CSizeCommandWatch
+{
+  public:
+    CSizeCommandWatch() : m_hook(::SetWindowsHookExW(WH_CBT, &Hook, nullptr, ::GetCurrentThreadId()))
+    {
+        Reached() = false;
+    }
+    ~CSizeCommandWatch()
+    {
+        if (m_hook) {
+            ::UnhookWindowsHookEx(m_hook);
+        }
+    }
+    CSizeCommandWatch(const CSizeCommandWatch&) = delete;
+    CSizeCommandWatch& operator=(const CSizeCommandWatch&) = delete;
+
+    static bool& Reached()
+    {
+        static thread_local bool reached;
+        return reached;
+    }
+
+  private:
+    static LRESULT CALLBACK Hook(int code, WPARAM wParam, LPARAM lParam)
+    {
+        constexpr WPARAM kCommand = 0xFFF0; // the lowest bits are the direction
+        const LRESULT refused = ::CallNextHookEx(nullptr, code, wParam, lParam);
+        if (code == HCBT_SYSCOMMAND && (wParam & kCommand) == SC_SIZE && refused == 0) {
+            Reached() = true;
+        }
+        return refused;
+    }
+
+    HHOOK m_hook;
+};
+
+/** @return whether the system got the command and let it come back without sizing anything. */
+bool SystemDeclinesToSize(HWND wnd, UINT hit, POINT point)
+{
+    const CSizeCommandWatch watch;
+    const LONG lastMessage = ::GetMessageTime();
+    // The direction codes of SC_SIZE run parallel to the hit-test codes.
+    ::SendMessageW(wnd, WM_SYSCOMMAND, SC_SIZE + (hit - HTLEFT + 1), MAKELPARAM(point.x, point.y));
+    return CSizeCommandWatch::Reached() && ::GetMessageTime() == lastMessage;
+}
+
 } // namespace
 
 namespace QorShape
@@ -44,12 +91,10 @@ bool StartSizing(CWnd& wnd, UINT hit, POINT point)
         return false;
     }
     const HWND handle = wnd.m_hWnd;
-    const LONG lastMessage = ::GetMessageTime();
-    // The direction codes of SC_SIZE run parallel to the hit-test codes.
-    ::SendMessageW(handle, WM_SYSCOMMAND, SC_SIZE + (hit - HTLEFT + 1), MAKELPARAM(point.x, point.y));
     // Wine declines the command for a window without the system's sizing border: it comes back at once, without having
-    // fetched a message, and the button is still down.
-    if (::IsWindow(handle) && ::GetMessageTime() == lastMessage && ::GetKeyState(VK_LBUTTON) < 0) {
+    // fetched a message, and the button is still down. Any system declines it for a maximised window, rightly.
+    if (SystemDeclinesToSize(handle, hit, point) && ::IsWindow(handle) && !::IsZoomed(handle) &&
+        ::GetKeyState(VK_LBUTTON) < 0) {
         TrackSize(wnd, hit, point);
     }
     return true;

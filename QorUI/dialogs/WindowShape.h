@@ -18,7 +18,8 @@ namespace QorShape
 UINT SizingHit(const RECT& window, POINT point);
 
 /**
- * Starts sizing when the left button goes down on the border.
+ * Starts sizing when the left button goes down on the border. A maximised window and one that keeps `SC_SIZE` from its
+ * default processing are not sized.
  * @return false when `hit` is no sizing code: the message then wants its default processing.
  */
 bool StartSizing(CWnd& wnd, UINT hit, POINT point);

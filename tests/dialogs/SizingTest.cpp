@@ -39,6 +39,7 @@ class CSizedFrame : public CQorFrame
 
     std::vector<UINT> m_messages;
     WPARAM m_edge = 0;
+    bool m_keepSizeCommand = false; // from its default processing
 
   protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
@@ -48,6 +49,9 @@ class CSizedFrame : public CQorFrame
                 m_messages.push_back(message);
             }
             m_edge = message == WM_SIZING ? wParam : m_edge;
+        }
+        if (message == WM_SYSCOMMAND && m_keepSizeCommand) {
+            return 0;
         }
         return CQorFrame::WindowProc(message, wParam, lParam);
     }
@@ -137,6 +141,43 @@ TEST(Sizing, EscapeTakesTheSizeBack)
     ASSERT_TRUE(frame.Open());
     DragBorder(frame, {595, 395}, {{-60, -40}}, VK_ESCAPE);
     EXPECT_EQ(CRect(100, 50, 700, 450), frame.WindowRect());
+}
+
+/** Whether a pull at the left border leaves the window as it is. Should it be sized all the same, this ends it too. */
+testing::AssertionResult StaysWhenPulled(CSizedFrame& frame)
+{
+    const CRect before = frame.WindowRect();
+    ts::MoveMouse(frame.m_hWnd, 1, 200);
+    ts::ModalDriver driver;
+    driver.When(
+        "the button is down", [] { return ::GetKeyState(VK_LBUTTON) < 0; },
+        [&frame] { ts::MoveMouse(frame.m_hWnd, 80, 200); });
+    driver.Then([] { ts::MouseUp(); });
+    ts::MouseDown();
+    EXPECT_TRUE(ts::PumpUntil([&driver] { return driver.Finished(); }));
+    if (frame.WindowRect() == before && frame.m_messages.empty()) {
+        return testing::AssertionSuccess();
+    }
+    return testing::AssertionFailure() << frame.m_messages.size() << " sizing messages, left "
+                                       << frame.WindowRect().left << " after " << before.left;
+}
+
+TEST(Sizing, AMaximizedFrameIsNotSized)
+{
+    CSizedFrame frame;
+    ASSERT_TRUE(frame.Open());
+    frame.SendMessage(WM_SYSCOMMAND, SC_MAXIMIZE);
+    ASSERT_TRUE(frame.IsZoomed());
+    EXPECT_TRUE(StaysWhenPulled(frame));
+    EXPECT_TRUE(frame.IsZoomed());
+}
+
+TEST(Sizing, AFrameThatKeepsTheCommandToItselfIsNotSized)
+{
+    CSizedFrame frame;
+    ASSERT_TRUE(frame.Open());
+    frame.m_keepSizeCommand = true;
+    EXPECT_TRUE(StaysWhenPulled(frame));
 }
 
 TEST(Sizing, AnEndOfTheProgramEndsItAndIsPassedOn)
