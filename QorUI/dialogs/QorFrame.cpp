@@ -66,6 +66,17 @@ bool RegisterNamedClass(LPCWSTR name)
     return AfxRegisterClass(&wndClass) != FALSE;
 }
 
+/** @return the name of the framework's class, or null: a window that cannot be created is not to end the program. */
+LPCWSTR RegisterDefaultClass()
+{
+    try {
+        return AfxRegisterWndClass(0);
+    } catch (CResourceException* exception) {
+        exception->Delete();
+    }
+    return nullptr;
+}
+
 void DrawBanner(CDC& dc)
 {
     const UINT id = QorGetAppIcon().flag ? IDR_PNG_BANNER2 : IDR_PNG_BANNER;
@@ -107,7 +118,7 @@ BOOL CQorFrame::PreCreateWindow(CREATESTRUCT& cs)
     if (cs.lpszClass) {
         return RegisterNamedClass(cs.lpszClass);
     }
-    cs.lpszClass = AfxRegisterWndClass(0);
+    cs.lpszClass = RegisterDefaultClass();
     return cs.lpszClass != nullptr;
 }
 
