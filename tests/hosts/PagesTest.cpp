@@ -89,6 +89,64 @@ TEST_F(Pages, ArrowKeysInTheListOfPagesShowThem)
     EXPECT_NE(nullptr, Control(2706)); // the status bar
 }
 
+// The dialog with a sizing border
+
+class LayoutPage : public Pages
+{
+  protected:
+    static constexpr UINT kOpen = 2301;
+
+    void SetUp() override
+    {
+        Pages::SetUp();
+        Show(L"layout");
+    }
+
+    static CRect ClientOf(HWND wnd)
+    {
+        CRect client;
+        ::GetClientRect(wnd, client);
+        return client;
+    }
+
+    static void ExpectButtonsInTheBand(HWND dialog)
+    {
+        const CRect client = ClientOf(dialog);
+        CRect ok;
+        CRect cancel;
+        EXPECT_TRUE(QorGetCtrlRect(CWnd::FromHandle(dialog), IDOK, ok));
+        EXPECT_TRUE(QorGetCtrlRect(CWnd::FromHandle(dialog), IDCANCEL, cancel));
+        EXPECT_EQ(CPoint(client.right - 18, client.bottom - 39), CPoint(cancel.right, cancel.top));
+        EXPECT_EQ(CPoint(cancel.left - 9, cancel.top), CPoint(ok.right, ok.top));
+    }
+
+    /** Whether the dialog shows what it shows when all of it is painted anew. */
+    static testing::AssertionResult IsPaintedCompletely(HWND dialog)
+    {
+        const ts::Picture shown = ts::CaptureWindow(dialog);
+        ::RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+        return ts::SamePicture(ts::CaptureWindow(dialog), shown);
+    }
+};
+
+TEST_F(LayoutPage, DialogsButtonsStayInTheirCornerWhenItIsSized)
+{
+    ts::ModalDriver driver;
+    driver.InDialog([](HWND dialog) {
+        ExpectButtonsInTheBand(dialog);
+        for (const CSize change : {CSize(60, 40), CSize(-90, -20)}) {
+            const CSize size = ClientOf(dialog).Size() + change;
+            ::SetWindowPos(dialog, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+            EXPECT_EQ(size, ClientOf(dialog).Size());
+            ExpectButtonsInTheBand(dialog);
+            EXPECT_TRUE(IsPaintedCompletely(dialog));
+        }
+        ::PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+    });
+    ts::Click(Control(kOpen));
+    EXPECT_TRUE(driver.Finished());
+}
+
 // The list with its hundred thousand rows
 
 constexpr int kRows = 100000;

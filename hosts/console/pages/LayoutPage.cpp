@@ -7,7 +7,6 @@ namespace
 
 constexpr LONG kTopicHeight = -16;
 constexpr int kMoveStep = 20;
-constexpr int kBandGap = 10;
 
 /** A resizable dialog whose block of controls is moved, hidden and disabled as a whole. */
 class CLayoutDlg : public CQorDialog
@@ -62,28 +61,23 @@ class CLayoutDlg : public CQorDialog
     {
         CQorDialog::OnSize(type, cx, cy);
         if (m_ready) {
-            PlaceBand(cy);
+            PlaceBand();
         }
     }
     DECLARE_MESSAGE_MAP()
 
   private:
     /** OK and Cancel follow the bottom right corner. */
-    void PlaceBand(int cy)
+    void PlaceBand()
     {
-        CRect client;
-        GetClientPos(client);
-        int right = client.right;
-        for (const UINT id : {static_cast<UINT>(IDCANCEL), static_cast<UINT>(IDOK)}) {
-            CRect rect;
-            if (QorGetCtrlRect(this, id, rect)) {
-                GetDlgItem(static_cast<int>(id))
-                    ->SetWindowPos(nullptr, right - rect.Width(), cy - 40, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-                right -= rect.Width() + kBandGap;
-            }
-        }
-        Invalidate(FALSE);
+        AdjustBtnInArea(BandButton(IDCANCEL), 0);
+        AdjustBtnInArea(BandButton(IDOK), IDCANCEL);
+        // They may have moved onto a part of the dialog that is still to be painted, which would cover them.
+        BandButton(IDCANCEL).Invalidate();
+        BandButton(IDOK).Invalidate();
     }
+
+    CQorBtn& BandButton(UINT id) { return static_cast<CQorBtn&>(*GetDlgItem(static_cast<int>(id))); }
 
     void Report(const CString& text) { SetDlgItemText(IDC_LAYOUT_STATUS, text); }
 
