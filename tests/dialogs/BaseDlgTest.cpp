@@ -94,6 +94,24 @@ TEST(BaseDialog, EnterDoesNotCloseIt)
     EXPECT_TRUE(driver.Finished());
 }
 
+TEST(BaseDialog, EnterPressesTheDefaultButtonWhenAnEditHasTheFocus)
+{
+    CTestBaseDlg dialog;
+    ASSERT_TRUE(dialog.Create(IDD_PLAIN));
+    dialog.ShowWindow(SW_SHOW);
+    dialog.SetDefID(IDC_PUSH);
+    dialog.GetDlgItem(IDC_EDIT)->SetFocus();
+    ts::MessageRecorder recorder(dialog);
+    recorder.RecordOnly({WM_COMMAND});
+    MSG enter = {};
+    enter.hwnd = *dialog.GetDlgItem(IDC_EDIT);
+    enter.message = WM_KEYDOWN;
+    enter.wParam = VK_RETURN;
+    EXPECT_TRUE(dialog.PreTranslateMessage(&enter));
+    const auto push = reinterpret_cast<LPARAM>(::GetDlgItem(dialog, IDC_PUSH));
+    EXPECT_TRUE(recorder.Is({ts::Msg(WM_COMMAND, MAKEWPARAM(IDC_PUSH, BN_CLICKED), push)}));
+}
+
 TEST(BaseDialog, FocusedPushButtonOfOwnerDrawnStyleIsTheDefault)
 {
     CTestBaseDlg dialog;

@@ -494,6 +494,8 @@ TEST(DialogHitTest, SystemMenuSpotIsSixToTwentyTwo)
     CTestDialog dialog(IDD_OK_CANCEL, 1);
     ASSERT_TRUE(dialog.Open());
     EXPECT_EQ(HTCAPTION, dialog.Hit(6, 10));
+    EXPECT_EQ(HTCAPTION, dialog.Hit(10, 6));
+    EXPECT_EQ(HTSYSMENU, dialog.Hit(10, 7));
     EXPECT_EQ(HTSYSMENU, dialog.Hit(7, 7));
     EXPECT_EQ(HTSYSMENU, dialog.Hit(22, 22));
     EXPECT_EQ(HTCAPTION, dialog.Hit(23, 10));
@@ -669,6 +671,32 @@ TEST(DialogClosing, DisablingGraysTheCloseButtonAndTheSystemMenu)
     dialog.DisableClose(FALSE);
     EXPECT_TRUE(::IsWindowEnabled(::GetDlgItem(dialog, kCloseId)));
     EXPECT_EQ(0u, ::GetMenuState(dialog.GetSystemMenu(FALSE)->m_hMenu, SC_CLOSE, MF_BYCOMMAND) & MF_GRAYED);
+}
+
+std::vector<UINT> g_menuFlags;
+
+BOOL WINAPI RecordMenuFlags(HMENU menu, UINT item, UINT flags)
+{
+    EXPECT_EQ(static_cast<UINT>(SC_CLOSE), item);
+    g_menuFlags.push_back(flags);
+    return ::EnableMenuItem(menu, item, flags);
+}
+
+TEST(DialogClosing, DisablingMakesTheMenuItemBothGrayAndDisabled)
+{
+    CTestDialog dialog(IDD_OK_CANCEL, 1);
+    ASSERT_TRUE(dialog.Open());
+    const ts::ReplacedImport hook(L"afx.dll", "EnableMenuItem", &RecordMenuFlags);
+    g_menuFlags.clear();
+    const UINT both = MF_GRAYED | MF_DISABLED;
+    const auto state = [&dialog] {
+        return ::GetMenuState(dialog.GetSystemMenu(FALSE)->m_hMenu, SC_CLOSE, MF_BYCOMMAND);
+    };
+    dialog.DisableClose(TRUE);
+    EXPECT_EQ(both, state() & both);
+    dialog.DisableClose(FALSE);
+    EXPECT_EQ(0u, state() & both);
+    EXPECT_EQ((std::vector<UINT>{MF_BYCOMMAND | both, MF_BYCOMMAND | MF_ENABLED}), g_menuFlags);
 }
 
 TEST(DialogClosing, DisablingKeepsTheBandAndTheSizingBorder)

@@ -15,6 +15,29 @@ HWND WINAPI RefuseButtons(DWORD exStyle, LPCWSTR className, LPCWSTR text, DWORD 
     return ::CreateWindowExW(exStyle, className, text, style, x, y, cx, cy, parent, menu, inst, param);
 }
 
+int g_buttons = 0;
+
+HWND WINAPI CountButtons(DWORD exStyle, LPCWSTR className, LPCWSTR text, DWORD style, int x, int y, int cx, int cy,
+                         HWND parent, HMENU menu, HINSTANCE inst, void* param)
+{
+    g_buttons += !IS_INTRESOURCE(className) && ::lstrcmpiW(className, L"Button") == 0;
+    return ::CreateWindowExW(exStyle, className, text, style, x, y, cx, cy, parent, menu, inst, param);
+}
+
+/** A window whose default processing refuses its creation. */
+template <class Window>
+class CRefused : public Window
+{
+  public:
+    using Window::Window;
+
+  protected:
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        return message == WM_CREATE ? -1 : Window::DefWindowProc(message, wParam, lParam);
+    }
+};
+
 HBITMAP WINAPI NoBitmap(HINSTANCE, LPCWSTR)
 {
     return nullptr;
@@ -29,6 +52,18 @@ TEST(DialogFailure, DoesNotOpenWithoutACloseButton)
     ASSERT_FALSE(modeless.Create(IDD_OK_CANCEL));
     CTestDialog modal(IDD_OK_CANCEL, 1);
     EXPECT_EQ(-1, modal.DoModal());
+}
+
+TEST(DialogFailure, DoesNotOpenWhenTheDefaultRefusesItsCreation)
+{
+    const ts::ReplacedImport hook(L"afx.dll", "CreateWindowExW", &CountButtons);
+    g_buttons = 0;
+    CRefused<CTestDialog> modeless(IDD_OK_CANCEL, 1);
+    ASSERT_FALSE(modeless.Create(IDD_OK_CANCEL));
+    EXPECT_EQ(nullptr, modeless.m_hWnd);
+    CRefused<CTestDialog> modal(IDD_OK_CANCEL, 1);
+    EXPECT_EQ(-1, modal.DoModal());
+    EXPECT_EQ(0, g_buttons);
 }
 
 TEST(DialogFailure, FailsToOpenWithoutItsTemplate)
@@ -92,6 +127,33 @@ TEST(FrameFailure, IsNotCreatedWhenItsClassCannotBeRegistered)
     cs.lpszClass = L"QorFrameRefusedClass";
     EXPECT_FALSE(frame.PreCreateWindow(cs));
     EXPECT_FALSE(frame.Open(L"QorFrameRefusedClass"));
+}
+
+BOOL WINAPI NoClassInfo(HINSTANCE, LPCWSTR, WNDCLASSW*)
+{
+    ::SetLastError(ERROR_CLASS_DOES_NOT_EXIST);
+    return FALSE;
+}
+
+TEST(FrameFailure, IsNotCreatedWhenTheDefaultClassCannotBeRegistered)
+{
+    const ts::ReplacedImport unknown(L"afx.dll", "GetClassInfoW", &NoClassInfo);
+    const ts::ReplacedImport refused(L"afx.dll", "RegisterClassW", &NoClass);
+    CTestFrame frame;
+    CREATESTRUCT cs = {};
+    EXPECT_FALSE(frame.PreCreateWindow(cs));
+    EXPECT_FALSE(frame.Open());
+    EXPECT_EQ(nullptr, frame.m_hWnd);
+}
+
+TEST(FrameFailure, IsNotCreatedWhenTheDefaultRefusesIt)
+{
+    const ts::ReplacedImport hook(L"afx.dll", "CreateWindowExW", &CountButtons);
+    g_buttons = 0;
+    CRefused<CTestFrame> frame;
+    EXPECT_FALSE(frame.Open());
+    EXPECT_EQ(nullptr, frame.m_hWnd);
+    EXPECT_EQ(0, g_buttons);
 }
 
 TEST(FrameFailure, IsNotCreatedWithoutItsTitleButtons)

@@ -332,6 +332,7 @@ TEST(FrameButtons, DisablingCloseGraysTheSystemMenu)
     EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(frame, kClose)));
     frame.DisableTitleBtn(2, FALSE);
     EXPECT_EQ(0u, ::GetMenuState(::GetSystemMenu(frame, FALSE), SC_CLOSE, MF_BYCOMMAND) & MF_GRAYED);
+    EXPECT_TRUE(::IsWindowEnabled(::GetDlgItem(frame, kClose)));
 }
 
 TEST(FrameButtons, AnIndexBeyondTheThreeDoesNothing)

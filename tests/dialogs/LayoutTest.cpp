@@ -150,6 +150,29 @@ TEST_F(Layout, MovedControlsAreRepainted)
     EXPECT_EQ((std::vector<BOOL>{TRUE, TRUE}), g_repaints);
 }
 
+std::vector<std::string> g_steps;
+
+BOOL WINAPI NoteMove(HWND wnd, int x, int y, int cx, int cy, BOOL repaint)
+{
+    g_steps.push_back("move");
+    return ::MoveWindow(wnd, x, y, cx, cy, repaint);
+}
+
+BOOL WINAPI NoteShow(HWND wnd, int command)
+{
+    g_steps.push_back("show");
+    return ::ShowWindow(wnd, command);
+}
+
+TEST_F(Layout, EachControlIsMovedBeforeItIsShown)
+{
+    const ts::ReplacedImport moves(L"QorUI.dll", "MoveWindow", &NoteMove);
+    const ts::ReplacedImport shows(L"QorUI.dll", "ShowWindow", &NoteShow);
+    g_steps.clear();
+    QorMoveCtrls(&m_dialog, 1001, 1002, 5, 0);
+    EXPECT_EQ((std::vector<std::string>{"move", "show", "move", "show"}), g_steps);
+}
+
 TEST_F(Layout, HidesAndShowsARange)
 {
     QorShowCtrls(&m_dialog, kFirst, kLast, FALSE);
@@ -213,6 +236,8 @@ TEST_F(Layout, ANullParentIsLeftOut)
 TEST_F(Layout, ADestroyedParentIsLeftOut)
 {
     CTestBaseDlg gone;
+    ASSERT_TRUE(gone.Create(IDD_PLAIN));
+    gone.DestroyWindow();
     QorEnableCtrls(&gone, kFirst, kLast, FALSE);
     QorMoveCtrlsEx(&gone, IDC_PUSH, kFirst, kLast, 1, 1);
     CRect rect(1, 2, 3, 4);
@@ -254,6 +279,18 @@ TEST_F(Layout, Utf8KeepsSpecialCharactersUnlessEscaped)
     EXPECT_STREQ("a<b & \xc3\xa4", text);
     EXPECT_TRUE(QorGetUtf8(*m_dialog.GetDlgItem(IDC_EDIT), text, TRUE));
     EXPECT_STREQ("a&lt;b &amp; \xc3\xa4", text);
+}
+
+TEST_F(Layout, BlanksOnlyAreNoUtf8)
+{
+    for (const LPCWSTR blanks : {L"", L"   "}) {
+        for (const BOOL xmlEscape : {FALSE, TRUE}) {
+            m_dialog.SetDlgItemText(IDC_EDIT, blanks);
+            CStringA text("old");
+            EXPECT_FALSE(QorGetUtf8(*m_dialog.GetDlgItem(IDC_EDIT), text, xmlEscape));
+            EXPECT_STREQ("", text);
+        }
+    }
 }
 
 LOGFONTW FontOf(CWnd& dialog, UINT id)

@@ -18,10 +18,34 @@ class CTestBaseDlg : public CQorBaseDlg
     using CQorBaseDlg::SetDlgLang;
 };
 
-class CTestDialog : public CQorDialog
+/** Adds what the tests ask dialogs and frame windows for. */
+template <class Window>
+class CProbed : public Window
 {
   public:
-    CTestDialog(UINT idd, DWORD flags, CWnd* parent = nullptr) : CQorDialog(idd, parent, flags), m_idd(idd) {}
+    using Window::Window;
+
+    /** Hit-test code of a point given from the window's top left corner. */
+    LRESULT Hit(int x, int y)
+    {
+        CRect window;
+        this->GetWindowRect(window);
+        return this->SendMessage(WM_NCHITTEST, 0, MAKELPARAM(window.left + x, window.top + y));
+    }
+
+    /** Where a control stands in the window. */
+    CRect CtrlRect(UINT id)
+    {
+        CRect rect;
+        QorGetCtrlRect(this, id, rect);
+        return rect;
+    }
+};
+
+class CTestDialog : public CProbed<CQorDialog>
+{
+  public:
+    CTestDialog(UINT idd, DWORD flags, CWnd* parent = nullptr) : CProbed(idd, parent, flags), m_idd(idd) {}
     using CQorDialog::AdjustBtnInArea;
     using CQorDialog::DisableClose;
     using CQorDialog::GetClientPos;
@@ -37,21 +61,6 @@ class CTestDialog : public CQorDialog
         ShowWindow(SW_SHOW);
         ts::Settle();
         return true;
-    }
-
-    /** Hit-test code of a point given from the window's top left corner. */
-    LRESULT Hit(int x, int y)
-    {
-        CRect window;
-        GetWindowRect(window);
-        return SendMessage(WM_NCHITTEST, 0, MAKELPARAM(window.left + x, window.top + y));
-    }
-
-    CRect CtrlRect(UINT id)
-    {
-        CRect rect;
-        QorGetCtrlRect(this, id, rect);
-        return rect;
     }
 
     CSize ClientSize() const

@@ -3,7 +3,7 @@
 #include "TestDialogs.h"
 
 /** Opens what is protected, for the tests, and keeps the commands it receives. */
-class CTestFrame : public CQorFrame
+class CTestFrame : public CProbed<CQorFrame>
 {
   public:
     using CQorFrame::DisableTitleBtn;
@@ -27,20 +27,6 @@ class CTestFrame : public CQorFrame
         ShowWindow(SW_SHOW);
         ts::Settle();
         return true;
-    }
-
-    LRESULT Hit(int x, int y)
-    {
-        CRect window;
-        GetWindowRect(window);
-        return SendMessage(WM_NCHITTEST, 0, MAKELPARAM(window.left + x, window.top + y));
-    }
-
-    CRect CtrlRect(UINT id)
-    {
-        CRect rect;
-        QorGetCtrlRect(this, id, rect);
-        return rect;
     }
 
     std::vector<WPARAM> m_sysCommands;

@@ -2,15 +2,19 @@
 
 #include <tests/support/Imports.h>
 
+#include <array>
+
 // The topic font is made once in a process, so what happens when it cannot be made needs a program of its own, and the
 // steps of its one test follow from each other.
 namespace
 {
 
 int g_failures = 0; // how many calls fail from now on
+std::vector<LOGFONTW> g_requests;
 
 HFONT WINAPI MakeOrFail(const LOGFONTW* font)
 {
+    g_requests.push_back(*font);
     if (g_failures > 0) {
         --g_failures;
         return nullptr;
@@ -30,6 +34,34 @@ LOGFONTW FontOf(CWnd& dialog, UINT id)
     return font;
 }
 
+/** All fields but the name of the face. */
+std::array<LONG, 13> NumbersOf(const LOGFONTW& font)
+{
+    return {font.lfHeight,        font.lfWidth,     font.lfEscapement,    font.lfOrientation, font.lfWeight,
+            font.lfItalic,        font.lfUnderline, font.lfStrikeOut,     font.lfCharSet,     font.lfOutPrecision,
+            font.lfClipPrecision, font.lfQuality,   font.lfPitchAndFamily};
+}
+
+void ExpectRequest(const LOGFONTW& expected, const LOGFONTW& request)
+{
+    EXPECT_EQ(NumbersOf(expected), NumbersOf(request));
+    EXPECT_STREQ(expected.lfFaceName, request.lfFaceName);
+}
+
+LOGFONTW StockFont()
+{
+    LOGFONTW font = {};
+    EXPECT_NE(0, ::GetObjectW(::GetStockObject(DEFAULT_GUI_FONT), sizeof(font), &font));
+    return font;
+}
+
+LOGFONTW Topic(LOGFONTW font, LONG height)
+{
+    font.lfHeight = height;
+    font.lfWeight = 700;
+    return font;
+}
+
 TEST(TopicFont, IsTriedAgainUntilItOrTheStockFaceCanBeMade)
 {
     CTestBaseDlg dialog;
@@ -40,6 +72,11 @@ TEST(TopicFont, IsTriedAgainUntilItOrTheStockFaceCanBeMade)
     g_failures = 2;
     QorSetTopicCtrl(&dialog, IDC_FIRST, L"Topic", -30);
     EXPECT_EQ(0, g_failures) << "both faces were tried";
+    ASSERT_EQ(2u, g_requests.size());
+    LOGFONTW arial = {};
+    ::lstrcpynW(arial.lfFaceName, L"Arial", LF_FACESIZE);
+    ExpectRequest(Topic(arial, -30), g_requests[0]);
+    ExpectRequest(Topic(StockFont(), -30), g_requests[1]);
     EXPECT_EQ(before, FontHandle(dialog, IDC_FIRST));
     CString text;
     dialog.GetDlgItemText(IDC_FIRST, text);
@@ -48,8 +85,7 @@ TEST(TopicFont, IsTriedAgainUntilItOrTheStockFaceCanBeMade)
     // A control that does not exist needs no font and fixes no height.
     QorSetTopicCtrl(&dialog, 4242, nullptr, -31);
 
-    LOGFONTW stock = {};
-    ASSERT_NE(0, ::GetObjectW(::GetStockObject(DEFAULT_GUI_FONT), sizeof(stock), &stock));
+    const LOGFONTW stock = StockFont();
     g_failures = 1;
     QorSetTopicCtrl(&dialog, IDC_FIRST, nullptr, -18);
     const LOGFONTW made = FontOf(dialog, IDC_FIRST);
