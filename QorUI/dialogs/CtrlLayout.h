@@ -55,6 +55,6 @@ QORUI_API BOOL QorGetUtf8(CWnd& wnd, CStringA& text, BOOL xmlEscape);
  * Makes a control a heading: bold, in the library's one topic font.
  * @param text new text of the control; null or empty keeps the text it has.
  * @param height height of the font as in `LOGFONT` (pixels; negative for the height without leading). The first call
- * fixes it for the library's lifetime.
+ * that can make the font fixes it for the library's lifetime.
  */
 QORUI_API void QorSetTopicCtrl(CWnd* parent, UINT id, LPCWSTR text, LONG height);

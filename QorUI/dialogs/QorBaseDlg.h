@@ -8,8 +8,8 @@ class CXmlElem;
  * Base of every dialog of the library: binds a dialog to its texts in the language data and fixes its default button,
  * its keyboard handling when it is embedded in another window, and Enter.
  *
- * Enter presses the button that has the focus; with the focus elsewhere it does nothing unless a derived class
- * overrides `OnOK`.
+ * Enter presses the button that has the focus; with the focus elsewhere it presses the dialog's default button. `IDOK`
+ * itself does nothing unless a derived class overrides `OnOK`.
  */
 class QORUI_API CQorBaseDlg : public CDialog
 {
