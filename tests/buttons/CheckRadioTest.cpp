@@ -295,7 +295,7 @@ TEST_F(CheckBox, EnableMessageAloneEnables)
 }
 
 template <class Control>
-void ExpectStateChangesToRepaintTheStatedRectangle(Control& control)
+void ExpectStateChangesToRepaintTheMark(Control& control)
 {
     const auto dirtyAfter = [&control](UINT message, WPARAM wParam, LPARAM lParam) {
         Validate(control);
@@ -304,25 +304,25 @@ void ExpectStateChangesToRepaintTheStatedRectangle(Control& control)
         EXPECT_FALSE(IsErasedByUpdate(control)) << ts::MessageName(message);
         return dirty;
     };
-    const CRect stated(2, 2, 13, 13);
-    EXPECT_EQ(stated, dirtyAfter(BM_SETCHECK, BST_CHECKED, 0));
-    EXPECT_EQ(stated, dirtyAfter(BM_SETCHECK, BST_UNCHECKED, 0));
-    EXPECT_EQ(stated, dirtyAfter(WM_MOUSELEAVE, 0, 0));
-    EXPECT_EQ(stated, dirtyAfter(WM_LBUTTONUP, 0, MAKELPARAM(3, 3)));
+    const CRect mark(2, 2, 13, 13);
+    EXPECT_EQ(mark, dirtyAfter(BM_SETCHECK, BST_CHECKED, 0));
+    EXPECT_EQ(mark, dirtyAfter(BM_SETCHECK, BST_UNCHECKED, 0));
+    EXPECT_EQ(mark, dirtyAfter(WM_MOUSELEAVE, 0, 0));
+    EXPECT_EQ(mark, dirtyAfter(WM_LBUTTONUP, 0, MAKELPARAM(3, 3)));
     ts::MoveMouse(control);
     control.SendMessage(WM_MOUSELEAVE);
-    EXPECT_EQ(stated, dirtyAfter(WM_MOUSEMOVE, 0, MAKELPARAM(3, 3)));
+    EXPECT_EQ(mark, dirtyAfter(WM_MOUSEMOVE, 0, MAKELPARAM(3, 3)));
     EXPECT_EQ(CRect(0, 0, 0, 0), dirtyAfter(WM_MOUSEMOVE, 0, MAKELPARAM(4, 3))) << "hot already";
 }
 
-TEST_F(CheckBox, StateChangesRepaintTheStatedRectangle)
+TEST_F(CheckBox, StateChangesRepaintTheMark)
 {
-    ExpectStateChangesToRepaintTheStatedRectangle(m_control);
+    ExpectStateChangesToRepaintTheMark(m_control);
 }
 
-TEST_F(RadioBox, StateChangesRepaintTheStatedRectangle)
+TEST_F(RadioBox, StateChangesRepaintTheMark)
 {
-    ExpectStateChangesToRepaintTheStatedRectangle(m_control);
+    ExpectStateChangesToRepaintTheMark(m_control);
     Validate(m_control);
     m_control.SendMessage(WM_LBUTTONUP); // checked since above
     EXPECT_EQ(CRect(0, 0, 0, 0), Dirty(m_control)) << "nothing changes";

@@ -59,7 +59,7 @@ TEST_F(Calendar, NewOneShowsTodaysMonthAndSelectsNothing)
     EXPECT_EQ(0, calendar.m_nRows);
 }
 
-TEST_F(Calendar, NewOneHasTheStatedColours)
+TEST_F(Calendar, NewOneHasItsDefaultColours)
 {
     EXPECT_EQ(GetSysColor(COLOR_WINDOW), m_calendar.m_crBk);
     EXPECT_EQ(GetSysColor(COLOR_GRAYTEXT), m_calendar.m_crNormal);
@@ -167,7 +167,7 @@ TEST_F(Calendar, CellsBeginWithoutPlacesAndWithValidDates)
     }
 }
 
-TEST_F(Calendar, FontsHaveTheStatedLook)
+TEST_F(Calendar, FontsAreTahomaOfSevenPoints)
 {
     Make();
     LOGFONTW bold = {};

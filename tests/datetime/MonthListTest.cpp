@@ -91,7 +91,7 @@ TEST_F(MonthList, OpensAsAPopUpAtTheMouse)
     ts::MouseUp();
 }
 
-TEST_F(MonthList, IsCentredOnTheMouseInTheStatedSize)
+TEST_F(MonthList, IsCentredOnTheMouseWithRoomForSevenMonths)
 {
     Open();
     int width = 0;

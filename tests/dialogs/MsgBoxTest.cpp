@@ -472,7 +472,7 @@ TEST(MsgBox, StandsOnItsParentAndDisablesIt)
     EXPECT_TRUE(::IsWindowEnabled(host.Hwnd()));
 }
 
-TEST(MsgBox, HasTheStatedSizeWhateverItsText)
+TEST(MsgBox, HasTheSizeOfItsTemplateWhateverItsText)
 {
     ASSERT_TRUE(ts::HasStandardDialogFont());
     for (const CString& text : {CString(L"x"), CString(L'W', 100000)}) {

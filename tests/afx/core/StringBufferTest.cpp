@@ -99,7 +99,7 @@ TEST(CStringBuffer, MoveLeavesTheSourceEmpty)
     const wchar_t* const psz = str.GetString();
     const CString moved(std::move(str));
     EXPECT_EQ(psz, moved.GetString());
-    EXPECT_TRUE(str.IsEmpty()); // NOLINT(bugprone-use-after-move): the state after a move is stated
+    EXPECT_TRUE(str.IsEmpty()); // NOLINT(bugprone-use-after-move): the state after a move is defined
 }
 
 TEST(CStringBuffer, GetBufferGivesRoomAndReleaseFindsTheEnd)
