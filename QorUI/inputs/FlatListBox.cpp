@@ -1,6 +1,7 @@
 #include "FlatListBox.h"
 
 #include "FlatEdit.h"
+#include "ListWidth.h"
 
 BEGIN_MESSAGE_MAP(CFlatListBox, CListBox)
     ON_WM_NCPAINT()

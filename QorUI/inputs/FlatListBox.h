@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QorUI/app/QorUIDef.h>
-#include <QorUI/inputs/ListWidth.h>
+#include <QorUI/inputs/TextBound.h>
 
 /** A list box with a flat border whose horizontal scroll range follows its widest text. */
 class QORUI_API CFlatListBox : public CListBox

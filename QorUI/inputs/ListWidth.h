@@ -1,8 +1,27 @@
 #pragma once
 
+#include <QorUI/app/GdiSavers.h>
 #include <QorUI/app/QorUIDef.h>
 
-#include <array>
+/** Measures texts in a list's own font. */
+class CListMeasure
+{
+  public:
+    explicit CListMeasure(CListBox& list);
+
+    HDC Dc() const { return m_dc.m_hDC; }
+
+    /** What every text needs beside itself, pixels. */
+    int Margin() const { return m_margin; }
+
+    /** Width of a text with its margin, pixels. */
+    int Width(LPCWSTR text, int length) const;
+
+  private:
+    CClientDC m_dc;
+    CSelectSaver m_font;
+    int m_margin;
+};
 
 /**
  * Widens a list box's horizontal scroll range when a text needs it.
@@ -13,27 +32,3 @@ int QorWidenList(CListBox& list, int widest, LPCWSTR text);
 
 /** Sets the horizontal scroll range to what the list's texts need. @return the width of the widest one. */
 int QorRefitList(CListBox& list);
-
-/**
- * Tells without a device context that a text is not wider than a given width, for the many texts of long lists.
- *
- * It knows the widths of the ASCII characters in the list's font, and nothing about texts with other characters.
- */
-class CTextBound
-{
-  public:
-    /** To be called when the list gets another font. */
-    void Forget() { m_known = false; }
-
-    /** @return whether the text with its margin surely needs no more than `width` pixels; false when unsure. */
-    bool Fits(CListBox& list, LPCWSTR text, int width);
-
-  private:
-    static constexpr size_t kCharacters = 128;
-
-    bool Learn(CListBox& list);
-
-    bool m_known = false;
-    int m_base = 0; // what every text needs
-    std::array<INT, kCharacters> m_widths = {};
-};
