@@ -54,6 +54,12 @@ void CFlatListBox::UpdateWidth(LPCWSTR text)
     }
 }
 
+void CFlatListBox::PreSubclassWindow()
+{
+    m_bound.Forget(); // the font of another window
+    CListBox::PreSubclassWindow();
+}
+
 LRESULT CFlatListBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == WM_SETFONT) {

@@ -25,6 +25,7 @@ class QORUI_API CFlatListBox : public CListBox
     void ResetContent();
 
   protected:
+    void PreSubclassWindow() override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     afx_msg void OnNcPaint();

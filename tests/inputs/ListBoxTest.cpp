@@ -189,6 +189,20 @@ TEST_F(FlatListBox, NewFontIsMeasuredAnew)
     m_list.DestroyWindow();
 }
 
+TEST_F(FlatListBox, FontOfAFormerWindowIsForgotten)
+{
+    m_list.AddString(kLong);
+    m_list.DestroyWindow();
+    CFont font;
+    ASSERT_TRUE(font.CreatePointFont(240, L"Tahoma"));
+    const HWND list = AddSystem(m_host, L"LISTBOX", WS_HSCROLL, WS_EX_CLIENTEDGE, {10, 10, 110, 110});
+    ::SendMessageW(list, WM_SETFONT, reinterpret_cast<WPARAM>(font.m_hObject), FALSE);
+    ASSERT_TRUE(m_list.SubclassWindow(list));
+    m_list.AddString(kLong);
+    EXPECT_EQ(TextWidth(font, kLong) + 3 * ::GetSystemMetrics(SM_CXBORDER), m_list.GetHorizontalExtent());
+    m_list.DestroyWindow();
+}
+
 TEST_F(FlatListBox, WidestOfManyTextsIsExact)
 {
     const wchar_t* texts[] = {
