@@ -42,16 +42,28 @@ class FlatCombo : public testing::Test
         ts::ParkMouse();
     }
 
-    QorComboParts Parts()
+    static QorComboParts PartsOf(const CWnd& combo)
     {
         CRect client;
-        m_combo.GetClientRect(&client);
+        combo.GetClientRect(&client);
         return QorComboLayout(client, ::GetSystemMetrics(SM_CXHTHUMB));
     }
+
+    QorComboParts Parts() const { return PartsOf(m_combo); }
 
     ts::AfxHost m_host{200, 240};
     CFlatCombo m_combo;
 };
+
+/** Answers WM_PAINT in place of a window. */
+std::optional<LRESULT> PaintBlack(const ts::Message& message)
+{
+    PAINTSTRUCT paint = {};
+    const HDC dc = ::BeginPaint(message.window, &paint);
+    ::FillRect(dc, &paint.rcPaint, static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)));
+    ::EndPaint(message.window, &paint);
+    return 0;
+}
 
 CRect Inner(CRect rect)
 {
@@ -121,15 +133,27 @@ TEST_F(FlatCombo, BothPartsHaveAGreyAndAWhiteFrame)
     const QorComboParts parts = Parts();
     EXPECT_TRUE(ts::FrameIs(look, parts.button, kGrey));
     EXPECT_TRUE(ts::FrameIs(look, Inner(parts.button), kWhite));
-    const CRect text(parts.text);
-    for (const CRect& line :
-         {CRect(0, 0, text.right, 1), CRect(0, 0, 1, text.bottom), CRect(0, text.bottom - 1, text.right, text.bottom)})
-        EXPECT_TRUE(ts::AreaIs(look, line, kGrey));
-    const CRect inner = Inner(text);
-    // The button part was drawn over the right end of the text part.
-    for (const CRect& line : {CRect(1, 1, inner.right - 1, 2), CRect(1, 1, 2, inner.bottom),
-                              CRect(1, inner.bottom - 1, inner.right - 1, inner.bottom)})
-        EXPECT_TRUE(ts::AreaIs(look, line, kWhite));
+    // The right grey line of the text part is the left one of the button part as well.
+    EXPECT_TRUE(ts::FrameIs(look, parts.text, kGrey));
+    EXPECT_TRUE(ts::FrameIs(look, Inner(parts.text), kWhite));
+}
+
+TEST_F(FlatCombo, FramesAreWholeWhateverTheStandardBoxPaints)
+{
+    const HWND stock = AddSystem(m_host, L"COMBOBOX", CBS_DROPDOWNLIST, 0, {10, 60, 130, 200});
+    ts::MessageRecorder standard(stock);
+    standard.Answer(WM_PAINT, &PaintBlack);
+    CFlatCombo combo;
+    ASSERT_TRUE(combo.SubclassWindow(stock));
+    const QorComboParts parts = PartsOf(combo);
+    for (const BOOL enabled : {TRUE, FALSE}) {
+        combo.EnableWindow(enabled);
+        const ts::Picture look = LookOf(combo);
+        for (const RECT& part : {parts.text, parts.button}) {
+            EXPECT_TRUE(ts::FrameIs(look, part, kGrey)) << enabled;
+            EXPECT_TRUE(ts::FrameIs(look, Inner(part), kWhite)) << enabled;
+        }
+    }
 }
 
 TEST_F(FlatCombo, ButtonIsFilledAroundABlackArrow)
