@@ -9,6 +9,7 @@
 #include <QorUI/app/SysLook.h>
 
 #include <new>
+#include <utility>
 
 BEGIN_MESSAGE_MAP(CQorCalendar, CWnd)
     ON_WM_PAINT()
@@ -615,7 +616,11 @@ void CQorCalendar::OpenMonthList(CalendarCell* cell)
     const int offset = (cell->nRow - 1) * m_nCols + cell->nCol - 1;
     const QorMonth::Month month = QorMonth::AddMonths({m_nYear, m_nMonth}, offset);
     m_pSelMonthWnd = new CSelMonthWnd; // the framework throws when there is no memory
-    if (!m_pSelMonthWnd->Create(month.month, month.year, this)) {
+    const BOOL shown = m_pSelMonthWnd->Create(month.month, month.year, this);
+    if (!m_hWnd || !m_pSelMonthWnd) {
+        return; // the list was activated, and the host closed the calendar for that
+    }
+    if (!shown) {
         CloseMonthList();
         return;
     }
@@ -626,18 +631,20 @@ void CQorCalendar::OpenMonthList(CalendarCell* cell)
 
 void CQorCalendar::CloseMonthList()
 {
-    if (m_pSelMonthWnd && m_pSelMonthWnd->m_hWnd) {
-        m_pSelMonthWnd->DestroyWindow();
-    }
-    delete m_pSelMonthWnd;
-    m_pSelMonthWnd = nullptr;
+    // Forgotten first: the host is activated when the list goes, and may close the calendar then.
+    const std::unique_ptr<CSelMonthWnd> list(std::exchange(m_pSelMonthWnd, nullptr));
     m_pHdrCell = nullptr;
     m_bTrackMonth = FALSE;
+    if (list && list->m_hWnd) {
+        list->DestroyWindow();
+    }
 }
 
 void CQorCalendar::PostNcDestroy()
 {
     CloseMonthList(); // its window belongs to the frame and would stay
+    m_bTrackDay = FALSE;
+    m_bTrackArrow = FALSE;
     CWnd::PostNcDestroy();
 }
 

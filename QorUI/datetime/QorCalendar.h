@@ -54,7 +54,7 @@ class QORUI_API CQorCalendar : public CWnd
      * @param isSpecial may be null; called while painting
      * @param data handed to `isSpecial`, not owned
      * @param rows,cols months below and beside each other, 1 to 20
-     * @return FALSE without a parent, for a size out of range, or when the window or its fonts cannot be made
+     * @return FALSE without a parent, for a size out of range, or when cells, window or fonts cannot be made
      */
     BOOL Create(CWnd* parent, UINT id, int (*isSpecial)(COleDateTime&, void*), void* data, int rows, int cols);
 

@@ -49,6 +49,7 @@ BOOL CSelMonthWnd::Create(int month, int year, CQorCalendar* calendar)
     }
     const CSize size = WindowSize();
     const DWORD mouse = ::GetMessagePos();
+    // Activation may delete this object: nothing of it is used after this.
     return SetWindowPos(nullptr, GET_X_LPARAM(mouse) - size.cx / 2, GET_Y_LPARAM(mouse) - size.cy / 2, size.cx, size.cy,
                         SWP_SHOWWINDOW);
 }
@@ -88,6 +89,9 @@ void CSelMonthWnd::OnPaint()
     dc.SetBkMode(TRANSPARENT);
     const CSelectSaver font(dc, m_pCalendar->m_fontNormal);
     const int lineHeight = LineHeight(dc);
+    if (lineHeight <= 0) {
+        return; // no row is shown that could be chosen
+    }
     const int chosen = RowUnderMouse(lineHeight);
     for (int row = 0; row < QorMonth::kListRows; ++row) {
         const QorMonth::Month month = QorMonth::AddMonths({m_nYear, m_nMonth}, row - QorMonth::kListMiddle);

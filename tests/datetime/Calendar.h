@@ -55,6 +55,7 @@ class CTestCalendar : public CQorCalendar
     using CQorCalendar::m_rcRightArrow;
     using CQorCalendar::m_strDays;
     using CQorCalendar::m_strMonths;
+    using CQorCalendar::OnLButtonDown;
     using CQorCalendar::ScrollLeft;
     using CQorCalendar::ScrollRight;
     using CQorCalendar::SetCellDayPos;

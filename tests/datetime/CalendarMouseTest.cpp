@@ -37,8 +37,10 @@ TEST_F(CalendarMouse, ClickSelectsADayAndTellsTheParentOnRelease)
     EXPECT_TRUE(m_host.Log().Is({}));
     ts::MouseUp();
     EXPECT_EQ(nullptr, GetCapture());
-    EXPECT_TRUE(m_host.Log().Is({kClick}));
-    EXPECT_EQ(m_calendar.m_hWnd, m_host.Log().Messages().front().from);
+    ASSERT_TRUE(m_host.Log().Is({kClick}));
+    const ts::Message& click = m_host.Log().Messages().front();
+    EXPECT_EQ(m_calendar.m_hWnd, click.from);
+    EXPECT_EQ(kCalendarId, click.wParam);
 }
 
 TEST_F(CalendarMouse, SingleDayFollowsTheDrag)
@@ -197,6 +199,19 @@ TEST_F(CalendarMouse, HeldArrowPagesWithEveryMove)
     EXPECT_EQ(5, m_calendar.m_nMonth);
 }
 
+TEST_F(CalendarMouse, HeldArrowPagesByTheWholeGrid)
+{
+    Begin(1, 2, 2);
+    const CPoint middle = CRect(m_calendar.m_rcRightArrow).CenterPoint();
+    Press(m_calendar.m_rcRightArrow);
+    EXPECT_EQ(3 + 4, m_calendar.m_nMonth);
+    ts::MoveMouse(m_calendar.m_hWnd, middle.x, middle.y + 1);
+    EXPECT_EQ(3 + 2 * 4, m_calendar.m_nMonth);
+    MoveTo(m_calendar.m_rcLeftArrow);
+    EXPECT_EQ(3 + 4, m_calendar.m_nMonth);
+    ts::MouseUp();
+}
+
 TEST_F(CalendarMouse, WaitCursorIsShownUntilAPageIsPainted)
 {
     HCURSOR whilePainting = nullptr;
@@ -351,6 +366,29 @@ TEST_F(CalendarMouse, CaptureIsGivenBackBeforeTheParentIsTold)
     Drag(Date(2009, 3, 10), Date(2009, 3, 12));
     EXPECT_EQ(nullptr, capture);
     EXPECT_EQ(L"2009-03-10 to 2009-03-12", selection);
+}
+
+TEST_F(CalendarMouse, DragEndsWithTheWindow)
+{
+    Begin(7);
+    PressOn(Date(2009, 3, 10));
+    m_calendar.DestroyWindow();
+    Begin(7);
+    MoveTo(Date(2009, 3, 12));
+    EXPECT_EQ(L"2009-03-10 to 2009-03-10", Selection(m_calendar));
+    ts::MouseUp();
+    EXPECT_TRUE(m_host.Log().Is({}));
+}
+
+TEST_F(CalendarMouse, HeldArrowIsLetGoWithTheWindow)
+{
+    Begin(1);
+    Press(m_calendar.m_rcRightArrow);
+    m_calendar.DestroyWindow();
+    Begin(1);
+    MoveTo(m_calendar.m_rcLeftArrow);
+    EXPECT_EQ(3, m_calendar.m_nMonth);
+    ts::MouseUp();
 }
 
 TEST_F(CalendarMouse, DragGoesOnWithTheMouseOutside)

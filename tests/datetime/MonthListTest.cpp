@@ -2,12 +2,24 @@
 
 #include <QorUI/datetime/SelMonthWnd.h>
 
+#include <windowsx.h>
+
 namespace
 {
 
 HWND WINAPI NoWindow(DWORD, LPCWSTR, LPCWSTR, DWORD, int, int, int, int, HWND, HMENU, HINSTANCE, LPVOID)
 {
     return nullptr;
+}
+
+HDC WINAPI NoMemoryDc(HDC)
+{
+    return nullptr;
+}
+
+[[noreturn]] void* NoMemoryForObjects(size_t)
+{
+    AfxThrowMemoryException();
 }
 
 class MonthList : public CalendarFixture
@@ -30,6 +42,34 @@ class MonthList : public CalendarFixture
         MoveTo(m_calendar.m_pCells[cell].rcHdr);
         ts::MouseDown();
         ts::Settle();
+    }
+
+    CPoint Header(size_t cell = 0) const { return CRect(m_calendar.m_pCells[cell].rcHdr).CenterPoint(); }
+
+    /** Sends a press on a header, without the mouse. */
+    static void SendPress(CWnd& calendar, const CPoint& header)
+    {
+        calendar.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(header.x, header.y));
+    }
+
+    /** Lets the host close the calendar when it loses or gets the activation. */
+    void CloseCalendarWhen(bool activated)
+    {
+        m_host.Log().Answer(WM_ACTIVATE, [this, activated](const ts::Message& message) -> std::optional<LRESULT> {
+            if ((LOWORD(message.wParam) != WA_INACTIVE) == activated) {
+                m_closedWithList = m_calendar.m_pSelMonthWnd != nullptr;
+                m_calendar.DestroyWindow();
+            }
+            return std::nullopt;
+        });
+    }
+
+    void ExpectClosed()
+    {
+        EXPECT_EQ(nullptr, m_calendar.m_hWnd);
+        EXPECT_EQ(nullptr, m_calendar.m_pSelMonthWnd);
+        EXPECT_FALSE(m_calendar.m_bTrackMonth);
+        EXPECT_EQ(nullptr, GetCapture());
     }
 
     HWND List() { return m_calendar.m_pSelMonthWnd ? m_calendar.m_pSelMonthWnd->m_hWnd : nullptr; }
@@ -74,6 +114,8 @@ class MonthList : public CalendarFixture
     }
 
     std::wstring Name(int month, int year) { return m_calendar.GetMonthName(month, year).GetString(); }
+
+    bool m_closedWithList = false; ///< there was a list when the host closed the calendar
 };
 
 } // namespace
@@ -88,6 +130,10 @@ TEST_F(MonthList, OpensAsAPopUpAtTheMouse)
     EXPECT_EQ(0x100Bu, GetClassLongPtrW(List(), GCL_STYLE));
     EXPECT_EQ(0u, GetClassLongPtrW(List(), GCLP_HCURSOR));
     EXPECT_EQ(0u, GetClassLongPtrW(List(), GCLP_HBRBACKGROUND));
+    EXPECT_EQ(0u, GetClassLongPtrW(List(), GCLP_HICON));
+    EXPECT_EQ(0, GetWindowLongPtrW(List(), GWL_EXSTYLE));
+    EXPECT_EQ(0, GetWindowLongPtrW(List(), GWLP_ID));
+    EXPECT_EQ(m_host.m_hWnd, ::GetWindow(List(), GW_OWNER));
     ts::MouseUp();
 }
 
@@ -104,6 +150,17 @@ TEST_F(MonthList, IsCentredOnTheMouseWithRoomForSevenMonths)
     const int halfHeight = (7 * LineHeight() + 3) / 2;
     EXPECT_EQ(CRect(mouse.x - halfWidth, mouse.y - halfHeight, mouse.x + halfWidth, mouse.y + halfHeight), ListRect());
     ts::MouseUp();
+}
+
+TEST_F(MonthList, IsCentredWhereTheMouseWasWhenTheMessageCame)
+{
+    Make();
+    MoveTo(m_calendar.m_pCells[0].rcHdr);
+    const DWORD place = GetMessagePos();
+    ASSERT_TRUE(SetCursorPos(GET_X_LPARAM(place) + 60, GET_Y_LPARAM(place) + 90));
+    SendPress(m_calendar, Header());
+    EXPECT_EQ(CPoint(GET_X_LPARAM(place), GET_Y_LPARAM(place)), ListRect().CenterPoint());
+    m_calendar.SendMessage(WM_LBUTTONUP);
 }
 
 TEST_F(MonthList, ShowsSevenMonthsAroundTheCellsWithTheOneUnderTheMouseInverted)
@@ -219,6 +276,17 @@ TEST_F(MonthList, EveryMoveIsPaintedAtOnce)
     ts::MouseUp();
 }
 
+TEST_F(MonthList, EveryMoveErasesToo)
+{
+    Open();
+    ts::MessageRecorder log(List());
+    log.RecordOnly({WM_ERASEBKGND});
+    MSG move = {m_calendar.m_hWnd, WM_MOUSEMOVE, 0, 0, 0, {0, 0}};
+    m_calendar.PreTranslateMessage(&move);
+    EXPECT_EQ(1u, log.Messages().size());
+    ts::MouseUp();
+}
+
 TEST_F(MonthList, OnlyMouseMovesScroll)
 {
     Open();
@@ -254,6 +322,42 @@ TEST_F(MonthList, YearThatItCannotShowStaysTodays)
     EXPECT_EQ(Name(12, COleDateTime::GetCurrentTime().GetYear() - 1), Choose()) << "January in the pressed cell";
 }
 
+TEST_F(MonthList, EarliestYearIsOneHundred)
+{
+    Make();
+    m_calendar.SetCurrentYearMonth(101, 1);
+    m_calendar.ScrollLeft(12);
+    PressHeader(0);
+    EXPECT_EQ(Name(1, 101), Choose()) << "January 100, taken into the calendar's years";
+    m_calendar.ScrollLeft(13);
+    PressHeader(0);
+    EXPECT_EQ(Name(12, COleDateTime::GetCurrentTime().GetYear()), Choose()) << "December 99";
+}
+
+TEST_F(MonthList, NothingIsChosenWhereNothingCanBePainted)
+{
+    Make();
+    const ts::ReplacedImport none(L"afx.dll", "CreateCompatibleDC", &NoMemoryDc);
+    PressHeader(0);
+    EXPECT_EQ(Name(3, 2009), Choose());
+}
+
+TEST_F(MonthList, WithoutMemoryThePressThrows)
+{
+    Make();
+    {
+        const ts::ReplacedImport none(L"QorUI.dll", "_ZN7CObjectnwEy", &NoMemoryForObjects);
+        EXPECT_THROW(m_calendar.OnLButtonDown(MK_LBUTTON, Header()), CMemoryException*);
+    }
+    EXPECT_FALSE(m_calendar.m_bTrackMonth);
+    EXPECT_EQ(nullptr, GetCapture());
+    PressHeader(0);
+    EXPECT_NE(nullptr, List());
+    EXPECT_EQ(m_calendar.m_hWnd, GetCapture());
+    EXPECT_EQ(Name(3, 2009), Choose());
+    EXPECT_EQ(nullptr, List());
+}
+
 TEST_F(MonthList, WithoutItsWindowNothingIsTracked)
 {
     Make();
@@ -280,8 +384,7 @@ TEST_F(MonthList, NextPressReplacesAListThatIsStillOpen)
 {
     Open(1, 2);
     const HWND first = List();
-    const CPoint header = CRect(m_calendar.m_pCells[1].rcHdr).CenterPoint();
-    m_calendar.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(header.x, header.y));
+    SendPress(m_calendar, Header(1));
     EXPECT_FALSE(IsWindow(first));
     EXPECT_NE(nullptr, List());
     ts::MouseUp();
@@ -298,16 +401,49 @@ TEST_F(MonthList, CalendarTakesAnOpenListWithIt)
     ts::MouseUp();
 }
 
+TEST_F(MonthList, EndOfTheCalendarClosesAnOpenList)
+{
+    auto calendar = std::make_unique<CTestCalendar>();
+    ASSERT_TRUE(calendar->Create(&m_host, kCalendarId, nullptr, nullptr, 1, 1));
+    calendar->RedrawWindow();
+    SendPress(*calendar, CRect(calendar->m_pCells[0].rcHdr).CenterPoint());
+    ASSERT_NE(nullptr, calendar->m_pSelMonthWnd);
+    const HWND list = calendar->m_pSelMonthWnd->m_hWnd;
+    ASSERT_TRUE(IsWindow(list));
+    calendar.reset();
+    EXPECT_FALSE(IsWindow(list));
+    EXPECT_EQ(nullptr, GetCapture());
+}
+
+TEST_F(MonthList, HostMayCloseTheCalendarWhenTheListIsActivated)
+{
+    Make();
+    CloseCalendarWhen(false);
+    PressHeader(0);
+    ExpectClosed();
+    m_host.Log().Answer(WM_ACTIVATE, nullptr);
+    Make();
+    EXPECT_EQ(Name(3, 2009), Choose());
+}
+
+TEST_F(MonthList, HostMayCloseTheCalendarWhenTheListGoes)
+{
+    Open();
+    CloseCalendarWhen(true);
+    Choose();
+    ExpectClosed();
+    EXPECT_FALSE(m_closedWithList) << "the list was deleted while its window was being destroyed";
+}
+
 TEST_F(MonthList, LeavesNothingBehind)
 {
     Make();
-    const CPoint header = CRect(m_calendar.m_pCells[0].rcHdr).CenterPoint();
-    const LPARAM place = MAKELPARAM(header.x, header.y);
+    const CPoint header = Header();
     EXPECT_TRUE(ts::NoLeak(
         [&] {
-            m_calendar.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, place);
+            SendPress(m_calendar, header);
             UpdateWindow(List());
-            m_calendar.SendMessage(WM_LBUTTONUP, 0, place);
+            m_calendar.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(header.x, header.y));
         },
         200));
     EXPECT_EQ(nullptr, List());
