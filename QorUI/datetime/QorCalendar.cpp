@@ -455,7 +455,7 @@ BOOL CQorCalendar::IsSpecialDate(COleDateTime& date)
 
 BOOL CQorCalendar::IsDateSelected(COleDateTime& date)
 {
-    return m_dtSelStart <= date && date <= m_dtSelEnd;
+    return IsValid(m_dtSelStart) && IsValid(m_dtSelEnd) && m_dtSelStart <= date && date <= m_dtSelEnd;
 }
 
 // Cells

@@ -1,5 +1,6 @@
 #include "Calendar.h"
 
+#include <set>
 #include <stdexcept>
 #include <tests/app/Drawn.h>
 
@@ -10,6 +11,43 @@ constexpr COLORREF kBack = RGB(250, 240, 230);
 constexpr COLORREF kNormal = RGB(10, 120, 10);
 constexpr COLORREF kSpecial = RGB(200, 0, 100);
 constexpr COLORREF kSelected = RGB(0, 84, 227);
+
+/** A calendar that tells what it leaves to the default procedure, until it paints. */
+class CDefaultsOfCalendar : public CTestCalendar
+{
+  public:
+    /** What was left to the default procedure between the beginning of a message and the painting of the days. */
+    std::set<UINT> BeforePainting(UINT message)
+    {
+        m_defaults.clear();
+        m_painted = false;
+        SendMessage(message, 0, 0);
+        EXPECT_TRUE(m_painted) << ts::MessageName(message);
+        return m_defaults;
+    }
+
+    static int NotePainting(COleDateTime& /*date*/, void* calendar)
+    {
+        static_cast<CDefaultsOfCalendar*>(calendar)->m_painted = true;
+        return 0;
+    }
+
+  protected:
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (!m_painted) {
+            m_defaults.insert(message);
+        }
+        return CTestCalendar::DefWindowProc(message, wParam, lParam);
+    }
+
+  private:
+    std::set<UINT> m_defaults;
+    bool m_painted = false;
+};
+
+constexpr UINT kSurroundings[] = {WM_FONTCHANGE,    WM_TIMECHANGE,    WM_PALETTECHANGED,
+                                  WM_DEVMODECHANGE, WM_SETTINGCHANGE, WM_SYSCOLORCHANGE};
 
 int IsMonday(COleDateTime& date, void* /*data*/)
 {
@@ -36,6 +74,20 @@ class CalendarPaint : public CalendarFixture
         const int x = Left() + column * (m_calendar.m_nDayWidth + 5);
         const int y = DaysTop() + week * (m_calendar.m_nDayHeight + 2);
         return {x - 3, y, x + m_calendar.m_nDayWidth + 2, y + m_calendar.m_nDayHeight + 2};
+    }
+
+    /** What a day looks like with a number in a place of this size, not selected. */
+    ts::Picture NumberPicture(const CSize& size, const CString& number)
+    {
+        return Drawn(size.cx, size.cy, [&](CDC& dc) {
+            CRect rect(CPoint(0, 0), size);
+            dc.FillSolidRect(rect, kBack);
+            dc.SetBkMode(TRANSPARENT);
+            dc.SetTextColor(kNormal);
+            CFont* old = dc.SelectObject(&m_calendar.m_fontNormal);
+            dc.DrawText(number, rect, DT_RIGHT | DT_VCENTER | DT_SINGLELINE);
+            dc.SelectObject(old);
+        });
     }
 
     int ColourIn(const ts::Picture& picture, const CRect& area, COLORREF colour)
@@ -178,19 +230,23 @@ TEST_F(CalendarPaint, DaysAreRightAlignedNumbers)
     for (const int day : {1, 9, 17, 31}) {
         const CRect area = Area((day - 1) % 7, (day - 1) / 7);
         const CRect place(area.left + 3, area.top + 1, area.right - 2, area.bottom - 1);
-        const ts::Picture expected = Drawn(place.Width(), place.Height(), [&](CDC& dc) {
-            dc.FillSolidRect(0, 0, place.Width(), place.Height(), kBack);
-            dc.SetBkMode(TRANSPARENT);
-            dc.SetTextColor(kNormal);
-            CFont* old = dc.SelectObject(&m_calendar.m_fontNormal);
-            CString number;
-            number.Format(L"%d", day);
-            CRect rect(0, 0, place.Width(), place.Height());
-            dc.DrawText(number, rect, DT_RIGHT | DT_VCENTER | DT_SINGLELINE);
-            dc.SelectObject(old);
-        });
-        EXPECT_TRUE(ts::SamePicture(expected, look.Crop(place))) << day;
+        CString number;
+        number.Format(L"%d", day);
+        EXPECT_TRUE(ts::SamePicture(NumberPicture(place.Size(), number), look.Crop(place))) << day;
     }
+}
+
+TEST_F(CalendarPaint, NumberOfADayThatIsNoDateIsMinusOne)
+{
+    Make();
+    constexpr int monthOfNoDate = -1;
+    const CRect last(Area(6, 5) - CPoint(0, DaysTop()));
+    const CRect place(last.left + 3, last.top + 1, last.right - 2, last.bottom - 1);
+    const ts::Picture picture = Drawn(Width(), last.bottom, [&](CDC& dc) {
+        dc.FillSolidRect(0, 0, Width(), last.bottom, kBack);
+        m_calendar.DrawDays(dc, 0, 0, 1, 1, monthOfNoDate, 2009);
+    });
+    EXPECT_TRUE(ts::SamePicture(NumberPicture(place.Size(), L"-1"), picture.Crop(place)));
 }
 
 TEST_F(CalendarPaint, MonthOnTheFirstWeekdayBeginsInTheFirstWeek)
@@ -321,6 +377,20 @@ TEST_F(CalendarPaint, SelectionIsABlueBandWithWhiteNumbers)
     EXPECT_FALSE(m_calendar.IsDateSelected(after));
 }
 
+TEST_F(CalendarPaint, NoDayIsSelectedUnlessBothEndsAreDates)
+{
+    COleDateTime zero = Date(1899, 12, 30); // the number of dates that are none, too
+    EXPECT_FALSE(m_calendar.IsDateSelected(zero));
+    COleDateTime day = Date(2009, 3, 9);
+    m_calendar.SetSelDate(day, day);
+    ASSERT_TRUE(m_calendar.IsDateSelected(day));
+    m_calendar.m_dtSelEnd.SetStatus(COleDateTime::invalid);
+    EXPECT_FALSE(m_calendar.IsDateSelected(day));
+    m_calendar.SetSelDate(day, day);
+    m_calendar.m_dtSelStart.SetStatus(COleDateTime::invalid);
+    EXPECT_FALSE(m_calendar.IsDateSelected(day));
+}
+
 TEST_F(CalendarPaint, OnlySevenRowsHaveALineUnderTheDays)
 {
     for (const int rows : {6, 7, 8}) {
@@ -424,10 +494,19 @@ TEST_F(CalendarPaint, ChangesOfTheSurroundingsAreFollowedAtOnce)
             return 0;
         },
         &count);
-    for (const UINT message :
-         {WM_FONTCHANGE, WM_TIMECHANGE, WM_PALETTECHANGED, WM_DEVMODECHANGE, WM_SETTINGCHANGE, WM_SYSCOLORCHANGE}) {
+    for (const UINT message : kSurroundings) {
         count.days = 0;
         m_calendar.SendMessage(message, 0, 0);
         EXPECT_EQ(31, count.days) << ts::MessageName(message);
+    }
+}
+
+TEST_F(CalendarPaint, ChangesOfTheSurroundingsTakeTheirDefaultBeforeThePainting)
+{
+    CDefaultsOfCalendar calendar;
+    ASSERT_TRUE(calendar.Create(&m_host, kCalendarId, &CDefaultsOfCalendar::NotePainting, &calendar, 1, 1));
+    ts::Settle();
+    for (const UINT message : kSurroundings) {
+        EXPECT_EQ(1u, calendar.BeforePainting(message).count(message)) << ts::MessageName(message);
     }
 }
