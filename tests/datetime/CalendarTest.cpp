@@ -1,6 +1,7 @@
 #include "Calendar.h"
 
 #include <clocale>
+#include <new>
 
 namespace
 {
@@ -21,6 +22,11 @@ HFONT WINAPI FewFonts(const LOGFONTW* font)
 }
 
 HWND WINAPI NoWindow(DWORD, LPCWSTR, LPCWSTR, DWORD, int, int, int, int, HWND, HMENU, HINSTANCE, LPVOID)
+{
+    return nullptr;
+}
+
+void* NoMemory(size_t, const std::nothrow_t&) noexcept
 {
     return nullptr;
 }
@@ -134,6 +140,19 @@ TEST_F(Calendar, CreateFailsWithoutItsFontsOrItsWindow)
         EXPECT_EQ(0, m_calendar.m_nRows + m_calendar.m_nCols);
     }
     EXPECT_EQ(nullptr, ::GetWindow(m_host.m_hWnd, GW_CHILD)) << "no window is left";
+    EXPECT_TRUE(create());
+}
+
+TEST_F(Calendar, CreateFailsWithoutMemoryForItsCells)
+{
+    const auto create = [this] { return m_calendar.Create(&m_host, kCalendarId, nullptr, nullptr, 2, 3); };
+    {
+        const ts::ReplacedImport none(L"QorUI.dll", "_ZnayRKSt9nothrow_t", &NoMemory);
+        EXPECT_FALSE(create());
+    }
+    EXPECT_EQ(nullptr, m_calendar.m_pCells.get());
+    EXPECT_EQ(0, m_calendar.m_nRows + m_calendar.m_nCols);
+    EXPECT_EQ(nullptr, ::GetWindow(m_host.m_hWnd, GW_CHILD));
     EXPECT_TRUE(create());
 }
 
@@ -272,6 +291,18 @@ TEST_F(Calendar, OnlyANewMonthIsPainted)
     EXPECT_FALSE(NeedsPaint());
     m_calendar.SetCurrentYearMonth(2009, 4);
     EXPECT_TRUE(NeedsPaint());
+}
+
+TEST_F(Calendar, ChangesAndRedrawsErase)
+{
+    Make();
+    ts::MessageRecorder log(m_calendar.m_hWnd);
+    log.RecordOnly({WM_ERASEBKGND});
+    m_calendar.SetCurrentYearMonth(2009, 4);
+    m_calendar.UpdateWindow();
+    EXPECT_EQ(1u, log.Messages().size());
+    m_calendar.ScrollRight(0);
+    EXPECT_EQ(2u, log.Messages().size());
 }
 
 TEST_F(Calendar, OneDayTakesTheStartAlone)

@@ -134,6 +134,15 @@ TEST(CalendarDrag, RangeThatIsShortEnoughIsTakenWhole)
     ExpectRange(DragRange(Day(10), Day(10), 7), Day(10), Day(10));
 }
 
+TEST(CalendarDrag, LengthIsRoundedByHalfASecond)
+{
+    constexpr double second = 1.0 / 86400;
+    const COleDateTime almostOver(Day(17).m_dt - 0.25 * second);
+    EXPECT_TRUE(DragRange(Day(10), almostOver, 7).end == Day(16));
+    const COleDateTime stillWithin(Day(17).m_dt - 0.75 * second);
+    EXPECT_TRUE(DragRange(Day(10), stillWithin, 7).end == stillWithin);
+}
+
 TEST(CalendarDrag, OneDayFollowsTheMouse)
 {
     ExpectRange(DragRange(Day(10), Day(20), 1), Day(20), Day(20));

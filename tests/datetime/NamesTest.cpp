@@ -50,6 +50,12 @@ TEST_F(CalendarNames, MonthsOfALocaleOfTheRuntime)
     EXPECT_EQ(kChinese, All(QorGetMonthNames("chinese-simplified", L"zh-CN")));
 }
 
+TEST_F(CalendarNames, LocaleOfTheMonthsIsThatOfTheWholeRuntime)
+{
+    QorGetMonthNames("German", L"de-DE");
+    EXPECT_EQ(0u, std::string(setlocale(LC_NUMERIC, nullptr)).find("German"));
+}
+
 TEST_F(CalendarNames, MonthsOfALocaleThatTheRuntimeLacksComeFromTheSystem)
 {
     EXPECT_EQ(kGerman, All(QorGetMonthNames("no such locale", L"de-DE")));
