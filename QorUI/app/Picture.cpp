@@ -3,6 +3,7 @@
 #include "GdiPlusFlat.h"
 #include "Handles.h"
 
+#include <new>
 #include <QorPub/QorPub.h>
 
 const void* QorImageFromResource(HINSTANCE inst, LPCWSTR name, LPCWSTR type)
@@ -16,7 +17,9 @@ const void* QorImageFromResource(HINSTANCE inst, LPCWSTR name, LPCWSTR type)
     if (!stream) {
         return nullptr;
     }
-    return new Gdiplus::Image(stream.get());
+    // The class's own operator new answers null, which a new expression does not look for.
+    void* memory = Gdiplus::GdiplusBase::operator new(sizeof(Gdiplus::Image));
+    return memory ? ::new (memory) Gdiplus::Image(stream.get()) : nullptr;
 }
 
 BOOL QorGetImageEncoder(LPCWSTR mimeType, GUID& clsid)

@@ -10,8 +10,8 @@
  * Decodes a picture of a resource for drawing with GDI+.
  * @param inst module with the resource.
  * @param name,type name and type of the resource, or numbers made with `MAKEINTRESOURCEW`.
- * @return a `Gdiplus::Image*` that the caller deletes, or null when there is no such resource. Data that is no picture
- *         still gives an image: test it through the status of its width and height calls.
+ * @return a `Gdiplus::Image*` that the caller deletes, or null when there is no such resource or no memory. Data that
+ *         is no picture still gives an image: test it through the status of its width and height calls.
  */
 QORUI_API const void* QorImageFromResource(HINSTANCE inst, LPCWSTR name, LPCWSTR type);
 

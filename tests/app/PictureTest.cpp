@@ -7,15 +7,11 @@
 #include <QorUI/app/QorBmp.h>
 #include <QorUI/app/Shared.h>
 #include <tests/app/Drawn.h>
+#include <tests/app/OwnResources.h>
 #include <tests/app/res/resource.h>
 
 namespace
 {
-
-HINSTANCE Program()
-{
-    return ::GetModuleHandleW(nullptr);
-}
 
 bool IsBitmap(HBITMAP bitmap)
 {
@@ -145,15 +141,6 @@ TEST(QorBmp, RenderNeedsADeviceContext)
     CQorBmp bitmap;
     ASSERT_TRUE(bitmap.Load(Program(), IDR_UPRIGHT, L"PNG"));
     EXPECT_FALSE(bitmap.Render(nullptr, 0, 0, 4, 4));
-}
-
-/** The bytes of a resource of this program, in a file. */
-std::wstring FileOf(const ts::TempFolder& folder, UINT id, const wchar_t* name)
-{
-    const HRSRC found = ::FindResourceW(nullptr, MAKEINTRESOURCEW(id), L"PNG");
-    const auto* data = static_cast<const char*>(::LockResource(::LoadResource(nullptr, found)));
-    ts::WriteBytes(folder.File(name), std::string_view(data, ::SizeofResource(nullptr, found)));
-    return folder.File(name);
 }
 
 TEST(QorBmp, LoadsAPictureOfAFile)

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string_view>
+#include <tests/support/Support.h>
+
+/** The test program as a module: it carries the pictures of the tests. */
+inline HINSTANCE Program()
+{
+    return ::GetModuleHandleW(nullptr);
+}
+
+/** The bytes of a picture in the program's resources. */
+inline std::string_view PictureBytes(UINT id)
+{
+    const HRSRC found = ::FindResourceW(nullptr, MAKEINTRESOURCEW(id), L"PNG");
+    const auto* data = static_cast<const char*>(::LockResource(::LoadResource(nullptr, found)));
+    return {data, ::SizeofResource(nullptr, found)};
+}
+
+/** The bytes of a picture in the program's resources, in a file. */
+inline std::wstring FileOf(const ts::TempFolder& folder, UINT id, const wchar_t* name)
+{
+    ts::WriteBytes(folder.File(name), PictureBytes(id));
+    return folder.File(name);
+}
