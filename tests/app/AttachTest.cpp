@@ -2,6 +2,7 @@
 #include <optional>
 #include <QorUI/app/Attach.h>
 #include <string>
+#include <tests/support/Imports.h>
 #include <tests/support/Support.h>
 #include <thread>
 
@@ -62,6 +63,35 @@ TEST(Attach, DetachAfterARefusedStartDoesNothing)
 {
     Recorder app(FALSE);
     ASSERT_FALSE(QorAttach(app, app.m_extension, Library()));
+    QorDetach(app, app.m_extension);
+    EXPECT_EQ("init exit ", app.m_calls);
+}
+
+BOOL NoFramework(HINSTANCE, HINSTANCE, LPWSTR, int)
+{
+    return FALSE;
+}
+
+TEST(Attach, WithoutTheFrameworkFailsAndStartsNothing)
+{
+    const ts::ReplacedImport none(nullptr, "_Z10AfxWinInitP11HINSTANCE__S0_Pwi", &NoFramework);
+    Recorder app(TRUE);
+    EXPECT_FALSE(QorAttach(app, app.m_extension, Library()));
+    QorDetach(app, app.m_extension);
+    EXPECT_EQ("", app.m_calls);
+}
+
+BOOL NoExtension(AFX_EXTENSION_MODULE&, HMODULE)
+{
+    return FALSE;
+}
+
+TEST(Attach, ModuleThatIsNotRegisteredEndsTheApplicationAndFails)
+{
+    const ts::ReplacedImport none(nullptr, "_Z22AfxInitExtensionModuleR20AFX_EXTENSION_MODULEP11HINSTANCE__",
+                                  &NoExtension);
+    Recorder app(TRUE);
+    EXPECT_FALSE(QorAttach(app, app.m_extension, Library()));
     QorDetach(app, app.m_extension);
     EXPECT_EQ("init exit ", app.m_calls);
 }

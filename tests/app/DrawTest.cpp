@@ -1,9 +1,13 @@
+#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <QorUI/app/Draw.h>
 #include <QorUI/app/GdiPlusFlat.h>
+#include <span>
 #include <tests/app/Drawn.h>
+#include <tests/app/OwnResources.h>
 #include <tests/app/res/resource.h>
+#include <tests/support/Imports.h>
 
 namespace
 {
@@ -15,11 +19,6 @@ constexpr COLORREF kFree = RGB(40, 80, 240);
 constexpr COLORREF kUsedTop = RGB(180, 90, 45);
 constexpr COLORREF kFreeTop = RGB(36, 72, 216);
 constexpr COLORREF kPieOutline = RGB(128, 128, 128);
-
-HINSTANCE Program()
-{
-    return ::GetModuleHandleW(nullptr);
-}
 
 ts::Picture DrawnBox()
 {
@@ -248,6 +247,207 @@ TEST(DrawPie, NullDeviceContextDoesNothing)
     EXPECT_EQ(400, picture.Count(kPaper));
 }
 
+int g_drawings = 0;
+/** The smoothing modes that were set, each with the number of drawings before it. */
+std::vector<std::pair<Gdiplus::SmoothingMode, int>> g_smoothings;
+
+Gdiplus::GpStatus WINGDIPAPI RecordSmoothing(Gdiplus::GpGraphics* graphics, Gdiplus::SmoothingMode mode)
+{
+    g_smoothings.emplace_back(mode, g_drawings);
+    return Gdiplus::DllExports::GdipSetSmoothingMode(graphics, mode);
+}
+
+Gdiplus::GpStatus WINGDIPAPI CountFill(Gdiplus::GpGraphics* graphics, Gdiplus::GpBrush* brush, Gdiplus::GpPath* path)
+{
+    ++g_drawings;
+    return Gdiplus::DllExports::GdipFillPath(graphics, brush, path);
+}
+
+TEST(DrawPie, IsSmoothedFromTheFirstShareOn)
+{
+    const ts::ReplacedImport smoothing(L"QorUI.dll", "GdipSetSmoothingMode", &RecordSmoothing);
+    const ts::ReplacedImport fill(L"QorUI.dll", "GdipFillPath", &CountFill);
+    g_smoothings.clear();
+    g_drawings = 0;
+    DrawnPie(0.25);
+    EXPECT_EQ((std::vector{std::pair(Gdiplus::SmoothingModeAntiAlias, 0)}), g_smoothings);
+    EXPECT_EQ(4, g_drawings);
+}
+
+/** A brush that fades, as it was asked for. */
+struct Fading
+{
+    int x, y, cx, cy;
+    Gdiplus::ARGB from, to;
+    float angle;
+    BOOL scalable;
+    bool operator==(const Fading&) const = default;
+};
+
+std::vector<Fading> g_fadings;
+std::vector<std::pair<float, float>> g_bells;
+
+Gdiplus::GpStatus WINGDIPAPI RecordFading(const Gdiplus::GpRect* rect, Gdiplus::ARGB from, Gdiplus::ARGB to,
+                                          Gdiplus::REAL angle, BOOL scalable, Gdiplus::GpWrapMode mode,
+                                          Gdiplus::GpLineGradient** brush)
+{
+    g_fadings.push_back({rect->X, rect->Y, rect->Width, rect->Height, from, to, angle, scalable});
+    return Gdiplus::DllExports::GdipCreateLineBrushFromRectWithAngleI(rect, from, to, angle, scalable, mode, brush);
+}
+
+Gdiplus::GpStatus WINGDIPAPI RecordBell(Gdiplus::GpLineGradient* brush, Gdiplus::REAL focus, Gdiplus::REAL scale)
+{
+    g_bells.emplace_back(focus, scale);
+    return Gdiplus::DllExports::GdipSetLineSigmaBlend(brush, focus, scale);
+}
+
+TEST(DrawPie, SheenIsOneBrushThatDoesNotScaleItsAngle)
+{
+    const ts::ReplacedImport fading(L"QorUI.dll", "GdipCreateLineBrushFromRectWithAngleI", &RecordFading);
+    const ts::ReplacedImport bell(L"QorUI.dll", "GdipSetLineSigmaBlend", &RecordBell);
+    g_fadings.clear();
+    g_bells.clear();
+    Drawn(181, 97, [](CDC& dc) { QorDrawPie(dc, 10, 20, kUsed, kFree, 0.25); });
+    EXPECT_EQ((std::vector<Fading>{{10, 20, 160, 76, 0x64808080, 0x64FFFFFF, -180.0F, FALSE}}), g_fadings);
+    EXPECT_EQ((std::vector{std::pair(0.7F, 1.0F)}), g_bells);
+}
+
+/** Box, start and sweep of an arc or a pie. */
+struct Sweep
+{
+    int x, y, cx, cy;
+    float start, sweep;
+    bool operator==(const Sweep&) const = default;
+};
+
+std::vector<Sweep> g_arcs, g_filledPies, g_drawnPies;
+int g_closed = 0;
+
+Gdiplus::GpStatus WINGDIPAPI RecordArc(Gdiplus::GpPath*, INT x, INT y, INT cx, INT cy, Gdiplus::REAL start,
+                                       Gdiplus::REAL sweep)
+{
+    g_arcs.push_back({x, y, cx, cy, start, sweep});
+    return Gdiplus::Ok;
+}
+
+Gdiplus::GpStatus WINGDIPAPI CountClosed(Gdiplus::GpPath*)
+{
+    EXPECT_EQ(0u, g_arcs.size() % 2) << "closed after its second arc";
+    ++g_closed;
+    return Gdiplus::Ok;
+}
+
+Gdiplus::GpStatus WINGDIPAPI RecordFilledPie(Gdiplus::GpGraphics*, Gdiplus::GpBrush*, INT x, INT y, INT cx, INT cy,
+                                             Gdiplus::REAL start, Gdiplus::REAL sweep)
+{
+    g_filledPies.push_back({x, y, cx, cy, start, sweep});
+    return Gdiplus::Ok;
+}
+
+Gdiplus::GpStatus WINGDIPAPI RecordDrawnPie(Gdiplus::GpGraphics*, Gdiplus::GpPen*, INT x, INT y, INT cx, INT cy,
+                                            Gdiplus::REAL start, Gdiplus::REAL sweep)
+{
+    g_drawnPies.push_back({x, y, cx, cy, start, sweep});
+    return Gdiplus::Ok;
+}
+
+/** Expects the arcs of the rims and the pies of the tops of a pie at 10, 20, in their order. */
+void ExpectShares(double ratio, const std::vector<Sweep>& rims, const std::vector<Sweep>& tops)
+{
+    const ts::ReplacedImport arc(L"QorUI.dll", "GdipAddPathArcI", &RecordArc);
+    const ts::ReplacedImport close(L"QorUI.dll", "GdipClosePathFigure", &CountClosed);
+    const ts::ReplacedImport fill(L"QorUI.dll", "GdipFillPieI", &RecordFilledPie);
+    const ts::ReplacedImport draw(L"QorUI.dll", "GdipDrawPieI", &RecordDrawnPie);
+    g_arcs.clear();
+    g_filledPies.clear();
+    g_drawnPies.clear();
+    g_closed = 0;
+    Drawn(181, 97, [=](CDC& dc) { QorDrawPie(dc, 10, 20, kUsed, kFree, ratio); });
+    EXPECT_EQ(rims, g_arcs);
+    EXPECT_EQ(rims.size() / 2, static_cast<size_t>(g_closed));
+    EXPECT_EQ(tops, g_filledPies);
+    EXPECT_EQ(tops, g_drawnPies);
+}
+
+TEST(DrawPie, SharesUpToHalfHaveARimEach)
+{
+    ExpectShares(
+        0.25,
+        {{10, 20, 160, 60, 0, 90}, {10, 36, 160, 60, 90, -90}, {10, 20, 160, 60, 90, 90}, {10, 36, 160, 60, 180, -90}},
+        {{10, 20, 160, 60, 0, 90}, {10, 20, 160, 60, 90, 270}});
+}
+
+TEST(DrawPie, RimEndsWithTheFrontHalf)
+{
+    for (const double ratio : {0.5, 0.75}) {
+        const auto angle = static_cast<float>(ratio * 360);
+        ExpectShares(ratio, {{10, 20, 160, 60, 0, 180}, {10, 36, 160, 60, 180, -180}},
+                     {{10, 20, 160, 60, 0, angle}, {10, 20, 160, 60, angle, 360 - angle}});
+    }
+}
+
+Gdiplus::GpStatus WINGDIPAPI NoGraphics(HDC, Gdiplus::GpGraphics**)
+{
+    return Gdiplus::GdiplusNotInitialized;
+}
+
+Gdiplus::GpStatus WINGDIPAPI NoPen(Gdiplus::ARGB, Gdiplus::REAL, Gdiplus::GpUnit, Gdiplus::GpPen**)
+{
+    return Gdiplus::OutOfMemory;
+}
+
+Gdiplus::GpStatus WINGDIPAPI NoFading(const Gdiplus::GpRect*, Gdiplus::ARGB, Gdiplus::ARGB, Gdiplus::REAL, BOOL,
+                                      Gdiplus::GpWrapMode, Gdiplus::GpLineGradient**)
+{
+    return Gdiplus::OutOfMemory;
+}
+
+/** How many of the library's GDI+ objects are not deleted yet. */
+int g_objects = 0;
+
+Gdiplus::GpStatus WINGDIPAPI DeleteGraphics(Gdiplus::GpGraphics* graphics)
+{
+    --g_objects;
+    return Gdiplus::DllExports::GdipDeleteGraphics(graphics);
+}
+
+Gdiplus::GpStatus WINGDIPAPI MakeGraphics(HDC dc, Gdiplus::GpGraphics** graphics)
+{
+    ++g_objects;
+    return Gdiplus::DllExports::GdipCreateFromHDC(dc, graphics);
+}
+
+void ExpectNoPie()
+{
+    const ts::ReplacedImport deletion(L"QorUI.dll", "GdipDeleteGraphics", &DeleteGraphics);
+    const ts::ReplacedImport fill(L"QorUI.dll", "GdipFillPath", &CountFill);
+    g_drawings = 0;
+    const ts::Picture picture = DrawnPie(0.25);
+    EXPECT_EQ(161 * 77, picture.Count(kPaper));
+    EXPECT_EQ(0, g_drawings);
+}
+
+TEST(DrawPie, WithoutGraphicsNothingIsDrawn)
+{
+    const ts::ReplacedImport none(L"QorUI.dll", "GdipCreateFromHDC", &NoGraphics);
+    ExpectNoPie();
+}
+
+TEST(DrawPie, WithoutPenOrSheenNothingIsDrawnAndTheGraphicsAreDeleted)
+{
+    g_objects = 0;
+    const ts::ReplacedImport make(L"QorUI.dll", "GdipCreateFromHDC", &MakeGraphics);
+    {
+        const ts::ReplacedImport none(L"QorUI.dll", "GdipCreatePen1", &NoPen);
+        ExpectNoPie();
+    }
+    {
+        const ts::ReplacedImport none(L"QorUI.dll", "GdipCreateLineBrushFromRectWithAngleI", &NoFading);
+        ExpectNoPie();
+    }
+    EXPECT_EQ(0, g_objects);
+}
+
 TEST(DrawPie, LeavesNothingBehind)
 {
     EXPECT_TRUE(ts::NoLeak([] { DrawnPie(0.25); }));
@@ -270,6 +470,38 @@ TEST(DrawGradientLine, FadesFromBlueToWhite)
     expectNear(RGB(0, 0, 200), picture.At(10, 4));
     expectNear(RGB(127, 127, 227), picture.At(60, 4));
     expectNear(RGB(255, 255, 255), picture.At(109, 4));
+}
+
+/** A gradient as the system was asked for it: position, red, green, blue and alpha of each corner, and the mesh. */
+struct Gradient
+{
+    std::vector<std::vector<LONG>> corners;
+    std::vector<std::pair<ULONG, ULONG>> rects;
+    ULONG mode;
+    bool operator==(const Gradient&) const = default;
+};
+
+std::vector<Gradient> g_gradients;
+
+BOOL WINAPI RecordGradient(HDC, TRIVERTEX* corners, ULONG count, void* mesh, ULONG rects, ULONG mode)
+{
+    Gradient gradient = {{}, {}, mode};
+    for (const TRIVERTEX& corner : std::span(corners, count))
+        gradient.corners.push_back({corner.x, corner.y, corner.Red, corner.Green, corner.Blue, corner.Alpha});
+    for (const GRADIENT_RECT& rect : std::span(static_cast<GRADIENT_RECT*>(mesh), rects))
+        gradient.rects.emplace_back(rect.UpperLeft, rect.LowerRight);
+    g_gradients.push_back(gradient);
+    return TRUE;
+}
+
+TEST(DrawGradientLine, IsOneGradientWithItsEndsInSixteenBitsAndNoAlpha)
+{
+    const ts::ReplacedImport record(L"afx.dll", "GdiGradientFill", &RecordGradient);
+    g_gradients.clear();
+    Drawn(120, 10, [](CDC& dc) { QorDrawGradientLine(&dc, CPoint(10, 5), 100); });
+    const Gradient rule = {
+        {{10, 4, 0, 0, 0xC800, 0}, {110, 5, 0xFF00, 0xFF00, 0xFF00, 0}}, {{0, 1}}, GRADIENT_FILL_RECT_H};
+    EXPECT_EQ(std::vector{rule}, g_gradients);
 }
 
 TEST(DrawGradientLine, NullDeviceContextDoesNothing)
@@ -344,6 +576,23 @@ TEST(GrayBmp, HasTheSizeAndDepthOfTheSourceAndLeavesItAlone)
     EXPECT_EQ((std::vector<COLORREF>{RGB(255, 0, 0), RGB(0, 255, 0)}), PixelsOf(source.Handle()));
 }
 
+TEST(GrayBmp, CopyOfABlackAndWhiteBitmapIsTheSame)
+{
+    const WORD bits[] = {0x00A0, 0x0060}; // of each row, the first byte's upper bits
+    CBitmap source;
+    ASSERT_TRUE(source.CreateBitmap(3, 2, 1, 1, bits));
+    CBitmap gray;
+    ASSERT_TRUE(gray.Attach(QorCreateGrayBmp(source)));
+    BITMAP copy = {};
+    gray.GetBitmap(&copy);
+    EXPECT_EQ(3, copy.bmWidth);
+    EXPECT_EQ(2, copy.bmHeight);
+    EXPECT_EQ(1, copy.bmPlanes);
+    EXPECT_EQ(1, copy.bmBitsPixel);
+    const COLORREF white = RGB(255, 255, 255);
+    EXPECT_EQ((std::vector<COLORREF>{white, 0, white, 0, white, white}), PixelsOf(gray));
+}
+
 TEST(GrayBmp, NoBitmapGivesNull)
 {
     EXPECT_EQ(nullptr, QorCreateGrayBmp(nullptr));
@@ -370,6 +619,66 @@ TEST(GrayBmp, BitmapThatIsInUseGivesNullAndLeavesNothingBehind)
     ::SelectObject(dc.m_hDC, old);
 }
 
+int g_dcsLeft = 0;
+
+HDC WINAPI FewMemoryDcs(HDC like)
+{
+    return g_dcsLeft-- > 0 ? ::CreateCompatibleDC(like) : nullptr;
+}
+
+TEST(GrayBmp, WithoutADeviceContextGivesNullAndReleasesTheOthers)
+{
+    ColourRow source({RGB(255, 0, 0), 0});
+    const ts::ReplacedImport few(L"QorUI.dll", "CreateCompatibleDC", &FewMemoryDcs);
+    for (const int left : {0, 1}) {
+        EXPECT_TRUE(ts::NoLeak([&] {
+            g_dcsLeft = left;
+            EXPECT_EQ(nullptr, QorCreateGrayBmp(source.Handle()));
+        })) << left;
+    }
+}
+
+int g_screenDcs = 0;
+
+HDC WINAPI TakeScreenDc(HWND wnd)
+{
+    ++g_screenDcs;
+    return ::GetDC(wnd);
+}
+
+HDC WINAPI NoScreenDc(HWND)
+{
+    return nullptr;
+}
+
+int WINAPI GiveBackScreenDc(HWND wnd, HDC dc)
+{
+    --g_screenDcs;
+    return ::ReleaseDC(wnd, dc);
+}
+
+TEST(GrayBmp, GivesTheScreenBack)
+{
+    ColourRow source({RGB(255, 0, 0), 0});
+    const ts::ReplacedImport take(L"QorUI.dll", "GetDC", &TakeScreenDc);
+    const ts::ReplacedImport giveBack(L"QorUI.dll", "ReleaseDC", &GiveBackScreenDc);
+    g_screenDcs = 0;
+    CBitmap gray;
+    EXPECT_TRUE(gray.Attach(QorCreateGrayBmp(source.Handle())));
+    EXPECT_EQ(0, g_screenDcs);
+    const ts::ReplacedImport few(L"QorUI.dll", "CreateCompatibleDC", &FewMemoryDcs);
+    g_dcsLeft = 1;
+    EXPECT_EQ(nullptr, QorCreateGrayBmp(source.Handle()));
+    EXPECT_EQ(0, g_screenDcs);
+}
+
+TEST(GrayBmp, WithoutScreenGivesNull)
+{
+    ColourRow source({RGB(255, 0, 0), 0});
+    const ts::ReplacedImport none(L"QorUI.dll", "GetDC", &NoScreenDc);
+    EXPECT_EQ(nullptr, QorCreateGrayBmp(source.Handle()));
+}
+
 TEST(GrayIcon, IsDrawnGreyWithTheSameMask)
 {
     const HICON icon = ::LoadIconW(Program(), MAKEINTRESOURCEW(IDI_SQUARE));
@@ -393,6 +702,56 @@ TEST(GrayIcon, IsDrawnGreyWithTheSameMask)
     EXPECT_TRUE(::GetIconInfo(icon, &still)) << "the source icon lives on";
     ::DeleteObject(still.hbmColor);
     ::DeleteObject(still.hbmMask);
+}
+
+/** A black icon of the screen's depth. */
+HICON IconWithMask(const std::vector<BYTE>& mask)
+{
+    CBitmap colours;
+    CClientDC screen(nullptr);
+    colours.CreateCompatibleBitmap(&screen, 32, 32);
+    CBitmap shape;
+    shape.CreateBitmap(32, 32, 1, 1, mask.data());
+    ICONINFO info = {TRUE, 0, 0, shape, colours};
+    return ::CreateIconIndirect(&info);
+}
+
+std::vector<COLORREF> MaskOf(HICON icon)
+{
+    ICONINFO info = {};
+    EXPECT_TRUE(::GetIconInfo(icon, &info));
+    CBitmap mask;
+    mask.Attach(info.hbmMask);
+    CBitmap colour;
+    colour.Attach(info.hbmColor);
+    return PixelsOf(mask);
+}
+
+TEST(GrayIcon, HasTheWholeMaskOfTheIcon)
+{
+    std::vector<BYTE> mask;
+    for (int row = 0; row < 32; ++row)
+        mask.insert(mask.end(), {0x00, 0x00, 0xFF, static_cast<BYTE>(row < 16 ? 0xF0 : 0x0F)});
+    const HICON icon = IconWithMask(mask);
+    ASSERT_NE(nullptr, icon);
+    const HICON gray = QorCreateGrayIcon(icon);
+    const std::vector<COLORREF> expected = MaskOf(icon);
+    EXPECT_EQ(32 * 12, std::count(expected.begin(), expected.end(), RGB(255, 255, 255)));
+    EXPECT_EQ(expected, MaskOf(gray));
+    ::DestroyIcon(gray);
+    ::DestroyIcon(icon);
+}
+
+HICON WINAPI NoIcon(ICONINFO*)
+{
+    return nullptr;
+}
+
+TEST(GrayIcon, ThatCannotBeMadeGivesNullAndLeavesNothingBehind)
+{
+    const HICON icon = ::LoadIconW(Program(), MAKEINTRESOURCEW(IDI_SQUARE));
+    const ts::ReplacedImport none(L"QorUI.dll", "CreateIconIndirect", &NoIcon);
+    EXPECT_TRUE(ts::NoLeak([=] { EXPECT_EQ(nullptr, QorCreateGrayIcon(icon)); }));
 }
 
 TEST(GrayIcon, NoIconGivesNull)
@@ -455,6 +814,56 @@ TEST(ImageList, StripWithoutHeightGivesNoImages)
 {
     CImageList list;
     EXPECT_EQ(0, QorCreateImageList(list, IDB_FLAT, Program(), 0, nullptr));
+}
+
+/** Width, height, flags, initial number and growth of the image lists that were made. */
+std::vector<std::vector<UINT>> g_imageLists;
+
+HIMAGELIST WINAPI RecordImageList(int cx, int cy, UINT flags, int initial, int grow)
+{
+    g_imageLists.push_back(
+        {static_cast<UINT>(cx), static_cast<UINT>(cy), flags, static_cast<UINT>(initial), static_cast<UINT>(grow)});
+    return ::ImageList_Create(cx, cy, flags, initial, grow);
+}
+
+TEST(ImageList, IsMadeForTheImagesOfTheStripAndGrowsByOne)
+{
+    const ts::ReplacedImport record(L"afx.dll", "ImageList_Create", &RecordImageList);
+    g_imageLists.clear();
+    CImageList list;
+    EXPECT_EQ(5, QorCreateImageList(list, IDB_ICONS, Program(), 0, nullptr));
+    EXPECT_EQ((std::vector<std::vector<UINT>>{{16, 16, ILC_COLORDDB | ILC_MASK, 5, 1}}), g_imageLists);
+}
+
+HIMAGELIST WINAPI NoImageList(int, int, UINT, int, int)
+{
+    return nullptr;
+}
+
+TEST(ImageList, ThatCannotBeMadeGivesNoImagesAndLeavesNothingBehind)
+{
+    const ts::ReplacedImport none(L"afx.dll", "ImageList_Create", &NoImageList);
+    UINT size = 77;
+    EXPECT_TRUE(ts::NoLeak([&] {
+        CImageList list;
+        EXPECT_EQ(0, QorCreateImageList(list, IDB_ICONS, Program(), 0, &size));
+        EXPECT_EQ(nullptr, list.m_hImageList);
+    }));
+    EXPECT_EQ(77u, size);
+}
+
+int WINAPI NoImages(HIMAGELIST, HBITMAP, COLORREF)
+{
+    return -1;
+}
+
+TEST(ImageList, ThatTakesNoImagesHasNoneButTheirSizeIsTold)
+{
+    const ts::ReplacedImport none(L"afx.dll", "ImageList_AddMasked", &NoImages);
+    CImageList list;
+    UINT size = 77;
+    EXPECT_EQ(0, QorCreateImageList(list, IDB_ICONS, Program(), 0, &size));
+    EXPECT_EQ(16u, size);
 }
 
 TEST(ImageList, BitmapIsFreedOnEveryPath)

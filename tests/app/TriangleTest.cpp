@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <QorUI/app/Triangle.h>
 #include <tests/app/Drawn.h>
+#include <tests/support/Imports.h>
 
 namespace
 {
@@ -77,6 +78,23 @@ TEST(DrawTriangle, LeavesTheDeviceContextAsItWas)
         EXPECT_EQ(pen, ::GetCurrentObject(dc, OBJ_PEN));
         EXPECT_EQ(brush, ::GetCurrentObject(dc, OBJ_BRUSH));
     });
+}
+
+/** The fill modes and numbers of corners of the polygons that were drawn. */
+std::vector<std::pair<int, int>> g_polygons;
+
+BOOL WINAPI RecordPolygon(HDC dc, const POINT*, int count)
+{
+    g_polygons.emplace_back(::GetPolyFillMode(dc), count);
+    return TRUE;
+}
+
+TEST(DrawTriangle, IsOnePolygonFilledByWinding)
+{
+    const ts::ReplacedImport record(nullptr, "Polygon", &RecordPolygon);
+    g_polygons.clear();
+    DrawnTriangle(0);
+    EXPECT_EQ((std::vector{std::pair(WINDING, 3)}), g_polygons);
 }
 
 TEST(DrawTriangle, WithoutGdiHandlesNothingIsDrawnOrThrown)
