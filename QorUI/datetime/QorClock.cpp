@@ -3,6 +3,7 @@
 #include "ClockHands.h"
 
 #include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/WndClass.h>
 
 BEGIN_MESSAGE_MAP(CQorClock, CWnd)
     ON_WM_TIMER()
@@ -80,8 +81,8 @@ BOOL CQorClock::LoadDial(UINT bitmapId, CSize& size)
 
 BOOL CQorClock::PreCreateWindow(CREATESTRUCT& cs)
 {
-    cs.lpszClass = AfxRegisterWndClass(0);
-    return CWnd::PreCreateWindow(cs);
+    cs.lpszClass = QorRegisterWndClass(0);
+    return cs.lpszClass && CWnd::PreCreateWindow(cs);
 }
 
 UINT CQorClock::GetHour()

@@ -4,6 +4,7 @@
 #include "QorCalendar.h"
 
 #include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/WndClass.h>
 
 #include <windowsx.h>
 
@@ -44,7 +45,8 @@ BOOL CSelMonthWnd::Create(int month, int year, CQorCalendar* calendar)
     if (year >= QorMonth::kFirstListYear && year <= QorMonth::kLastYear) {
         m_nYear = m_nSelYear = year;
     }
-    if (!CreateEx(0, AfxRegisterWndClass(kClassStyle), L"", kStyle, CRect(0, 0, 0, 0), calendar, 0)) {
+    const LPCWSTR className = QorRegisterWndClass(kClassStyle);
+    if (!className || !CreateEx(0, className, L"", kStyle, CRect(0, 0, 0, 0), calendar, 0)) {
         return FALSE;
     }
     const CSize size = WindowSize();

@@ -6,6 +6,7 @@
 #include <QorUI/app/Look.h>
 #include <QorUI/app/Picture.h>
 #include <QorUI/app/QorUIApp.h>
+#include <QorUI/app/WndClass.h>
 #include <QorUI/res/resource.h>
 
 namespace
@@ -67,16 +68,6 @@ bool RegisterNamedClass(LPCWSTR name)
 }
 
 /** @return the name of the framework's class, or null: a window that cannot be created is not to end the program. */
-LPCWSTR RegisterDefaultClass()
-{
-    try {
-        return AfxRegisterWndClass(0);
-    } catch (CResourceException* exception) {
-        exception->Delete();
-    }
-    return nullptr;
-}
-
 void DrawBanner(CDC& dc)
 {
     const UINT id = QorGetAppIcon().flag ? IDR_PNG_BANNER2 : IDR_PNG_BANNER;
@@ -118,7 +109,7 @@ BOOL CQorFrame::PreCreateWindow(CREATESTRUCT& cs)
     if (cs.lpszClass) {
         return RegisterNamedClass(cs.lpszClass);
     }
-    cs.lpszClass = RegisterDefaultClass();
+    cs.lpszClass = QorRegisterWndClass(0);
     return cs.lpszClass != nullptr;
 }
 

@@ -2,6 +2,7 @@
 
 #include <QorPub/System.h>
 #include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/WndClass.h>
 
 BEGIN_MESSAGE_MAP(CDesktopTip, CWnd)
     ON_WM_PAINT()
@@ -41,7 +42,8 @@ CDesktopTip::CDesktopTip() = default;
 
 BOOL CDesktopTip::Create()
 {
-    return CreateEx(kExStyle, AfxRegisterWndClass(0), nullptr, WS_POPUP, CRect(0, 0, 0, 0), nullptr, 0);
+    const LPCWSTR className = QorRegisterWndClass(0);
+    return className && CreateEx(kExStyle, className, nullptr, WS_POPUP, CRect(0, 0, 0, 0), nullptr, 0);
 }
 
 void CDesktopTip::SetTipText(LPCWSTR text)

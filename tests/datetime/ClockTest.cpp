@@ -4,6 +4,7 @@
 #include <tests/app/Drawn.h>
 #include <tests/support/AfxHost.h>
 #include <tests/support/Imports.h>
+#include <tests/support/NoWindowClasses.h>
 
 namespace
 {
@@ -116,6 +117,13 @@ TEST_F(Clock, WindowClassHasNothing)
     EXPECT_EQ(0u, GetClassLongPtrW(m_clock.m_hWnd, GCLP_HCURSOR));
     EXPECT_EQ(0u, GetClassLongPtrW(m_clock.m_hWnd, GCLP_HBRBACKGROUND));
     EXPECT_EQ(0u, GetClassLongPtrW(m_clock.m_hWnd, GCLP_HICON));
+}
+
+TEST_F(Clock, CreateRefusesToGoOnWithoutItsWindowClass)
+{
+    const ts::NoWindowClasses none;
+    EXPECT_FALSE(m_clock.Create(kDial, &m_host, kClockId, kBack));
+    EXPECT_EQ(nullptr, m_clock.m_hWnd);
 }
 
 TEST_F(Clock, CreateRefusesAMissingBitmapOrParent)

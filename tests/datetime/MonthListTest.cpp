@@ -1,6 +1,7 @@
 #include "Calendar.h"
 
 #include <QorUI/datetime/SelMonthWnd.h>
+#include <tests/support/NoWindowClasses.h>
 
 #include <windowsx.h>
 
@@ -356,6 +357,18 @@ TEST_F(MonthList, WithoutMemoryThePressThrows)
     EXPECT_EQ(m_calendar.m_hWnd, GetCapture());
     EXPECT_EQ(Name(3, 2009), Choose());
     EXPECT_EQ(nullptr, List());
+}
+
+TEST_F(MonthList, WithoutItsWindowClassNothingIsTracked)
+{
+    Make();
+    {
+        const ts::NoWindowClasses none;
+        PressHeader(0);
+    }
+    EXPECT_EQ(nullptr, List());
+    EXPECT_FALSE(m_calendar.m_bTrackMonth);
+    EXPECT_EQ(nullptr, GetCapture());
 }
 
 TEST_F(MonthList, WithoutItsWindowNothingIsTracked)

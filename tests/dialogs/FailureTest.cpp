@@ -1,6 +1,7 @@
 #include "TestFrame.h"
 
 #include <tests/support/Imports.h>
+#include <tests/support/NoWindowClasses.h>
 
 // What dialogs and frame windows do when the system refuses them something.
 namespace
@@ -113,15 +114,9 @@ TEST(MsgBoxFailure, LeavesNothingBehindWhenItCannotBeCreated)
 
 // --- frame windows
 
-ATOM WINAPI NoClass(const WNDCLASSW*)
-{
-    ::SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return 0;
-}
-
 TEST(FrameFailure, IsNotCreatedWhenItsClassCannotBeRegistered)
 {
-    const ts::ReplacedImport hook(L"afx.dll", "RegisterClassW", &NoClass);
+    const ts::NoWindowClasses none;
     CTestFrame frame;
     CREATESTRUCT cs = {};
     cs.lpszClass = L"QorFrameRefusedClass";
@@ -129,16 +124,9 @@ TEST(FrameFailure, IsNotCreatedWhenItsClassCannotBeRegistered)
     EXPECT_FALSE(frame.Open(L"QorFrameRefusedClass"));
 }
 
-BOOL WINAPI NoClassInfo(HINSTANCE, LPCWSTR, WNDCLASSW*)
-{
-    ::SetLastError(ERROR_CLASS_DOES_NOT_EXIST);
-    return FALSE;
-}
-
 TEST(FrameFailure, IsNotCreatedWhenTheDefaultClassCannotBeRegistered)
 {
-    const ts::ReplacedImport unknown(L"afx.dll", "GetClassInfoW", &NoClassInfo);
-    const ts::ReplacedImport refused(L"afx.dll", "RegisterClassW", &NoClass);
+    const ts::NoWindowClasses none;
     CTestFrame frame;
     CREATESTRUCT cs = {};
     EXPECT_FALSE(frame.PreCreateWindow(cs));

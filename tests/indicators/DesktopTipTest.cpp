@@ -1,6 +1,7 @@
 #include <tests/lists/Lists.h>
 
 #include <QorPub/System.h>
+#include <tests/support/NoWindowClasses.h>
 
 namespace
 {
@@ -153,6 +154,14 @@ class DesktopTip : public testing::Test
 
     CTestTip m_tip;
 };
+
+TEST(DesktopTipAlone, IsNotCreatedWithoutItsWindowClass)
+{
+    const ts::NoWindowClasses none;
+    CDesktopTip tip;
+    EXPECT_FALSE(tip.Create());
+    EXPECT_EQ(nullptr, tip.m_hWnd);
+}
 
 TEST_F(DesktopTip, IsAHiddenToolWindowWithoutActivation)
 {
