@@ -3,6 +3,7 @@
 #include <QorUI/app/GdiSavers.h>
 #include <QorUI/app/Look.h>
 #include <QorUI/app/Messages.h>
+#include <QorUI/app/OwnStatic.h>
 
 #include <shellapi.h>
 
@@ -46,6 +47,17 @@ CSize TextExtent(HWND wnd, HGDIOBJ font)
     CSize size(0, 0);
     ::GetTextExtentPoint32W(dc.m_hDC, text, text.GetLength(), &size);
     return size;
+}
+
+/** Brings back what the parent has painted where a control stands. */
+void RepaintParentUnder(HWND wnd)
+{
+    const HWND parent = ::GetParent(wnd);
+    RECT rect = {};
+    if (parent && ::GetWindowRect(wnd, &rect)) {
+        ::MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&rect), 2);
+        ::RedrawWindow(parent, &rect, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    }
 }
 
 /** Shrinks a rectangle to the size of a text, towards where the style of a static control aligns it. */
@@ -148,6 +160,16 @@ BOOL CQorLink::PreTranslateMessage(MSG* msg)
         m_tip.RelayEvent(msg);
     }
     return CStatic::PreTranslateMessage(msg);
+}
+
+LRESULT CQorLink::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const HWND wnd = m_hWnd;
+    const LRESULT result = CStatic::WindowProc(message, wParam, lParam);
+    if (QorRepaintStatic(wnd, message)) {
+        RepaintParentUnder(wnd);
+    }
+    return result;
 }
 
 void CQorLink::MakeLinkFont()
@@ -265,6 +287,14 @@ void CQorLink::OnClicked()
 }
 
 CTextLink::CTextLink() = default;
+
+LRESULT CTextLink::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const HWND wnd = m_hWnd;
+    const LRESULT result = CStatic::WindowProc(message, wParam, lParam);
+    QorRepaintStatic(wnd, message);
+    return result;
+}
 
 BOOL CTextLink::GetExtent(CSize& size)
 {

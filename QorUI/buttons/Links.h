@@ -32,6 +32,7 @@ class QORUI_API CQorLink : public CStatic
     BOOL PreTranslateMessage(MSG* msg) override;
 
   protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     /** Gives the control the size of its text, keeping the edge that its style aligns to. */
     void PositionWindow();
 
@@ -73,6 +74,7 @@ class QORUI_API CTextLink : public CStatic
     BOOL GetExtent(CSize& size);
 
   protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg void OnPaint();
     afx_msg BOOL OnSetCursor(CWnd* wnd, UINT hitTest, UINT message);
     DECLARE_MESSAGE_MAP()

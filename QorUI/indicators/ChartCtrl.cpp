@@ -1,6 +1,7 @@
 #include "ChartCtrl.h"
 
 #include <QorUI/app/GdiPlusFlat.h>
+#include <QorUI/app/OwnStatic.h>
 
 #include <algorithm>
 #include <array>
@@ -219,6 +220,14 @@ BOOL CChartCtrl::SetType(int type)
     m_nType = type;
     Repaint();
     return TRUE;
+}
+
+LRESULT CChartCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const HWND wnd = m_hWnd;
+    const LRESULT result = CStatic::WindowProc(message, wParam, lParam);
+    QorRepaintStatic(wnd, message);
+    return result;
 }
 
 BOOL CChartCtrl::OnEraseBkgnd(CDC* /*dc*/)

@@ -32,6 +32,7 @@ class QORUI_API CChartCtrl : public CStatic
     BOOL SetType(int type);
 
   protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     DECLARE_MESSAGE_MAP()

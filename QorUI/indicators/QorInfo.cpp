@@ -2,6 +2,7 @@
 
 #include <QorUI/app/GdiSavers.h>
 #include <QorUI/app/Look.h>
+#include <QorUI/app/OwnStatic.h>
 
 #include <algorithm>
 
@@ -50,6 +51,14 @@ void CQorInfo::RemoveAll()
 {
     m_arrItems.RemoveAll();
     Repaint();
+}
+
+LRESULT CQorInfo::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const HWND wnd = m_hWnd;
+    const LRESULT result = CStatic::WindowProc(message, wParam, lParam);
+    QorRepaintStatic(wnd, message);
+    return result;
 }
 
 BOOL CQorInfo::OnEraseBkgnd(CDC* /*dc*/)

@@ -22,6 +22,7 @@ class QORUI_API CQorInfo : public CStatic
     void RemoveAll();
 
   protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     DECLARE_MESSAGE_MAP()

@@ -428,6 +428,17 @@ TEST_F(LinkOnABrush, TextIsDrawnOnTheBrush)
     EXPECT_TRUE(ts::SamePicture(expected, look));
 }
 
+TEST_F(LinkOnABrush, NewTextTakesTheFormerOnesPlace)
+{
+    const ts::Picture before = Look(m_link);
+    m_link.SetWindowText(L"New");
+    const ts::Picture changed = Look(m_link);
+    EXPECT_EQ(0, changed.Count(RGB(255, 0, 0)));
+    EXPECT_FALSE(ts::SamePicture(before, changed));
+    m_link.SetWindowText(L"Text");
+    EXPECT_TRUE(ts::SamePicture(before, Look(m_link)));
+}
+
 TEST_F(LinkOnABrush, ErasingLeavesTheDeviceContextAsItWas)
 {
     EXPECT_EQ(TRUE, m_link.SendMessage(WM_ERASEBKGND, 0));
@@ -570,6 +581,24 @@ TEST_F(QorLink, HoverIsShownAtOnce)
     EXPECT_EQ(nullptr, ::GetCapture());
 }
 
+TEST_F(QorLink, NewTextTakesTheFormerOnesPlace)
+{
+    m_link.SetAutoSize(FALSE);
+    Take(SS_LEFT, L"A former text");
+    Look(m_link);
+    const auto expectText = [this](const wchar_t* text) {
+        const HGDIOBJ font = reinterpret_cast<HGDIOBJ>(m_link.SendMessage(WM_GETFONT));
+        const ts::Picture expected = TextPicture({150, 40}, text, font, kLink, kBack, DT_WORDBREAK | DT_EDITCONTROL);
+        EXPECT_TRUE(ts::SamePicture(expected, Look(m_link)));
+    };
+    m_link.SetWindowText(L"Text");
+    expectText(L"Text");
+    m_link.EnableWindow(FALSE);
+    expectText(L"Text");
+    m_link.SetWindowText(L"");
+    expectText(L"");
+}
+
 TEST_F(QorLink, VisitedLinkHoversToo)
 {
     Take();
@@ -685,6 +714,18 @@ TEST_F(TextLink, ParentPaintsTheBackgroundBeforeTheText)
     EXPECT_TRUE(ts::SamePicture(expected, Look(m_link)));
     EXPECT_NE(0, expected.Count(RGB(255, 255, 255)));
     EXPECT_EQ(&m_link, m_sender);
+}
+
+TEST_F(TextLink, NewTextTakesTheFormerOnesPlace)
+{
+    Take(L"A former text");
+    Look(m_link);
+    m_link.SetWindowText(L"Text");
+    const ts::Picture expected = TextPicture({150, 40}, L"Text", Gui(), RGB(255, 255, 255), RGB(0, 90, 0),
+                                             DT_WORDBREAK | DT_EDITCONTROL | DT_HIDEPREFIX);
+    EXPECT_TRUE(ts::SamePicture(expected, Look(m_link)));
+    m_link.EnableWindow(FALSE);
+    EXPECT_TRUE(ts::SamePicture(expected, Look(m_link)));
 }
 
 TEST_F(TextLink, EmptyTextStillAsksForTheBackground)

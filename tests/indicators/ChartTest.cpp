@@ -1,6 +1,7 @@
 #include <tests/lists/Lists.h>
 
 #include <QorUI/app/GdiPlusFlat.h>
+#include <tests/support/Imports.h>
 
 #include <algorithm>
 #include <array>
@@ -25,6 +26,9 @@ class ExpectedChart
         : m_bars(bars), m_values(std::move(values)), m_title(std::move(title))
     {
     }
+
+    /** Writes the legend in the font that is selected in the window's device context. */
+    void TakeLegendFontOfTheDc() { m_dcFont = true; }
 
     /** @param window of that size. */
     ts::Picture DrawIn(CWnd& window)
@@ -75,7 +79,11 @@ class ExpectedChart
 
     void DrawItems(HDC dc)
     {
-        m_font = FontOf(dc, GuiFont());
+        if (m_dcFont) {
+            GdipCreateFontFromDC(dc, &m_font);
+        } else {
+            m_font = FontOf(dc, GuiFont());
+        }
         float angle = 0;
         int y = 33;
         for (size_t i = 0; i < m_values.size(); ++i, y += 20) {
@@ -123,7 +131,16 @@ class ExpectedChart
     CString m_title;
     QorGdip::Graphics m_graphics;
     Gdiplus::GpFont* m_font = nullptr;
+    bool m_dcFont = false;
 };
+
+Gdiplus::SmoothingMode g_smoothing = Gdiplus::SmoothingModeInvalid;
+
+Gdiplus::GpStatus WINGDIPAPI NoteSmoothing(Gdiplus::GpGraphics* graphics, Gdiplus::SmoothingMode mode)
+{
+    g_smoothing = mode;
+    return GdipSetSmoothingMode(graphics, mode);
+}
 
 class Chart : public testing::Test
 {
@@ -382,6 +399,51 @@ TEST_F(Chart, WithoutAFontHasALegendAllTheSame)
     ::SendMessageW(m_chart, WM_SETFONT, 0, FALSE);
     Add(1);
     EXPECT_GT(LookOf(m_chart).Crop(CRect(134, 20, 299, 50)).Count(kSeries[0]), 5);
+}
+
+TEST_F(Chart, WithoutAFontHasTheLegendInTheDeviceContextsOne)
+{
+    const LPCWSTR name = AfxRegisterWndClass(CS_OWNDC);
+    CChartCtrl chart; // no font of its own, and a device context that it keeps
+    CWnd canvas;
+    ASSERT_TRUE(chart.CWnd::Create(name, L"", WS_CHILD | WS_VISIBLE, CRect(0, 210, 300, 410), &m_host, 3));
+    ASSERT_TRUE(canvas.Create(name, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &m_host, 4));
+    ::SetWindowPos(canvas, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    CFont font;
+    ASSERT_TRUE(font.CreatePointFont(160, L"Tahoma"));
+    for (const CWnd* wnd : {static_cast<CWnd*>(&chart), &canvas}) {
+        ::SelectObject(::GetDC(*wnd), font.GetSafeHandle());
+    }
+    chart.AddItem(L"Name", 1);
+    ExpectedChart expected(false, {1});
+    expected.TakeLegendFontOfTheDc();
+    const CRect painted(0, 0, 299, 199);
+    const ts::Picture look = expected.DrawIn(canvas).Crop(painted);
+    EXPECT_GT(CRect(look.Crop(CRect(134, 0, 299, 199)).BoundsOf(kSeries[0])).Height(), 16);
+    EXPECT_TRUE(ts::SamePicture(look, LookOf(chart).Crop(painted)));
+    chart.DestroyWindow();
+    canvas.DestroyWindow();
+}
+
+TEST_F(Chart, IsSmoothed)
+{
+    const ts::ReplacedImport noting(L"QorUI.dll", "GdipSetSmoothingMode", &NoteSmoothing);
+    Add(3);
+    LookOf(m_chart);
+    EXPECT_EQ(Gdiplus::SmoothingModeHighQuality, g_smoothing);
+}
+
+TEST_F(Chart, IsPaintedAgainWhenTheSystemHasDrawnOverIt)
+{
+    const CRect painted(0, 0, 299, 199);
+    Add(3);
+    m_chart.SetWindowText(L"Title");
+    LookOf(m_chart);
+    m_chart.SetWindowText(L"Another title");
+    const ts::Picture retitled = ts::CaptureWindow(m_chart).Crop(painted);
+    EXPECT_TRUE(ts::SamePicture(LookOf(m_chart).Crop(painted), retitled));
+    m_chart.EnableWindow(FALSE);
+    EXPECT_TRUE(ts::SamePicture(retitled, ts::CaptureWindow(m_chart).Crop(painted)));
 }
 
 TEST_F(Chart, LegendHasTheControlsFont)

@@ -51,6 +51,16 @@ TEST_F(Info, WithoutItemsIsTheSoftColour)
     EXPECT_TRUE(ts::AreaIs(LookOf(m_info), CRect(0, 0, 200, 100), kSoft));
 }
 
+TEST_F(Info, IsPaintedAgainWhenTheSystemHasDrawnOverIt)
+{
+    m_info.AddItem(L"Label", L"value");
+    const ts::Picture look = LookOf(m_info);
+    m_info.SetWindowText(L"Text");
+    EXPECT_TRUE(ts::SamePicture(look, ts::CaptureWindow(m_info)));
+    m_info.EnableWindow(FALSE);
+    EXPECT_TRUE(ts::SamePicture(look, ts::CaptureWindow(m_info)));
+}
+
 TEST_F(Info, RowsAreSixteenPixelsHighAndValuesStandRightOfTheWidestLabel)
 {
     m_info.AddItem(L"A", L"one");
