@@ -61,7 +61,7 @@ BOOL CQorStatusBar::SetText(int part, LPCWSTR text)
 
 int CQorStatusBar::GetTextExtent(LPCWSTR text)
 {
-    CClientDC dc(this);
+    CClientDC dc(m_hWnd ? this : nullptr); // without a window the screen's
     const CSelectSaver font(dc, ::GetStockObject(DEFAULT_GUI_FONT));
     return dc.GetTextExtent(CString(text)).cx + kTextSpace;
 }

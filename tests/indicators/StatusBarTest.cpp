@@ -108,6 +108,7 @@ TEST_F(StatusBar, PaintingLeavesTheDeviceContextAsItWas)
     ASSERT_TRUE(bar.Create(name, L"", WS_CHILD | WS_VISIBLE, CRect(0, 30, 400, 52), &m_host, 3));
     std::array<int, 2> widths = {0, 100};
     bar.SetParts(2, widths.data());
+    bar.SetText(0, L"Text");
     const HDC dc = ::GetDC(bar);
     ::SetTextColor(dc, RGB(1, 2, 3));
     ::SetBkMode(dc, OPAQUE);
@@ -116,6 +117,9 @@ TEST_F(StatusBar, PaintingLeavesTheDeviceContextAsItWas)
     EXPECT_EQ(RGB(1, 2, 3), ::GetTextColor(dc));
     EXPECT_EQ(OPAQUE, ::GetBkMode(dc));
     EXPECT_EQ(font, ::GetCurrentObject(dc, OBJ_FONT));
+    const ts::Picture look = ts::CaptureWindow(bar);
+    EXPECT_GT(look.Count(kInk), 5);
+    EXPECT_EQ(0, look.Count(RGB(1, 2, 3)));
     ::ReleaseDC(bar, dc);
     bar.DestroyWindow();
 }
@@ -215,6 +219,16 @@ TEST_F(StatusBar, TextNeedsItsWidthAndTwelvePixels)
     EXPECT_EQ(width + 12, m_bar.GetTextExtent(L"Some text"));
     EXPECT_EQ(12, m_bar.GetTextExtent(L""));
     EXPECT_EQ(12, m_bar.GetTextExtent(nullptr));
+}
+
+TEST(StatusBarAlone, MeasuresWithoutAWindow)
+{
+    CQorStatusBar bar;
+    CClientDC screen(nullptr);
+    const HGDIOBJ old = ::SelectObject(screen, GuiFont());
+    const int width = screen.GetTextExtent(L"Some text", 9).cx;
+    ::SelectObject(screen, old);
+    EXPECT_EQ(width + 12, bar.GetTextExtent(L"Some text"));
 }
 
 TEST_F(StatusBar, BadCountsAreNoHarm)
