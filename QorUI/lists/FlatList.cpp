@@ -80,7 +80,8 @@ void CFlatList::PreSubclassWindow()
 
 LRESULT CFlatList::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (message == WM_NCDESTROY) {
+    // Which of the two makes the control destroy what it holds is up to its version.
+    if (message == WM_DESTROY || message == WM_NCDESTROY) {
         ReleaseCheckImage();
     }
     const LRESULT result = CListCtrl::WindowProc(message, wParam, lParam);
@@ -234,7 +235,11 @@ void CFlatList::OnNcPaint()
 
 void CFlatList::OnSetFocus(CWnd* former)
 {
+    const HWND wnd = m_hWnd;
     CListCtrl::OnSetFocus(former);
+    if (!::IsWindow(wnd)) {
+        return; // the parent was told, and may have deleted the list
+    }
     if (GetSelectedItem() == -1) {
         SelectItem(0, TRUE);
     }

@@ -149,6 +149,17 @@ TEST_F(FlatHdr, OwnerDrawIsAddedToTheFormats)
     EXPECT_EQ(HDF_OWNERDRAW | HDF_STRING | HDF_CENTER, Format(2));
 }
 
+TEST_F(FlatHdr, OwnerDrawSkipsItemsThatCannotBeRead)
+{
+    ts::MessageRecorder log(m_header);
+    log.RecordOnly({HDM_SETITEMW});
+    log.Answer(HDM_GETITEMW, [](const ts::Message& message) -> std::optional<LRESULT> {
+        return message.wParam == 1 ? std::optional<LRESULT>(FALSE) : std::nullopt;
+    });
+    m_header.SetOwnerDraw();
+    EXPECT_TRUE(log.Is({ts::Msg(HDM_SETITEMW, 0), ts::Msg(HDM_SETITEMW, 2)}));
+}
+
 TEST_F(FlatHdr, ItemsKeepAValue)
 {
     EXPECT_EQ(0u, m_header.GetItemData(1));

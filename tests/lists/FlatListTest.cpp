@@ -1,7 +1,5 @@
 #include "Lists.h"
 
-#include <QorUI/app/SysLook.h>
-
 namespace
 {
 
@@ -77,6 +75,20 @@ TEST_F(FlatList, IsSetUpWhenItTakesAListOver)
     list.DestroyWindow();
 }
 
+TEST_F(FlatList, IsSetUpWithoutAHeader)
+{
+    const HWND window = SystemList();
+    ts::MessageRecorder log(window);
+    log.Answer(LVM_GETHEADER, [](const ts::Message& /*message*/) { return std::optional<LRESULT>(0); });
+    CFlatList list;
+    ASSERT_TRUE(list.SubclassWindow(window));
+    EXPECT_EQ(nullptr, list.GetFlatHdr().m_hWnd);
+    EXPECT_EQ(0x4420u, list.GetExtendedStyle() & 0x4420u);
+    EXPECT_EQ(kSoft, list.GetBkColor());
+    EXPECT_EQ(0, list.GetColumnCount());
+    list.DestroyWindow();
+}
+
 TEST_F(FlatList, NewColumnsAreOwnerDrawn)
 {
     for (int i = 0; i < 2; ++i) {
@@ -94,6 +106,15 @@ TEST_F(FlatList, NewColumnHasTheIndexThatTheControlGaveIt)
 {
     EXPECT_EQ(2, m_list.InsertColumn(99, L"Last", LVCFMT_LEFT, 30));
     EXPECT_EQ(0, m_list.InsertColumn(0, L"First", LVCFMT_LEFT, 30));
+}
+
+TEST_F(FlatList, ColumnThatTheControlRefusesIsNotTouched)
+{
+    ts::MessageRecorder log(m_list);
+    log.RecordOnly({LVM_SETCOLUMNW, HDM_SETITEMW});
+    log.Answer(LVM_INSERTCOLUMNW, [](const ts::Message& /*message*/) { return std::optional<LRESULT>(-7); });
+    EXPECT_EQ(-7, m_list.InsertColumn(2, L"Refused", LVCFMT_LEFT, 30));
+    EXPECT_TRUE(log.Is({}));
 }
 
 TEST_F(FlatList, ColumnsOfOthersAreNotTouchedByInsertColumn)
@@ -277,6 +298,15 @@ TEST_F(FlatList, EmptyTextWithoutHeaderItemsBeginsAtTheTop)
     list.DestroyWindow();
 }
 
+TEST_F(FlatList, EmptyTextWithoutAHeaderBeginsAtTheTop)
+{
+    m_list.GetFlatHdr().ShowWindow(SW_HIDE);
+    m_list.SetEmptyText(L"MMMM");
+    ts::MessageRecorder log(m_list);
+    log.Answer(LVM_GETHEADER, [](const ts::Message& /*message*/) { return std::optional<LRESULT>(0); });
+    EXPECT_EQ(10, LookOf(m_list).BoundsOf(RGB(255, 255, 255)).top);
+}
+
 TEST_F(FlatList, HasAThinGreyBorder)
 {
     ::RedrawWindow(m_list, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW);
@@ -286,11 +316,9 @@ TEST_F(FlatList, HasAThinGreyBorder)
 
 TEST_F(FlatList, BorderHasNoInnerFrame)
 {
-    const COLORREF inner = QorSysLook.m_clrWindow; // of the controls that have one
-    QorSysLook.m_clrWindow = RGB(255, 0, 255);
+    const OtherColours inner({{&QorSysLook.m_clrWindow, RGB(255, 0, 255)}}); // of the controls that have one
     ::RedrawWindow(m_list, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW);
     EXPECT_EQ(0, ts::CaptureFrame(m_list).Count(RGB(255, 0, 255)));
-    QorSysLook.m_clrWindow = inner;
 }
 
 TEST_F(FlatList, SystemDrawsItsScrollBar)
@@ -318,6 +346,16 @@ TEST_F(FlatList, FocusSelectsTheFirstRowWhenNoneIs)
     AddRows(3);
     m_list.SetFocus();
     EXPECT_EQ(0, m_list.GetSelectedItem());
+}
+
+TEST_F(FlatList, FocusIsDealtWithBeforeARowIsSelected)
+{
+    AddRows(2);
+    m_host.Log().Clear();
+    m_host.Log().SetFilter(
+        [](const ts::Message& message) { return message.code == NM_SETFOCUS || message.code == LVN_ITEMCHANGED; });
+    m_list.SetFocus();
+    EXPECT_TRUE(m_host.Log().Is({ts::Notify(kControlId, NM_SETFOCUS), ts::Notify(kControlId, LVN_ITEMCHANGED)}));
 }
 
 TEST_F(FlatList, FocusLeavesASelectionAndAnEmptyList)
@@ -351,6 +389,32 @@ TEST_F(FlatList, CheckBoxesAreTheLibrarysOfAllLists)
     EXPECT_EQ(images, StateImages(other));
     other.DestroyWindow();
     EXPECT_EQ(2, ::ImageList_GetImageCount(images));
+}
+
+/** A list that tells which state images it has when the control ends. */
+class EndingList : public CFlatList
+{
+  public:
+    std::vector<LRESULT> m_images;
+
+  protected:
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_DESTROY || message == WM_NCDESTROY) {
+            m_images.push_back(SendMessage(LVM_GETIMAGELIST, LVSIL_STATE));
+        }
+        return CFlatList::DefWindowProc(message, wParam, lParam);
+    }
+};
+
+TEST_F(FlatList, CheckBoxesAreTakenAwayBeforeTheControlEnds)
+{
+    EndingList list;
+    ASSERT_TRUE(Make(list));
+    list.SetExtendedStyle(LVS_EX_CHECKBOXES);
+    ASSERT_NE(nullptr, StateImages(list));
+    list.DestroyWindow();
+    EXPECT_EQ((std::vector<LRESULT>{0, 0}), list.m_images);
 }
 
 TEST_F(FlatList, CheckBoxesHaveTransparentCorners)
@@ -441,6 +505,45 @@ TEST_F(DestroyedList, ByTheNewsOfTheFocus)
     m_list.SetFocus();
     EXPECT_TRUE(m_destroyed);
     EXPECT_EQ(nullptr, m_list.m_hWnd);
+}
+
+/** A list in memory of its own, which nobody can read when the list is deleted. */
+class UnreadableList : public CFlatList
+{
+  public:
+    static void* operator new(size_t size)
+    {
+        return ::VirtualAlloc(nullptr, size, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
+    }
+    static void operator delete(void* list) { ::VirtualFree(list, 0, MEM_RELEASE); }
+};
+
+int g_faults = 0;
+
+/** Counts faults: the system may go on after one in a window procedure as if nothing had happened. */
+LONG CALLBACK NoteFault(EXCEPTION_POINTERS* exception)
+{
+    g_faults += exception->ExceptionRecord->ExceptionCode == EXCEPTION_ACCESS_VIOLATION;
+    return EXCEPTION_CONTINUE_SEARCH;
+}
+
+TEST_F(DestroyedList, WithItsObjectByTheNewsOfTheFocus)
+{
+    auto* list = new UnreadableList;
+    ASSERT_TRUE(Make(*list));
+    m_host.Log().Answer(WM_NOTIFY, [&list](const ts::Message& message) -> std::optional<LRESULT> {
+        if (message.code == NM_SETFOCUS && list) {
+            delete list;
+            list = nullptr;
+        }
+        return std::nullopt;
+    });
+    g_faults = 0;
+    void* const noting = ::AddVectoredExceptionHandler(TRUE, &NoteFault);
+    list->SetFocus();
+    ::RemoveVectoredExceptionHandler(noting);
+    EXPECT_EQ(nullptr, list);
+    EXPECT_EQ(0, g_faults);
 }
 
 TEST_F(DestroyedList, ByTheSelectionOfTheFirstRow)

@@ -1,8 +1,12 @@
 #pragma once
 
+#include <QorUI/app/SysLook.h>
 #include <QorUI/QorUI.h>
 #include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>
+
+#include <utility>
+#include <vector>
 
 /** @file What the tests of lists and indicators share. */
 
@@ -38,6 +42,47 @@ inline testing::AssertionResult SurvivesGdiShortage(const CWnd& control)
         }
     }
     return ts::SamePicture(before, LookOf(control));
+}
+
+/** Other colours in the library's look until the end of the scope. */
+class OtherColours
+{
+  public:
+    /** @param fields of `QorSysLook`. */
+    explicit OtherColours(const std::vector<std::pair<COLORREF*, COLORREF>>& fields)
+    {
+        for (const auto& [field, colour] : fields) {
+            m_former.emplace_back(field, *field);
+            *field = colour;
+        }
+    }
+    ~OtherColours()
+    {
+        for (const auto& [field, colour] : m_former) {
+            *field = colour;
+        }
+    }
+    OtherColours(const OtherColours&) = delete;
+    OtherColours& operator=(const OtherColours&) = delete;
+
+  private:
+    std::vector<std::pair<COLORREF*, COLORREF>> m_former;
+};
+
+/** Draws a part of a line of text that is centred in an area, as in a progress bar. */
+inline void DrawTextPart(HDC dc, const CRect& part, CRect area, const wchar_t* text, COLORREF colour)
+{
+    CRgn clip;
+    clip.CreateRectRgnIndirect(&part);
+    ::SelectClipRgn(dc, clip);
+    ::SetTextColor(dc, colour);
+    ::DrawTextW(dc, text, -1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+    ::SelectClipRgn(dc, nullptr);
+}
+
+inline int WINAPI NothingKnown(HANDLE /*object*/, int /*size*/, LPVOID /*data*/)
+{
+    return 0;
 }
 
 inline HBITMAP WINAPI NoCompatibleBitmap(HDC /*dc*/, int /*cx*/, int /*cy*/)
