@@ -17,8 +17,14 @@ constexpr COLORREF kFill = RGB(6, 177, 36);
 void DrawCell(CDC& dc, CRect rect, const QorProgress::Cell& cell)
 {
     rect.DeflateRect(2, 1);
+    if (rect.IsRectEmpty()) {
+        return; // GDI would turn the rectangle round and draw into the neighbours
+    }
     dc.Rectangle(&rect);
     rect.DeflateRect(1, 1);
+    if (rect.IsRectEmpty()) {
+        return;
+    }
     const CRect filled = QorProgress::FilledCell(rect, cell.percent);
     const CRect empty = QorProgress::Empty(rect, filled);
     dc.FillSolidRect(&filled, kFill);

@@ -3,6 +3,7 @@
 #include <QorUI/datetime/QorClock.h>
 #include <tests/app/Drawn.h>
 #include <tests/support/AfxHost.h>
+#include <tests/support/ImportRedirection.h>
 #include <tests/support/Imports.h>
 #include <tests/support/NoWindowClasses.h>
 
@@ -15,8 +16,15 @@ constexpr COLORREF kBack = RGB(250, 240, 230);
 constexpr COLORREF kInk = RGB(58, 58, 58);
 const CPoint kCenter(80, 80);
 
-const ts::Expected kBegin = ts::Notify(kClockId, static_cast<UINT>(-4000));
-const ts::Expected kEnd = ts::Notify(kClockId, static_cast<UINT>(-4001));
+ts::Expected News(int code)
+{
+    ts::Expected news = ts::Notify(kClockId, static_cast<UINT>(code));
+    news.wParam = kClockId;
+    return news;
+}
+
+const ts::Expected kBegin = News(-4000);
+const ts::Expected kEnd = News(-4001);
 
 UINT g_period = 0;
 
@@ -31,6 +39,11 @@ HDC WINAPI NoMemoryDc(HDC)
     return nullptr;
 }
 
+int WINAPI NothingKnown(HANDLE, int, LPVOID)
+{
+    return 0;
+}
+
 int Nearest(double value)
 {
     return static_cast<int>(std::floor(value + 0.5));
@@ -40,6 +53,17 @@ class CTestClock : public CQorClock
 {
   public:
     using CQorClock::OnTimer;
+
+    std::vector<UINT> m_buttons; // messages of the left button for which the default handler was called
+
+  protected:
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_LBUTTONDOWN || message == WM_LBUTTONUP) {
+            m_buttons.push_back(message);
+        }
+        return CQorClock::DefWindowProc(message, wParam, lParam);
+    }
 };
 
 class Clock : public testing::Test
@@ -84,6 +108,14 @@ class Clock : public testing::Test
         const CPoint point = QorHands::EndPoint(kCenter, 0.5, QorHands::MinuteAngle(m_clock.GetMinute()));
         ts::MoveMouse(m_clock.m_hWnd, point.x, point.y);
         ts::MouseDown();
+    }
+
+    /** Whether a change shows as if all had been painted anew. */
+    testing::AssertionResult LeavesNoTrace()
+    {
+        const ts::Picture changed = Look();
+        Show();
+        return ts::SamePicture(Look(), changed);
     }
 
     static HCURSOR Cursor(LPCWSTR name) { return LoadCursorW(nullptr, name); }
@@ -138,6 +170,16 @@ TEST_F(Clock, CreateRefusesAMissingBitmapOrParent)
     EXPECT_FALSE(m_clock.Create(kDial, &m_host, kClockId, kBack));
 }
 
+TEST_F(Clock, CreateRefusesABitmapThatCannotBeRead)
+{
+    {
+        const ts::ImportRedirection failing({ts::ImportRedirection::Of(&::GetObjectW, &NothingKnown)});
+        EXPECT_FALSE(m_clock.Create(kDial, &m_host, kClockId, kBack));
+    }
+    EXPECT_EQ(nullptr, m_clock.m_hWnd);
+    EXPECT_TRUE(m_clock.Create(kDial, &m_host, kClockId, kBack));
+}
+
 TEST_F(Clock, TimesAreTakenIntoTheDay)
 {
     m_clock.SetTime(13, 5);
@@ -165,6 +207,21 @@ TEST_F(Clock, OnlyAnotherTimeIsPainted)
     Show();
     m_clock.SetTime(14, 31);
     EXPECT_TRUE(NeedsPaint());
+}
+
+TEST_F(Clock, FormerTimeIsErased)
+{
+    Make();
+    m_clock.SetTime(4, 10);
+    EXPECT_TRUE(LeavesNoTrace());
+    m_clock.SetTimeAnimate(9, 55, TRUE);
+    m_clock.OnTimer(1);
+    m_clock.KillTimer(1);
+    EXPECT_TRUE(LeavesNoTrace());
+    Grab();
+    MoveToMinute(50);
+    EXPECT_TRUE(LeavesNoTrace());
+    ts::MouseUp();
 }
 
 TEST_F(Clock, ErasingDrawsTheDial)
@@ -269,6 +326,22 @@ TEST_F(Clock, ParentIsToldWithTheMouseCapturedAndWhenItIsFreeAgain)
     Grab();
     ts::MouseUp();
     EXPECT_EQ((std::vector<HWND>{m_clock.m_hWnd, nullptr}), captures);
+}
+
+TEST_F(Clock, DefaultHandlerGetsTheButtonAfterTheParentIsTold)
+{
+    Make();
+    std::vector<UINT>& order = m_clock.m_buttons;
+    m_host.Log().Answer(WM_NOTIFY, [&order](const ts::Message& message) {
+        order.push_back(message.id);
+        return std::nullopt;
+    });
+    Grab();
+    ts::MouseUp();
+    EXPECT_EQ((std::vector<UINT>{WM_NOTIFY, WM_LBUTTONDOWN, WM_NOTIFY, WM_LBUTTONUP}), order);
+    order.clear();
+    ts::Click(m_clock.m_hWnd, 80, 40);
+    EXPECT_EQ((std::vector<UINT>{WM_LBUTTONDOWN, WM_LBUTTONUP}), order) << "beside the hand";
 }
 
 TEST_F(Clock, HandStaysTakenUntilTheNextMoveWithoutAButton)

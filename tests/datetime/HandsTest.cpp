@@ -85,6 +85,13 @@ TEST(ClockHands, SlantedHandIsHitAlongItsRun)
     EXPECT_FALSE(OnMinuteHand(kCenter, 35, {61, 106}));
 }
 
+TEST(ClockHands, DiagonalIsMeasuredAcross)
+{
+    // At minute 10 the hand is 4 pixels right of (85, 75), but only 2 below it.
+    EXPECT_FALSE(OnMinuteHand(kCenter, 10, {85, 75}));
+    EXPECT_TRUE(OnMinuteHand(kCenter, 10, {86, 75}));
+}
+
 TEST(ClockHands, HandIsHitBetweenItsEndsOnly)
 {
     EXPECT_TRUE(OnMinuteHand(kCenter, 0, {80, 20}));

@@ -172,6 +172,10 @@ TEST_F(DesktopTip, IsAHiddenToolWindowWithoutActivation)
     EXPECT_EQ(nullptr, ::GetWindow(m_tip, GW_OWNER));
     EXPECT_EQ(0u, ::GetClassLongPtrW(m_tip, GCLP_HBRBACKGROUND));
     EXPECT_EQ(0u, ::GetClassLongPtrW(m_tip, GCLP_HCURSOR));
+    EXPECT_EQ(0u, ::GetClassLongPtrW(m_tip, GCLP_HICON));
+    EXPECT_EQ(0u, ::GetClassLongPtrW(m_tip, GCL_STYLE));
+    EXPECT_EQ(CRect(0, 0, 0, 0), Rect());
+    EXPECT_EQ(0, m_tip.GetWindowTextLength());
 }
 
 TEST_F(DesktopTip, HasTheSizeOfItsTextInTheCorner)

@@ -41,6 +41,11 @@ TEST(ProgressFraction, FillIsCutOffToWholePixels)
     EXPECT_EQ(CRect(33, 2, 98, 18), QorProgress::Empty(area, CRect(2, 2, 33, 18)));
 }
 
+HBITMAP WINAPI TallPattern(HINSTANCE /*module*/, LPCWSTR /*name*/)
+{
+    return ::CreateBitmap(8, 25, 1, 32, nullptr);
+}
+
 class ProgressBar : public testing::Test
 {
   protected:
@@ -91,19 +96,9 @@ class ProgressBar : public testing::Test
             ::FillRect(dc, &rest, ::GetSysColorBrush(COLOR_WINDOW));
             ::SelectObject(dc, GuiFont());
             ::SetBkMode(dc, TRANSPARENT);
-            DrawPart(dc, fill, whole, text, ::GetSysColor(COLOR_WINDOW));
-            DrawPart(dc, rest, whole, text, ::GetSysColor(COLOR_HIGHLIGHT));
+            DrawTextPart(dc, fill, whole, text, ::GetSysColor(COLOR_WINDOW));
+            DrawTextPart(dc, rest, whole, text, ::GetSysColor(COLOR_HIGHLIGHT));
         });
-    }
-
-    static void DrawPart(HDC dc, const CRect& part, CRect whole, const wchar_t* text, COLORREF colour)
-    {
-        CRgn clip;
-        clip.CreateRectRgnIndirect(&part);
-        ::SelectClipRgn(dc, clip);
-        ::SetTextColor(dc, colour);
-        ::DrawTextW(dc, text, -1, &whole, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
-        ::SelectClipRgn(dc, nullptr);
     }
 
     ts::AfxHost m_host{240, 100};
@@ -219,6 +214,20 @@ TEST_F(ProgressBar, TakesItsHeightFromThePattern)
     EXPECT_EQ(200, rect.Width());
 }
 
+TEST_F(ProgressBar, HasTheHeightOfEveryPatternThatCanBeRead)
+{
+    const auto heightWith = [this](const ts::ImportRedirection::Function& function) {
+        const ts::ImportRedirection redirection({function});
+        CProgressBar bar;
+        EXPECT_TRUE(bar.Create(WS_CHILD | WS_VISIBLE, CRect(10, 50, 110, 90), &m_host, 5));
+        const int height = Height(bar);
+        bar.DestroyWindow();
+        return height;
+    };
+    EXPECT_EQ(25 + 2, heightWith(ts::ImportRedirection::Of(&::LoadBitmapW, &TallPattern)));
+    EXPECT_EQ(18 + 2, heightWith(ts::ImportRedirection::Of(&::GetObjectW, &NothingKnown)));
+}
+
 TEST_F(ProgressBar, TakesItsHeightWhenItTakesABarOver)
 {
     const HWND window = ::CreateWindowExW(0, PROGRESS_CLASSW, L"", WS_CHILD | WS_VISIBLE, 10, 50, 120, 40,
@@ -246,6 +255,14 @@ TEST_F(ProgressBar, FillsWithThePatternAndTheRestWithTheWindowColour)
         ASSERT_TRUE(ts::PixelIs(look, 50, y, pattern.At(50 % pattern.Width(), y))) << y;
     }
     EXPECT_TRUE(ts::AreaIs(look, CRect(51, 2, 198, 18), ::GetSysColor(COLOR_WINDOW)));
+}
+
+TEST_F(ProgressBar, HasTheColoursOfTheSystemAndNotOfTheLook)
+{
+    const COLORREF odd = RGB(255, 0, 255);
+    const OtherColours colours({{&QorSysLook.m_clrWindow, odd}, {&QorSysLook.m_clrHighlight, odd}});
+    EXPECT_TRUE(ts::SamePicture(Expected(98, L"50%"), Bar(100)));
+    EXPECT_EQ(0, Bar(100).Count(odd));
 }
 
 TEST_F(ProgressBar, TextHasTwoColours)

@@ -77,20 +77,10 @@ class ProgressList : public testing::Test
                 to->FillSolidRect(&fill, kGreen);
                 to->FillSolidRect(&rest, ::GetSysColor(COLOR_BTNFACE));
                 ::SetBkMode(dc, TRANSPARENT);
-                DrawPart(dc, fill, whole, label, ::GetSysColor(COLOR_WINDOW));
-                DrawPart(dc, rest, whole, label, ::GetSysColor(COLOR_WINDOWTEXT));
+                DrawTextPart(dc, fill, whole, label, ::GetSysColor(COLOR_WINDOW));
+                DrawTextPart(dc, rest, whole, label, ::GetSysColor(COLOR_WINDOWTEXT));
             },
             RGB(236, 245, 250));
-    }
-
-    static void DrawPart(HDC dc, const CRect& part, CRect whole, const wchar_t* text, COLORREF colour)
-    {
-        CRgn clip;
-        clip.CreateRectRgnIndirect(&part);
-        ::SelectClipRgn(dc, clip);
-        ::SetTextColor(dc, colour);
-        ::DrawTextW(dc, text, -1, &whole, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
-        ::SelectClipRgn(dc, nullptr);
     }
 
     LRESULT Stage(DWORD stage)
@@ -133,6 +123,47 @@ TEST_F(ProgressList, LooksAsItShould)
     EXPECT_TRUE(ts::SamePicture(Expected(size, 48, L"Copying"), Cell(L"33|Copying"))); // 47.52 is rounded
     EXPECT_TRUE(ts::SamePicture(Expected(size, 0, L"Copying"), Cell(L"-5|Copying")));
     EXPECT_TRUE(ts::SamePicture(Expected(size, 144, L"a | b"), Cell(L"100|a | b")));
+}
+
+TEST_F(ProgressList, HasTheColoursOfTheLook)
+{
+    const COLORREF face = RGB(1, 200, 200);
+    const COLORREF window = RGB(255, 0, 255);
+    const COLORREF text = RGB(0, 0, 200);
+    const OtherColours colours(
+        {{&QorSysLook.m_clrBtnFace, face}, {&QorSysLook.m_clrWindow, window}, {&QorSysLook.m_clrWindowText, text}});
+    const ts::Picture cell = Cell(L"50|Copying");
+    const CRect filled(3, 2, 75, cell.Height() - 2);
+    const CRect empty(75, 2, 147, cell.Height() - 2);
+    EXPECT_TRUE(ts::PixelIs(cell, 146, 3, face));
+    EXPECT_GT(cell.Crop(filled).Count(window), 5);
+    EXPECT_GT(cell.Crop(empty).Count(text), 5);
+    EXPECT_EQ(filled.Width() * filled.Height(), cell.Crop(filled).Count(window) + cell.Crop(filled).Count(kGreen));
+    EXPECT_EQ(empty.Width() * empty.Height(), cell.Crop(empty).Count(text) + cell.Crop(empty).Count(face));
+}
+
+TEST_F(ProgressList, NarrowCellLeavesItsNeighboursAlone)
+{
+    const COLORREF paper = RGB(9, 8, 7);
+    m_list.SetItemText(0, 1, L"50|Copying");
+    for (int width = 0; width < 8; ++width) {
+        m_list.SetColumnWidth(1, width);
+        const ts::Picture look = ts::DrawTo(
+            300, 120,
+            [this](HDC dc) {
+                NMLVCUSTOMDRAW draw = {};
+                draw.nmcd.hdc = dc;
+                draw.iSubItem = 1;
+                EXPECT_EQ(CDRF_SKIPDEFAULT, m_list.DrawSubItem(&draw));
+            },
+            paper);
+        CRect cell;
+        m_list.GetSubItemRect(0, 1, LVIR_BOUNDS, cell);
+        EXPECT_EQ(width, cell.Width());
+        cell.DeflateRect(2, 1);
+        const CRect drawn = look.BoundsOfOthers(paper);
+        EXPECT_EQ(cell.IsRectEmpty() ? CRect(0, 0, 0, 0) : cell, drawn) << width;
+    }
 }
 
 TEST_F(ProgressList, FrameHasPenAndBrushOfTheDeviceContext)
