@@ -36,6 +36,7 @@ BOOL CBmpBtn::SetImage(HINSTANCE inst, UINT id, LPCWSTR type, COLORREF transpare
 
 void CBmpBtn::PreSubclassWindow()
 {
+    m_bHot = FALSE; // no leave notification comes from the former window
     ModifyStyle(0, BS_OWNERDRAW);
 }
 

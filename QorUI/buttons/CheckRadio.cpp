@@ -158,6 +158,12 @@ void SetTabStop(HWND control, bool tabStop)
 
 CCheckBox::CCheckBox() : m_bHot(FALSE), m_bChecked(FALSE), m_bSecondClick(FALSE) {}
 
+void CCheckBox::PreSubclassWindow()
+{
+    m_bHot = FALSE; // no leave notification comes from the former window
+    m_bSecondClick = FALSE;
+}
+
 LRESULT CCheckBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (IsFocusChange(message)) {
@@ -252,6 +258,11 @@ LRESULT CCheckBox::OnMouseLeave(WPARAM, LPARAM)
 }
 
 CRadioBox::CRadioBox() : m_bChecked(FALSE), m_bHot(FALSE) {}
+
+void CRadioBox::PreSubclassWindow()
+{
+    m_bHot = FALSE; // no leave notification comes from the former window
+}
 
 LRESULT CRadioBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {

@@ -59,6 +59,7 @@ BOOL CCmdBtn::SetBtn(UINT iconId, LPCWSTR description)
 
 void CCmdBtn::PreSubclassWindow()
 {
+    m_bHot = FALSE; // no leave notification comes from the former window
     ModifyStyle(0, BS_OWNERDRAW);
 }
 

@@ -25,6 +25,7 @@ BOOL CQorBtn::PreCreateWindow(CREATESTRUCT& create)
 
 void CQorBtn::PreSubclassWindow()
 {
+    m_bHot = FALSE; // no leave notification comes from the former window
     ModifyStyle(0, BS_OWNERDRAW);
     CRect rect;
     GetWindowRect(&rect);

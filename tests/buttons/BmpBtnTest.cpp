@@ -17,9 +17,14 @@ class BmpBtn : public testing::Test
   protected:
     void SetUp() override
     {
+        Make();
+        ts::ParkMouse();
+    }
+
+    void Make()
+    {
         ASSERT_TRUE(m_button.Create(CRect(30, 40, 50, 50), &m_host, 9));
         ASSERT_TRUE(m_button.SetImage(Program(), IDB_FRAMES, nullptr, CLR_NONE));
-        ts::ParkMouse();
     }
 
     ts::AfxHost m_host{300, 120};
@@ -79,6 +84,16 @@ TEST_F(BmpBtn, IsPressedWhileTheMouseButtonIsDown)
 TEST_F(BmpBtn, HotChangesRepaintWithoutErasing)
 {
     ExpectHotChangesToRepaint(m_button);
+}
+
+TEST_F(BmpBtn, NewWindowIsColdAfterOneThatWentUnderTheMouse)
+{
+    ExpectNewWindowToBeCold(m_button, [this] { Make(); });
+}
+
+TEST_F(BmpBtn, StaysColdWithoutLeaveNotification)
+{
+    ExpectColdWithoutLeaveNotification(m_button, CRect(0, 0, 20, 10));
 }
 
 TEST_F(BmpBtn, DraggingOffReleasesIt)

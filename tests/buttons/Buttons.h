@@ -4,6 +4,7 @@
 #include <tests/app/Drawn.h>
 #include <tests/app/res/resource.h>
 #include <tests/support/AfxHost.h>
+#include <tests/support/Imports.h>
 #include <tests/support/Support.h>
 
 /** @file What the tests of buttons share. */
@@ -83,6 +84,52 @@ inline void ExpectHotChangesToRepaint(const CWnd& control)
     control.SendMessage(WM_MOUSELEAVE);
     EXPECT_EQ(all, Dirty(control));
     EXPECT_FALSE(IsErasedByUpdate(control));
+}
+
+/** Expects a control to look untouched in a new window when the former one went under the mouse. */
+template <class Control>
+void ExpectNewWindowToBeCold(Control& control, const std::function<void()>& create)
+{
+    const ts::Picture cold = Look(control);
+    ts::MoveMouse(control.m_hWnd);
+    const ts::Picture hot = Look(control);
+    EXPECT_FALSE(ts::SamePicture(cold, hot));
+    control.DestroyWindow();
+    ts::ParkMouse();
+    create();
+    EXPECT_TRUE(ts::SamePicture(cold, Look(control)));
+    ts::MoveMouse(control.m_hWnd);
+    EXPECT_TRUE(ts::SamePicture(hot, Look(control)));
+}
+
+inline std::vector<TRACKMOUSEEVENT> g_refusedTracks;
+
+inline BOOL WINAPI RefuseTrack(LPTRACKMOUSEEVENT track)
+{
+    g_refusedTracks.push_back(*track);
+    return FALSE;
+}
+
+/**
+ * Expects a control that gets no leave notification to stay cold, and to ask for one again at the next move.
+ * @param dirty what is repainted all the same.
+ */
+inline void ExpectColdWithoutLeaveNotification(const CWnd& control, const CRect& dirty)
+{
+    const ts::ReplacedImport refused(L"QorUI.dll", "_TrackMouseEvent", &RefuseTrack);
+    ::InvalidateRect(control.m_hWnd, nullptr, FALSE);
+    const ts::Picture cold = Look(control);
+    for (int x = 3; x < 5; ++x) {
+        g_refusedTracks.clear();
+        Validate(control);
+        control.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(x, 3));
+        ASSERT_EQ(1u, g_refusedTracks.size());
+        EXPECT_EQ(DWORD{TME_LEAVE}, g_refusedTracks[0].dwFlags);
+        EXPECT_EQ(1u, g_refusedTracks[0].dwHoverTime);
+        EXPECT_EQ(control.m_hWnd, g_refusedTracks[0].hwndTrack);
+        EXPECT_EQ(dirty, Dirty(control));
+        EXPECT_TRUE(ts::SamePicture(cold, Look(control)));
+    }
 }
 
 /** Expects a pressed button to come up when the mouse is dragged off it, and no click. */

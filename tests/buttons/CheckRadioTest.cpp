@@ -66,8 +66,13 @@ class Checkable : public testing::Test
 
     void SetUp() override
     {
-        ASSERT_TRUE(m_control.SubclassWindow(AddButton(m_host, L"Text", CRect(20, 10, 140, 40), 11, Style())));
+        Take(m_control);
         ts::ParkMouse();
+    }
+
+    void Take(Control& control)
+    {
+        ASSERT_TRUE(control.SubclassWindow(AddButton(m_host, L"Text", CRect(20, 10, 140, 40), 11, Style())));
     }
 
     static DWORD Style();
@@ -656,6 +661,35 @@ TEST_F(CheckBox, ParentMayDestroyItOnAClick)
 TEST_F(RadioBox, ParentMayDestroyItOnAClick)
 {
     ExpectParentMayDestroyIt();
+}
+
+TEST_F(CheckBox, NewWindowIsColdAfterOneThatWentUnderTheMouse)
+{
+    ExpectNewWindowToBeCold(m_control, [this] { Take(m_control); });
+}
+
+TEST_F(RadioBox, NewWindowIsColdAfterOneThatWentUnderTheMouse)
+{
+    ExpectNewWindowToBeCold(m_control, [this] { Take(m_control); });
+}
+
+TEST_F(CheckBox, NewWindowKnowsNothingOfADoubleClickOnTheFormerOne)
+{
+    m_control.SendMessage(WM_LBUTTONDBLCLK);
+    m_control.DestroyWindow();
+    Take(m_control);
+    m_control.SendMessage(WM_LBUTTONUP);
+    EXPECT_TRUE(IsChecked());
+}
+
+TEST_F(CheckBox, StaysColdWithoutLeaveNotification)
+{
+    ExpectColdWithoutLeaveNotification(m_control, CRect(2, 2, 13, 13));
+}
+
+TEST_F(RadioBox, StaysColdWithoutLeaveNotification)
+{
+    ExpectColdWithoutLeaveNotification(m_control, CRect(2, 2, 13, 13));
 }
 
 TEST_F(CheckBox, ShowingPaintingAndClosingLeavesNothingBehind)

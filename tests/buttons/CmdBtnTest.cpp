@@ -19,10 +19,15 @@ class CmdBtn : public testing::Test
   protected:
     void SetUp() override
     {
+        Make();
+        ts::ParkMouse();
+    }
+
+    void Make()
+    {
         ASSERT_TRUE(m_button.Create(IDI_SQUARE, L"What it does", CRect(20, 10, 220, 70), &m_host, 6));
         m_button.SetWindowText(L"Title");
         m_button.SetFont(CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT))), FALSE);
-        ts::ParkMouse();
     }
 
     /** What the button draws with a brush, the dialog font and a transparent background in the device context. */
@@ -347,6 +352,16 @@ TEST_F(CmdBtn, IsHotWhileTheMouseIsOverIt)
 TEST_F(CmdBtn, HotChangesRepaintWithoutErasing)
 {
     ExpectHotChangesToRepaint(m_button);
+}
+
+TEST_F(CmdBtn, NewWindowIsColdAfterOneThatWentUnderTheMouse)
+{
+    ExpectNewWindowToBeCold(m_button, [this] { Make(); });
+}
+
+TEST_F(CmdBtn, StaysColdWithoutLeaveNotification)
+{
+    ExpectColdWithoutLeaveNotification(m_button, CRect(0, 0, kWidth, kHeight));
 }
 
 TEST_F(CmdBtn, DraggingOffReleasesIt)

@@ -27,9 +27,11 @@ class QorBtn : public testing::Test
   protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_button.SubclassWindow(AddButton(m_host, L"", CRect(20, 30, 100, 60), 7)));
+        Take();
         ts::ParkMouse();
     }
+
+    void Take() { ASSERT_TRUE(m_button.SubclassWindow(AddButton(m_host, L"", CRect(20, 30, 100, 60), 7))); }
 
     /** The outer border that the button has on the screen. */
     COLORREF Border() { return Look(m_button).At(40, 0); }
@@ -324,6 +326,16 @@ TEST_F(QorBtn, LeaveMessageReturnsOneAndRepaints)
 TEST_F(QorBtn, HotChangesRepaintWithoutErasing)
 {
     ExpectHotChangesToRepaint(m_button);
+}
+
+TEST_F(QorBtn, NewWindowIsColdAfterOneThatWentUnderTheMouse)
+{
+    ExpectNewWindowToBeCold(m_button, [this] { Take(); });
+}
+
+TEST_F(QorBtn, StaysColdWithoutLeaveNotification)
+{
+    ExpectColdWithoutLeaveNotification(m_button, CRect(0, 0, 80, 21));
 }
 
 TEST_F(QorBtn, DraggingOffReleasesIt)
