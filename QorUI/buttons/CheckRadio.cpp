@@ -233,10 +233,11 @@ void CCheckBox::OnMouseMove(UINT, CPoint)
 
 void CCheckBox::OnLButtonUp(UINT, CPoint)
 {
-    if (!m_bSecondClick) {
-        Toggle();
-    }
+    const BOOL second = m_bSecondClick;
     m_bSecondClick = FALSE;
+    if (!second) {
+        Toggle(); // the parent may delete this object
+    }
 }
 
 void CCheckBox::OnLButtonDown(UINT, CPoint)

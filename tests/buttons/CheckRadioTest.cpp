@@ -2,6 +2,10 @@
 
 #include <QorUI/buttons/CheckRadio.h>
 
+#include <algorithm>
+#include <cstring>
+#include <new>
+
 namespace
 {
 
@@ -661,6 +665,24 @@ TEST_F(CheckBox, ParentMayDestroyItOnAClick)
 TEST_F(RadioBox, ParentMayDestroyItOnAClick)
 {
     ExpectParentMayDestroyIt();
+}
+
+TEST_F(CheckBox, ParentMayDeleteItOnAClick)
+{
+    m_control.DestroyWindow();
+    alignas(CCheckBox) unsigned char memory[sizeof(CCheckBox)];
+    auto* control = new (memory) CCheckBox;
+    Take(*control);
+    const HWND window = control->m_hWnd;
+    m_host.Log().Answer(WM_COMMAND, [&](const ts::Message&) -> std::optional<LRESULT> {
+        control->DestroyWindow();
+        control->~CCheckBox();
+        memset(memory, 0xDD, sizeof(memory));
+        return {};
+    });
+    ::SendMessageW(window, WM_LBUTTONUP, 0, 0);
+    EXPECT_TRUE(std::all_of(std::begin(memory), std::end(memory), [](unsigned char byte) { return byte == 0xDD; }))
+        << "written to afterwards";
 }
 
 TEST_F(CheckBox, NewWindowIsColdAfterOneThatWentUnderTheMouse)
