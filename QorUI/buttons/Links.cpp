@@ -138,6 +138,7 @@ void CQorLink::SetUnderline(BOOL underline)
 
 void CQorLink::PreSubclassWindow()
 {
+    m_bOver = FALSE; // the former window may have gone under the mouse
     ModifyStyle(0, SS_NOTIFY);
     CString text;
     GetWindowText(text);
@@ -193,6 +194,10 @@ void CQorLink::MakeLinkFont()
 
 void CQorLink::MakeTooltip()
 {
+    // The tooltip belongs to the top-level window and outlives a link that goes before it.
+    if (m_tip.m_hWnd) {
+        m_tip.DestroyWindow();
+    }
     CRect client;
     GetClientRect(&client);
     if (m_tip.Create(this)) {
@@ -269,6 +274,8 @@ void CQorLink::OnMouseMove(UINT flags, CPoint point)
     GetClientRect(&client);
     if (!client.PtInRect(point)) {
         SetOver(FALSE);
+    } else if (::GetCapture() != m_hWnd) {
+        SetCapture(); // a menu or another program may have taken it, and leaving would not be seen
     }
 }
 

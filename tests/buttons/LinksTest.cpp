@@ -2,7 +2,6 @@
 
 #include <QorUI/app/Messages.h>
 #include <QorUI/buttons/Links.h>
-#include <tests/support/Imports.h>
 
 namespace
 {
@@ -280,6 +279,30 @@ TEST_F(QorLink, LeavingReleasesTheCaptureAndRestoresTheColour)
     ASSERT_EQ(m_link.m_hWnd, ::GetCapture());
     ts::MoveMouse(m_host.m_hWnd, 250, 140);
     EXPECT_EQ(nullptr, ::GetCapture());
+    EXPECT_TRUE(Shows(kLink));
+}
+
+TEST_F(QorLink, CaptureThatWasLostIsTakenAgain)
+{
+    Take();
+    ts::MoveMouse(m_link, 4, 4);
+    ::ReleaseCapture();
+    ts::MoveMouse(m_link, 5, 5);
+    EXPECT_EQ(m_link.m_hWnd, ::GetCapture());
+    EXPECT_TRUE(Shows(::GetSysColor(COLOR_HIGHLIGHT)));
+    ts::MoveMouse(m_host.m_hWnd, 250, 140);
+    EXPECT_EQ(nullptr, ::GetCapture());
+    EXPECT_TRUE(Shows(kLink));
+}
+
+TEST_F(QorLink, NewWindowHasATooltipAndTheLinkColour)
+{
+    Take();
+    ts::MoveMouse(m_link);
+    m_link.DestroyWindow();
+    ts::ParkMouse();
+    Take(SS_LEFT, L"Other");
+    EXPECT_NE(nullptr, FindTip());
     EXPECT_TRUE(Shows(kLink));
 }
 
