@@ -42,6 +42,9 @@ void CBmpBtn::PreSubclassWindow()
 
 void CBmpBtn::DrawItem(LPDRAWITEMSTRUCT item)
 {
+    if (!item->hDC) {
+        return;
+    }
     CRect rect(item->rcItem);
     DrawFrame(item->hDC, rect, QorButtonState(item->itemState, m_bHot));
     DrawCaption(CDC::FromHandle(item->hDC), rect, (item->itemState & ODS_DISABLED) != 0);
@@ -54,6 +57,9 @@ void CBmpBtn::DrawFrame(HDC dc, const CRect& rect, UINT frame)
     }
     const CMemoryDc memory(dc);
     const CSelectSaver select(memory.get(), m_bmp.GetSafeHandle());
+    if (!select) {
+        return;
+    }
     const int width = rect.Width();
     const int height = rect.Height();
     const int left = width * static_cast<int>(frame);

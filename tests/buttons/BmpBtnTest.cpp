@@ -250,6 +250,27 @@ TEST_F(BmpBtn, WithoutWindowItHasAFaceAndNoCaption)
     EXPECT_EQ(200, DrawnItem(m_button, 20, 10, 0).Count(kRed));
 }
 
+TEST_F(BmpBtn, WithoutDeviceContextNothingIsDrawn)
+{
+    m_button.SetWindowText(L"Text");
+    DRAWITEMSTRUCT request = DrawRequest(m_button, nullptr, CRect(0, 0, 20, 10), 0);
+    EXPECT_NO_THROW(m_button.DrawItem(&request));
+}
+
+HGDIOBJ WINAPI SelectNothing(HDC, HGDIOBJ)
+{
+    return nullptr;
+}
+
+TEST_F(BmpBtn, StripThatCannotBeSelectedDrawsNothing)
+{
+    for (const COLORREF key : {COLORREF{CLR_NONE}, kKey}) {
+        ASSERT_TRUE(m_button.SetImage(Program(), IDB_FRAMES, nullptr, key));
+        const ts::ReplacedImport none(L"QorUI.dll", "SelectObject", &SelectNothing);
+        EXPECT_EQ(200, DrawnItem(m_button, 20, 10, 0).Count(kPaper));
+    }
+}
+
 TEST_F(BmpBtn, IsNotCreatedInADestroyedWindow)
 {
     CWnd gone;

@@ -428,6 +428,8 @@ TEST_F(CmdBtn, WithoutDeviceContextNothingIsDrawn)
     m_button.DrawRect(nullptr, rect);
     m_button.DrawText(nullptr, rect, 3);
     EXPECT_EQ(CRect(0, 0, kWidth, kHeight), rect);
+    DRAWITEMSTRUCT request = DrawRequest(m_button, nullptr, rect, 0);
+    EXPECT_NO_THROW(m_button.DrawItem(&request));
 }
 
 TEST_F(CmdBtn, ShowingPaintingAndClosingLeavesNothingBehind)
