@@ -3,6 +3,7 @@
 #include <QorUI/app/Look.h>
 #include <QorUI/app/QorUIApp.h>
 #include <QorUI/app/ResourceSwitch.h>
+#include <QorUI/buttons/QorBtn.h>
 #include <QorUI/res/resource.h>
 #include <tests/app/Drawn.h>
 
@@ -211,6 +212,24 @@ TEST_F(Module, MissingPicturesLeaveTheObjectsEmptyAndInitSucceeds)
     EXPECT_EQ(nullptr, g_QorUIApp.m_bmpRadio.GetSafeHandle());
     EXPECT_EQ(nullptr, g_QorUIApp.m_bmpCheck.GetSafeHandle());
     EXPECT_NE(nullptr, QorGetDlgBkBrush());
+}
+
+TEST_F(Module, ButtonWithoutAFaceHasItsBordersOnly)
+{
+    g_QorUIApp.m_hInstance = ::GetModuleHandleW(nullptr);
+    ASSERT_TRUE(g_QorUIApp.InitInstance());
+    CQorBtn button;
+    for (UINT row = 0; row < 4; ++row) {
+        const ts::Picture picture = Drawn(60, 25, [&](CDC& dc) {
+            CRect rect(2, 3, 58, 24);
+            button.DrawBack(&dc, rect, row, FALSE);
+        });
+        EXPECT_TRUE(ts::AreaIs(picture, CRect(8, 3, 52, 4), g_BtnStyles[row].outer)) << "row " << row;
+        EXPECT_TRUE(ts::AreaIs(picture, CRect(8, 4, 52, 5), g_BtnStyles[row].inner)) << "row " << row;
+        EXPECT_TRUE(ts::AreaIs(picture, CRect(6, 7, 54, 20), kPaper)) << "row " << row;
+        EXPECT_TRUE(ts::AreaIs(picture, CRect(8, 22, 52, 23), g_BtnStyles[row].inner)) << "row " << row;
+        EXPECT_TRUE(ts::AreaIs(picture, CRect(8, 23, 52, 24), g_BtnStyles[row].outer)) << "row " << row;
+    }
 }
 
 TEST_F(Module, InitSucceedsWithoutGdiHandles)

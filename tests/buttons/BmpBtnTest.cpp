@@ -189,13 +189,16 @@ TEST_F(BmpBtn, WiderButtonShowsSlicesOfTheWrongFrames)
     EXPECT_TRUE(ts::AreaIs(look, CRect(20, 0, 40, 10), kGreen));
 }
 
-ts::Picture ExpectedCaption(const wchar_t* text, COLORREF colour)
+/** A caption in a rectangle of a picture of 60 x 24, beside a face. */
+ts::Picture ExpectedCaption(const wchar_t* text, COLORREF colour, CRect rect = CRect(0, 0, 60, 24),
+                            const CRect& face = CRect(0, 0, 0, 0))
 {
     return Drawn(60, 24, [&](CDC& dc) {
+        if (!face.IsRectEmpty())
+            dc.FillSolidRect(&face, kRed);
         const HGDIOBJ old = ::SelectObject(dc, ::GetStockObject(DEFAULT_GUI_FONT));
         ::SetTextColor(dc, colour);
         ::SetBkMode(dc, TRANSPARENT);
-        RECT rect = {0, 0, 60, 24};
         ::DrawTextW(dc, text, -1, &rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
         ::SelectObject(dc, old);
     });
@@ -208,6 +211,18 @@ TEST_F(BmpBtn, CaptionIsCentredInWhiteAndGreyWhenDisabled)
     EXPECT_TRUE(ts::SamePicture(ExpectedCaption(L"Text", RGB(255, 255, 255)), DrawnItem(m_button, 60, 24, 0)));
     EXPECT_TRUE(ts::SamePicture(ExpectedCaption(L"Text", ::GetSysColor(COLOR_GRAYTEXT)),
                                 DrawnItem(m_button, 60, 24, ODS_DISABLED)));
+}
+
+TEST_F(BmpBtn, FaceStandsAtTheOriginAndTheCaptionInTheItem)
+{
+    m_button.SetWindowText(L"X");
+    const CRect item(30, 12, 50, 22);
+    const ts::Picture picture = Drawn(60, 24, [&](CDC& dc) {
+        DRAWITEMSTRUCT request = DrawRequest(m_button, dc, item, 0);
+        m_button.DrawItem(&request);
+    });
+    EXPECT_TRUE(ts::SamePicture(ExpectedCaption(L"X", RGB(255, 255, 255), item, CRect(0, 0, 20, 10)), picture));
+    EXPECT_NE(0, picture.Crop(item).Count(RGB(255, 255, 255)));
 }
 
 TEST_F(BmpBtn, DrawingLeavesTheDeviceContextAsItWas)

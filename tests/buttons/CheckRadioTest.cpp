@@ -551,6 +551,7 @@ TEST_F(RadioGroup, UncheckingLeavesTheOthersAlone)
     m_radio[1].SendMessage(BM_SETCHECK, BST_UNCHECKED);
     for (int i = 0; i < 3; ++i)
         EXPECT_FALSE(IsChecked(i));
+    EXPECT_TRUE(IsTabStop(1));
 }
 
 TEST_F(RadioGroup, SetCheckSendsNoNotification)
@@ -601,6 +602,16 @@ TEST_F(RadioGroup, OwnerDrawnButtonsOfTheGroupAreUncheckedToo)
     m_radio[2].SendMessage(BM_SETCHECK, BST_CHECKED);
     m_radio[0].SendMessage(BM_SETCHECK, BST_CHECKED);
     ExpectOnly(0);
+}
+
+TEST_F(RadioGroup, ControlsWithOneOfTheStyleBitsAreUncheckedToo)
+{
+    for (const DWORD type : {BS_AUTOCHECKBOX, BS_USERBUTTON}) { // 3 and 8
+        m_radio[2].ModifyStyle(BS_TYPEMASK, type);
+        m_radio[2].SendMessage(BM_SETCHECK, BST_CHECKED);
+        m_radio[0].SendMessage(BM_SETCHECK, BST_CHECKED);
+        ExpectOnly(0);
+    }
 }
 
 TEST_F(RadioGroup, ControlsWithoutEitherStyleBitAreSkipped)

@@ -311,11 +311,13 @@ TEST_F(CmdBtn, FocusedButtonHasARectangleAroundTheTitle)
 
 TEST_F(CmdBtn, FocusChangeDrawsTheRectangleAndNothingElse)
 {
-    const ts::Picture picture = Draw(ODS_FOCUS, ODA_FOCUS);
-    EXPECT_EQ(FocusPlace(), CRect(picture.BoundsOfOthers(kPaper)));
-    EXPECT_EQ(0, picture.Count(kBrush));
     const CRect inside(FocusPlace().left + 1, FocusPlace().top + 1, FocusPlace().right - 1, FocusPlace().bottom - 1);
-    EXPECT_TRUE(ts::AreaIs(picture, inside, kPaper));
+    for (const UINT also : {0, ODA_SELECT, ODA_DRAWENTIRE}) {
+        const ts::Picture picture = Draw(ODS_FOCUS, ODA_FOCUS | also);
+        EXPECT_EQ(FocusPlace(), CRect(picture.BoundsOfOthers(kPaper))) << also;
+        EXPECT_EQ(0, picture.Count(kBrush)) << also;
+        EXPECT_TRUE(ts::AreaIs(picture, inside, kPaper)) << also;
+    }
 }
 
 TEST_F(CmdBtn, FocusRectangleDrawnTwiceIsGone)

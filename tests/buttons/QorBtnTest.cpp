@@ -213,16 +213,18 @@ TEST_F(QorBtn, DrawBackLeavesTheDeviceContextAsItWas)
     });
 }
 
+void DrawExpectedText(CDC& dc, CRect rect, const wchar_t* text, COLORREF colour, HGDIOBJ font)
+{
+    const HGDIOBJ old = ::SelectObject(dc, font);
+    ::SetTextColor(dc, colour);
+    ::SetBkMode(dc, TRANSPARENT);
+    ::DrawTextW(dc, text, -1, &rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+    ::SelectObject(dc, old);
+}
+
 ts::Picture ExpectedText(const wchar_t* text, COLORREF colour, HGDIOBJ font)
 {
-    return Drawn(80, 21, [&](CDC& dc) {
-        const HGDIOBJ old = ::SelectObject(dc, font);
-        ::SetTextColor(dc, colour);
-        ::SetBkMode(dc, TRANSPARENT);
-        RECT rect = {0, 0, 80, 21};
-        ::DrawTextW(dc, text, -1, &rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
-        ::SelectObject(dc, old);
-    });
+    return Drawn(80, 21, [&](CDC& dc) { DrawExpectedText(dc, CRect(0, 0, 80, 21), text, colour, font); });
 }
 
 ts::Picture DrawnText(CQorBtn& button, BOOL disabled)
@@ -268,6 +270,29 @@ TEST_F(QorBtn, StateChoosesTheRow)
     EXPECT_EQ(kPressed, DrawnItem(m_button, 80, 21, ODS_SELECTED).At(40, 0));
     EXPECT_EQ(kDisabled, DrawnItem(m_button, 80, 21, ODS_DISABLED).At(40, 0));
     EXPECT_EQ(kDisabled, DrawnItem(m_button, 80, 21, ODS_DISABLED | ODS_SELECTED).At(40, 0));
+}
+
+/** Expects the item of a button with a text to be the face of a row with the text on it. */
+void ExpectItemWithText(CQorBtn& button, const wchar_t* text, UINT state, UINT row, COLORREF colour)
+{
+    const HGDIOBJ font = reinterpret_cast<HGDIOBJ>(button.SendMessage(WM_GETFONT));
+    button.SetWindowText(text);
+    const ts::Picture expected = Drawn(80, 21, [&](CDC& dc) {
+        CRect rect(0, 0, 80, 21);
+        button.DrawBack(&dc, rect, row, (state & ODS_FOCUS) != 0);
+        DrawExpectedText(dc, rect, text, colour, font);
+    });
+    EXPECT_TRUE(ts::SamePicture(expected, DrawnItem(button, 80, 21, state)));
+    EXPECT_GT(expected.Crop(CRect(6, 2, 74, 19)).Count(colour), 20) << text;
+}
+
+TEST_F(QorBtn, TextStandsOnTheFaceInsideTheBorders)
+{
+    for (const wchar_t* text : {L"Text", L"A text that is wider than the button is"}) {
+        ExpectItemWithText(m_button, text, 0, 0, ::GetSysColor(COLOR_BTNTEXT));
+        ExpectItemWithText(m_button, text, ODS_FOCUS, 0, ::GetSysColor(COLOR_BTNTEXT));
+        ExpectItemWithText(m_button, text, ODS_DISABLED, 3, ::GetSysColor(COLOR_GRAYTEXT));
+    }
 }
 
 TEST_F(QorBtn, DisabledWinsOverPressedAndPressedOverHot)
