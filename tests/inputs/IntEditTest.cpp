@@ -182,6 +182,14 @@ TEST_F(IntEdit, DeletingInsideTheRangeChangesNothingElse)
     EXPECT_STREQ(L"0", TextOf(m_edit));
 }
 
+TEST_F(IntEdit, DeletingAboveTheMaximumChangesNothing)
+{
+    m_edit.SetWindowText(L"999");
+    m_edit.SetSel(3, 3);
+    ts::Key(VK_DELETE);
+    EXPECT_STREQ(L"999", TextOf(m_edit));
+}
+
 TEST_F(IntEdit, OnlyDeleteIsCheckedWhenAKeyGoesUp)
 {
     m_edit.SetRange(5, 20, 12);
@@ -338,13 +346,23 @@ TEST_F(IntEdit, StepsAtTheLimitsOfTheTypeWrapToo)
     EXPECT_EQ(INT_MIN, m_edit.GetValue());
 }
 
-TEST_F(IntEdit, WithASpinTheParentIsToldOfSetValues)
+TEST_F(IntEdit, ParentOfAMultiLineOneIsToldOfSetValues)
 {
     Take(ES_MULTILINE);
     m_edit.SetValue(20);
     EXPECT_EQ(1u, Changes());
     m_edit.SetRange(0, 9, 3);
     EXPECT_EQ(2u, Changes());
+}
+
+TEST_F(IntEdit, WithASpinTheParentIsToldOfSetValues)
+{
+    ASSERT_TRUE(m_edit.AddSpin());
+    m_host.Log().Clear();
+    m_edit.SetValue(20);
+    EXPECT_EQ(2u, Changes()) << "by the edit control, which was made with one line, and for the style it has since";
+    m_edit.SetRange(0, 9, 3);
+    EXPECT_EQ(4u, Changes());
 }
 
 TEST_F(IntEdit, WithoutASpinTheParentIsToldOnce)

@@ -141,6 +141,16 @@ TEST_F(RichEdit, MinusTwoAppendsALineFeed)
     EXPECT_EQ(L"ax\ry", Text());
 }
 
+TEST_F(RichEdit, AppendingGoesToTheEndWhereverTheSelectionIs)
+{
+    m_edit.InsertText(-1, L"abc");
+    m_edit.SetSel(0, 1);
+    m_edit.InsertText(-2, L"x");
+    m_edit.SetSel(1, 1);
+    m_edit.InsertText(-1, L"y");
+    EXPECT_EQ(L"abcx\ry", Text());
+}
+
 TEST_F(RichEdit, LineFeedIsOneCharacterTen)
 {
     ts::MessageRecorder log(m_edit);
@@ -184,6 +194,7 @@ TEST_F(RichEdit, FormatGoesToTheSelectionThatThereIs)
     m_edit.SetFormat(12, kRed, 0);
     m_edit.InsertText(-1, L"d");
     EXPECT_EQ(kRed, FormatAt(0, 2).crTextColor);
+    EXPECT_EQ(L"abcd", Text());
 }
 
 TEST_F(RichEdit, InsertionCannotBeUndone)
