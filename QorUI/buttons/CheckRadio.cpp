@@ -158,12 +158,6 @@ void SetTabStop(HWND control, bool tabStop)
 
 CCheckBox::CCheckBox() : m_bHot(FALSE), m_bChecked(FALSE), m_bSecondClick(FALSE) {}
 
-void CCheckBox::PreSubclassWindow()
-{
-    m_bHot = FALSE; // no leave notification comes from the former window
-    m_bSecondClick = FALSE;
-}
-
 LRESULT CCheckBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (IsFocusChange(message)) {
@@ -176,6 +170,9 @@ LRESULT CCheckBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     }
     if (message == BM_GETCHECK) {
         return m_bChecked ? BST_CHECKED : BST_UNCHECKED;
+    }
+    if (message == WM_NCDESTROY) {
+        m_bHot = m_bSecondClick = FALSE; // nothing that this window was waiting for comes any more
     }
     return CButton::WindowProc(message, wParam, lParam);
 }
@@ -260,11 +257,6 @@ LRESULT CCheckBox::OnMouseLeave(WPARAM, LPARAM)
 
 CRadioBox::CRadioBox() : m_bChecked(FALSE), m_bHot(FALSE) {}
 
-void CRadioBox::PreSubclassWindow()
-{
-    m_bHot = FALSE; // no leave notification comes from the former window
-}
-
 LRESULT CRadioBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (IsFocusChange(message)) {
@@ -276,6 +268,9 @@ LRESULT CRadioBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     }
     if (message == BM_GETCHECK) {
         return m_bChecked ? BST_CHECKED : BST_UNCHECKED;
+    }
+    if (message == WM_NCDESTROY) {
+        m_bHot = FALSE; // no leave notification comes any more
     }
     return CButton::WindowProc(message, wParam, lParam);
 }

@@ -26,9 +26,6 @@ class QORUI_API CCheckBox : public CButton
     /** Draws the focus rectangle on the window, or removes it; does nothing without window. */
     void DrawFocus();
 
-    /** Forgets what the mouse did to a former window; the checked state stays. */
-    void PreSubclassWindow() override;
-
   protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
@@ -71,9 +68,6 @@ class QORUI_API CRadioBox : public CButton
 
     /** Unchecks the other buttons of the dialog group and makes them no tab stops. */
     void UncheckOtherRadio();
-
-    /** As `CCheckBox::PreSubclassWindow`. */
-    void PreSubclassWindow() override;
 
   protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -67,7 +67,6 @@ bool RegisterNamedClass(LPCWSTR name)
     return AfxRegisterClass(&wndClass) != FALSE;
 }
 
-/** @return the name of the framework's class, or null: a window that cannot be created is not to end the program. */
 void DrawBanner(CDC& dc)
 {
     const UINT id = QorGetAppIcon().flag ? IDR_PNG_BANNER2 : IDR_PNG_BANNER;
