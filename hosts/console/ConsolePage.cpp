@@ -13,6 +13,7 @@ BEGIN_MESSAGE_MAP(CConsolePage, CWnd)
     ON_WM_ERASEBKGND()
     ON_WM_CTLCOLOR()
     ON_MESSAGE(WM_GETFONT, &CConsolePage::OnGetFont)
+    ON_MESSAGE(WM_NEXTDLGCTL, &CConsolePage::OnNextDlgCtl)
     ON_MESSAGE(WM_DRAWPARENTBACK, &CConsolePage::OnDrawParentBack)
 END_MESSAGE_MAP()
 
@@ -144,6 +145,12 @@ HBRUSH CConsolePage::OnCtlColor(CDC* dc, CWnd* wnd, UINT kind)
     }
     dc->SetBkMode(TRANSPARENT);
     return QorGetDlgBkBrush();
+}
+
+/** Multi-line edits keep Tab from the dialog keys and ask their parent to move the focus on. */
+LRESULT CConsolePage::OnNextDlgCtl(WPARAM control, LPARAM isHandle)
+{
+    return GetParent()->SendMessage(WM_NEXTDLGCTL, control, isHandle);
 }
 
 LRESULT CConsolePage::OnDrawParentBack(WPARAM dc, LPARAM control)

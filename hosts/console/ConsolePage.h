@@ -74,6 +74,7 @@ class CConsolePage : public CWnd
     afx_msg void OnPaint();
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* wnd, UINT kind);
     afx_msg LRESULT OnGetFont(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnNextDlgCtl(WPARAM control, LPARAM isHandle);
     afx_msg LRESULT OnDrawParentBack(WPARAM dc, LPARAM control);
     DECLARE_MESSAGE_MAP()
 
