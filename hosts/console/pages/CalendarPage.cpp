@@ -16,6 +16,9 @@ constexpr UINT kEarlier = 2611;
 constexpr UINT kLater = 2612;
 constexpr UINT kToday = 2613;
 constexpr UINT kResult = 2614;
+constexpr UINT kPrevious = 2615;
+constexpr UINT kNext = 2616;
+constexpr UINT kLonger = 2617;
 
 constexpr int kLeft = 12;
 constexpr int kTop = 40;
@@ -136,6 +139,10 @@ class CCalendarPage : public CConsolePage
         ShowResult();
     }
 
+    afx_msg void OnPrevious() { SelectOther(-1, -1); }
+    afx_msg void OnNext() { SelectOther(1, 1); }
+    afx_msg void OnLonger() { SelectOther(0, 1); }
+
     afx_msg void OnPicked(NMHDR* /*header*/, LRESULT* result)
     {
         ShowResult();
@@ -177,7 +184,27 @@ class CCalendarPage : public CConsolePage
         const CRect right(kSideLeft + 108, y, kSideLeft + 208, y + 21);
         return AddPush(ConText(L"STR_CON_CAL_EARLIER"), left, kEarlier) &&
                AddPush(ConText(L"STR_CON_CAL_LATER"), right, kLater) &&
-               AddPush(ConText(L"STR_CON_CAL_TODAY"), left + CPoint(0, 30), kToday);
+               AddPush(ConText(L"STR_CON_CAL_TODAY"), left + CPoint(0, 30), kToday) &&
+               AddPush(ConText(L"STR_CON_CAL_LONGER"), right + CPoint(0, 30), kLonger) &&
+               AddPush(ConText(L"STR_CON_CAL_PREVIOUS"), left + CPoint(0, 60), kPrevious) &&
+               AddPush(ConText(L"STR_CON_CAL_NEXT"), right + CPoint(0, 60), kNext);
+    }
+
+    /** Moves the ends of the selection, which only the mouse can do in the calendar itself. */
+    void SelectOther(int startDays, int endDays)
+    {
+        COleDateTime end;
+        COleDateTime start = m_calendar->GetSelDate(&end);
+        if (start.GetStatus() != COleDateTime::valid) {
+            OnToday();
+            return;
+        }
+        start += COleDateTimeSpan(startDays, 0, 0, 0);
+        end += COleDateTimeSpan(endDays, 0, 0, 0);
+        if ((end - start).GetTotalDays() < kMostDays[m_days]) {
+            m_calendar->SetSelDate(start, end);
+        }
+        ShowResult();
     }
 
     void Choose(UINT first, UINT last, UINT index) { CheckRadioButton(first, last, first + index); }
@@ -237,6 +264,9 @@ BEGIN_MESSAGE_MAP(CCalendarPage, CConsolePage)
     ON_BN_CLICKED(kEarlier, &CCalendarPage::OnEarlier)
     ON_BN_CLICKED(kLater, &CCalendarPage::OnLater)
     ON_BN_CLICKED(kToday, &CCalendarPage::OnToday)
+    ON_BN_CLICKED(kPrevious, &CCalendarPage::OnPrevious)
+    ON_BN_CLICKED(kNext, &CCalendarPage::OnNext)
+    ON_BN_CLICKED(kLonger, &CCalendarPage::OnLonger)
     ON_NOTIFY(NM_CLICK, kCalendar, &CCalendarPage::OnPicked)
     ON_NOTIFY(NM_DBLCLK, kCalendar, &CCalendarPage::OnPicked)
 END_MESSAGE_MAP()

@@ -13,6 +13,7 @@ constexpr UINT kVisited = 3006;
 constexpr UINT kAutoSize = 3007;
 constexpr UINT kLabel = 3008;
 constexpr UINT kResult = 3009;
+constexpr UINT kClickLabel = 3010;
 
 constexpr LPCWSTR kSite = L"http://www.example.org/help";
 constexpr int kLeft = 12;
@@ -300,6 +301,7 @@ class CLinksPage : public CConsolePage
         const CRect box(kFieldLeft, kLiveTop + 64, kFieldLeft + 150, kLiveTop + 82);
         if (!AddPush(ConText(L"STR_CON_LINK_SET"), button, kSet) ||
             !AddPush(ConText(L"STR_CON_LINK_OPEN"), button + CPoint(140, 0), kOpen) ||
+            !AddPush(ConText(L"STR_CON_LINK_CLICK"), button + CPoint(0, 32), kClickLabel) ||
             !AddCheck(ConText(L"STR_CON_LINK_UNDERLINE"), box, kUnderlined) ||
             !AddCheck(ConText(L"STR_CON_LINK_SEEN"), box + CPoint(160, 0), kVisited) ||
             !AddCheck(ConText(L"STR_CON_LINK_SIZE"), box + CPoint(320, 0), kAutoSize)) {
@@ -320,6 +322,7 @@ BEGIN_MESSAGE_MAP(CLinksPage, CConsolePage)
     ON_BN_CLICKED(kUnderlined, &CLinksPage::OnUnderlined)
     ON_BN_CLICKED(kVisited, &CLinksPage::OnVisited)
     ON_BN_CLICKED(kAutoSize, &CLinksPage::OnAutoSize)
+    ON_BN_CLICKED(kClickLabel, &CLinksPage::OnLabel)
     ON_CONTROL(STN_CLICKED, kLabel, &CLinksPage::OnLabel)
 END_MESSAGE_MAP()
 

@@ -9,9 +9,11 @@ constexpr UINT kChecks = 2702;
 constexpr UINT kFill = 2703;
 constexpr UINT kRemove = 2704;
 constexpr UINT kState = 2705;
+constexpr UINT kOrder = 2706;
 
 constexpr int kLeft = 12;
 constexpr int kRight = 716;
+constexpr int kColumns = 3;
 constexpr int kRows = 100000;
 constexpr int kShownRows = 12; // in the picture with check boxes
 
@@ -105,6 +107,14 @@ class CListPage : public CConsolePage
         *result = 0;
     }
 
+    /** What clicks on the header do, from the keyboard: the other direction, then the next column. */
+    afx_msg void OnOrder()
+    {
+        int direction = 0;
+        const int column = m_list.GetSortColumn(&direction);
+        Sort(direction ? column : (column + 1) % kColumns, direction ? 0 : 1);
+    }
+
     /** Gives the texts of the rows that are shown. */
     afx_msg void OnText(NMHDR* header, LRESULT* result)
     {
@@ -123,7 +133,8 @@ class CListPage : public CConsolePage
         return AddCheck(ConText(L"STR_CON_ROW_CHECKS"), CRect(kLeft, 492, 232, 509), kChecks) &&
                AddPush(ConText(L"STR_CON_ROWS_FILL"), CRect(kLeft, 520, 152, 541), kFill) &&
                AddPush(ConText(L"STR_CON_ROWS_REMOVE"), CRect(162, 520, 302, 541), kRemove) &&
-               AddLabel(L"", CRect(320, 492, kRight, 509), kState);
+               AddPush(ConText(L"STR_CON_ROWS_ORDER"), CRect(312, 520, 452, 541), kOrder) &&
+               AddLabel(L"", CRect(320, 494, kRight, 511), kState);
     }
 
     static CString TextOf(int record, int column)
@@ -193,6 +204,7 @@ BEGIN_MESSAGE_MAP(CListPage, CConsolePage)
     ON_BN_CLICKED(kChecks, &CListPage::OnChecks)
     ON_BN_CLICKED(kFill, &CListPage::OnFill)
     ON_BN_CLICKED(kRemove, &CListPage::OnRemove)
+    ON_BN_CLICKED(kOrder, &CListPage::OnOrder)
     ON_NOTIFY(LVN_COLUMNCLICK, kList, &CListPage::OnColumn)
     ON_NOTIFY(LVN_GETDISPINFOW, kList, &CListPage::OnText)
 END_MESSAGE_MAP()
