@@ -1,8 +1,5 @@
-#include <hosts/console/ConsoleFrame.h>
 #include <hosts/console/ConsoleText.h>
-#include <tests/support/Support.h>
-
-#include <QorApi/QorApi.h>
+#include <tests/hosts/PagesFixture.h>
 
 #include <algorithm>
 #include <array>
@@ -10,73 +7,6 @@
 
 namespace
 {
-
-constexpr UINT kPageList = 2000; // of the frame
-constexpr int kMostTabStops = 20;
-
-/** The console's main window in this process, with a store of sample data, worked by mouse and keyboard. */
-class Pages : public testing::Test
-{
-  protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(QorSetLanguage(L"en"));
-        ASSERT_EQ(0u, QorOpen());
-        ASSERT_EQ(0u, QorLogonUser(QORUSER_BUILTIN_NAME, L""));
-        ASSERT_EQ(0u, QorFillDemoStore());
-        QorLogoff();
-        ASSERT_TRUE(m_frame.Create());
-        m_frame.ShowWindow(SW_SHOW);
-        ASSERT_TRUE(ts::BringToFront(m_frame));
-        ts::SetPreTranslate([this](MSG& msg) { return CWnd::WalkPreTranslateTree(m_frame, &msg) != FALSE; });
-    }
-
-    void TearDown() override
-    {
-        if (m_frame.m_hWnd) {
-            m_frame.DestroyWindow();
-        }
-        QorClose();
-    }
-
-    void Show(const wchar_t* page)
-    {
-        ASSERT_TRUE(m_frame.ShowPage(static_cast<size_t>(CConsoleFrame::FindPage(page))));
-        ::SetFocus(::GetDlgItem(m_frame, kPageList));
-        ts::Settle();
-    }
-
-    HWND Control(UINT id) { return ::GetDlgItem(*m_frame.CurrentPage(), static_cast<int>(id)); }
-
-    template <class T>
-    T& ControlAs(UINT id)
-    {
-        return static_cast<T&>(*CWnd::FromHandlePermanent(Control(id)));
-    }
-
-    /** Presses Tab until a control of the page has the focus. */
-    testing::AssertionResult TabTo(UINT id)
-    {
-        for (int i = 0; i < kMostTabStops; ++i) {
-            if (::GetFocus() == Control(id)) {
-                return testing::AssertionSuccess();
-            }
-            ts::Key(VK_TAB);
-        }
-        return testing::AssertionFailure() << "Tab does not lead to control " << id;
-    }
-
-    static CString TextOf(HWND window)
-    {
-        CString text;
-        CWnd::FromHandle(window)->GetWindowText(text);
-        return text;
-    }
-
-    ts::TempFolder m_folder;
-    ts::EnvironmentVariable m_store{L"QOR_STORE", m_folder.File(L"store.db").c_str()};
-    CConsoleFrame m_frame;
-};
 
 TEST_F(Pages, ArrowKeysInTheListOfPagesShowThem)
 {
@@ -159,6 +89,7 @@ class ListPage : public Pages
     static constexpr UINT kFill = 2703;
     static constexpr UINT kRemove = 2704;
     static constexpr UINT kState = 2705;
+    static constexpr UINT kOrder = 2706;
 
     void SetUp() override
     {
@@ -279,6 +210,19 @@ TEST_F(ListPage, WorksByKeyboardAlone)
     EXPECT_TRUE(List().GetCheck(1));
     ts::Key(VK_SPACE);
     EXPECT_FALSE(List().GetCheck(1));
+}
+
+TEST_F(ListPage, IsSortedByKeyboard)
+{
+    ASSERT_TRUE(TabTo(kOrder));
+    for (const int column : {0, 1, 2}) {
+        ts::Key(VK_SPACE);
+        EXPECT_TRUE(HeaderShows(column, 0));
+        const std::vector<int> descending = Numbers(column);
+        EXPECT_TRUE(std::is_sorted(descending.rbegin(), descending.rend())) << column;
+        ts::Key(VK_RETURN);
+        EXPECT_TRUE(HeaderShows((column + 1) % 3, 1));
+    }
 }
 
 TEST_F(ListPage, RowsAreRemovedAndFilledByKeyboard)
