@@ -177,6 +177,8 @@ int TakeShots(CConsoleFrame& frame, const CString& folder)
         ConsoleWriteLine(STD_ERROR_HANDLE, CString(L"the folder cannot be made: ") + full);
         return 1;
     }
+    // What the pointer happens to rest on would look different.
+    ::SetCursorPos(::GetSystemMetrics(SM_CXSCREEN) - 1, ::GetSystemMetrics(SM_CYSCREEN) - 1);
     frame.ShowWindow(SW_SHOW);
     Settle();
     return ShotsWalk(frame, full).Run();

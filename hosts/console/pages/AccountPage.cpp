@@ -32,8 +32,8 @@ class CAccountPage : public CConsolePage
   protected:
     bool Build() override
     {
-        if (!AddCaption(ConText(L"STR_CON_NAME"), CRect(12, 48, 110, 64)) || !AddEdit(CRect(120, 45, 320, 65), kName) ||
-            !AddCaption(ConText(L"STR_CON_PASSWORD"), CRect(12, 76, 110, 92)) ||
+        if (!AddCaption(ConText(L"STR_CON_NAME"), CRect(12, 45, 110, 61)) || !AddEdit(CRect(120, 45, 320, 65), kName) ||
+            !AddCaption(ConText(L"STR_CON_PASSWORD"), CRect(12, 73, 110, 89)) ||
             !AddEdit(CRect(120, 73, 320, 93), kPassword, ES_AUTOHSCROLL | ES_PASSWORD) ||
             !AddPush(ConText(L"STR_CON_LOGON"), CRect(120, 106, 220, 127), kLogon) ||
             !AddPush(ConText(L"STR_CON_LOGOFF"), CRect(230, 106, 330, 127), kLogoff) ||

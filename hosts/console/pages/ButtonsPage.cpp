@@ -2,6 +2,8 @@
 #include "../ConsoleText.h"
 #include "../res/ConsoleResource.h"
 
+#include <type_traits>
+
 namespace
 {
 
@@ -57,7 +59,17 @@ class Sample : public Button
         if (m_frozen && (mouse || message == WM_MOUSELEAVE)) {
             return 0;
         }
-        return Button::WindowProc(message, wParam, lParam);
+        const bool paint = message == WM_PAINT && m_look == Look::Focused;
+        if (paint) {
+            this->Invalidate(FALSE); // a part of the focus rectangle drawn twice would vanish
+        }
+        const LRESULT result = Button::WindowProc(message, wParam, lParam);
+        if constexpr (std::is_same_v<Button, CCheckBox> || std::is_same_v<Button, CRadioBox>) {
+            if (paint) {
+                this->DrawFocus();
+            }
+        }
+        return result;
     }
 
   private:
@@ -114,14 +126,16 @@ class CButtonsPage : public CConsolePage
         {
             LPCWSTR key;
             int top;
+            int height;
         };
         static constexpr RowName rows[] = {
-            {L"STR_CON_PUSH", kRowPush},       {L"STR_CON_CHECK", kRowCheck},        {L"STR_CON_CHECKED", kRowChecked},
-            {L"STR_CON_RADIO", kRowRadio},     {L"STR_CON_RADIO_SET", kRowRadioSet}, {L"STR_CON_BITMAP", kRowBitmap},
-            {L"STR_CON_COMMAND", kRowCommand},
+            {L"STR_CON_PUSH", kRowPush, 20},          {L"STR_CON_CHECK", kRowCheck, 16},
+            {L"STR_CON_CHECKED", kRowChecked, 16},    {L"STR_CON_RADIO", kRowRadio, 16},
+            {L"STR_CON_RADIO_SET", kRowRadioSet, 16}, {L"STR_CON_BITMAP", kRowBitmap, 16},
+            {L"STR_CON_COMMAND", kRowCommand, 20},
         };
         for (const RowName& row : rows) {
-            CRect cell(12, row.top, kColumnLeft - 4, row.top + 20);
+            CRect cell(12, row.top, kColumnLeft - 4, row.top + row.height);
             dc.DrawText(ConText(row.key), -1, cell, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
         }
         DrawHeading(dc, ConText(L"STR_CON_TRY"), CRect(12, kLiveTop - 30, client.right - 16, kLiveTop - 10));

@@ -94,9 +94,9 @@ class CClockPage : public CConsolePage
     {
         const bool made =
             AddLabel(L"", CRect(kSide, kTop, kSide + 240, kTop + 18), kTime) &&
-            AddCaption(ConText(L"STR_CON_CLK_HOUR"), CRect(kSide, kTop + 30, kSide + 70, kTop + 50)) &&
+            AddCaption(ConText(L"STR_CON_CLK_HOUR"), CRect(kSide, kTop + 30, kSide + 70, kTop + 46)) &&
             AddEdit(CRect(kSide + 74, kTop + 30, kSide + 114, kTop + 50), kHour, ES_NUMBER) &&
-            AddCaption(ConText(L"STR_CON_CLK_MINUTE"), CRect(kSide + 126, kTop + 30, kSide + 196, kTop + 50)) &&
+            AddCaption(ConText(L"STR_CON_CLK_MINUTE"), CRect(kSide + 126, kTop + 30, kSide + 196, kTop + 46)) &&
             AddEdit(CRect(kSide + 200, kTop + 30, kSide + 240, kTop + 50), kMinute, ES_NUMBER);
         if (made) {
             SetDlgItemInt(kHour, 9);
