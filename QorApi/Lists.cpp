@@ -19,7 +19,7 @@ DWORD ListRecords(CDatabase& db, const char* sql, std::vector<BYTE>& records)
     CQuery query(db, sql);
     while (query.Next()) {
         Record record;
-        query.GetRecord(0, &record, sizeof(record));
+        query.GetRecord(0, record);
         Append(records, record);
     }
     return db.GetStatus();

@@ -1,14 +1,5 @@
 #include "Records.h"
 
-DWORD CRecordTable::Load(CDatabase& db, WORD number, void* record) const
-{
-    CQuery query(db, Sql("SELECT record FROM ", " WHERE number = ?1").c_str());
-    if (!query.Bind(1, number).Next())
-        return db.GetStatus() ? db.GetStatus() : ERROR_NOT_FOUND;
-    query.GetRecord(0, record, m_recordSize);
-    return db.GetStatus();
-}
-
 DWORD CRecordTable::Store(CDatabase& db, WORD number, const void* record) const
 {
     return CQuery(db, Sql("INSERT OR REPLACE INTO ", " VALUES(?1, ?2)").c_str())

@@ -13,7 +13,15 @@ class CRecordTable
     }
 
     /** @return ERROR_NOT_FOUND, or the database's status. */
-    DWORD Load(CDatabase& db, WORD number, void* record) const;
+    template <class Record>
+    DWORD Load(CDatabase& db, WORD number, Record& record) const
+    {
+        CQuery query(db, Sql("SELECT record FROM ", " WHERE number = ?1").c_str());
+        if (!query.Bind(1, number).Next())
+            return db.GetStatus() ? db.GetStatus() : ERROR_NOT_FOUND;
+        query.GetRecord(0, record);
+        return db.GetStatus();
+    }
     DWORD Store(CDatabase& db, WORD number, const void* record) const;
     /** @return ERROR_NOT_FOUND, or the database's status. */
     DWORD Delete(CDatabase& db, WORD number) const;

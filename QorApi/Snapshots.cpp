@@ -32,7 +32,7 @@ DWORD Clean(const _QORVEX_SNAP& snapshot, _QORVEX_SNAP& clean)
 DWORD LoadFor(CDatabase& db, DWORD right, WORD number, _QORVEX_SNAP& snapshot)
 {
     const DWORD status = NeedRights(db, right);
-    return status ? status : SNAPSHOT_TABLE.Load(db, number, &snapshot);
+    return status ? status : SNAPSHOT_TABLE.Load(db, number, snapshot);
 }
 
 /** Changes one snapshot with the right to take them. */

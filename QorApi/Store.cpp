@@ -294,7 +294,7 @@ std::vector<BYTE> CQuery::GetBlob(int column) const
     return data ? std::vector<BYTE>(data, data + size) : std::vector<BYTE>();
 }
 
-void CQuery::GetRecord(int column, void* record, size_t size) const
+void CQuery::ReadRecord(int column, void* record, size_t size) const
 {
     const std::vector<BYTE> blob = GetBlob(column);
     if (blob.size() == size) {

@@ -4,6 +4,8 @@
 
 #include <sqlite3.h>
 
+#include <cwchar>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -71,10 +73,20 @@ class CQuery
     long long GetNumber(int column) const;
     CString GetText(int column) const;
     std::vector<BYTE> GetBlob(int column) const;
-    /** A blob of exactly the size; any other notes the store as damaged and gives zeros. */
-    void GetRecord(int column, void* record, size_t size) const;
+    /** A blob of exactly the record's size whose name ends; any other notes the store as damaged and gives zeros. */
+    template <class Record>
+    void GetRecord(int column, Record& record) const
+    {
+        ReadRecord(column, &record, sizeof(record));
+        if (wmemchr(record.szName, 0, std::size(record.szName)) != nullptr)
+            return;
+        record = {};
+        m_db.SetDamaged();
+    }
 
   private:
+    void ReadRecord(int column, void* record, size_t size) const;
+
     CDatabase& m_db;
     sqlite3_stmt* m_statement = nullptr;
 };

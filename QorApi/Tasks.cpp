@@ -51,7 +51,7 @@ DWORD LoadOwn(CDatabase& db, WORD number, _QORVEX_TASK& task)
     ACCOUNT user;
     DWORD status = CSession::GetUser(db, user);
     if (status == 0)
-        status = TASK_TABLE.Load(db, number, &task);
+        status = TASK_TABLE.Load(db, number, task);
     return status ? status : NeedRightFor(db, task);
 }
 
@@ -60,7 +60,7 @@ DWORD LoadOwn(CDatabase& db, WORD number, _QORVEX_TASK& task)
 DWORD QorGetTask(_QORVEX_TASK& task)
 {
     _QORVEX_TASK found = {};
-    const DWORD status = ReadStore([&](CDatabase& db) { return TASK_TABLE.Load(db, task.wNumber, &found); });
+    const DWORD status = ReadStore([&](CDatabase& db) { return TASK_TABLE.Load(db, task.wNumber, found); });
     if (status == 0)
         task = found;
     return status;

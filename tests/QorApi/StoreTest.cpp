@@ -333,6 +333,22 @@ TEST_F(StoreFileTest, RecordOfAnotherSizeGivesAnError)
     EXPECT_EQ(QorGetTask(task), 0U);
 }
 
+TEST_F(StoreFileTest, RecordWhoseNameDoesNotEndGivesAnError)
+{
+    MakeStore();
+    RawDatabase(StorePath()).Run(("UPDATE task SET record = x'" + std::string(256, '4') + "'").c_str());
+    RawDatabase(StorePath()).Run(("UPDATE snapshot SET record = x'" + std::string(512, '4') + "'").c_str());
+    _QORVEX_TASK task = {};
+    task.wNumber = 1;
+    EXPECT_EQ(QorGetTask(task), CORRUPT);
+    EXPECT_EQ(task.szName[0], 0);
+    EXPECT_EQ(QorGetAllInfo(QORLIST_TASKS, 128, nullptr, 0), nullptr);
+    EXPECT_EQ(GetLastError(), CORRUPT);
+    EXPECT_EQ(QorGetAllInfo(QORLIST_SNAPSHOTS, 256, nullptr, 0), nullptr);
+    EXPECT_EQ(GetLastError(), CORRUPT);
+    EXPECT_EQ(QorLockSnapshot(1, TRUE), CORRUPT);
+}
+
 TEST_F(StoreFileTest, DamagedPasswordHashGivesAnError)
 {
     MakeStore();
