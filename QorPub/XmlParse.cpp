@@ -4,15 +4,19 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstring>
+#include <iterator>
 #include <sstream>
+#include <string_view>
 
 namespace qor::xml
 {
 namespace
 {
 
-constexpr unsigned PARSE_FLAGS = pugi::parse_default | pugi::parse_ws_pcdata_single | pugi::parse_fragment;
+// References are replaced here: the parser would take one to the null character for the end of the text.
+constexpr unsigned PARSE_FLAGS =
+    (pugi::parse_default & ~pugi::parse_escapes) | pugi::parse_ws_pcdata_single | pugi::parse_fragment;
+constexpr uint32_t LAST_CODE = 0x10FFFF;
 
 bool Fail(Error& error, const char* message, size_t offset)
 {
@@ -30,6 +34,11 @@ pugi::xml_encoding FindEncoding(const uint8_t* data, size_t size)
     if ((data[0] == 0xFE && data[1] == 0xFF) || (data[0] == 0 && data[1] != 0))
         return pugi::encoding_utf16_be;
     return pugi::encoding_utf8;
+}
+
+bool IsCharacter(uint32_t code)
+{
+    return code != 0 && code <= LAST_CODE && (code < 0xD800 || code > 0xDFFF);
 }
 
 /** Smallest code point that needs a UTF-8 sequence of this length. */
@@ -64,8 +73,7 @@ size_t ValidUtf8Sequence(const uint8_t* data, size_t size)
             return 0;
         code = code << 6 | (data[i] & 0x3F);
     }
-    bool surrogate = code >= 0xD800 && code <= 0xDFFF;
-    return code < SmallestOfLength(length) || code > 0x10FFFF || surrogate ? 0 : static_cast<size_t>(length);
+    return code < SmallestOfLength(length) || !IsCharacter(code) ? 0 : static_cast<size_t>(length);
 }
 
 bool CheckUtf8(const uint8_t* data, size_t size, Error& error)
@@ -113,14 +121,82 @@ bool IsText(const pugi::xml_node& node)
     return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
 }
 
-/** Takes over a text; character references may have made something that is no UTF-8. */
-bool TakeText(const char* from, std::string& to, Error& error)
+void AppendUtf8(std::string& text, uint32_t code)
 {
-    size_t size = strlen(from);
-    if (!CheckUtf8(reinterpret_cast<const uint8_t*>(from), size, error))
-        return Fail(error, "A reference to what is no character", 0);
-    to.append(from, size);
-    return true;
+    constexpr uint32_t marks[] = {0, 0, 0xC0, 0xE0, 0xF0};
+    int length = 1;
+    while (length < 4 && code >= SmallestOfLength(length + 1))
+        ++length;
+    if (length == 1) {
+        text += static_cast<char>(code);
+        return;
+    }
+    int shift = 6 * (length - 1);
+    text += static_cast<char>(marks[length] | code >> shift);
+    while (shift > 0) {
+        shift -= 6;
+        text += static_cast<char>(0x80 | (code >> shift & 0x3F));
+    }
+}
+
+int DigitValue(char digit)
+{
+    if (digit >= '0' && digit <= '9')
+        return digit - '0';
+    if (digit >= 'a' && digit <= 'f')
+        return digit - 'a' + 10;
+    return digit >= 'A' && digit <= 'F' ? digit - 'A' + 10 : 16;
+}
+
+/** Number of a character: decimal, or hexadecimal behind an "x". False when it is no number. */
+bool ReadCode(std::string_view number, uint32_t& code)
+{
+    bool hex = !number.empty() && number.front() == 'x';
+    if (hex)
+        number.remove_prefix(1);
+    int base = hex ? 16 : 10;
+    code = 0;
+    for (char digit : number) {
+        if (DigitValue(digit) >= base)
+            return false;
+        code = (std::min)(code * base + DigitValue(digit), LAST_CODE + 1);
+    }
+    return !number.empty();
+}
+
+/** What the reference between "&" and ";" stands for; false when it is none. */
+bool ReadReference(std::string_view reference, uint32_t& code)
+{
+    static constexpr std::pair<std::string_view, char> names[] = {
+        {"amp", '&'}, {"lt", '<'}, {"gt", '>'}, {"quot", '"'}, {"apos", '\''}};
+    if (!reference.empty() && reference.front() == '#')
+        return ReadCode(reference.substr(1), code);
+    auto known = std::find_if(std::begin(names), std::end(names), [&](auto& name) { return name.first == reference; });
+    if (known != std::end(names))
+        code = static_cast<uint32_t>(known->second);
+    return known != std::end(names);
+}
+
+/** Takes over a text with its references replaced; what only looks like one stays as it is. */
+bool TakeText(std::string_view from, std::string& to, Error& error)
+{
+    for (;;) {
+        size_t start = from.find('&');
+        to.append(from.substr(0, start));
+        if (start == std::string_view::npos)
+            return true;
+        from.remove_prefix(start + 1);
+        size_t length = from.find_first_of("&;");
+        uint32_t code = 0;
+        if (length == std::string_view::npos || from[length] != ';' || !ReadReference(from.substr(0, length), code)) {
+            to += '&';
+            continue;
+        }
+        if (!IsCharacter(code))
+            return Fail(error, "A reference to what is no character", 0);
+        AppendUtf8(to, code);
+        from.remove_prefix(length + 1);
+    }
 }
 
 bool ConvertAttrs(const pugi::xml_node& from, Node& to, Error& error)
@@ -143,7 +219,9 @@ bool Convert(const pugi::xml_node& from, int depth, Node& to, Error& error)
     if (!ConvertAttrs(from, to, error))
         return false;
     for (const pugi::xml_node& child : from.children()) {
-        if (IsText(child) && !TakeText(child.value(), to.text, error))
+        if (child.type() == pugi::node_cdata)
+            to.text += child.value();
+        else if (IsText(child) && !TakeText(child.value(), to.text, error))
             return false;
         if (child.type() == pugi::node_element && !Convert(child, depth + 1, to.children.emplace_back(), error))
             return false;

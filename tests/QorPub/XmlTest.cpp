@@ -200,6 +200,15 @@ TEST(CQorXml, TextKeepsEntitiesCdataAndLineFeeds)
     EXPECT_STREQ(L"\"\u4E2D", xml.GetRoot()->GetAttr(L"t"));
 }
 
+TEST(CQorXml, OnlyWhatIsAReferenceIsReplaced)
+{
+    CQorXml xml;
+    ASSERT_EQ(0u, LoadText(xml, "<a t='&#65;&#x7F;&#xe4;&#x4E2d;&#128512;&apos;'>&&amp;amp;&no;&#;&#x;&#1a;&#X41; &lt"
+                                "<![CDATA[&#0;&lt;]]></a>"));
+    EXPECT_STREQ(L"A\x7F\u00E4\u4E2D\U0001F600'", xml.GetRoot()->GetAttr(L"t"));
+    EXPECT_STREQ(L"&&amp;&no;&#;&#x;&#1a;&#X41; &lt&#0;&lt;", xml.GetRoot()->GetData());
+}
+
 TEST(CQorXml, BlanksCountOnlyWhereThereIsNothingElse)
 {
     CQorXml xml;
@@ -231,6 +240,13 @@ TEST(CQorXml, DamagedDocumentsAreRefusedWithAReason)
         "<a><![CDATA[open</a>",
         "<a>&#xD800;</a>",
         "<a b='&#x666656666;'/>",
+        "<a>AB&#0;CD</a>",
+        "<a>&#x0;</a>",
+        "<a>&#00000;</a>",
+        "<a b='1&#0;2'/>",
+        "<a b='&#x000;'/>",
+        ToUtf16(L"<a>&#0;</a>", true),
+        "<a/>&#32;",
         "<a>\xFF</a>",
         "<a>\xC0\x80</a>",
         "<a>\xED\xA0\x80</a>",
