@@ -8,7 +8,7 @@ constexpr ULONGLONG UNIT_STEP = 1024;
 CString LocaleText(LCTYPE type, LPCWSTR fallback)
 {
     WCHAR text[8] = {};
-    return GetLocaleInfoW(LOCALE_USER_DEFAULT, type, text, ARRAYSIZE(text)) > 1 ? text : fallback;
+    return GetLocaleInfoW(LOCALE_USER_DEFAULT, type, text, ARRAYSIZE(text)) != 0 ? text : fallback;
 }
 
 /** Digits with a separator before each group of three. */

@@ -1,4 +1,5 @@
 #include <QorPub/QorPub.h>
+#include <tests/support/Locale.h>
 
 #include <gtest/gtest.h>
 
@@ -110,6 +111,18 @@ TEST(QorFormatSize, LargestNumberDoesNotOverflow)
 {
     EXPECT_STREQ(Localized(L"15.9 EB").GetString(), QorFormatSize(~0ULL).GetString());
     EXPECT_STREQ(Localized(L"1.50 EB").GetString(), QorFormatSize(3ULL << 59).GetString());
+}
+
+TEST(QorFormatSize, SeparatorsAreThoseOfTheUser)
+{
+    const ts::UserLocaleValue decimal(LOCALE_SDECIMAL, L":");
+    {
+        const ts::UserLocaleValue none(LOCALE_STHOUSAND, L"");
+        EXPECT_STREQ(L"1000 bytes", QorFormatSize(1000));
+    }
+    const ts::UserLocaleValue apostrophe(LOCALE_STHOUSAND, L"'");
+    EXPECT_STREQ(L"1'000 bytes", QorFormatSize(1000));
+    EXPECT_STREQ(L"1:00 KB", QorFormatSize(1024));
 }
 
 TEST(QorFindExtName, FindsAnExtensionOfTheList)
