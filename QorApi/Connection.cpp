@@ -1,5 +1,7 @@
 #include "Store.h"
 
+#include <QorPub/Guard.h>
+
 #include <memory>
 #include <new>
 
@@ -63,19 +65,24 @@ CLinkTable& GetLinks()
     return links;
 }
 
+/** Opens the store that is meant now, unless it is open already. */
+DWORD OpenStore(CDatabase& db)
+{
+    const DWORD status = qor::GuardMemory([&] {
+        const std::wstring path = QorGetStorePath().GetString();
+        return db.IsOpen() && db.GetPath() == path ? 0 : db.Open(path);
+    });
+    if (status != 0)
+        db.Close();
+    return status;
+}
+
 DWORD RunInTransaction(CDatabase& db, bool write, StoreWork work, void* context)
 {
     DWORD status = db.Begin(write);
     if (status != 0)
         return status;
-    try {
-        status = work(db, context);
-    } catch (CException* exception) {
-        exception->Delete();
-        status = ERROR_NOT_ENOUGH_MEMORY;
-    } catch (const std::bad_alloc&) {
-        status = ERROR_NOT_ENOUGH_MEMORY;
-    }
+    status = qor::GuardMemory([&] { return work(db, context); });
     // A failed statement counts, whatever the work made of it.
     if (db.GetStatus() != 0)
         status = db.GetStatus();
@@ -90,18 +97,14 @@ DWORD RunInTransaction(CDatabase& db, bool write, StoreWork work, void* context)
 
 DWORD RunOnStore(bool write, StoreWork work, void* context)
 {
-    const std::wstring path = QorGetStorePath().GetString();
     ThreadLink* link = GetLinks().Find();
     if (!link || link->depth == 0) {
         CDatabase db;
-        const DWORD status = db.Open(path);
+        const DWORD status = OpenStore(db);
         return status ? status : RunInTransaction(db, write, work, context);
     }
-    if (!link->db.IsOpen() || link->db.GetPath() != path) {
-        if (const DWORD status = link->db.Open(path))
-            return status;
-    }
-    return RunInTransaction(link->db, write, work, context);
+    const DWORD status = OpenStore(link->db);
+    return status ? status : RunInTransaction(link->db, write, work, context);
 }
 
 DWORD QorOpen()
@@ -113,13 +116,10 @@ DWORD QorOpen()
             return ERROR_NOT_ENOUGH_MEMORY;
         link = fresh.release();
     }
-    const std::wstring path = QorGetStorePath().GetString();
-    if (!link->db.IsOpen() || link->db.GetPath() != path) {
-        if (const DWORD status = link->db.Open(path))
-            return status;
-    }
-    ++link->depth;
-    return 0;
+    const DWORD status = OpenStore(link->db);
+    if (status == 0)
+        ++link->depth;
+    return status;
 }
 
 void QorClose()

@@ -3,6 +3,8 @@
 #include "Environment.h"
 #include "FormatSignature.h"
 
+#include <QorPub/Guard.h>
+
 #include <cwctype>
 
 namespace
@@ -214,8 +216,18 @@ CLanguage& CLanguage::Get()
 
 CXmlElem* CLanguage::GetSection(LPCWSTR module, LPCWSTR section)
 {
-    if (!IsFileName(module))
-        return &m_empty;
+    CXmlElem* found = &m_empty;
+    if (IsFileName(module)) {
+        qor::GuardMemory([&] {
+            found = FindSection(module, section);
+            return static_cast<DWORD>(ERROR_SUCCESS);
+        });
+    }
+    return found;
+}
+
+CXmlElem* CLanguage::FindSection(LPCWSTR module, LPCWSTR section)
+{
     const std::lock_guard guard(m_lock);
     const std::wstring folder = GetLangFolder();
     const std::wstring locale = GetLocale();

@@ -42,12 +42,13 @@ class CLanguage
   public:
     static CLanguage& Get();
 
-    /** Never null; also for null names. */
+    /** Never null; also for null names, and when memory runs out. */
     CXmlElem* GetSection(LPCWSTR module, LPCWSTR section);
     BOOL Choose(LPCWSTR locale);
     std::wstring GetFolderName();
 
   private:
+    CXmlElem* FindSection(LPCWSTR module, LPCWSTR section);
     std::wstring GetLocale() const;
 
     std::mutex m_lock;

@@ -4,7 +4,11 @@
  * the connection to the store and the update check.
  *
  * Calls that can fail return a 32-bit status: 0 is success, anything else is a Win32 error code or an HRESULT, whose
- * text QorFormatMsg() gives. No call throws, and every call may be made from any thread.
+ * text QorFormatMsg() gives. Every call may be made from any thread.
+ *
+ * No call throws while there is memory. When it runs out, the work on the store answers ERROR_NOT_ENOUGH_MEMORY and the
+ * sections of the language data are empty; whatever else makes texts may let a std::bad_alloc or a CMemoryException*
+ * out.
  *
  * Everything that changes stored data is guarded here by a right of the logged-on user, whatever a dialog shows:
  * without a log-on such a call answers ERROR_NOT_LOGGED_ON, without the right ERROR_ACCESS_DENIED. Rights are read from

@@ -1,4 +1,5 @@
 #include <QorPub/File.h>
+#include <QorPub/Guard.h>
 #include <QorPub/QorPub.h>
 
 #include <cstdarg>
@@ -62,6 +63,16 @@ HANDLE OpenFor(LPCWSTR path, int mode)
                        mode == TEXTFILE_CREATE ? CREATE_ALWAYS : OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
+/** TRUE when the work gives no error; otherwise its status becomes the last error. */
+template <class Work>
+BOOL Succeeds(Work work)
+{
+    DWORD status = qor::GuardMemory(work);
+    if (status != ERROR_SUCCESS)
+        SetLastError(status);
+    return status == ERROR_SUCCESS;
+}
+
 } // namespace
 
 CTextFile::CTextFile() = default;
@@ -78,29 +89,34 @@ BOOL CTextFile::Open(LPCWSTR path, int mode, int encoding)
         SetLastError(ERROR_INVALID_PARAMETER);
         return FALSE;
     }
-    m_file = OpenFor(path, mode);
-    if (m_file == INVALID_HANDLE_VALUE)
-        return FALSE;
-    m_mode = mode;
-    if (mode == TEXTFILE_READ ? LoadText(encoding) : StartWriting(encoding))
+    DWORD status = qor::GuardMemory([&] { return OpenFile(path, mode, encoding); });
+    if (status == ERROR_SUCCESS)
         return TRUE;
-    DWORD error = GetLastError();
     Close();
-    SetLastError(error);
+    SetLastError(status);
     return FALSE;
 }
 
-BOOL CTextFile::LoadText(int encoding)
+DWORD CTextFile::OpenFile(LPCWSTR path, int mode, int encoding)
+{
+    m_file = OpenFor(path, mode);
+    if (m_file == INVALID_HANDLE_VALUE)
+        return GetLastError();
+    m_mode = mode;
+    if (mode == TEXTFILE_READ)
+        return LoadText(encoding);
+    return StartWriting(encoding) ? ERROR_SUCCESS : GetLastError();
+}
+
+DWORD CTextFile::LoadText(int encoding)
 {
     std::vector<BYTE> bytes;
     DWORD status = qor::ReadToEnd(m_file, READ_LIMIT, bytes);
-    if (status != ERROR_SUCCESS) {
-        SetLastError(status);
-        return FALSE;
-    }
+    if (status != ERROR_SUCCESS)
+        return status;
     m_text = Decode(bytes.data(), bytes.size(), encoding);
     m_pos = 0;
-    return TRUE;
+    return ERROR_SUCCESS;
 }
 
 BOOL CTextFile::StartWriting(int encoding)
@@ -134,10 +150,7 @@ BOOL CTextFile::IsOpen() const
 
 BOOL CTextFile::WriteBytes(const void* data, DWORD size)
 {
-    DWORD status = qor::WriteAll(m_file, data, size);
-    if (status != ERROR_SUCCESS)
-        SetLastError(status);
-    return status == ERROR_SUCCESS;
+    return Succeeds([&] { return qor::WriteAll(m_file, data, size); });
 }
 
 BOOL CTextFile::WriteString(LPCWSTR text)
@@ -150,20 +163,24 @@ BOOL CTextFile::WriteString(LPCWSTR text)
         text = L"";
     if (m_encoding == TEXTFILE_UTF16LE)
         return WriteBytes(text, static_cast<DWORD>(wcslen(text) * sizeof(WCHAR)));
-    CStringA utf8 = WStrToUTF8(text);
-    return WriteBytes(utf8.GetString(), static_cast<DWORD>(utf8.GetLength()));
+    return Succeeds([&] {
+        CStringA utf8 = WStrToUTF8(text);
+        return qor::WriteAll(m_file, utf8.GetString(), static_cast<DWORD>(utf8.GetLength()));
+    });
 }
 
 BOOL CTextFile::WriteStringV(LPCWSTR format, ...)
 {
     CString text;
-    if (format != nullptr) {
-        va_list args;
-        va_start(args, format);
-        text.FormatV(format, args);
-        va_end(args);
-    }
-    return WriteString(text);
+    va_list args;
+    va_start(args, format);
+    BOOL formatted = Succeeds([&] {
+        if (format != nullptr)
+            text.FormatV(format, args);
+        return static_cast<DWORD>(ERROR_SUCCESS);
+    });
+    va_end(args);
+    return formatted && WriteString(text);
 }
 
 BOOL CTextFile::ReadLine(CString& line)
@@ -182,10 +199,12 @@ BOOL CTextFile::ReadLine(CString& line)
     int end = m_pos;
     while (end < length && text[end] != L'\r' && text[end] != L'\n')
         ++end;
-    line = CString(text + m_pos, end - m_pos);
-    bool pair = end + 1 < length && text[end] == L'\r' && text[end + 1] == L'\n';
-    m_pos = end + (pair ? 2 : 1);
-    return TRUE;
+    return Succeeds([&] {
+        line = CString(text + m_pos, end - m_pos);
+        bool pair = end + 1 < length && text[end] == L'\r' && text[end + 1] == L'\n';
+        m_pos = end + (pair ? 2 : 1);
+        return static_cast<DWORD>(ERROR_SUCCESS);
+    });
 }
 
 BOOL CTextFile::ReadAll(CString& text)
@@ -195,9 +214,11 @@ BOOL CTextFile::ReadAll(CString& text)
         SetLastError(ERROR_INVALID_HANDLE);
         return FALSE;
     }
-    text = m_pos < m_text.GetLength() ? m_text.Mid(m_pos) : CString();
-    m_pos = m_text.GetLength();
-    return TRUE;
+    return Succeeds([&] {
+        text = m_pos < m_text.GetLength() ? m_text.Mid(m_pos) : CString();
+        m_pos = m_text.GetLength();
+        return static_cast<DWORD>(ERROR_SUCCESS);
+    });
 }
 
 BOOL CTextFile::Close()

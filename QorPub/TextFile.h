@@ -36,7 +36,8 @@ class QORPUB_API CTextFile
     CTextFile& operator=(const CTextFile&) = delete;
 
     /**
-     * Opens a file; a file that this object already has open is closed first.
+     * Opens a file; a file that this object already has open is closed first. What is opened to read is read into
+     * memory, so that more than 256 MB are refused (ERROR_FILE_TOO_LARGE).
      * @param path     the file; its folder must exist.
      * @param mode     1 read, 2 create for writing, 3 append (TextFileMode).
      * @param encoding 0 UTF-8, 1 UTF-8 with byte-order mark, 2 UTF-16 with the low byte first (TextFileEncoding). The
@@ -67,7 +68,8 @@ class QORPUB_API CTextFile
     BOOL Close();
 
   private:
-    BOOL LoadText(int encoding);
+    DWORD OpenFile(LPCWSTR path, int mode, int encoding);
+    DWORD LoadText(int encoding);
     BOOL StartWriting(int encoding);
     int FindEncoding(int encoding);
     BOOL WriteBytes(const void* data, DWORD size);

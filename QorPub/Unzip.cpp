@@ -1,4 +1,5 @@
 #include <QorPub/File.h>
+#include <QorPub/Guard.h>
 #include <QorPub/QorPub.h>
 #include <QorPub/ZipNames.h>
 
@@ -212,23 +213,13 @@ DWORD ExtractAll(LPCWSTR archive, LPCWSTR folder, bool overwrite)
     return file.ForEach([&] { return unpacker.UnpackCurrent(); });
 }
 
-} // namespace
-
-LONG CQorZip::Extract(LPCWSTR archive, LPCWSTR folder, DWORD flags)
+DWORD ListAll(LPCWSTR archive, CStringArray& names)
 {
-    // The macro evaluates its argument more than once.
-    DWORD status = ExtractAll(archive, folder, (flags & QORZIP_OVERWRITE) != 0);
-    return HRESULT_FROM_WIN32(status);
-}
-
-LONG CQorZip::List(LPCWSTR archive, CStringArray& names)
-{
-    names.RemoveAll();
     Archive file;
     DWORD status = file.Open(archive);
     if (status != ERROR_SUCCESS)
-        return HRESULT_FROM_WIN32(status);
-    status = file.ForEach([&] {
+        return status;
+    return file.ForEach([&] {
         CString name;
         uLong dosTime = 0;
         DWORD found = file.Current(name, dosTime);
@@ -236,5 +227,20 @@ LONG CQorZip::List(LPCWSTR archive, CStringArray& names)
             names.Add(name);
         return found;
     });
+}
+
+} // namespace
+
+LONG CQorZip::Extract(LPCWSTR archive, LPCWSTR folder, DWORD flags)
+{
+    // The macro evaluates its argument more than once.
+    DWORD status = qor::GuardMemory([&] { return ExtractAll(archive, folder, (flags & QORZIP_OVERWRITE) != 0); });
+    return HRESULT_FROM_WIN32(status);
+}
+
+LONG CQorZip::List(LPCWSTR archive, CStringArray& names)
+{
+    names.RemoveAll();
+    DWORD status = qor::GuardMemory([&] { return ListAll(archive, names); });
     return HRESULT_FROM_WIN32(status);
 }

@@ -1,4 +1,5 @@
 #include <QorPub/File.h>
+#include <QorPub/Guard.h>
 #include <QorPub/QorPub.h>
 #include <QorPub/XmlParse.h>
 
@@ -222,9 +223,11 @@ CQorXml::~CQorXml() = default;
 DWORD CQorXml::Load(LPCWSTR path)
 {
     Clear();
-    std::vector<BYTE> bytes;
-    DWORD status = qor::ReadWholeFile(path, qor::xml::MAX_SIZE, bytes);
-    return status == ERROR_SUCCESS ? LoadMemory(bytes.data(), bytes.size()) : status;
+    return qor::GuardMemory([&] {
+        std::vector<BYTE> bytes;
+        DWORD status = qor::ReadWholeFile(path, qor::xml::MAX_SIZE, bytes);
+        return status == ERROR_SUCCESS ? LoadMemory(bytes.data(), bytes.size()) : status;
+    });
 }
 
 DWORD CQorXml::LoadMemory(const void* data, size_t size)
@@ -232,33 +235,41 @@ DWORD CQorXml::LoadMemory(const void* data, size_t size)
     Clear();
     if (size > qor::xml::MAX_SIZE)
         return ERROR_FILE_TOO_LARGE;
-    qor::xml::Node node;
-    qor::xml::Error error;
-    if (!qor::xml::Parse(data, size, node, error)) {
-        m_error = Widen(error.message);
-        m_errorOffset = error.offset;
-        return ERROR_INVALID_DATA;
-    }
-    m_root = std::make_unique<CXmlElem>(Widen(node.name).c_str());
-    Fill(*m_root, node);
-    return ERROR_SUCCESS;
+    return qor::GuardMemory([&]() -> DWORD {
+        qor::xml::Node node;
+        qor::xml::Error error;
+        if (!qor::xml::Parse(data, size, node, error)) {
+            m_error = Widen(error.message);
+            m_errorOffset = error.offset;
+            return ERROR_INVALID_DATA;
+        }
+        auto root = std::make_unique<CXmlElem>(Widen(node.name).c_str());
+        Fill(*root, node);
+        m_root = std::move(root);
+        return ERROR_SUCCESS;
+    });
 }
 
 DWORD CQorXml::Save(LPCWSTR path) const
 {
-    CStringA text;
-    if (!SaveMemory(text))
+    if (m_root == nullptr)
         return ERROR_INVALID_DATA;
-    return qor::ReplaceWholeFile(path, text.GetString(), static_cast<DWORD>(text.GetLength()));
+    return qor::GuardMemory([&] {
+        std::string text = qor::xml::Write(ToNode(*m_root));
+        return qor::ReplaceWholeFile(path, text.data(), static_cast<DWORD>(text.size()));
+    });
 }
 
 BOOL CQorXml::SaveMemory(CStringA& text) const
 {
     if (m_root == nullptr)
         return FALSE;
-    std::string written = qor::xml::Write(ToNode(*m_root));
-    text = CStringA(written.c_str(), static_cast<int>(written.size()));
-    return TRUE;
+    DWORD status = qor::GuardMemory([&] {
+        std::string written = qor::xml::Write(ToNode(*m_root));
+        text = CStringA(written.c_str(), static_cast<int>(written.size()));
+        return static_cast<DWORD>(ERROR_SUCCESS);
+    });
+    return status == ERROR_SUCCESS;
 }
 
 CXmlElem* CQorXml::GetRoot() const

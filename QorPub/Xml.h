@@ -132,7 +132,7 @@ class QORPUB_API CQorXml
      */
     DWORD Save(LPCWSTR path) const;
 
-    /** Writes the document as UTF-8 into a string, as Save does; FALSE when there is no root. */
+    /** Writes the document as UTF-8 into a string, as Save does; FALSE when there is no root or memory runs out. */
     BOOL SaveMemory(CStringA& text) const;
 
     /** The root element, owned by the document; null when the document is empty. */

@@ -1,3 +1,4 @@
+#include <QorPub/Guard.h>
 #include <QorPub/QorPub.h>
 #include <QorPub/ZipJob.h>
 
@@ -66,12 +67,15 @@ LONG CQorZip::Start(HWND notify, LPCWSTR source, LPCWSTR archive, DWORD flags)
         return HRESULT_FROM_WIN32(ERROR_INVALID_WINDOW_HANDLE);
     if (IsRunning())
         return HRESULT_FROM_WIN32(ERROR_BUSY);
-    auto job = std::make_unique<Job>(notify, flags);
-    DWORD status = job->packer.Open(source, archive);
-    if (status == ERROR_SUCCESS && !job->StartThread())
-        status = ERROR_NOT_ENOUGH_MEMORY;
-    if (status == ERROR_SUCCESS)
-        m_job = std::move(job);
+    DWORD status = qor::GuardMemory([&] {
+        auto job = std::make_unique<Job>(notify, flags);
+        DWORD opened = job->packer.Open(source, archive);
+        if (opened == ERROR_SUCCESS && !job->StartThread())
+            opened = ERROR_NOT_ENOUGH_MEMORY;
+        if (opened == ERROR_SUCCESS)
+            m_job = std::move(job);
+        return opened;
+    });
     return HRESULT_FROM_WIN32(status);
 }
 

@@ -1,3 +1,4 @@
+#include <QorPub/Guard.h>
 #include <QorPub/QorPub.h>
 #include <QorPub/ZipJob.h>
 
@@ -137,15 +138,10 @@ DWORD ZipPacker::OpenPart()
 
 void ZipPacker::Run()
 {
-    DWORD status = ERROR_OUTOFMEMORY;
-    try {
+    DWORD status = GuardMemory([this] {
         m_block.resize(BLOCK_SIZE);
-        status = Pack();
-    } catch (const std::bad_alloc&) {
-        status = ERROR_OUTOFMEMORY;
-    } catch (CException* error) {
-        error->Delete();
-    }
+        return Pack();
+    });
     status = CloseArchive(status);
     m_result = HRESULT_FROM_WIN32(status);
     m_finished = true;

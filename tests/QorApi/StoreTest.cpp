@@ -1,5 +1,7 @@
 #include "StoreFixture.h"
 
+#include <tests/support/MemoryShortage.h>
+
 #include <sqlite3.h>
 
 #include <atomic>
@@ -404,6 +406,24 @@ TEST_F(StoreFileTest, WritingWhileAnotherWritesForLongGivesAnError)
     EXPECT_EQ(ListAll<_QORVEX_SNAP>(QORLIST_SNAPSHOTS).size(), 5U); // reading goes on
     other.Run("ROLLBACK");
     EXPECT_EQ(QorRenameSnapshot(1, L"a"), 0U);
+}
+
+TEST_F(StoreFileTest, ShortMemoryGivesAnErrorAndIsGotOver)
+{
+    MakeStore();
+    ASSERT_EQ(QorOpen(), 0U);
+    DWORD value = 0;
+    {
+        const ts::MemoryShortage shortage(L"QorApi.dll");
+        EXPECT_EQ(QorOpen(), DWORD(ERROR_NOT_ENOUGH_MEMORY));
+        EXPECT_EQ(QorGetInfo(QORINFO_KEEP_UPDATES, &value, 4), DWORD(ERROR_NOT_ENOUGH_MEMORY));
+        EXPECT_EQ(QorGetAllInfo(QORLIST_SNAPSHOTS, 256, nullptr, 0), nullptr);
+        EXPECT_EQ(GetLastError(), DWORD(ERROR_NOT_ENOUGH_MEMORY));
+    }
+    EXPECT_EQ(QorGetInfo(QORINFO_KEEP_UPDATES, &value, 4), 0U);
+    EXPECT_EQ(value, 1U);
+    QorClose();
+    EXPECT_TRUE(DeleteFileW(StorePath().c_str()));
 }
 
 // ------------------------------------------------------------------ transactions and processes

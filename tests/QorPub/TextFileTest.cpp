@@ -1,5 +1,6 @@
 #include <QorPub/QorPub.h>
 #include <tests/support/Leaks.h>
+#include <tests/support/MemoryShortage.h>
 #include <tests/support/Surroundings.h>
 
 #include <gtest/gtest.h>
@@ -271,6 +272,29 @@ TEST_F(TextFile, PathsLongerThanTheOldLimitWork)
     CTextFile file;
     EXPECT_TRUE(file.Open((path + L"\\a.txt").c_str(), TEXTFILE_CREATE, 0));
     EXPECT_TRUE(file.WriteString(L"x"));
+}
+
+TEST_F(TextFile, TooLargeAFileIsNotRead)
+{
+    HANDLE handle = CreateFileW(Path().c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr);
+    LARGE_INTEGER size = {};
+    size.QuadPart = 256 * 1024 * 1024 + 1;
+    EXPECT_TRUE(SetFilePointerEx(handle, size, nullptr, FILE_BEGIN) && SetEndOfFile(handle));
+    CloseHandle(handle);
+    CTextFile file;
+    EXPECT_FALSE(file.Open(Path().c_str(), TEXTFILE_READ, TEXTFILE_UTF8));
+    EXPECT_EQ(static_cast<DWORD>(ERROR_FILE_TOO_LARGE), GetLastError());
+    EXPECT_FALSE(file.IsOpen());
+}
+
+TEST_F(TextFile, ShortMemoryIsAnError)
+{
+    Fill("text");
+    CTextFile file;
+    const ts::MemoryShortage shortage(L"QorPub.dll");
+    EXPECT_FALSE(file.Open(Path().c_str(), TEXTFILE_READ, TEXTFILE_UTF8));
+    EXPECT_EQ(static_cast<DWORD>(ERROR_NOT_ENOUGH_MEMORY), GetLastError());
+    EXPECT_FALSE(file.IsOpen());
 }
 
 TEST_F(TextFile, OpeningLeavesNoHandles)
