@@ -10,13 +10,12 @@ bool IsPrefixed(const CString& path)
     return path.Left(4) == L"\\\\?\\" || path.Left(4) == L"\\\\.\\";
 }
 
-DWORD WriteNewFile(const CString& path, const void* data, DWORD size)
+constexpr int MOST_PARTS = 1000;
+
+DWORD WriteAndFlush(HANDLE file, const void* data, DWORD size)
 {
-    Handle file(CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (!file.IsValid())
-        return GetLastError();
-    DWORD status = WriteAll(file.Get(), data, size);
-    if (status == ERROR_SUCCESS && !FlushFileBuffers(file.Get()))
+    DWORD status = WriteAll(file, data, size);
+    if (status == ERROR_SUCCESS && !FlushFileBuffers(file))
         status = GetLastError();
     return status;
 }
@@ -84,13 +83,31 @@ DWORD WriteAll(HANDLE file, const void* data, DWORD size)
     return written == size ? ERROR_SUCCESS : ERROR_DISK_FULL;
 }
 
+DWORD CreatePart(const CString& stem, Handle& file, CString& path)
+{
+    DWORD status = ERROR_FILE_EXISTS;
+    for (int i = 1; i <= MOST_PARTS && status == ERROR_FILE_EXISTS; ++i) {
+        path = stem + L".part";
+        if (i > 1)
+            path.AppendFormat(L"%d", i);
+        file.Reset(CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+        status = file.IsValid() ? ERROR_SUCCESS : GetLastError();
+    }
+    return status;
+}
+
 DWORD ReplaceWholeFile(LPCWSTR path, const void* data, DWORD size)
 {
     CString name = LongPath(path);
     if (name.IsEmpty())
         return ERROR_INVALID_NAME;
-    CString part = name + L".part";
-    DWORD status = WriteNewFile(part, data, size);
+    Handle file;
+    CString part;
+    DWORD status = CreatePart(name, file, part);
+    if (status != ERROR_SUCCESS)
+        return status;
+    status = WriteAndFlush(file.Get(), data, size);
+    file.Close();
     if (status == ERROR_SUCCESS && !MoveFileExW(part, name, MOVEFILE_REPLACE_EXISTING))
         status = GetLastError();
     if (status != ERROR_SUCCESS)

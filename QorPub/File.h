@@ -50,6 +50,13 @@ DWORD ReadWholeFile(LPCWSTR path, size_t limit, std::vector<BYTE>& bytes);
 /** Writes all bytes; 0 or the system's code. */
 DWORD WriteAll(HANDLE file, const void* data, DWORD size);
 
+/**
+ * Makes a new, empty file called @p stem with ".part" added, and a number behind it when that name is taken.
+ * @param[out] file open for writing. @param[out] path its name.
+ * @return 0 or the system's code.
+ */
+DWORD CreatePart(const CString& stem, Handle& file, CString& path);
+
 /** Writes a file beside its place and moves it there when complete; 0 or the system's code. */
 DWORD ReplaceWholeFile(LPCWSTR path, const void* data, DWORD size);
 

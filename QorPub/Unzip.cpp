@@ -122,7 +122,9 @@ class Unpacker
 
   private:
     DWORD UnpackFile(const CString& path, uLong dosTime);
+    DWORD WriteEntry(HANDLE file, uLong dosTime);
     DWORD WriteFileData(HANDLE file);
+    DWORD MoveIntoPlace(const CString& part, const CString& path) const;
 
     Archive& m_archive;
     CString m_folder;
@@ -165,21 +167,40 @@ void SetDosTime(HANDLE file, uLong dosTime)
 
 DWORD Unpacker::UnpackFile(const CString& path, uLong dosTime)
 {
+    if (!m_overwrite && GetFileAttributesW(path) != INVALID_FILE_ATTRIBUTES)
+        return ERROR_FILE_EXISTS;
+    qor::Handle file;
+    CString part;
+    // Not called after the entry, whose name may be as long as a name can be.
+    DWORD status = qor::CreatePart(path.Left(path.ReverseFind(L'\\')) + L"\\~unpacked", file, part);
+    if (status != ERROR_SUCCESS)
+        return status;
+    status = WriteEntry(file.Get(), dosTime);
+    file.Close();
+    if (status == ERROR_SUCCESS)
+        status = MoveIntoPlace(part, path);
+    if (status != ERROR_SUCCESS)
+        DeleteFileW(part);
+    return status;
+}
+
+DWORD Unpacker::WriteEntry(HANDLE file, uLong dosTime)
+{
     if (unzOpenCurrentFile(m_archive.Get()) != UNZ_OK)
         return ERROR_INVALID_DATA;
-    qor::Handle file(CreateFileW(path, GENERIC_WRITE, 0, nullptr, m_overwrite ? CREATE_ALWAYS : CREATE_NEW,
-                                 FILE_ATTRIBUTE_NORMAL, nullptr));
-    DWORD status = file.IsValid() ? WriteFileData(file.Get()) : GetLastError();
+    DWORD status = WriteFileData(file);
+    // Tells whether the checksum is right.
     int closed = unzCloseCurrentFile(m_archive.Get());
-    if (!file.IsValid())
-        return status;
-    if (status == ERROR_SUCCESS && closed != UNZ_OK)
-        status = ERROR_INVALID_DATA;
-    SetDosTime(file.Get(), dosTime);
-    file.Close();
-    if (status != ERROR_SUCCESS)
-        DeleteFileW(path);
-    return status;
+    SetDosTime(file, dosTime);
+    return status == ERROR_SUCCESS && closed != UNZ_OK ? static_cast<DWORD>(ERROR_INVALID_DATA) : status;
+}
+
+DWORD Unpacker::MoveIntoPlace(const CString& part, const CString& path) const
+{
+    if (MoveFileExW(part, path, m_overwrite ? MOVEFILE_REPLACE_EXISTING : 0))
+        return ERROR_SUCCESS;
+    DWORD error = GetLastError();
+    return error == ERROR_ALREADY_EXISTS ? static_cast<DWORD>(ERROR_FILE_EXISTS) : error;
 }
 
 DWORD Unpacker::WriteFileData(HANDLE file)

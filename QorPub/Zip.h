@@ -25,9 +25,11 @@ constexpr DWORD QORZIP_SUBFOLDERS = 0x40000000;
  * Packs a file or a folder into a zip archive on a thread of its own, and reads archives.
  *
  * Names are kept as UTF-8 and relative to the source (a single file under its own name); Zip64 is used where sizes need
- * it. Every folder gets an entry, so empty ones survive. Links to folders are not followed. The archive is written
- * beside its place under a name with ".part" added and moved to its place when complete, so a failure or a cancel
- * leaves no unfinished archive and an older archive untouched; both files are left out when they lie inside the source.
+ * it. Every folder gets an entry, so empty ones survive. Links to folders are not followed. A time that an
+ * archive cannot tell becomes the nearest one that it can (1980 to 2107). The archive is written beside its place under
+ * a name with ".part" added (and a number, when there is such a file) and moved to its place when complete, so a
+ * failure or a cancel leaves no unfinished archive and an older archive untouched; both files are left out when they
+ * lie inside the source.
  *
  * A file that cannot be read makes a question (its path, a line end, the system's error text), answered 4 (IDRETRY):
  * try again, 5 (IDIGNORE) or 32000 (nobody answered): leave the file out, or what of it cannot be read when its
@@ -73,7 +75,8 @@ class QORPUB_API CQorZip
     /**
      * Unpacks an archive, on the calling thread. Nothing is unpacked from an archive with an entry whose name would
      * leave the folder or is not allowed for a file (ERROR_BAD_PATHNAME).
-     * @param folder made when missing. @param flags QORZIP_OVERWRITE replaces existing files.
+     * @param folder made when missing. @param flags QORZIP_OVERWRITE replaces existing files, each when its new
+     *        content has been unpacked whole.
      * @return 0 or a negative HRESULT; a damaged archive gives that of ERROR_INVALID_DATA.
      */
     static LONG Extract(LPCWSTR archive, LPCWSTR folder, DWORD flags);

@@ -17,18 +17,26 @@ constexpr uLong FLAG_UTF8_NAME = 1 << 11;
 constexpr int DEFLATE_MEMORY = 8;
 constexpr LRESULT ANSWER_TIMED_OUT = 32000;
 
+/** The moments that an archive's date can tell. */
+constexpr SYSTEMTIME FIRST_TIME = {1980, 1, 0, 1, 0, 0, 0, 0};
+constexpr SYSTEMTIME LAST_TIME = {2107, 12, 0, 31, 23, 59, 58, 0};
+
 tm_zip ZipTime(const FILETIME& time)
 {
     FILETIME local = {};
     SYSTEMTIME parts = {};
     FileTimeToLocalFileTime(&time, &local);
     FileTimeToSystemTime(&local, &parts);
+    if (parts.wYear < FIRST_TIME.wYear)
+        parts = FIRST_TIME;
+    else if (parts.wYear > LAST_TIME.wYear)
+        parts = LAST_TIME;
     tm_zip zip = {};
     zip.tm_sec = parts.wSecond;
     zip.tm_min = parts.wMinute;
     zip.tm_hour = parts.wHour;
     zip.tm_mday = parts.wDay;
-    zip.tm_mon = parts.wMonth != 0 ? parts.wMonth - 1 : 0;
+    zip.tm_mon = parts.wMonth - 1;
     zip.tm_year = parts.wYear;
     return zip;
 }
@@ -119,13 +127,11 @@ DWORD ZipPacker::Open(LPCWSTR source, LPCWSTR archive)
 
 DWORD ZipPacker::OpenPart()
 {
-    m_part = m_archive + L".part";
-    if (m_source.CompareNoCase(m_part) == 0)
-        return ERROR_INVALID_PARAMETER;
-    // The archive library does not tell why a file could not be created.
-    Handle probe(CreateFileW(m_part, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (!probe.IsValid())
-        return GetLastError();
+    // The archive library does not tell why a file could not be created, and takes one that is there already.
+    Handle probe;
+    DWORD status = CreatePart(m_archive, probe, m_part);
+    if (status != ERROR_SUCCESS)
+        return status;
     probe.Close();
     zlib_filefunc64_def files = {};
     fill_win32_filefunc64W(&files);

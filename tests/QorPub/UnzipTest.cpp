@@ -1,8 +1,12 @@
 #include <QorPub/QorPub.h>
 #include <QorPub/ZipNames.h>
+#include <tests/support/MemoryShortage.h>
 #include <tests/support/Surroundings.h>
 
 #include <gtest/gtest.h>
+
+#include <filesystem>
+#include <set>
 
 namespace
 {
@@ -70,6 +74,15 @@ class Unzip : public testing::Test
         EXPECT_EQ(0, zip.Start(nullptr, m_folder.File(L"src").c_str(), path.c_str(), QORZIP_OVERWRITE));
         EXPECT_TRUE(zip.Wait(30000));
         return ts::ReadBytes(path);
+    }
+
+    /** Names of what the target folder has. */
+    std::set<std::wstring> Unpacked() const
+    {
+        std::set<std::wstring> names;
+        for (const auto& entry : std::filesystem::directory_iterator(LR"(\\?\)" + m_folder.File(L"out")))
+            names.insert(entry.path().filename().wstring());
+        return names;
     }
 
     ts::TempFolder m_folder;
@@ -146,6 +159,47 @@ TEST_F(Unzip, AWrongChecksumIsRefused)
 {
     EXPECT_EQ(HRESULT_FROM_WIN32(ERROR_INVALID_DATA), Extract(ArchiveWith("a.txt", 1)));
     EXPECT_FALSE(ts::FileExists(m_folder.File(L"out\\a.txt")));
+}
+
+TEST_F(Unzip, AFailureKeepsTheFileThatIsThere)
+{
+    m_folder.MakeFolder(L"out");
+    ts::WriteBytes(m_folder.File(L"out\\a.txt"), "kept");
+    EXPECT_EQ(HRESULT_FROM_WIN32(ERROR_INVALID_DATA), Extract(ArchiveWith("a.txt", 1), QORZIP_OVERWRITE));
+    EXPECT_EQ("kept", ts::ReadBytes(m_folder.File(L"out\\a.txt")));
+    EXPECT_EQ((std::set<std::wstring>{L"a.txt"}), Unpacked());
+}
+
+TEST_F(Unzip, AFileThatCannotBeReplacedIsToldAndLeavesNoPart)
+{
+    m_folder.MakeFolder(L"out\\a.txt");
+    EXPECT_LT(Extract(ArchiveWith("a.txt"), QORZIP_OVERWRITE), 0);
+    EXPECT_EQ((std::set<std::wstring>{L"a.txt"}), Unpacked());
+}
+
+TEST_F(Unzip, FilesThatLookLikePartsAreKept)
+{
+    m_folder.MakeFolder(L"out");
+    ts::WriteBytes(m_folder.File(L"out\\~unpacked.part"), "mine");
+    EXPECT_EQ(0, Extract(ArchiveWith("a.txt"), QORZIP_OVERWRITE));
+    EXPECT_EQ("mine", ts::ReadBytes(m_folder.File(L"out\\~unpacked.part")));
+    EXPECT_EQ((std::set<std::wstring>{L"a.txt", L"~unpacked.part"}), Unpacked());
+}
+
+TEST_F(Unzip, TheLongestNameIsUnpacked)
+{
+    EXPECT_EQ(0, Extract(ArchiveWith(std::string(255, 'a'))));
+    EXPECT_EQ((std::set<std::wstring>{std::wstring(255, 'a')}), Unpacked());
+}
+
+TEST_F(Unzip, ShortMemoryIsAnError)
+{
+    ts::WriteBytes(m_folder.File(L"a.zip"), ArchiveWith("a.txt"));
+    CStringArray names;
+    const ts::MemoryShortage shortage(L"QorPub.dll");
+    EXPECT_EQ(HRESULT_FROM_WIN32(ERROR_NOT_ENOUGH_MEMORY), CQorZip::List(m_folder.File(L"a.zip").c_str(), names));
+    EXPECT_EQ(HRESULT_FROM_WIN32(ERROR_NOT_ENOUGH_MEMORY),
+              CQorZip::Extract(m_folder.File(L"a.zip").c_str(), m_folder.File(L"out").c_str(), 0));
 }
 
 TEST_F(Unzip, NoDamagedByteCrashesTheReader)

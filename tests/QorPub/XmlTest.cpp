@@ -1,5 +1,6 @@
 #include <QorPub/QorPub.h>
 #include <tests/support/Leaks.h>
+#include <tests/support/MemoryShortage.h>
 #include <tests/support/Surroundings.h>
 
 #include <gtest/gtest.h>
@@ -374,6 +375,36 @@ TEST(CQorXml, AFailedSaveKeepsTheOldFile)
     CloseHandle(held);
     EXPECT_EQ("old", ts::ReadBytes(path));
     EXPECT_FALSE(ts::FileExists(path + L".part"));
+}
+
+TEST(CQorXml, SavingKeepsAFileThatLooksLikeAPart)
+{
+    ts::TempFolder folder;
+    ts::WriteBytes(folder.File(L"x.xml.part"), "mine");
+    CQorXml xml;
+    xml.CreateRoot(L"a");
+    EXPECT_EQ(0u, xml.Save(folder.File(L"x.xml").c_str()));
+    EXPECT_EQ(0u, xml.Load(folder.File(L"x.xml").c_str()));
+    EXPECT_EQ("mine", ts::ReadBytes(folder.File(L"x.xml.part")));
+    EXPECT_FALSE(ts::FileExists(folder.File(L"x.xml.part2")));
+}
+
+TEST(CQorXml, ShortMemoryIsAnError)
+{
+    ts::TempFolder folder;
+    std::wstring path = folder.File(L"x.xml");
+    ts::WriteBytes(path, "<a><b/></a>");
+    CQorXml xml;
+    CQorXml saved;
+    CStringA text;
+    saved.CreateRoot(L"a")->AddChild(L"b");
+    const ts::MemoryShortage shortage(L"QorPub.dll");
+    EXPECT_EQ(static_cast<DWORD>(ERROR_NOT_ENOUGH_MEMORY), LoadText(xml, "<a><b/></a>"));
+    EXPECT_EQ(nullptr, xml.GetRoot());
+    EXPECT_EQ(static_cast<DWORD>(ERROR_NOT_ENOUGH_MEMORY), xml.Load(path.c_str()));
+    EXPECT_EQ(static_cast<DWORD>(ERROR_NOT_ENOUGH_MEMORY), saved.Save(path.c_str()));
+    EXPECT_FALSE(saved.SaveMemory(text));
+    EXPECT_EQ("<a><b/></a>", ts::ReadBytes(path));
 }
 
 TEST(CQorXml, WhatCannotBeSaved)

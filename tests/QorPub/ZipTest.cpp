@@ -1,5 +1,6 @@
 #include <QorPub/QorPub.h>
 #include <tests/support/Leaks.h>
+#include <tests/support/MemoryShortage.h>
 #include <tests/support/Pump.h>
 #include <tests/support/Surroundings.h>
 
@@ -121,6 +122,19 @@ class Zip : public testing::Test
     std::wstring InSource(std::wstring_view name) const { return Source() + L"\\" + std::wstring(name); }
     void Make(std::wstring_view name, std::string_view bytes) const { ts::WriteBytes(InSource(name), bytes); }
     void MakeDir(std::wstring_view name) const { m_folder.MakeFolder(L"src\\" + std::wstring(name)); }
+
+    FILETIME SetTime(std::wstring_view name, const SYSTEMTIME& written) const
+    {
+        FILETIME time = {};
+        EXPECT_TRUE(SystemTimeToFileTime(&written, &time));
+        HANDLE file = CreateFileW(InSource(name).c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+        EXPECT_TRUE(SetFileTime(file, nullptr, nullptr, &time));
+        CloseHandle(file);
+        return time;
+    }
+
+    /** Time and date in the archive's first local header. */
+    std::string PackedTime() const { return ts::ReadBytes(Archive()).substr(10, 4); }
 
     LONG Pack(ReportWindow& window, DWORD flags = ALL)
     {
@@ -287,18 +301,58 @@ TEST_F(Zip, TheArchiveInsideTheSourceIsLeftOut)
 TEST_F(Zip, ThePackagedTimeIsRestored)
 {
     Make(L"a.txt", "1");
-    SYSTEMTIME written = {2011, 5, 0, 17, 10, 20, 30, 0};
-    FILETIME time = {};
-    SystemTimeToFileTime(&written, &time);
-    HANDLE file = CreateFileW(InSource(L"a.txt").c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    SetFileTime(file, nullptr, nullptr, &time);
-    CloseHandle(file);
+    FILETIME time = SetTime(L"a.txt", {2011, 5, 0, 17, 10, 20, 30, 0});
     ReportWindow window;
     ASSERT_EQ(0, Pack(window));
     ASSERT_EQ(0, CQorZip::Extract(Archive().c_str(), m_folder.File(L"out").c_str(), 0));
     WIN32_FILE_ATTRIBUTE_DATA data = {};
     GetFileAttributesExW(m_folder.File(L"out\\a.txt").c_str(), GetFileExInfoStandard, &data);
     EXPECT_EQ(0, CompareFileTime(&time, &data.ftLastWriteTime));
+}
+
+TEST_F(Zip, TimesThatAnArchiveCannotTellBecomeTheNearest)
+{
+    Make(L"a.txt", "1");
+    ReportWindow window;
+    SetTime(L"a.txt", {1975, 6, 0, 5, 4, 3, 2, 0});
+    ASSERT_EQ(0, Pack(window));
+    EXPECT_EQ(std::string("\x00\x00\x21\x00", 4), PackedTime()); // 1980-01-01 0:00:00
+    SetTime(L"a.txt", {2110, 6, 0, 5, 4, 3, 2, 0});
+    ReportWindow again;
+    ASSERT_EQ(0, Pack(again));
+    EXPECT_EQ("\x7D\xBF\x9F\xFF", PackedTime()); // 2107-12-31 23:59:58
+}
+
+TEST_F(Zip, FilesThatLookLikeUnfinishedArchivesAreKept)
+{
+    Make(L"a.txt", "1");
+    ts::WriteBytes(Archive() + L".part", "mine");
+    ReportWindow window;
+    EXPECT_EQ(0, Pack(window));
+    EXPECT_EQ((List{L"a.txt"}), Names());
+    HeldFile held(InSource(L"a.txt"));
+    ReportWindow failing;
+    EXPECT_LT(Pack(failing), 0);
+    EXPECT_EQ("mine", ts::ReadBytes(Archive() + L".part"));
+    EXPECT_FALSE(ts::FileExists(Archive() + L".part2"));
+}
+
+TEST_F(Zip, ASourceThatLooksLikeAnUnfinishedArchiveIsPacked)
+{
+    ts::WriteBytes(Archive() + L".part", "mine");
+    ASSERT_EQ(0, m_zip.Start(nullptr, (Archive() + L".part").c_str(), Archive().c_str(), ALL));
+    EXPECT_TRUE(m_zip.Wait(LIMIT));
+    EXPECT_EQ((List{L"out.zip.part"}), Names());
+    EXPECT_EQ("mine", ts::ReadBytes(Archive() + L".part"));
+}
+
+TEST_F(Zip, ShortMemoryIsAnError)
+{
+    Make(L"a.txt", "1");
+    const ts::MemoryShortage shortage(L"QorPub.dll");
+    EXPECT_EQ(HRESULT_FROM_WIN32(ERROR_NOT_ENOUGH_MEMORY),
+              m_zip.Start(nullptr, Source().c_str(), Archive().c_str(), ALL));
+    EXPECT_TRUE(IsCleanFailure());
 }
 
 TEST_F(Zip, WithoutTheFlagAnExistingArchiveIsKept)
