@@ -92,6 +92,13 @@ int GetControlId(LPCWSTR name)
     return *end == 0 && id <= 0xFFFF ? static_cast<int>(id) : 0;
 }
 
+bool HaveSameFormat(std::wstring_view text, std::wstring_view model)
+{
+    std::wstring own;
+    std::wstring wanted;
+    return GetFormatSignature(text, own) && GetFormatSignature(model, wanted) && own == wanted;
+}
+
 void SetTexts(HWND window, const CXmlElem& element)
 {
     for (int i = 0; i < element.GetChildCount(); ++i) {
@@ -169,9 +176,7 @@ bool CModuleLang::Read(const std::wstring& path, bool needed, Sections& sections
 /** Whether a translation may stand for the English text, or for a text that English does not have (null). */
 bool CModuleLang::IsFit(const std::wstring& text, const std::wstring* english)
 {
-    std::wstring own;
-    std::wstring wanted;
-    return GetFormatSignature(text, own) && (!english || GetFormatSignature(*english, wanted)) && own == wanted;
+    return HaveSameFormat(text, english ? *english : std::wstring());
 }
 
 void CModuleLang::Translate(Sections& texts, const Sections& translation, const Sections& english,
@@ -289,6 +294,16 @@ LPCWSTR QorGetString(LPCWSTR key)
 BOOL QorSetLanguage(LPCWSTR locale)
 {
     return CLanguage::Get().Choose(locale);
+}
+
+BOOL QorIsSameFormat(LPCWSTR text, LPCWSTR model)
+{
+    bool same = false;
+    qor::GuardMemory([&] {
+        same = HaveSameFormat(text ? text : L"", model ? model : L"");
+        return static_cast<DWORD>(ERROR_SUCCESS);
+    });
+    return same;
 }
 
 CString QorGetLanguage()

@@ -92,6 +92,13 @@ QORAPI_API CString QorFormatMsg(DWORD code);
  */
 QORAPI_API BOOL QorSetLanguage(LPCWSTR locale);
 
+/**
+ * Whether a text may stand for another one as printf format: TRUE when its placeholders are those of the model in
+ * number, order and kind. FALSE for "%n" in either. Language data that is used as a format is asked about here first:
+ * the English texts are served as they stand.
+ */
+QORAPI_API BOOL QorIsSameFormat(LPCWSTR text, LPCWSTR model);
+
 /** Name of the folder of language data that is in use: the best one that exists for the chosen locale, at last `en`. */
 QORAPI_API CString QorGetLanguage();
 /** @} */

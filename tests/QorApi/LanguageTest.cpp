@@ -1,4 +1,5 @@
 #include <QorApi/QorApi.h>
+#include <tests/support/MemoryShortage.h>
 #include <tests/support/Support.h>
 
 #include <gtest/gtest.h>
@@ -207,7 +208,29 @@ TEST_F(LanguageTest, WritingPlaceholderIsNeverServed)
     EXPECT_EQ(Text(L"STR_B"), L"en");
 }
 
+TEST(SameFormat, PlaceholdersCountInNumberOrderAndKind)
+{
+    EXPECT_TRUE(QorIsSameFormat(L"%s: 0x%04X", L"%s %x"));
+    EXPECT_TRUE(QorIsSameFormat(L"100 %%", L"none"));
+    EXPECT_TRUE(QorIsSameFormat(nullptr, L""));
+    for (LPCWSTR text : {L"", L"%s", L"%s %s", L"%x %s", L"%s %x %x", L"%s %I64x", L"%s %x %"})
+        EXPECT_FALSE(QorIsSameFormat(text, L"%s %x")) << ts::ToUtf8(text);
+    EXPECT_FALSE(QorIsSameFormat(L"%n", L"%n"));
+}
+
 // ------------------------------------------------------------------ damage
+
+TEST_F(LanguageTest, ShortMemoryGivesAnEmptyElementAndIsGotOver)
+{
+    Write(L"en", "<Strings><STR_A>en</STR_A></Strings>");
+    {
+        const ts::MemoryShortage shortage(L"QorApi.dll");
+        EXPECT_EQ(QorGetModuleLang(MODULE, L"Strings")->GetChildCount(), 0);
+        EXPECT_EQ(QorSetDlgLang(nullptr, MODULE, L"Strings", 0)->GetChildCount(), 0);
+        EXPECT_FALSE(QorIsSameFormat(L"%d %d %d %d %d", L"%d %d %d %d %d"));
+    }
+    EXPECT_EQ(Text(L"STR_A"), L"en");
+}
 
 TEST_F(LanguageTest, DamagedTranslationFallsBackToEnglishAndIsTraced)
 {

@@ -91,7 +91,8 @@ class CAccountPage : public CConsolePage
         _QORVEX_USER user = {};
         CString text(ConText(L"STR_CON_NOBODY"));
         if (QorGetLogonUser(user) == 0) {
-            text.Format(ConText(L"STR_CON_USER"), user.szName, user.szDesc, static_cast<int>(user.dwRights));
+            text.Format(ConFormat(L"STR_CON_USER", L"%s (%s) %x"), user.szName, user.szDesc,
+                        static_cast<int>(user.dwRights));
         }
         SetDlgItemText(kUser, text);
     }
@@ -101,7 +102,7 @@ class CAccountPage : public CConsolePage
         const DWORD status = QorOpen();
         CString text(ConText(L"STR_CON_STORE_OK"));
         if (status != 0) {
-            text.Format(ConText(L"STR_CON_STORE_BAD"), QorFormatMsg(status).GetString());
+            text.Format(ConFormat(L"STR_CON_STORE_BAD", L"%s"), QorFormatMsg(status).GetString());
         } else {
             QorClose();
         }

@@ -150,7 +150,7 @@ class CButtonsPage : public CConsolePage
         if (name.IsEmpty()) {
             name = ConText(L"STR_CON_BITMAP");
         }
-        result.Format(ConText(L"STR_CON_CLICKED"), name.GetString(), ++m_clicks);
+        result.Format(ConFormat(L"STR_CON_CLICKED", L"%s: %d"), name.GetString(), ++m_clicks);
         SetDlgItemText(kResult, result);
     }
     DECLARE_MESSAGE_MAP()
@@ -240,7 +240,7 @@ class CButtonsPage : public CConsolePage
         for (UINT id = kLiveRadioFirst; id <= kLiveRadioLast; ++id) {
             const int top = kLiveTop + 26 + static_cast<int>(id - kLiveRadioFirst) * 22;
             CString text;
-            text.Format(ConText(L"STR_CON_CHOICE"), id - kLiveRadioFirst + 1);
+            text.Format(ConFormat(L"STR_CON_CHOICE", L"%d"), static_cast<int>(id - kLiveRadioFirst) + 1);
             if (!AddRadio(text, CRect(370, top, 530, top + 18), id, id == kLiveRadioFirst)) {
                 return false;
             }

@@ -239,9 +239,9 @@ class CCalendarPage : public CConsolePage
         const COleDateTime start = m_calendar->GetSelDate(&end);
         CString text;
         if (start.GetStatus() != COleDateTime::valid) {
-            text.Format(ConText(L"STR_CON_CAL_EMPTY"), m_calendar->MonthAndYear().GetString());
+            text.Format(ConFormat(L"STR_CON_CAL_EMPTY", L"%s"), m_calendar->MonthAndYear().GetString());
         } else {
-            text.Format(ConText(L"STR_CON_CAL_RANGE"), m_calendar->MonthAndYear().GetString(),
+            text.Format(ConFormat(L"STR_CON_CAL_RANGE", L"%s: %s - %s"), m_calendar->MonthAndYear().GetString(),
                         start.Format(VAR_DATEVALUEONLY).GetString(), end.Format(VAR_DATEVALUEONLY).GetString());
         }
         SetDlgItemText(kResult, text);

@@ -121,7 +121,7 @@ class CClockPage : public CConsolePage
     void ShowTime()
     {
         CString text;
-        text.Format(ConText(L"STR_CON_CLK_TIME"), TimeText().GetString());
+        text.Format(ConFormat(L"STR_CON_CLK_TIME", L"%s"), TimeText().GetString());
         CString shown;
         GetDlgItemText(kTime, shown);
         if (text != shown) {
@@ -132,7 +132,7 @@ class CClockPage : public CConsolePage
     void AddEvent(LPCWSTR key)
     {
         CString text;
-        text.Format(ConText(key), TimeText().GetString());
+        text.Format(ConFormat(key, L"%s"), TimeText().GetString());
         auto* list = static_cast<CListBox*>(GetDlgItem(kLog));
         list->SetCurSel(list->AddString(text));
         ShowTime();

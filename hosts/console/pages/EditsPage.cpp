@@ -77,19 +77,19 @@ class CEditsPage : public CConsolePage
     afx_msg void OnNumberEnter()
     {
         m_log->SetFormat(kLineHeight, kText, 0);
-        m_log->InsertText(-2, ConText(L"STR_CON_ENTERED"), m_number->GetValue());
+        m_log->InsertText(-2, ConFormat(L"STR_CON_ENTERED", L"%d"), m_number->GetValue());
     }
 
     afx_msg void OnAddLine()
     {
         m_log->SetFormat(kLineHeight, kText, 0);
-        m_log->InsertText(-2, ConText(L"STR_CON_LINE"), ++m_lines);
+        m_log->InsertText(-2, ConFormat(L"STR_CON_LINE", L"%d"), ++m_lines);
     }
 
     afx_msg void OnAddWarning()
     {
         m_log->SetFormat(kLineHeight, kWarning, CFE_BOLD);
-        m_log->InsertText(-2, ConText(L"STR_CON_LINE_WARNING"), ++m_lines);
+        m_log->InsertText(-2, ConFormat(L"STR_CON_LINE_WARNING", L"%d"), ++m_lines);
     }
 
     afx_msg void OnAddLink()
@@ -179,7 +179,7 @@ class CEditsPage : public CConsolePage
         m_log = &log;
         m_log->FindUrls();
         m_log->SetFormat(kTitleHeight, kTitle, CFE_BOLD);
-        m_log->InsertText(-2, ConText(L"STR_CON_RICH_TITLE"));
+        m_log->InsertText(-2, L"%s", ConText(L"STR_CON_RICH_TITLE"));
         OnAddLine();
         OnAddWarning();
         OnAddLink();
@@ -202,7 +202,8 @@ class CEditsPage : public CConsolePage
             return; // the first of them reports while the others do not exist
         }
         CString text;
-        text.Format(ConText(L"STR_CON_NUMBERS"), m_hours->GetValue(), m_days->GetValue(), m_number->GetValue());
+        text.Format(ConFormat(L"STR_CON_NUMBERS", L"%d, %d, %d"), m_hours->GetValue(), m_days->GetValue(),
+                    m_number->GetValue());
         SetDlgItemText(kNumbers, text);
     }
 

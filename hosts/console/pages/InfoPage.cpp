@@ -117,7 +117,7 @@ class CInfoPage : public CConsolePage
     static CString CountText(int count)
     {
         CString text;
-        text.Format(ConText(L"STR_CON_SNAP_COUNT"), count);
+        text.Format(ConFormat(L"STR_CON_SNAP_COUNT", L"%d"), count);
         return text;
     }
 

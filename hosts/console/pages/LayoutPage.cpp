@@ -86,7 +86,8 @@ class CLayoutDlg : public CQorDialog
         CRect rect;
         if (QorGetCtrlRect(this, IDC_LAYOUT_BLOCK_FIRST, rect)) {
             CString text;
-            text.Format(GetDlgString(L"STR_PLACE"), static_cast<int>(rect.left), static_cast<int>(rect.top));
+            text.Format(ConFit(GetDlgString(L"STR_PLACE"), L"%d, %d"), static_cast<int>(rect.left),
+                        static_cast<int>(rect.top));
             Report(text);
         }
     }
@@ -137,7 +138,7 @@ class CLayoutPage : public CConsolePage
         CLayoutDlg dialog(this);
         const INT_PTR result = dialog.DoModal();
         CString text;
-        text.Format(ConText(L"STR_CON_RESULT"), static_cast<int>(result));
+        text.Format(ConFormat(L"STR_CON_RESULT", L"%d"), static_cast<int>(result));
         SetDlgItemText(kResult, text);
     }
     DECLARE_MESSAGE_MAP()

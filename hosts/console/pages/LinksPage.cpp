@@ -141,7 +141,7 @@ class CLinksPage : public CConsolePage
         CString name;
         CString result;
         GetDlgItemText(kLabel, name);
-        result.Format(ConText(L"STR_CON_CLICKED"), name.GetString(), ++m_clicks);
+        result.Format(ConFormat(L"STR_CON_CLICKED", L"%s: %d"), name.GetString(), ++m_clicks);
         SetDlgItemText(kResult, result);
     }
 

@@ -141,7 +141,7 @@ class CListPage : public CConsolePage
     {
         CString text;
         if (column == 0) {
-            text.Format(ConText(L"STR_CON_ROW"), record);
+            text.Format(ConFormat(L"STR_CON_ROW", L"%d"), record);
         } else if (column == 1) {
             text.Format(L"%d KB", SizeOf(record));
         } else {
@@ -193,7 +193,7 @@ class CListPage : public CConsolePage
     void ShowCount()
     {
         CString text;
-        text.Format(ConText(L"STR_CON_ROWS"), m_list.GetItemCount());
+        text.Format(ConFormat(L"STR_CON_ROWS", L"%d"), m_list.GetItemCount());
         SetDlgItemText(kState, text);
     }
 

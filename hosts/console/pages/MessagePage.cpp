@@ -102,7 +102,7 @@ class CMessagePage : public CConsolePage
         GetDlgItemText(kText, text);
         const UINT result = QorMsgBox(text, type, error, this);
         CString shown;
-        shown.Format(ConText(L"STR_CON_RESULT"), static_cast<int>(result));
+        shown.Format(ConFormat(L"STR_CON_RESULT", L"%d"), static_cast<int>(result));
         SetDlgItemText(kResult, shown);
     }
 };

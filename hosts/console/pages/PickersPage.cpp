@@ -63,7 +63,7 @@ class CPickersPage : public CConsolePage
     afx_msg void OnKind()
     {
         CString text;
-        text.Format(ConText(L"STR_CON_ITEM_DATA"), static_cast<int>(m_kind->GetCurSelData(0)));
+        text.Format(ConFormat(L"STR_CON_ITEM_DATA", L"%d"), static_cast<int>(m_kind->GetCurSelData(0)));
         SetDlgItemText(kKindData, text);
     }
 
@@ -74,7 +74,7 @@ class CPickersPage : public CConsolePage
             checked += m_checks->GetCheck(i) == BST_CHECKED;
         }
         CString text;
-        text.Format(ConText(L"STR_CON_CHECK_COUNT"), checked);
+        text.Format(ConFormat(L"STR_CON_CHECK_COUNT", L"%d"), checked);
         SetDlgItemText(kChecked, text);
     }
 

@@ -47,7 +47,7 @@ class CProgressPage : public CConsolePage
         }
         m_percent.SetRange32(0, kEnd);
         m_files.SetRange32(0, kFileCount);
-        m_files.SetFormat(ConText(L"STR_CON_PROG_FORMAT"));
+        m_files.SetFormat(ConFormat(L"STR_CON_PROG_FORMAT", L"%d"));
         m_silent.SetRange32(0, kEnd);
         m_silent.SetFormat(L"");
         Show(0);
