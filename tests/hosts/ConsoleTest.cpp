@@ -1,5 +1,7 @@
 #include <tests/support/Support.h>
 
+#include <QorApi/QorApi.h>
+
 #include <filesystem>
 #include <set>
 
@@ -24,6 +26,15 @@ class Console : public testing::Test
             names.insert(entry.path().filename().wstring());
         }
         return names;
+    }
+
+    /** How many snapshots the console's store has now. */
+    int SnapshotCount()
+    {
+        const ts::EnvironmentVariable store(L"QOR_STORE", m_folder.File(L"store.db").c_str());
+        int count = 0;
+        CoTaskMemFree(QorGetAllInfo(QORLIST_SNAPSHOTS, sizeof(_QORVEX_SNAP), &count, 0));
+        return count;
     }
 
     ts::TempFolder m_folder;
@@ -67,6 +78,7 @@ TEST_F(Console, ShotsLeavesAPictureOfEveryPageAndBox)
           L"progress.png", L"info.png"}) {
         EXPECT_EQ(1u, pictures.count(name)) << ts::ToUtf8(name);
     }
+    EXPECT_EQ(5, SnapshotCount()); // those of --demo
 }
 
 TEST_F(Console, AnUnwritableFolderForShotsIsStatusOne)
