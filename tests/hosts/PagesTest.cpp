@@ -21,7 +21,7 @@ TEST_F(Pages, ArrowKeysInTheListOfPagesShowThem)
 
 // The dialog with a sizing border
 
-class LayoutPage : public Pages
+class LayoutDialog : public Pages
 {
   protected:
     static constexpr UINT kOpen = 2301;
@@ -59,7 +59,7 @@ class LayoutPage : public Pages
     }
 };
 
-TEST_F(LayoutPage, DialogsButtonsStayInTheirCornerWhenItIsSized)
+TEST_F(LayoutDialog, ButtonsStayInTheirCornerWhenItIsSized)
 {
     ts::ModalDriver driver;
     driver.InDialog([](HWND dialog) {

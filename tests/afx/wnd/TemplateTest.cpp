@@ -1,6 +1,9 @@
 #include "Windows.h"
 
 #include <afxpriv.h>
+#include <tests/support/Imports.h>
+
+#include <vector>
 
 namespace
 {
@@ -88,19 +91,30 @@ TEST(DialogTemplate, ChangedFontGivesADialogThatStillHasItsControls)
     }
 }
 
+std::vector<HGLOBAL> g_freed;
+
+HGLOBAL WINAPI NoteFreed(HGLOBAL hBlock)
+{
+    g_freed.push_back(hBlock);
+    return ::GlobalFree(hBlock);
+}
+
 TEST(DialogTemplate, AttachedBlockReplacesTheFormer)
 {
+    const ts::ReplacedImport noted(L"afx.dll", "GlobalFree", &NoteFreed);
+    g_freed.clear();
     CDialogTemplate dialogTemplate;
     ASSERT_TRUE(dialogTemplate.Load(MAKEINTRESOURCE(IDD_SIMPLE)));
     const HGLOBAL hFormer = dialogTemplate.m_hTemplate;
     const DWORD dwSize = dialogTemplate.m_dwTemplateSize;
     EXPECT_EQ(hFormer, dialogTemplate.Attach(hFormer));
     EXPECT_EQ(dwSize, dialogTemplate.m_dwTemplateSize);
+    EXPECT_TRUE(g_freed.empty());
     CDialogTemplate other;
     ASSERT_TRUE(other.Load(MAKEINTRESOURCE(IDD_EXTENDED)));
     const HGLOBAL hOther = other.Detach();
     EXPECT_EQ(hOther, dialogTemplate.Attach(hOther));
-    EXPECT_EQ(UINT(GMEM_INVALID_HANDLE), ::GlobalFlags(hFormer));
+    EXPECT_EQ(std::vector<HGLOBAL>{hFormer}, g_freed);
 }
 
 TEST(DialogTemplate, SystemFontReplacesFaceAndSize)
