@@ -165,6 +165,9 @@ BOOL CQorLink::PreTranslateMessage(MSG* msg)
 
 LRESULT CQorLink::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (message == WM_DESTROY) {
+        m_tip.DestroyWindow(); // it belongs to the top-level window, which may stay
+    }
     const HWND wnd = m_hWnd;
     const LRESULT result = CStatic::WindowProc(message, wParam, lParam);
     if (QorRepaintStatic(wnd, message)) {
@@ -194,10 +197,7 @@ void CQorLink::MakeLinkFont()
 
 void CQorLink::MakeTooltip()
 {
-    // The tooltip belongs to the top-level window and outlives a link that goes before it.
-    if (m_tip.m_hWnd) {
-        m_tip.DestroyWindow();
-    }
+    m_tip.DestroyWindow(); // that of a window which was given back
     CRect client;
     GetClientRect(&client);
     if (m_tip.Create(this)) {

@@ -306,6 +306,25 @@ TEST_F(QorLink, NewWindowHasATooltipAndTheLinkColour)
     EXPECT_TRUE(Shows(kLink));
 }
 
+TEST_F(QorLink, TakesItsTooltipWithIt)
+{
+    Take();
+    const HWND tip = FindTip();
+    ASSERT_NE(nullptr, tip);
+    m_link.DestroyWindow();
+    EXPECT_FALSE(::IsWindow(tip));
+}
+
+TEST_F(QorLink, HasOneTooltipWhenItsWindowIsGivenBackAndTakenAgain)
+{
+    Take();
+    const HWND tip = FindTip();
+    const HWND window = m_link.UnsubclassWindow();
+    EXPECT_TRUE(m_link.SubclassWindow(window));
+    EXPECT_FALSE(::IsWindow(tip));
+    EXPECT_NE(nullptr, FindTip());
+}
+
 TEST_F(QorLink, LeavingWhileTheButtonIsHeldRestoresTheColour)
 {
     m_link.SetURL(kMissing);

@@ -10,6 +10,19 @@ constexpr COLORREF kDark = RGB(140, 172, 213);
 constexpr COLORREF kLight = RGB(230, 239, 251);
 constexpr COLORREF kInk = RGB(0, 0, 0);
 
+/** Lets a debug build go on after a failed check, with the exception that it throws in any build. */
+class QuietAsserts
+{
+  public:
+    QuietAsserts() : m_former(AfxSetAssertHook([](LPCSTR, int) -> BOOL { return FALSE; })) {}
+    ~QuietAsserts() { AfxSetAssertHook(m_former); }
+    QuietAsserts(const QuietAsserts&) = delete;
+    QuietAsserts& operator=(const QuietAsserts&) = delete;
+
+  private:
+    AFX_ASSERT_HOOK m_former;
+};
+
 class CTestBar : public CQorStatusBar
 {
   public:
@@ -103,6 +116,7 @@ TEST_F(StatusBar, LooksAsItShould)
 
 TEST_F(StatusBar, PaintingLeavesTheDeviceContextAsItWas)
 {
+    SetThree();
     CQorStatusBar bar; // with a device context that it keeps
     const LPCWSTR name = AfxRegisterWndClass(CS_OWNDC);
     ASSERT_TRUE(bar.Create(name, L"", WS_CHILD | WS_VISIBLE, CRect(0, 30, 400, 52), &m_host, 3));
@@ -185,6 +199,7 @@ TEST_F(StatusBar, PartsThatAreNotThereAreRefused)
     SetThree();
     EXPECT_FALSE(m_bar.SetText(3, L"x"));
     EXPECT_FALSE(m_bar.SetText(INT_MAX, L"x"));
+    const QuietAsserts quiet;
     bool thrown = false;
     try {
         m_bar.SetText(-1, L"x");
@@ -197,6 +212,7 @@ TEST_F(StatusBar, PartsThatAreNotThereAreRefused)
 
 TEST_F(StatusBar, PaintingWithoutPartsThrows)
 {
+    const QuietAsserts quiet;
     bool thrown = false;
     try {
         m_bar.OnPaint();
