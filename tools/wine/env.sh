@@ -18,7 +18,7 @@ qor_find_wine()
     [ -x "$QOR_WINESERVER" ] || qor_fail "wineserver is missing: install the packages wine and wine64"
 }
 
-# Dialogs have the stated size only with the metrics of Tahoma, and window captions need Marlett.
+# Dialogs have their size only with the metrics of Tahoma, and window captions need Marlett.
 qor_check_fonts()
 {
     [ -e /usr/share/wine/fonts/tahoma.ttf ] && return
