@@ -167,13 +167,13 @@ bool ReadCode(std::string_view number, uint32_t& code)
 /** What the reference between "&" and ";" stands for; false when it is none. */
 bool ReadReference(std::string_view reference, uint32_t& code)
 {
-    static constexpr std::pair<std::string_view, char> names[] = {
-        {"amp", '&'}, {"lt", '<'}, {"gt", '>'}, {"quot", '"'}, {"apos", '\''}};
+    static constexpr std::pair<std::string_view, uint32_t> names[] = {
+        {"amp", U'&'}, {"lt", U'<'}, {"gt", U'>'}, {"quot", U'"'}, {"apos", U'\''}};
     if (!reference.empty() && reference.front() == '#')
         return ReadCode(reference.substr(1), code);
     auto known = std::find_if(std::begin(names), std::end(names), [&](auto& name) { return name.first == reference; });
     if (known != std::end(names))
-        code = static_cast<uint32_t>(known->second);
+        code = known->second;
     return known != std::end(names);
 }
 

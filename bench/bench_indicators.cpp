@@ -70,14 +70,15 @@ void RepaintStockInfo(benchmark::State& state)
     CWnd panel;
     panel.CreateEx(WS_EX_CONTROLPARENT, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_BTNFACE)), L"",
                    WS_CHILD | WS_VISIBLE, kPanel, &owner, kId);
-    CStatic texts[2 * kInfoRows];
+    CStatic labels[kInfoRows];
+    CStatic values[kInfoRows];
     for (int row = 0; row < kInfoRows; ++row) {
-        texts[2 * row].Create(L"Path:", WS_CHILD | WS_VISIBLE, CRect(0, 16 * row, 60, 16 * row + 16), &panel);
-        texts[2 * row + 1].Create(L"C:\\Users\\Name\\Documents", WS_CHILD | WS_VISIBLE,
-                                  CRect(60, 16 * row, 300, 16 * row + 16), &panel);
-    }
-    for (CStatic& text : texts) {
-        text.SetFont(GuiFont());
+        const CRect place(0, 16 * row, 60, 16 * row + 16);
+        labels[row].Create(L"Path:", WS_CHILD | WS_VISIBLE, place, &panel);
+        labels[row].SetFont(GuiFont());
+        values[row].Create(L"C:\\Users\\Name\\Documents", WS_CHILD | WS_VISIBLE,
+                           CRect(place.right, place.top, 300, place.bottom), &panel);
+        values[row].SetFont(GuiFont());
     }
     for (auto _ : state) {
         panel.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
