@@ -60,6 +60,7 @@ class EveryPage : public Pages, public testing::WithParamInterface<const wchar_t
     static std::vector<std::string> Names(const std::vector<HWND>& controls)
     {
         std::vector<std::string> names;
+        names.reserve(controls.size());
         for (const HWND control : controls) {
             names.push_back(std::to_string(::GetDlgCtrlID(control)) + " " + ts::ToUtf8(TextOf(control).GetString()));
         }

@@ -389,7 +389,7 @@ TEST_F(InfoPage, ChartShowsTheSnapshotsOfTheStore)
     ASSERT_EQ(5u, snapshots.size());
     m_frame.CurrentPage()->ShowState(1); // bars
     const ts::Picture chart = Chart();
-    ULONGLONG most = 0;
+    ULONGLONG most = 1;
     for (const _QORVEX_SNAP& snapshot : snapshots) {
         most = (std::max)(most, snapshot.nSize >> 20);
     }
