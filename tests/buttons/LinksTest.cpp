@@ -2,6 +2,7 @@
 
 #include <QorUI/app/Messages.h>
 #include <QorUI/buttons/Links.h>
+#include <tests/support/Imports.h>
 
 namespace
 {
@@ -756,6 +757,24 @@ TEST_F(TextLink, ParentPaintsTheBackgroundBeforeTheText)
     EXPECT_TRUE(ts::SamePicture(expected, Look(m_link)));
     EXPECT_NE(0, expected.Count(RGB(255, 255, 255)));
     EXPECT_EQ(&m_link, m_sender);
+}
+
+UINT g_textFormat = 0;
+
+int WINAPI NoteTextFormat(HDC dc, LPCWSTR text, int length, RECT* rect, UINT format)
+{
+    g_textFormat = format;
+    return ::DrawTextW(dc, text, length, rect, format);
+}
+
+// The platform draws prefixes the same way with and without the flag.
+TEST_F(TextLink, HidesPrefixes)
+{
+    Take(L"&Label");
+    const ts::ReplacedImport noted(L"afx.dll", "DrawTextW", &NoteTextFormat);
+    g_textFormat = 0;
+    Look(m_link);
+    EXPECT_EQ(UINT{DT_WORDBREAK | DT_EDITCONTROL | DT_HIDEPREFIX}, g_textFormat);
 }
 
 TEST_F(TextLink, NewTextTakesTheFormerOnesPlace)
