@@ -9,7 +9,6 @@
 
 BEGIN_MESSAGE_MAP(CQorLink, CStatic)
     ON_WM_PAINT()
-    ON_WM_ERASEBKGND()
     ON_WM_MOUSEMOVE()
     ON_WM_SETCURSOR()
     ON_CONTROL_REFLECT(STN_CLICKED, &CQorLink::OnClicked)
@@ -49,15 +48,20 @@ CSize TextExtent(HWND wnd, HGDIOBJ font)
     return size;
 }
 
-/** Brings back what the parent has painted where a control stands. */
-void RepaintParentUnder(HWND wnd)
+/**
+ * Brings back what the parent has painted where a control stands, and has the control painted on it: smoothed text
+ * gets bolder when it is drawn over itself.
+ */
+void RepaintWithParent(HWND wnd)
 {
     const HWND parent = ::GetParent(wnd);
     RECT rect = {};
     if (parent && ::GetWindowRect(wnd, &rect)) {
         ::MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&rect), 2);
         ::RedrawWindow(parent, &rect, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        ::RedrawWindow(parent, nullptr, nullptr, RDW_UPDATENOW | RDW_NOCHILDREN);
     }
+    ::InvalidateRect(wnd, nullptr, TRUE);
 }
 
 /** Shrinks a rectangle to the size of a text, towards where the style of a static control aligns it. */
@@ -112,7 +116,7 @@ void CQorLink::SetColors(COLORREF link, COLORREF visited, COLORREF hover)
     m_clrVisited = visited;
     m_clrHover = hover == CLR_NONE ? ::GetSysColor(COLOR_HIGHLIGHT) : hover;
     if (m_hWnd) {
-        Invalidate(TRUE);
+        RepaintWithParent(m_hWnd);
     }
 }
 
@@ -131,8 +135,7 @@ void CQorLink::SetUnderline(BOOL underline)
 {
     m_bUnderline = underline;
     if (m_hWnd) {
-        MakeLinkFont();
-        Invalidate(TRUE);
+        MakeLinkFont(); // which repaints
     }
 }
 
@@ -170,8 +173,9 @@ LRESULT CQorLink::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     }
     const HWND wnd = m_hWnd;
     const LRESULT result = CStatic::WindowProc(message, wParam, lParam);
-    if (QorRepaintStatic(wnd, message)) {
-        RepaintParentUnder(wnd);
+    const bool newFont = message == WM_SETFONT && LOWORD(lParam);
+    if (newFont || QorRepaintStatic(wnd, message)) {
+        RepaintWithParent(wnd);
     }
     return result;
 }
@@ -233,30 +237,13 @@ void CQorLink::OnPaint()
     dc.DrawText(text, &client, DT_WORDBREAK | DT_EDITCONTROL);
 }
 
-BOOL CQorLink::OnEraseBkgnd(CDC* dc)
-{
-    const HWND parent = ::GetParent(m_hWnd);
-    if (!dc || !parent) {
-        return TRUE;
-    }
-    // Smoothed text gets bolder when it is drawn over itself. The system's own brush says nothing about the parent.
-    const CDcStateSaver saver(dc->m_hDC);
-    const auto brush = reinterpret_cast<HBRUSH>(::SendMessageW(
-        parent, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc->m_hDC), reinterpret_cast<LPARAM>(m_hWnd)));
-    if (brush && brush != ::GetSysColorBrush(COLOR_BTNFACE)) {
-        CRect client;
-        GetClientRect(&client);
-        ::FillRect(dc->m_hDC, &client, brush);
-    }
-    return TRUE;
-}
-
 void CQorLink::SetOver(BOOL over)
 {
     m_bOver = over;
     if (!over) {
         ::ReleaseCapture();
     }
+    RepaintWithParent(m_hWnd);
     RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
     if (over) {
         SetCapture();
@@ -289,7 +276,7 @@ void CQorLink::OnClicked()
     const HINSTANCE result = ::ShellExecuteW(nullptr, L"open", m_strUrl, nullptr, nullptr, SW_SHOW);
     m_bVisited = reinterpret_cast<INT_PTR>(result) > kLastShellError;
     if (m_bVisited && m_hWnd) {
-        Invalidate(TRUE);
+        RepaintWithParent(m_hWnd);
     }
 }
 

@@ -5,8 +5,9 @@
 /**
  * A static text that opens an address when it is clicked and shows it as a tooltip.
  *
- * It stands on what its parent has painted; where the parent gives static controls a brush, it erases itself with that.
- * Without an address the window text serves as one, without a text the address serves as text.
+ * It stands on what its parent has painted, and has the parent paint again there when its look changes; a parent that
+ * clips its children leaves it without a background. Without an address the window text serves as one, without a text
+ * the address serves as text.
  */
 class QORUI_API CQorLink : public CStatic
 {
@@ -37,7 +38,6 @@ class QORUI_API CQorLink : public CStatic
     void PositionWindow();
 
     afx_msg void OnPaint();
-    afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg BOOL OnSetCursor(CWnd* wnd, UINT hitTest, UINT message);
     afx_msg void OnClicked();

@@ -439,88 +439,114 @@ TEST_F(QorLink, BackgroundIsNotPainted)
     EXPECT_TRUE(Shows(kBack));
 }
 
-/** A link in a font that is smoothed, in a parent that gives static controls a brush. */
-class LinkOnABrush : public QorLink
+TEST_F(QorLink, ErasingLeavesTheDeviceContextAsItIs)
+{
+    Take();
+    m_host.Log().Answer(WM_CTLCOLORSTATIC, [](const ts::Message&) -> std::optional<LRESULT> {
+        return reinterpret_cast<LRESULT>(::GetStockObject(BLACK_BRUSH));
+    });
+    const ts::Picture erased = ts::DrawTo(
+        10, 10, [this](HDC dc) { m_link.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc)); }, kBack);
+    EXPECT_EQ(10 * 10, erased.Count(kBack));
+}
+
+/** A link in a font that is smoothed, which gets bolder when it is drawn over itself. */
+class SmoothLink : public QorLink
 {
   protected:
     void SetUp() override
     {
         QorLink::SetUp();
-        m_brush.CreateSolidBrush(kBrush);
-        m_host.Log().Answer(WM_CTLCOLORSTATIC, [this](const ts::Message& message) -> std::optional<LRESULT> {
-            ::SetTextColor(reinterpret_cast<HDC>(message.wParam), RGB(255, 0, 0));
-            return reinterpret_cast<LRESULT>(m_brush.GetSafeHandle());
-        });
         m_font.CreateFont(24, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, ANTIALIASED_QUALITY, 0, L"Tahoma");
         const HWND control = AddStatic(L"Text", SS_LEFT | WS_VISIBLE);
         ::SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(m_font.GetSafeHandle()), TRUE);
         ASSERT_TRUE(m_link.SubclassWindow(control));
+        m_host.RedrawWindow();
+        Update();
     }
 
-    static constexpr COLORREF kBrush = RGB(220, 230, 210);
-    CBrush m_brush;
+    /** Paints what is to be painted, and nothing more. */
+    void Update() { m_host.RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN); }
+
+    /** What is on the screen at the link, once what was asked for has been painted. */
+    ts::Picture Shown()
+    {
+        Update();
+        return Look(m_link);
+    }
+
+    ts::Picture Expected(COLORREF colour)
+    {
+        CRect client;
+        m_link.GetClientRect(&client);
+        const HGDIOBJ font = reinterpret_cast<HGDIOBJ>(m_link.SendMessage(WM_GETFONT));
+        return TextPicture(client.Size(), L"Text", font, colour, kBack, DT_WORDBREAK | DT_EDITCONTROL);
+    }
+
     CFont m_font;
 };
 
-TEST_F(LinkOnABrush, TextIsDrawnOnTheBrush)
+TEST_F(SmoothLink, LooksTheSameHoweverOftenTheMouseComes)
 {
-    const ts::Picture look = Look(m_link);
-    const HGDIOBJ font = reinterpret_cast<HGDIOBJ>(m_link.SendMessage(WM_GETFONT));
-    const ts::Picture expected =
-        TextPicture({look.Width(), look.Height()}, L"Text", font, kLink, kBrush, DT_WORDBREAK | DT_EDITCONTROL);
-    EXPECT_TRUE(ts::SamePicture(expected, look));
-}
-
-TEST_F(LinkOnABrush, NewTextTakesTheFormerOnesPlace)
-{
-    const ts::Picture before = Look(m_link);
-    m_link.SetWindowText(L"New");
-    const ts::Picture changed = Look(m_link);
-    EXPECT_EQ(0, changed.Count(RGB(255, 0, 0)));
-    EXPECT_FALSE(ts::SamePicture(before, changed));
-    m_link.SetWindowText(L"Text");
-    EXPECT_TRUE(ts::SamePicture(before, Look(m_link)));
-}
-
-TEST_F(LinkOnABrush, ErasingLeavesTheDeviceContextAsItWas)
-{
-    EXPECT_EQ(TRUE, m_link.SendMessage(WM_ERASEBKGND, 0));
-    ts::DrawTo(10, 10, [this](HDC dc) {
-        ::SetTextColor(dc, RGB(1, 2, 3));
-        EXPECT_EQ(TRUE, m_link.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc)));
-        EXPECT_EQ(RGB(1, 2, 3), ::GetTextColor(dc));
-        EXPECT_EQ(kBrush, ::GetPixel(dc, 5, 5));
-    });
-}
-
-TEST_F(LinkOnABrush, TextKeepsTheLinkFont)
-{
-    const ts::Picture before = Look(m_link);
-    CFont other;
-    other.CreatePointFont(100, L"Tahoma");
-    m_link.SetFont(&other);
-    m_link.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
-    EXPECT_TRUE(ts::SamePicture(before, Look(m_link)));
-}
-
-TEST_F(LinkOnABrush, LooksTheSameHoweverOftenTheMouseComes)
-{
-    const ts::Picture before = Look(m_link);
     for (int i = 0; i < 3; ++i) {
+        EXPECT_TRUE(ts::SamePicture(Expected(kLink), Shown()));
         ts::MoveMouse(m_link);
-        EXPECT_FALSE(ts::SamePicture(before, Look(m_link)));
+        EXPECT_TRUE(ts::SamePicture(Expected(::GetSysColor(COLOR_HIGHLIGHT)), Shown()));
         ts::MoveMouse(m_host.m_hWnd, 250, 140);
-        EXPECT_TRUE(ts::SamePicture(before, Look(m_link)));
     }
 }
 
-TEST_F(LinkOnABrush, LineUnderTheTextGoesWithoutATrace)
+TEST_F(SmoothLink, NewColoursLeaveNoTraceOfTheFormerOnes)
 {
-    const ts::Picture before = Look(m_link);
+    m_link.SetColors(RGB(200, 0, 0), kVisited, CLR_NONE);
+    EXPECT_TRUE(ts::SamePicture(Expected(RGB(200, 0, 0)), Shown()));
+}
+
+TEST_F(SmoothLink, VisitedTextLeavesNoTraceOfTheUnvisitedOne)
+{
+    const ts::ReplacedFunction opening(L"shell32.dll", "ShellExecuteW", &TakeOpening);
+    g_openAnswer = 33;
+    m_host.SendMessage(WM_COMMAND, MAKEWPARAM(15, STN_CLICKED), reinterpret_cast<LPARAM>(m_link.m_hWnd));
+    EXPECT_TRUE(ts::SamePicture(Expected(kVisited), Shown()));
+}
+
+TEST_F(SmoothLink, NewTextTakesTheFormerOnesPlace)
+{
+    m_link.SetWindowText(L"New");
+    EXPECT_FALSE(ts::SamePicture(Expected(kLink), Shown()));
+    m_link.SetWindowText(L"Text");
+    EXPECT_TRUE(ts::SamePicture(Expected(kLink), Shown()));
+}
+
+TEST_F(SmoothLink, TextKeepsTheLinkFont)
+{
+    const ts::Picture before = Shown();
+    CFont other;
+    other.CreatePointFont(100, L"Tahoma");
+    m_link.SetFont(&other);
+    EXPECT_TRUE(ts::SamePicture(before, Shown()));
+}
+
+TEST_F(SmoothLink, LineUnderTheTextGoesWithoutATrace)
+{
+    const ts::Picture before = Shown();
     m_link.SetUnderline(TRUE);
-    EXPECT_FALSE(ts::SamePicture(before, Look(m_link)));
+    EXPECT_FALSE(ts::SamePicture(before, Shown()));
     m_link.SetUnderline(FALSE);
-    EXPECT_TRUE(ts::SamePicture(before, Look(m_link)));
+    EXPECT_TRUE(ts::SamePicture(before, Shown()));
+}
+
+TEST_F(SmoothLink, NeighboursOnTheSamePlaceStay)
+{
+    CStatic frame;
+    ASSERT_TRUE(frame.Create(L"", WS_CHILD | WS_VISIBLE | SS_BLACKFRAME, CRect(30, 2, 200, 100), &m_host, 16));
+    m_host.RedrawWindow();
+    const ts::Picture before = Look(m_host);
+    m_link.SetColors(RGB(200, 0, 0), kVisited, CLR_NONE);
+    Update();
+    m_link.SetColors(kLink, kVisited, CLR_NONE);
+    Update();
+    EXPECT_TRUE(ts::SamePicture(before, Look(m_host)));
 }
 
 TEST_F(QorLink, SettersWorkBeforeTheWindow)
