@@ -10,8 +10,6 @@ constexpr int kListWidth = 180;
 constexpr int kGap = 6;
 constexpr int kWidth = 940;
 constexpr int kHeight = 690;
-constexpr int kListItemHeight = 20;
-constexpr COLORREF kListColour = RGB(236, 245, 250);
 
 } // namespace
 
@@ -40,13 +38,9 @@ int CConsoleFrame::OnCreate(LPCREATESTRUCT create)
     if (CQorFrame::OnCreate(create) == -1) {
         return -1;
     }
-    const DWORD style =
-        WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_GROUP | WS_BORDER | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT;
-    if (!m_list.Create(style, ListArea(), this, kListId)) {
+    if (!m_list.Create(this, ListArea(), kListId)) {
         return -1;
     }
-    m_list.SetFont(CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT))));
-    m_list.SetItemHeight(0, kListItemHeight);
     for (const PageInfo& page : AllPages()) {
         m_list.AddString(ConText(page.titleKey));
     }
@@ -166,9 +160,5 @@ LRESULT CConsoleFrame::OnNextDlgCtl(WPARAM control, LPARAM isHandle)
 
 HBRUSH CConsoleFrame::OnCtlColor(CDC* dc, CWnd* wnd, UINT kind)
 {
-    if (kind == CTLCOLOR_LISTBOX) {
-        dc->SetBkColor(kListColour); // the list box fills its items with this, not with the brush
-        return QorGetDlgBkBrush();
-    }
-    return CQorFrame::OnCtlColor(dc, wnd, kind);
+    return kind == CTLCOLOR_LISTBOX ? QorGetDlgBkBrush() : CQorFrame::OnCtlColor(dc, wnd, kind);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ConsolePage.h"
+#include "PageList.h"
 
 /** The console's main window: the list of pages at the left, the chosen page beside it. */
 class CConsoleFrame : public CQorFrame
@@ -34,6 +35,6 @@ class CConsoleFrame : public CQorFrame
     CRect ListArea() const;
     CRect PageArea() const;
 
-    CListBox m_list;
+    CPageList m_list;
     std::unique_ptr<CConsolePage> m_page;
 };

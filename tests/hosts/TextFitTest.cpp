@@ -148,14 +148,15 @@ TEST_P(TextFit, NothingIsCutOffOnThePages)
 
 TEST_P(TextFit, NothingIsCutOffInTheListOfPages)
 {
-    CListBox& list = static_cast<CListBox&>(*CWnd::FromHandlePermanent(::GetDlgItem(m_frame, kPageList)));
+    auto& list = static_cast<CPageList&>(*CWnd::FromHandlePermanent(::GetDlgItem(m_frame, kPageList)));
     CRect client;
     list.GetClientRect(client);
     ASSERT_GT(list.GetCount(), 0);
     for (int i = 0; i < list.GetCount(); ++i) {
         CString text;
         list.GetText(i, text);
-        EXPECT_TRUE(FitsInto(text, SizeOf(list, text, 0, DT_NOPREFIX), CSize(client.Width() - kMargin, 20)));
+        EXPECT_TRUE(FitsInto(text, SizeOf(list, text, 0, DT_NOPREFIX),
+                             CSize(client.Width() - 2 * CPageList::kMargin, CPageList::kRowHeight)));
     }
 }
 
