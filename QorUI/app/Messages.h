@@ -27,7 +27,7 @@
 /** A panel reports a chosen item. */
 #define WM_PANEL_NOTIFY (WM_USER + 306)
 
-/** Protocol of the archive dialog. */
+/** Protocol of the archive dialog: what an archive job of QorPub sends as `WM_QORZIP`. */
 #define WM_QORZIP_PROGRESS (WM_USER + 400)
 
 /** Registered message "TaskbarCreated": the shell re-created the taskbar. Registered when the library is loaded. */

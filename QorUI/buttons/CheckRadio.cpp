@@ -43,7 +43,7 @@ constexpr int kTextIndent = 17; // past the glyph
 constexpr UINT kTextFormat = DT_WORDBREAK | DT_EDITCONTROL;
 
 /** Style bits of which owner-drawn and automatic radio buttons have at least one. */
-constexpr DWORD kRadioStyles = 9;
+constexpr DWORD kRadioStyles = BS_AUTORADIOBUTTON;
 
 void DrawLabel(CWnd& button, CDC& dc, UINT mode, UINT state)
 {

@@ -14,8 +14,8 @@
 class QORUI_API CQorDialog : public CQorBaseDlg
 {
   public:
-    /** Constructor flags. */
-    enum : DWORD
+    /** What the dialog is like. */
+    enum Flags : DWORD
     {
         ButtonBand = 1,    ///< OK and Cancel stand in a band at the bottom
         CloseDisabled = 2, ///< Cancel, Escape and the close button do nothing; set by `DisableClose` only
@@ -25,7 +25,7 @@ class QORUI_API CQorDialog : public CQorBaseDlg
     /**
      * @param idd    dialog template, found by the framework's resource search when the dialog opens
      * @param parent owner, or null for the main window
-     * @param flags  values of `Flags`, joined
+     * @param flags  values of `Flags`, joined with `|`
      */
     CQorDialog(UINT idd, CWnd* parent, DWORD flags);
 

@@ -1,6 +1,7 @@
 #include <cstring>
 #include <gtest/gtest.h>
 #include <memory>
+#include <QorPub/Zip.h>
 #include <QorUI/app/Look.h>
 #include <QorUI/app/Messages.h>
 #include <QorUI/app/SysLook.h>
@@ -137,6 +138,7 @@ TEST(Messages, HaveTheirNumbers)
     EXPECT_EQ(WM_USER + 305, WM_TABWND_SELCHANGE);
     EXPECT_EQ(WM_USER + 306, WM_PANEL_NOTIFY);
     EXPECT_EQ(WM_USER + 400, WM_QORZIP_PROGRESS);
+    EXPECT_EQ(WM_QORZIP, WM_QORZIP_PROGRESS);
     EXPECT_EQ(0x52C, WM_DRAWPARENTBACK);
 }
 
