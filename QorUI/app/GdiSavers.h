@@ -66,25 +66,34 @@ class CTextModeSaver
     int m_mode;
 };
 
-/** The screen's device context, released at the end of the scope. */
-class CScreenDc
+/** The device context of a window's client area, or of the screen for a null handle, released at the end of the scope.
+ */
+class CWndDc
 {
   public:
-    CScreenDc() : m_dc(::GetDC(nullptr)) {}
-    ~CScreenDc()
+    explicit CWndDc(HWND wnd) : m_wnd(wnd), m_dc(::GetDC(wnd)) {}
+    ~CWndDc()
     {
         if (m_dc) {
-            ::ReleaseDC(nullptr, m_dc);
+            ::ReleaseDC(m_wnd, m_dc);
         }
     }
-    CScreenDc(const CScreenDc&) = delete;
-    CScreenDc& operator=(const CScreenDc&) = delete;
+    CWndDc(const CWndDc&) = delete;
+    CWndDc& operator=(const CWndDc&) = delete;
 
     /** Null when there is none. */
     HDC get() const { return m_dc; }
 
   private:
+    HWND m_wnd;
     HDC m_dc;
+};
+
+/** The screen's device context, released at the end of the scope. */
+class CScreenDc : public CWndDc
+{
+  public:
+    CScreenDc() : CWndDc(nullptr) {}
 };
 
 /** A memory device context compatible with another one. */

@@ -31,7 +31,7 @@ int CDragLB::DeleteString(int index)
 {
     const int left = m_hWnd ? CDragListBox::DeleteString(static_cast<UINT>(index)) : LB_ERR;
     if (left >= 0) {
-        m_nMaxWidth = QorRefitList(*this);
+        m_nMaxWidth = QorRefitList(*this, m_nMaxWidth);
     }
     return left;
 }
@@ -50,6 +50,7 @@ void CDragLB::UpdateWidth(LPCWSTR text)
 void CDragLB::PreSubclassWindow()
 {
     ModifyStyle(LBS_SORT | LBS_MULTIPLESEL, 0);
+    m_nMaxWidth = QorWidestOf(*this); // not that of a former window
     CDragListBox::PreSubclassWindow();
 }
 

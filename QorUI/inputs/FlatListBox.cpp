@@ -36,7 +36,7 @@ int CFlatListBox::DeleteString(int index)
 {
     const int left = m_hWnd ? CListBox::DeleteString(static_cast<UINT>(index)) : LB_ERR;
     if (left >= 0) {
-        m_nMaxWidth = QorRefitList(*this);
+        m_nMaxWidth = QorRefitList(*this, m_nMaxWidth);
     }
     return left;
 }
@@ -56,7 +56,8 @@ void CFlatListBox::UpdateWidth(LPCWSTR text)
 
 void CFlatListBox::PreSubclassWindow()
 {
-    m_bound.Forget(); // the font of another window
+    m_bound.Forget();                 // the font of another window
+    m_nMaxWidth = QorWidestOf(*this); // not that of a former window
     CListBox::PreSubclassWindow();
 }
 

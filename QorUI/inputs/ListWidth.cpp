@@ -10,8 +10,8 @@ constexpr int kMarginBorders = 3; ///< borders' widths that stand for the margin
 } // namespace
 
 CListMeasure::CListMeasure(CListBox& list)
-    : m_dc(&list),
-      m_font(m_dc.m_hDC, reinterpret_cast<HGDIOBJ>(list.SendMessage(WM_GETFONT))),
+    : m_dc(list.m_hWnd),
+      m_font(m_dc.get(), reinterpret_cast<HGDIOBJ>(list.SendMessage(WM_GETFONT))),
       m_margin(kMarginBorders * ::GetSystemMetrics(SM_CXBORDER))
 {
 }
@@ -19,23 +19,27 @@ CListMeasure::CListMeasure(CListBox& list)
 int CListMeasure::Width(LPCWSTR text, int length) const
 {
     SIZE size = {};
-    ::GetTextExtentPoint32W(m_dc.m_hDC, text, length, &size);
+    ::GetTextExtentPoint32W(m_dc.get(), text, length, &size);
     return size.cx + m_margin;
 }
 
 int QorWidenList(CListBox& list, int widest, LPCWSTR text)
 {
-    const int width = CListMeasure(list).Width(text, text ? ::lstrlenW(text) : 0);
-    if (width > widest) {
+    const CListMeasure measure(list);
+    const int width = measure.Width(text, text ? ::lstrlenW(text) : 0);
+    if (measure.Dc() && width > widest) {
         widest = width;
         list.SetHorizontalExtent(widest);
     }
     return widest;
 }
 
-int QorRefitList(CListBox& list)
+int QorRefitList(CListBox& list, int former)
 {
     const CListMeasure measure(list);
+    if (!measure.Dc()) {
+        return former;
+    }
     const int count = list.GetCount();
     int widest = 0;
     CString text;
@@ -45,4 +49,9 @@ int QorRefitList(CListBox& list)
     }
     list.SetHorizontalExtent(widest);
     return widest;
+}
+
+int QorWidestOf(const CListBox& list)
+{
+    return list.GetCount() > 0 ? list.GetHorizontalExtent() : 0;
 }

@@ -9,7 +9,8 @@ class CListMeasure
   public:
     explicit CListMeasure(CListBox& list);
 
-    HDC Dc() const { return m_dc.m_hDC; }
+    /** Null when the system gives none, and then nothing can be measured. */
+    HDC Dc() const { return m_dc.get(); }
 
     /** What every text needs beside itself, pixels. */
     int Margin() const { return m_margin; }
@@ -18,7 +19,7 @@ class CListMeasure
     int Width(LPCWSTR text, int length) const;
 
   private:
-    CClientDC m_dc;
+    CWndDc m_dc;
     CSelectSaver m_font;
     int m_margin;
 };
@@ -30,5 +31,12 @@ class CListMeasure
  */
 int QorWidenList(CListBox& list, int widest, LPCWSTR text);
 
-/** Sets the horizontal scroll range to what the list's texts need. @return the width of the widest one. */
-int QorRefitList(CListBox& list);
+/**
+ * Sets the horizontal scroll range to what the list's texts need.
+ * @param former width of the widest text before, which stays when the texts cannot be measured.
+ * @return the width of the widest one.
+ */
+int QorRefitList(CListBox& list, int former);
+
+/** @return width of the widest text of a list that is taken over, as its scroll range tells it. */
+int QorWidestOf(const CListBox& list);

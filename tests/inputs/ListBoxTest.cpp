@@ -3,6 +3,7 @@
 #include <QorUI/inputs/DragLB.h>
 #include <QorUI/inputs/FlatChkList.h>
 #include <QorUI/inputs/FlatListBox.h>
+#include <tests/support/Imports.h>
 
 namespace
 {
@@ -137,6 +138,58 @@ TYPED_TEST(WidestText, WithoutAWindowNothingHappens)
     EXPECT_NO_THROW(list.ResetContent());
     EXPECT_EQ(nullptr, list.m_hWnd);
     EXPECT_FALSE(list.Create(WS_CHILD, CRect(0, 0, 10, 10), nullptr, 18));
+}
+
+TYPED_TEST(WidestText, NewWindowOfTheSameObjectStartsAnew)
+{
+    this->m_list.AddString(kLong);
+    this->m_list.DestroyWindow();
+    this->SetUp();
+    this->m_list.AddString(kShort);
+    EXPECT_EQ(this->Width(kShort), this->m_list.GetHorizontalExtent());
+}
+
+TYPED_TEST(WidestText, FilledListKeepsTheScrollRangeThatItHas)
+{
+    this->m_list.AddString(kLong);
+    const HWND filled = this->m_list.UnsubclassWindow();
+    TypeParam other;
+    ASSERT_TRUE(other.SubclassWindow(filled));
+    other.AddString(kShort);
+    EXPECT_EQ(this->Width(kLong), other.GetHorizontalExtent());
+}
+
+int WINAPI WideBorder(int index)
+{
+    return index == SM_CXBORDER ? 5 : ::GetSystemMetrics(index);
+}
+
+TYPED_TEST(WidestText, MarginIsThatOfThreeBorders)
+{
+    const ts::ReplacedImport metrics(L"QorUI.dll", "GetSystemMetrics", &WideBorder);
+    this->m_list.AddString(kShort);
+    EXPECT_EQ(TextWidth(GuiFont(), kShort) + 15, this->m_list.GetHorizontalExtent());
+}
+
+HDC WINAPI NoDc(HWND)
+{
+    return nullptr;
+}
+
+TYPED_TEST(WidestText, WithoutADeviceContextTheScrollRangeStays)
+{
+    this->m_list.AddString(kShort);
+    const int extent = this->m_list.GetHorizontalExtent();
+    {
+        const ts::ReplacedImport ours(L"QorUI.dll", "GetDC", &NoDc);
+        const ts::ReplacedImport frameworks(L"afx.dll", "GetDC", &NoDc);
+        EXPECT_EQ(1, this->m_list.AddString(kLong));
+        EXPECT_EQ(2, this->m_list.InsertString(2, kLong));
+        EXPECT_EQ(2, this->m_list.DeleteString(2));
+        EXPECT_EQ(extent, this->m_list.GetHorizontalExtent());
+    }
+    this->m_list.AddString(kLong);
+    EXPECT_EQ(this->Width(kLong), this->m_list.GetHorizontalExtent());
 }
 
 TYPED_TEST(WidestText, LeavesNothingBehind)
