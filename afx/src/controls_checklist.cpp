@@ -79,6 +79,7 @@ BOOL CCheckListBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UI
 
 void CCheckListBox::PreSubclassWindow()
 {
+    m_boxes.clear(); // those of a former window
     CListBox::PreSubclassWindow();
     ApplyItemHeight();
 }

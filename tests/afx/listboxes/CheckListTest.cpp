@@ -82,6 +82,19 @@ class CheckList : public testing::Test
     COpenCheckList m_list;
 };
 
+TEST_F(CheckList, BoxesOfAFormerWindowAreForgotten)
+{
+    m_list.SetCheck(0, BST_CHECKED);
+    m_list.Enable(0, FALSE);
+    m_list.DestroyWindow();
+    const HWND filled =
+        ::CreateWindow(TEXT("LISTBOX"), TEXT(""), kStyle, 10, 10, 120, 100, m_host.m_hWnd, nullptr, nullptr, nullptr);
+    ::SendMessage(filled, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(TEXT("Dan")));
+    ASSERT_TRUE(m_list.SubclassWindow(filled));
+    EXPECT_EQ(BST_UNCHECKED, m_list.GetCheck(0));
+    EXPECT_TRUE(m_list.IsEnabled(0));
+}
+
 TEST_F(CheckList, StartsUncheckedAndEnabled)
 {
     EXPECT_EQ(L"000", Checks());
