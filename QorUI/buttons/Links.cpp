@@ -154,7 +154,7 @@ void CQorLink::PreSubclassWindow()
     MakeLinkFont();
     PositionWindow();
     MakeTooltip();
-    Invalidate(TRUE); // the font was set before this object paints
+    RepaintWithParent(m_hWnd); // what the control has painted itself would stay under the link's text
     CStatic::PreSubclassWindow();
 }
 

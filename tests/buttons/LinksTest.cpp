@@ -460,9 +460,8 @@ class SmoothLink : public QorLink
         m_font.CreateFont(24, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, ANTIALIASED_QUALITY, 0, L"Tahoma");
         const HWND control = AddStatic(L"Text", SS_LEFT | WS_VISIBLE);
         ::SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(m_font.GetSafeHandle()), TRUE);
+        ::UpdateWindow(control);
         ASSERT_TRUE(m_link.SubclassWindow(control));
-        m_host.RedrawWindow();
-        Update();
     }
 
     /** Paints what is to be painted, and nothing more. */
@@ -485,6 +484,11 @@ class SmoothLink : public QorLink
 
     CFont m_font;
 };
+
+TEST_F(SmoothLink, LeavesNoTraceOfTheControlThatItTakesOver)
+{
+    EXPECT_TRUE(ts::SamePicture(Expected(kLink), Shown()));
+}
 
 TEST_F(SmoothLink, LooksTheSameHoweverOftenTheMouseComes)
 {
