@@ -177,6 +177,11 @@ LRESULT CQorLink::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     if (newFont || QorRepaintStatic(wnd, message)) {
         RepaintWithParent(wnd);
     }
+    if (message == WM_SIZE && m_tip.m_hWnd) {
+        CRect client;
+        GetClientRect(&client);
+        m_tip.SetToolRect(this, kTipId, &client);
+    }
     return result;
 }
 

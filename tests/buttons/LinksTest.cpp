@@ -147,6 +147,19 @@ class QorLink : public Links
         return nullptr;
     }
 
+    /** Expects the tooltip's tool to cover the client rectangle. */
+    void ExpectTipOverAll()
+    {
+        TOOLINFOW tool = {};
+        tool.cbSize = sizeof(tool);
+        tool.hwnd = m_link.m_hWnd;
+        tool.uId = 1;
+        EXPECT_TRUE(::SendMessageW(FindTip(), TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&tool)));
+        CRect client;
+        m_link.GetClientRect(&client);
+        EXPECT_EQ(client, CRect(tool.rect));
+    }
+
     CQorLink m_link;
 };
 
@@ -208,14 +221,20 @@ TEST_F(QorLink, TooltipHasOneToolOverTheClientRectangle)
     Take();
     ASSERT_NE(nullptr, FindTip());
     EXPECT_EQ(1, ::SendMessageW(FindTip(), TTM_GETTOOLCOUNT, 0, 0));
-    TOOLINFOW tool = {};
-    tool.cbSize = sizeof(tool);
-    tool.hwnd = m_link.m_hWnd;
-    tool.uId = 1;
-    ::SendMessageW(FindTip(), TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&tool));
-    CRect client;
-    m_link.GetClientRect(&client);
-    EXPECT_EQ(client, CRect(tool.rect));
+    ExpectTipOverAll();
+}
+
+TEST_F(QorLink, ToolFollowsTheSize)
+{
+    m_link.SetAutoSize(FALSE);
+    Take();
+    m_link.SetAutoSize(TRUE);
+    ExpectTipOverAll();
+    m_link.SetWindowText(L"A longer text");
+    m_link.SetURL(L"x");
+    ExpectTipOverAll();
+    m_link.MoveWindow(CRect(5, 5, 205, 65));
+    ExpectTipOverAll();
 }
 
 TEST_F(QorLink, StartsUnvisitedAndNotUnderlined)
