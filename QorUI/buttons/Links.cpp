@@ -37,15 +37,19 @@ BOOL ShowHand()
     return TRUE;
 }
 
-CSize TextExtent(HWND wnd, HGDIOBJ font)
+/** Measures the text of a window. @return whether there was a device context to do it in. */
+bool MeasureText(HWND wnd, HGDIOBJ font, CSize& size)
 {
+    size = CSize(0, 0);
+    const CWndDc dc(wnd);
+    if (!dc.get()) {
+        return false;
+    }
     CString text;
     CWnd::FromHandle(wnd)->GetWindowText(text);
-    CClientDC dc(CWnd::FromHandle(wnd));
-    const CSelectSaver selectFont(dc.m_hDC, font);
-    CSize size(0, 0);
-    ::GetTextExtentPoint32W(dc.m_hDC, text, text.GetLength(), &size);
-    return size;
+    const CSelectSaver selectFont(dc.get(), font);
+    ::GetTextExtentPoint32W(dc.get(), text, text.GetLength(), &size);
+    return true;
 }
 
 /**
@@ -204,6 +208,12 @@ void CQorLink::MakeLinkFont()
     }
 }
 
+HGDIOBJ CQorLink::LinkFont() const
+{
+    const HGDIOBJ font = m_font.GetSafeHandle();
+    return font ? font : reinterpret_cast<HGDIOBJ>(SendMessage(WM_GETFONT));
+}
+
 void CQorLink::MakeTooltip()
 {
     m_tip.DestroyWindow(); // that of a window which was given back
@@ -216,13 +226,14 @@ void CQorLink::MakeTooltip()
 
 void CQorLink::PositionWindow()
 {
-    if (!m_bAutoSize || !m_hWnd) {
+    CSize extent;
+    if (!m_bAutoSize || !m_hWnd || !MeasureText(m_hWnd, LinkFont(), extent)) {
         return;
     }
     CRect rect;
     GetWindowRect(&rect);
     ::MapWindowPoints(nullptr, ::GetParent(m_hWnd), reinterpret_cast<POINT*>(&rect), 2);
-    FitRect(rect, TextExtent(m_hWnd, m_font.GetSafeHandle()), GetStyle());
+    FitRect(rect, extent, GetStyle());
     SetWindowPos(nullptr, rect.left, rect.top, rect.Width(), rect.Height(), SWP_NOZORDER);
 }
 
@@ -236,7 +247,7 @@ void CQorLink::OnPaint()
     }
     const COLORREF unhovered = m_bVisited ? m_clrVisited : m_clrLink;
     const CTextModeSaver textMode(dc.m_hDC, m_bOver ? m_clrHover : unhovered, TRANSPARENT);
-    const CSelectSaver selectFont(dc.m_hDC, m_font.GetSafeHandle());
+    const CSelectSaver selectFont(dc.m_hDC, LinkFont());
     CRect client;
     GetClientRect(&client);
     dc.DrawText(text, &client, DT_WORDBREAK | DT_EDITCONTROL);
@@ -298,11 +309,7 @@ LRESULT CTextLink::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 BOOL CTextLink::GetExtent(CSize& size)
 {
     size = CSize(0, 0);
-    if (!m_hWnd) {
-        return FALSE;
-    }
-    size = TextExtent(m_hWnd, ::GetStockObject(DEFAULT_GUI_FONT));
-    return TRUE;
+    return m_hWnd && MeasureText(m_hWnd, ::GetStockObject(DEFAULT_GUI_FONT), size);
 }
 
 void CTextLink::OnPaint()

@@ -45,6 +45,7 @@ class QORUI_API CQorLink : public CStatic
 
   private:
     void MakeLinkFont();
+    HGDIOBJ LinkFont() const; // the control's own one when it could not be made
     void MakeTooltip();
     void SetOver(BOOL over);
 
@@ -70,7 +71,11 @@ class QORUI_API CTextLink : public CStatic
   public:
     CTextLink();
 
-    /** Measures the text. @param size in pixels. @return FALSE, and a size of zero, without a window. */
+    /**
+     * Measures the text.
+     * @param size in pixels.
+     * @return FALSE, and a size of zero, without a window or a device context for it.
+     */
     BOOL GetExtent(CSize& size);
 
   protected:

@@ -742,6 +742,37 @@ TEST_F(QorLink, WithoutAHandTheDefaultCursorIsLeft)
     EXPECT_EQ(before, ::GetCursor());
 }
 
+HFONT WINAPI NoFont(const LOGFONTW*)
+{
+    return nullptr;
+}
+
+TEST_F(QorLink, WithoutAFontOfItsOwnTheControlsIsUsed)
+{
+    const ts::ReplacedImport none(L"afx.dll", "CreateFontIndirectW", &NoFont);
+    Take();
+    const CSize size = Extent(L"Text", Gui());
+    EXPECT_EQ(size, PlaceIn(m_host, m_link).Size());
+    const ts::Picture expected = TextPicture(size, L"Text", Gui(), kLink, kBack, DT_WORDBREAK | DT_EDITCONTROL);
+    EXPECT_TRUE(ts::SamePicture(expected, Look(m_link)));
+}
+
+HDC WINAPI NoDc(HWND)
+{
+    return nullptr;
+}
+
+TEST_F(QorLink, WithoutADeviceContextTheSizeStays)
+{
+    Take();
+    const CRect place = PlaceIn(m_host, m_link);
+    const ts::ReplacedImport ours(L"QorUI.dll", "GetDC", &NoDc);
+    const ts::ReplacedImport frameworks(L"afx.dll", "GetDC", &NoDc);
+    m_link.SetWindowText(L"A longer text");
+    m_link.SetURL(L"x");
+    EXPECT_EQ(place, PlaceIn(m_host, m_link));
+}
+
 TEST_F(QorLink, HugeTextAndUrlAreNoHarm)
 {
     m_link.SetURL(CString(L'u', 100000));
@@ -873,6 +904,16 @@ TEST_F(TextLink, ExtentIsThatOfTheTextInTheGuiFont)
 
 TEST_F(TextLink, ExtentWithoutWindowIsZeroAndFalse)
 {
+    CSize size(7, 7);
+    EXPECT_EQ(FALSE, m_link.GetExtent(size));
+    EXPECT_EQ(CSize(0, 0), size);
+}
+
+TEST_F(TextLink, ExtentWithoutADeviceContextIsZeroAndFalse)
+{
+    Take(L"Some text");
+    const ts::ReplacedImport ours(L"QorUI.dll", "GetDC", &NoDc);
+    const ts::ReplacedImport frameworks(L"afx.dll", "GetDC", &NoDc);
     CSize size(7, 7);
     EXPECT_EQ(FALSE, m_link.GetExtent(size));
     EXPECT_EQ(CSize(0, 0), size);
