@@ -20,7 +20,10 @@ class QORUI_API CQorLink : public CStatic
     /** Sets the text colours. @param hover `CLR_NONE` for the system's highlight colour. */
     void SetColors(COLORREF link, COLORREF visited, COLORREF hover);
 
-    /** Chooses between the colours of a visited and an unvisited link. */
+    /**
+     * Chooses between the colours of a visited and an unvisited link. It is seen when the parent paints under the link
+     * next: this function repaints nothing.
+     */
     void SetVisited(BOOL visited);
 
     /** Whether the control takes the size of its text (as it does at first); done at once when it has a window. */
