@@ -17,7 +17,8 @@ constexpr COLORREF kOuterFrame = RGB(203, 203, 203);
 constexpr COLORREF kInnerFrame = RGB(255, 255, 255);
 constexpr int kGlyphWidth = 16;
 constexpr int kGlyphHeight = 17;
-constexpr int kGlyphRight = 17; ///< from the inner frame's right end to the glyph's left edge
+constexpr int kCentredHeight = 16; ///< what stands in the middle: all rows of the glyph but the last
+constexpr int kGlyphRight = 17;    ///< from the inner frame's right end to the glyph's left edge
 
 void DrawGlyph(HDC dc, int x, int y)
 {
@@ -43,9 +44,7 @@ int CSearchBox::OnCreate(LPCREATESTRUCT create)
     LimitText(kMaxText);
     COMBOBOXINFO info = {};
     info.cbSize = sizeof(info);
-    if (GetComboBoxInfo(&info)) {
-        m_hWndEdit = info.hwndItem;
-    }
+    m_hWndEdit = GetComboBoxInfo(&info) ? info.hwndItem : nullptr;
     return 0;
 }
 
@@ -58,5 +57,5 @@ void CSearchBox::OnPaint()
     dc.Draw3dRect(&rect, kOuterFrame, kOuterFrame);
     rect.DeflateRect(1, 1);
     dc.Draw3dRect(&rect, kInnerFrame, kInnerFrame);
-    DrawGlyph(dc.m_hDC, rect.right - kGlyphRight, (rect.Height() - kGlyphWidth) / 2);
+    DrawGlyph(dc.m_hDC, rect.right - kGlyphRight, (rect.Height() - kCentredHeight) / 2);
 }

@@ -25,6 +25,11 @@ HDC WINAPI NoMemoryDc(HDC)
     return nullptr;
 }
 
+BOOL WINAPI NoComboBoxInfo(HWND, PCOMBOBOXINFO)
+{
+    return FALSE;
+}
+
 class SearchBox : public testing::Test
 {
   protected:
@@ -53,6 +58,13 @@ TEST_F(SearchBox, KnowsItsEditControl)
     EXPECT_EQ(nullptr, COpenSearchBox().m_hWndEdit);
     ASSERT_NE(nullptr, m_box.m_hWndEdit);
     EXPECT_EQ(m_box.m_hWnd, ::GetParent(m_box.m_hWndEdit));
+}
+
+TEST_F(SearchBox, EditControlOfAFormerWindowIsForgotten)
+{
+    const ts::ReplacedImport none(L"afx.dll", "GetComboBoxInfo", &NoComboBoxInfo);
+    Create(CBS_DROPDOWN);
+    EXPECT_EQ(nullptr, m_box.m_hWndEdit);
 }
 
 TEST_F(SearchBox, TextIsLimitedTo260Characters)
