@@ -4,6 +4,8 @@
 
 #include "controls_ask.h"
 
+#include <algorithm>
+
 IMPLEMENT_DYNAMIC(CRichEditCtrl, CWnd)
 
 BOOL AFXAPI AfxInitRichEdit2()
@@ -257,7 +259,7 @@ int CRichEditCtrl::GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const
 {
     if (!lpszBuffer || nMaxLength <= 0)
         return 0;
-    *reinterpret_cast<WORD*>(lpszBuffer) = static_cast<WORD>(nMaxLength);
+    *reinterpret_cast<WORD*>(lpszBuffer) = static_cast<WORD>((std::min)(nMaxLength, 0xFFFF));
     return GetLine(nIndex, lpszBuffer);
 }
 

@@ -180,6 +180,14 @@ TEST_F(RichEdit, LinesAndPositions)
     EXPECT_EQ(m_edit.GetTextLengthEx(GTL_NUMCHARS), 13);
 }
 
+TEST_F(RichEdit, LineFitsIntoABufferOfAnySize)
+{
+    constexpr int large = 65536; // more than a word holds
+    std::wstring buffer(large, L'-');
+    EXPECT_GE(m_edit.GetLine(1, buffer.data(), large), 5);
+    EXPECT_EQ(buffer.substr(0, 5), L"three");
+}
+
 TEST_F(RichEdit, WordsAreFormattedAndTheSelectionIsHidden)
 {
     ts::MessageRecorder log(m_edit);
