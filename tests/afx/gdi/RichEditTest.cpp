@@ -205,6 +205,53 @@ TEST_F(RichEdit, WordsAreFormattedAndTheSelectionIsHidden)
     EXPECT_EQ(sizeof(CHARFORMAT2), format2.cbSize);
 }
 
+TEST_F(RichEdit, MessagesCarryTheirParameters)
+{
+    ts::MessageRecorder log(m_edit);
+    REPASTESPECIAL special = {};
+    for (const UINT id :
+         {EM_CANPASTE, EM_SETUNDOLIMIT, EM_SETRECT, EM_REQUESTRESIZE, EM_SETTARGETDEVICE, WM_COPY, WM_CUT, WM_PASTE,
+          EM_PASTESPECIAL, EM_FINDWORDBREAK, EM_SETOPTIONS, EM_AUTOURLDETECT, EM_GETTEXTMODE, EM_SETTEXTMODE}) {
+        log.RecordAlso({id});
+        log.Answer(id, [&special](const ts::Message& message) -> std::optional<LRESULT> {
+            if (message.id == EM_PASTESPECIAL) {
+                special = *reinterpret_cast<const REPASTESPECIAL*>(message.lParam);
+            }
+            return 5;
+        });
+    }
+    const CRect rect(1, 2, 3, 4);
+    CClientDC dc(&m_edit);
+    const auto metafile = reinterpret_cast<HMETAFILE>(INT_PTR{9});
+    EXPECT_EQ(m_edit.CanPaste(CF_TEXT), 5);
+    EXPECT_EQ(m_edit.SetUndoLimit(7), 5u);
+    m_edit.SetRect(&rect);
+    m_edit.RequestResize();
+    EXPECT_EQ(m_edit.SetTargetDevice(dc.m_hDC, 1440), 5);
+    EXPECT_EQ(m_edit.SetTargetDevice(dc, 720), 5);
+    m_edit.Copy();
+    m_edit.Cut();
+    m_edit.Paste();
+    m_edit.PasteSpecial(CF_METAFILEPICT, DVASPECT_ICON, metafile);
+    EXPECT_EQ(m_edit.FindWordBreak(WB_RIGHT, 3), 5u);
+    m_edit.SetOptions(ECOOP_OR, ECO_READONLY);
+    EXPECT_EQ(m_edit.SetAutoURLDetect(), 5);
+    EXPECT_EQ(m_edit.SetAutoURLDetect(FALSE), 5);
+    EXPECT_EQ(m_edit.GetTextMode(), 5u);
+    EXPECT_EQ(m_edit.SetTextMode(TM_PLAINTEXT), 5);
+    const auto device = reinterpret_cast<WPARAM>(dc.m_hDC);
+    EXPECT_TRUE(log.IsAmong({ts::Msg(EM_CANPASTE, CF_TEXT, 0), ts::Msg(EM_SETUNDOLIMIT, 7, 0),
+                             ts::Msg(EM_SETRECT, 0, reinterpret_cast<LPARAM>(&rect)), ts::Msg(EM_REQUESTRESIZE, 0, 0),
+                             ts::Msg(EM_SETTARGETDEVICE, device, 1440), ts::Msg(EM_SETTARGETDEVICE, device, 720),
+                             ts::Msg(WM_COPY, 0, 0), ts::Msg(WM_CUT, 0, 0), ts::Msg(WM_PASTE, 0, 0),
+                             ts::Msg(EM_PASTESPECIAL, CF_METAFILEPICT), ts::Msg(EM_FINDWORDBREAK, WB_RIGHT, 3),
+                             ts::Msg(EM_SETOPTIONS, ECOOP_OR, ECO_READONLY), ts::Msg(EM_AUTOURLDETECT, TRUE, 0),
+                             ts::Msg(EM_AUTOURLDETECT, FALSE, 0), ts::Msg(EM_GETTEXTMODE, 0, 0),
+                             ts::Msg(EM_SETTEXTMODE, TM_PLAINTEXT, 0)}));
+    EXPECT_EQ(special.dwAspect, DWORD{DVASPECT_ICON});
+    EXPECT_EQ(special.dwParam, 9u);
+}
+
 TEST_F(RichEdit, ScrollsByLines)
 {
     CString many;
