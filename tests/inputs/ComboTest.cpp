@@ -85,6 +85,16 @@ TEST_F(FlatCombo, SelectionFieldIsFifteenHigh)
     EXPECT_EQ(fifteen, combo.GetItemHeight(-1));
 }
 
+TEST_F(FlatCombo, SelectionFieldOfACreatedOneIsThatOfItsFont)
+{
+    const HWND stock = ::CreateWindowW(L"COMBOBOX", L"", WS_CHILD | CBS_DROPDOWNLIST, 10, 60, 120, 140, m_host, nullptr,
+                                       nullptr, nullptr);
+    CFlatCombo combo;
+    ASSERT_TRUE(combo.Create(WS_CHILD | CBS_DROPDOWNLIST, CRect(10, 60, 130, 200), &m_host, 18));
+    EXPECT_EQ(::SendMessageW(stock, CB_GETITEMHEIGHT, static_cast<WPARAM>(-1), 0), combo.GetItemHeight(-1));
+    EXPECT_NE(m_combo.GetItemHeight(-1), combo.GetItemHeight(-1));
+}
+
 TEST_F(FlatCombo, FindItemGivesTheFirstOfEqualData)
 {
     EXPECT_EQ(0, m_combo.FindItem(40));
