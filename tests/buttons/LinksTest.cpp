@@ -673,6 +673,23 @@ TEST_F(QorLink, HoverIsShownAtOnce)
     EXPECT_EQ(nullptr, ::GetCapture());
 }
 
+TEST_F(QorLink, IsRedrawnWhileItHasNoCapture)
+{
+    Take();
+    ::UpdateWindow(m_link);
+    std::vector<HWND> captures; // of the paintings
+    ts::MessageRecorder log(m_link);
+    log.Answer(WM_PAINT, [&captures](const ts::Message&) -> std::optional<LRESULT> {
+        captures.push_back(::GetCapture());
+        return std::nullopt;
+    });
+    m_link.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(1, 1));
+    EXPECT_EQ(std::vector<HWND>{nullptr}, captures) << "taken afterwards";
+    EXPECT_EQ(m_link.m_hWnd, ::GetCapture());
+    m_link.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(-1, 1));
+    EXPECT_EQ(std::vector<HWND>(2), captures) << "released before";
+}
+
 TEST_F(QorLink, NewTextTakesTheFormerOnesPlace)
 {
     m_link.SetAutoSize(FALSE);

@@ -219,6 +219,48 @@ TEST_F(IntEdit, EnterDoesNothingWithASpin)
     EXPECT_FALSE(m_host.Log().Has(ts::Msg(WM_COMMAND, MAKEWPARAM(kControlId, 0), 0)));
 }
 
+/** Notes what has been done already when the system's handler gets a released key. */
+class CKeyNotingEdit : public CIntEdit
+{
+  public:
+    explicit CKeyNotingEdit(ts::AfxHost& host) : m_host(host) {}
+
+    int keys = 0;
+    CString text;
+    bool clicked = false;
+
+  protected:
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_KEYUP) {
+            ++keys;
+            text = TextOf(*this);
+            clicked = m_host.Log().Has(ts::Msg(WM_COMMAND, MAKEWPARAM(kControlId, 0), 0));
+        }
+        return CIntEdit::DefWindowProc(message, wParam, lParam);
+    }
+
+  private:
+    ts::AfxHost& m_host;
+};
+
+TEST_F(IntEdit, DefaultHandlerGetsAReleasedKeyLast)
+{
+    CKeyNotingEdit edit(m_host);
+    ASSERT_TRUE(edit.SubclassWindow(AddSystem(m_host, L"EDIT", ES_WANTRETURN)));
+    edit.SetRange(5, 20, 12);
+    edit.SetWindowText(L"2");
+    edit.SendMessage(WM_KEYUP, VK_DELETE);
+    EXPECT_EQ(1, edit.keys);
+    EXPECT_STREQ(L"5", edit.text);
+    EXPECT_FALSE(edit.clicked);
+    edit.SendMessage(WM_KEYUP, VK_RETURN);
+    EXPECT_EQ(2, edit.keys);
+    EXPECT_TRUE(edit.clicked);
+    edit.SendMessage(WM_KEYUP, VK_HOME);
+    EXPECT_EQ(3, edit.keys);
+}
+
 LRESULT DlgCode(CIntEdit& edit, UINT message, WPARAM key)
 {
     MSG asked = {edit.m_hWnd, message, key, 0, 0, {0, 0}};
@@ -268,6 +310,18 @@ TEST_F(IntEdit, FormattingRectangleKeepsClearOfTheSpin)
     CRect client;
     m_edit.GetClientRect(&client);
     EXPECT_EQ(CRect(0, 1, client.right - 18, client.bottom), set);
+}
+
+TEST_F(IntEdit, IsMultiLineBeforeItGetsItsFormattingRectangle)
+{
+    ts::MessageRecorder log(m_edit);
+    LONG_PTR style = 0;
+    log.Answer(EM_SETRECT, [&style](const ts::Message& message) -> std::optional<LRESULT> {
+        style = ::GetWindowLongPtrW(message.window, GWL_STYLE);
+        return std::nullopt;
+    });
+    ASSERT_TRUE(m_edit.AddSpin());
+    EXPECT_TRUE(style & ES_MULTILINE);
 }
 
 TEST_F(IntEdit, SecondSpinIsRefused)
