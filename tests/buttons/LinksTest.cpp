@@ -282,6 +282,20 @@ TEST_F(QorLink, HoversInTheHighlightColour)
     EXPECT_EQ(m_link.m_hWnd, ::GetCapture());
 }
 
+DWORD WINAPI OddColour(int)
+{
+    return RGB(1, 202, 3);
+}
+
+TEST_F(QorLink, HoverColourIsThatOfTheTimeWhenTheLinkWasMade)
+{
+    const ts::ReplacedImport later(L"QorUI.dll", "GetSysColor", &OddColour);
+    Take();
+    ts::MoveMouse(m_link);
+    EXPECT_TRUE(Shows(::GetSysColor(COLOR_HIGHLIGHT)));
+    EXPECT_FALSE(Shows(RGB(1, 202, 3)));
+}
+
 TEST_F(QorLink, NoHoverColourMeansTheHighlightColour)
 {
     Take();

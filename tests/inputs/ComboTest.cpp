@@ -2,6 +2,7 @@
 
 #include <QorUI/inputs/ComboLook.h>
 #include <QorUI/inputs/FlatCombo.h>
+#include <tests/support/Imports.h>
 
 namespace
 {
@@ -139,6 +140,7 @@ TEST_F(FlatCombo, DataOfTheSelectionOrTheGivenValue)
 
 TEST_F(FlatCombo, BothPartsHaveAGreyAndAWhiteFrame)
 {
+    const OddLook odd; // which the frames do not take part in
     const ts::Picture look = LookOf(m_combo);
     const QorComboParts parts = Parts();
     EXPECT_TRUE(ts::FrameIs(look, parts.button, kGrey));
@@ -168,6 +170,7 @@ TEST_F(FlatCombo, FramesAreWholeWhateverTheStandardBoxPaints)
 
 TEST_F(FlatCombo, ButtonIsFilledAroundABlackArrow)
 {
+    const OddLook odd;
     const ts::Picture look = LookOf(m_combo);
     const QorComboParts parts = Parts();
     const ts::Picture face = look.Crop(parts.face);
@@ -175,20 +178,35 @@ TEST_F(FlatCombo, ButtonIsFilledAroundABlackArrow)
     EXPECT_EQ(CRect(parts.corner[0].x, parts.corner[0].y, parts.corner[1].x + 1, parts.corner[2].y + 1),
               arrow + CPoint(parts.face.left, parts.face.top));
     EXPECT_EQ(7 + 5 + 3 + 1, face.Count(RGB(0, 0, 0)));
-    EXPECT_EQ(face.Width() * face.Height() - 16, face.Count(::GetSysColor(COLOR_BTNFACE)));
+    EXPECT_EQ(face.Width() * face.Height() - 16, face.Count(OddLook::kFace));
 }
 
 TEST_F(FlatCombo, DisabledBoxHasAGreyArrowInTheSameFrame)
 {
+    const OddLook odd;
     const ts::Picture enabled = LookOf(m_combo);
     m_combo.EnableWindow(FALSE);
     const ts::Picture disabled = LookOf(m_combo);
     const QorComboParts parts = Parts();
     EXPECT_EQ(0, disabled.Crop(parts.face).Count(RGB(0, 0, 0)));
-    EXPECT_EQ(16, disabled.Crop(parts.face).Count(::GetSysColor(COLOR_GRAYTEXT)));
+    EXPECT_EQ(16, disabled.Crop(parts.face).Count(OddLook::kGrayText));
     EXPECT_TRUE(ts::FrameIs(disabled, parts.button, kGrey));
     EXPECT_TRUE(ts::FrameIs(disabled, Inner(parts.button), kWhite));
     EXPECT_TRUE(ts::SamePicture(enabled.Crop({0, 0, parts.text.right, 2}), disabled.Crop({0, 0, parts.text.right, 2})));
+}
+
+int WINAPI WideThumb(int index)
+{
+    return index == SM_CXHTHUMB ? 29 : ::GetSystemMetrics(index);
+}
+
+TEST_F(FlatCombo, ButtonHasTheWidthOfAScrollBarsThumb)
+{
+    const ts::ReplacedImport metrics(L"QorUI.dll", "GetSystemMetrics", &WideThumb);
+    const ts::Picture look = LookOf(m_combo);
+    const QorComboParts parts = QorComboLayout({0, 0, look.Width(), look.Height()}, 29);
+    EXPECT_TRUE(ts::FrameIs(look, parts.button, kGrey));
+    EXPECT_TRUE(ts::FrameIs(look, parts.text, kGrey));
 }
 
 TEST_F(FlatCombo, DropsDownAndSelectsByKeyboard)

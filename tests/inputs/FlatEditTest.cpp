@@ -55,10 +55,11 @@ TEST_F(FlatBorder, OuterLineIsGreyOnTheOutermostPixels)
 
 TEST_F(FlatBorder, InnerLineHasTheColourOfWindows)
 {
+    const OddLook odd;
     CPlain window(m_host, WS_EX_CLIENTEDGE);
     const ts::Picture picture = Drawn(window, TRUE);
     EXPECT_TRUE(ts::FrameIs(picture, {0, 0, 50, 30}, kGrey));
-    EXPECT_TRUE(ts::FrameIs(picture, {1, 1, 49, 29}, ::GetSysColor(COLOR_WINDOW)));
+    EXPECT_TRUE(ts::FrameIs(picture, {1, 1, 49, 29}, OddLook::kWindow));
     EXPECT_TRUE(ts::AreaIs(picture, {2, 2, 48, 28}, kBack));
 }
 

@@ -2,6 +2,7 @@
 
 #include <afxcmn.h>
 #include <afxwin.h>
+#include <QorUI/app/SysLook.h>
 #include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>
 
@@ -43,14 +44,44 @@ inline ts::Picture LookOf(const CWnd& control)
     return ts::CaptureWindow(control.m_hWnd);
 }
 
+/** Gives the shared look colours that nothing else has, as long as it lives. */
+class OddLook
+{
+  public:
+    OddLook()
+    {
+        QorSysLook.m_clrWindow = kWindow;
+        QorSysLook.m_clrBtnFace = kFace;
+        QorSysLook.m_clrGrayText = kGrayText;
+    }
+    ~OddLook()
+    {
+        QorSysLook.m_clrWindow = m_window;
+        QorSysLook.m_clrBtnFace = m_face;
+        QorSysLook.m_clrGrayText = m_grayText;
+    }
+    OddLook(const OddLook&) = delete;
+    OddLook& operator=(const OddLook&) = delete;
+
+    static constexpr COLORREF kWindow = RGB(250, 201, 12);
+    static constexpr COLORREF kFace = RGB(12, 202, 251);
+    static constexpr COLORREF kGrayText = RGB(203, 13, 101);
+
+  private:
+    COLORREF m_window = QorSysLook.m_clrWindow;
+    COLORREF m_face = QorSysLook.m_clrBtnFace;
+    COLORREF m_grayText = QorSysLook.m_clrGrayText;
+};
+
 /** Whether the two lines of the flat border surround a control. */
 inline testing::AssertionResult HasFlatBorder(const CWnd& control)
 {
+    const OddLook odd;
     const ts::Picture picture = FrameOf(control);
     const CRect outer(0, 0, picture.Width(), picture.Height());
     if (const auto grey = ts::FrameIs(picture, outer, kGrey); !grey)
         return grey;
-    return ts::FrameIs(picture, CRect(1, 1, outer.right - 1, outer.bottom - 1), ::GetSysColor(COLOR_WINDOW));
+    return ts::FrameIs(picture, CRect(1, 1, outer.right - 1, outer.bottom - 1), OddLook::kWindow);
 }
 
 /** Whether a control with a vertical scroll bar in its frame paints that with the frame. */
