@@ -17,7 +17,7 @@ class QORUI_API CMemDC : public CDC
 
   private:
     CBitmap m_bitmap;
-    CBitmap* m_pOldBitmap;
+    HGDIOBJ m_hOldBitmap; // no object of the framework's, which may forget it while somebody paints
     CDC* m_pTarget;
     CRect m_rect; // clip box of the target
 };

@@ -10,6 +10,16 @@ HBITMAP WINAPI NoBitmap(HDC, int, int)
     return nullptr;
 }
 
+HDC g_memory = nullptr;
+int g_deletedSelected = 0; // objects that were selected in the device context when they were deleted
+int g_deletedFree = 0;     // others
+
+BOOL WINAPI WatchDeletion(HGDIOBJ object)
+{
+    ++(GetCurrentObject(g_memory, OBJ_BITMAP) == object ? g_deletedSelected : g_deletedFree);
+    return ::DeleteObject(object);
+}
+
 } // namespace
 
 TEST(MemDC, DrawsAtTheTargetsCoordinates)
@@ -87,4 +97,19 @@ TEST(MemDC, LeavesNoObjects)
             });
         },
         200));
+}
+
+TEST(MemDC, PictureIsLetGoBeforeItsEndEvenWhenTheFrameworkForgotTemporaryObjects)
+{
+    const ts::ReplacedImport watch(L"afx.dll", "DeleteObject", &WatchDeletion);
+    g_deletedSelected = 0;
+    g_deletedFree = 0;
+    Drawn(20, 20, [](CDC& dc) {
+        const CMemDC memory(&dc);
+        g_memory = memory.m_hDC;
+        CGdiObject::DeleteTempMap();
+    });
+    g_memory = nullptr;
+    EXPECT_EQ(0, g_deletedSelected);
+    EXPECT_LT(0, g_deletedFree);
 }
