@@ -85,6 +85,13 @@ BOOL CQorClock::PreCreateWindow(CREATESTRUCT& cs)
     return cs.lpszClass && CWnd::PreCreateWindow(cs);
 }
 
+void CQorClock::PostNcDestroy()
+{
+    m_bInFinger = FALSE;
+    m_nStep = 0;
+    CWnd::PostNcDestroy();
+}
+
 UINT CQorClock::GetHour()
 {
     return m_nHour % kNoon + (m_bPM ? kNoon : 0);

@@ -39,6 +39,7 @@ class QORUI_API CQorClock : public CWnd
 
   protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    void PostNcDestroy() override;
 
     afx_msg void OnTimer(UINT_PTR timer);
     afx_msg void OnPaint();

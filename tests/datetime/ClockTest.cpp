@@ -517,6 +517,28 @@ TEST_F(Clock, ParentMayDestroyTheClockWhenTold)
     ts::MouseUp();
 }
 
+TEST_F(Clock, DragEndsWithTheWindow)
+{
+    Make();
+    Grab();
+    m_clock.DestroyWindow();
+    Make();
+    MoveToMinute(50);
+    ts::MouseUp();
+    EXPECT_EQ("1:30", Time());
+    EXPECT_TRUE(m_host.Log().Is({}));
+}
+
+TEST_F(Clock, AnimationEndsWithTheWindow)
+{
+    Make();
+    m_clock.SetTimeAnimate(14, 0, TRUE);
+    m_clock.DestroyWindow();
+    Make();
+    m_clock.OnTimer(1);
+    EXPECT_EQ("1:30", Time());
+}
+
 TEST_F(Clock, AnimationForwardsPassesMidnight)
 {
     Make();
