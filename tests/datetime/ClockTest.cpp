@@ -10,7 +10,8 @@
 namespace
 {
 
-constexpr UINT kDial = 300;
+constexpr UINT kDial = 300;     // 161 x 161
+constexpr UINT kFlatDial = 302; // 78 x 13
 constexpr UINT kClockId = 78;
 constexpr COLORREF kBack = RGB(250, 240, 230);
 constexpr COLORREF kInk = RGB(58, 58, 58);
@@ -47,6 +48,35 @@ int WINAPI NothingKnown(HANDLE, int, LPVOID)
 int Nearest(double value)
 {
     return static_cast<int>(std::floor(value + 0.5));
+}
+
+/** A clock's picture. @param radius that the hands are measured by */
+ts::Picture FaceOf(UINT dialId, CPoint center, int radius, UINT hour, UINT minute)
+{
+    CBitmap dial;
+    EXPECT_TRUE(dial.LoadBitmap(dialId));
+    BITMAP bitmap = {};
+    dial.GetBitmap(&bitmap);
+    return Drawn(bitmap.bmWidth, bitmap.bmHeight, [&](CDC& dc) {
+        CDC memory;
+        memory.CreateCompatibleDC(&dc);
+        CBitmap* old = memory.SelectObject(&dial);
+        dc.BitBlt(0, 0, bitmap.bmWidth, bitmap.bmHeight, &memory, 0, 0, SRCCOPY);
+        memory.SelectObject(old);
+        dc.SetBkColor(kBack);
+        dc.SetTextColor(kInk);
+        dc.SelectStockObject(DEFAULT_GUI_FONT);
+        dc.TextOut(4, 4, hour >= 12 ? L"PM" : L"AM", 2);
+        CPen pen(PS_SOLID, 2, kInk);
+        CPen* oldPen = dc.SelectObject(&pen);
+        const auto drawHand = [&](double length, double angle) {
+            dc.MoveTo(center);
+            dc.LineTo(Nearest(center.x + sin(angle) * length), Nearest(center.y - cos(angle) * length));
+        };
+        drawHand(radius * 0.6, (minute / 60.0 + hour % 12) / 12 * 3.1415926535 * 2);
+        drawHand(radius * 0.75, minute / 60.0 * 3.1415926535 * 2);
+        dc.SelectObject(oldPen);
+    });
 }
 
 class CTestClock : public CQorClock
@@ -250,34 +280,22 @@ TEST_F(Clock, PaintsTheHandsAndTheHalfOfTheDay)
     Make();
     const std::pair<UINT, UINT> times[] = {{1, 30}, {3, 0}, {16, 45}, {22, 8}, {12, 0}};
     for (const auto& time : times) {
-        const UINT hour = time.first;
-        const UINT minute = time.second;
-        m_clock.SetTime(hour, minute);
+        m_clock.SetTime(time.first, time.second);
         Show();
-        CBitmap dial;
-        ASSERT_TRUE(dial.LoadBitmap(kDial));
-        const ts::Picture expected = Drawn(161, 161, [&](CDC& dc) {
-            CDC memory;
-            memory.CreateCompatibleDC(&dc);
-            CBitmap* old = memory.SelectObject(&dial);
-            dc.BitBlt(0, 0, 161, 161, &memory, 0, 0, SRCCOPY);
-            memory.SelectObject(old);
-            dc.SetBkColor(kBack);
-            dc.SetTextColor(kInk);
-            dc.SelectStockObject(DEFAULT_GUI_FONT);
-            dc.TextOut(4, 4, hour >= 12 ? L"PM" : L"AM", 2);
-            CPen pen(PS_SOLID, 2, kInk);
-            CPen* oldPen = dc.SelectObject(&pen);
-            const double hourAngle = (minute / 60.0 + hour % 12) / 12 * 3.1415926535 * 2;
-            const double minuteAngle = minute / 60.0 * 3.1415926535 * 2;
-            dc.MoveTo(80, 80);
-            dc.LineTo(Nearest(80 + sin(hourAngle) * 48), Nearest(80 - cos(hourAngle) * 48));
-            dc.MoveTo(80, 80);
-            dc.LineTo(Nearest(80 + sin(minuteAngle) * 60), Nearest(80 - cos(minuteAngle) * 60));
-            dc.SelectObject(oldPen);
-        });
-        EXPECT_TRUE(ts::SamePicture(expected, Look())) << hour << ":" << minute;
+        const ts::Picture expected = FaceOf(kDial, kCenter, 80, time.first, time.second);
+        EXPECT_TRUE(ts::SamePicture(expected, Look())) << time.first << ":" << time.second;
     }
+}
+
+TEST_F(Clock, DialNeedNotBeSquare)
+{
+    ASSERT_TRUE(m_clock.Create(kFlatDial, &m_host, kClockId, kBack));
+    m_clock.SetTime(4, 50);
+    Show();
+    CRect rect;
+    m_clock.GetWindowRect(rect);
+    EXPECT_EQ(CSize(78, 13), rect.Size());
+    EXPECT_TRUE(ts::SamePicture(FaceOf(kFlatDial, CPoint(39, 6), 6, 4, 50), Look()));
 }
 
 TEST_F(Clock, HandsAreInkOnTheDial)
