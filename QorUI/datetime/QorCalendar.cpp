@@ -596,7 +596,14 @@ int CQorCalendar::PageAt(CPoint point) const
 
 void CQorCalendar::OnLButtonDown(UINT /*flags*/, CPoint point)
 {
+    // A press ends what was released where the calendar does not see it.
+    m_bTrackDay = FALSE;
+    m_bTrackArrow = FALSE;
+    const HWND wnd = m_hWnd;
     SetFocus();
+    if (!::IsWindow(wnd)) {
+        return; // the host closed the calendar for that
+    }
     m_dtAnchor.SetStatus(COleDateTime::invalid);
     if (const int direction = PageAt(point); direction != 0) {
         m_bTrackArrow = TRUE;
@@ -612,12 +619,16 @@ void CQorCalendar::OnLButtonDown(UINT /*flags*/, CPoint point)
 
 void CQorCalendar::OpenMonthList(CalendarCell* cell)
 {
+    const HWND wnd = m_hWnd;
     CloseMonthList();
+    if (!::IsWindow(wnd)) {
+        return;
+    }
     const int offset = (cell->nRow - 1) * m_nCols + cell->nCol - 1;
     const QorMonth::Month month = QorMonth::AddMonths({m_nYear, m_nMonth}, offset);
     m_pSelMonthWnd = new CSelMonthWnd; // the framework throws when there is no memory
     const BOOL shown = m_pSelMonthWnd->Create(month.month, month.year, this);
-    if (!m_hWnd || !m_pSelMonthWnd) {
+    if (!::IsWindow(wnd) || !m_pSelMonthWnd) {
         return; // the list was activated, and the host closed the calendar for that
     }
     if (!shown) {
@@ -625,8 +636,8 @@ void CQorCalendar::OpenMonthList(CalendarCell* cell)
         return;
     }
     m_pHdrCell = cell;
+    m_bTrackMonth = TRUE; // before the capture: who loses it may close the calendar
     SetCapture();
-    m_bTrackMonth = TRUE;
 }
 
 void CQorCalendar::CloseMonthList()
@@ -652,8 +663,8 @@ void CQorCalendar::BeginDaySelection(const CalendarDay& day)
 {
     m_dtAnchor = day.date;
     Select(day.date, day.date);
+    m_bTrackDay = TRUE; // before the capture: who loses it may close the calendar
     SetCapture();
-    m_bTrackDay = TRUE;
     Repaint();
 }
 
@@ -690,8 +701,12 @@ void CQorCalendar::OnLButtonUp(UINT /*flags*/, CPoint /*point*/)
         m_bTrackArrow = FALSE;
         Repaint();
     } else if (m_bTrackMonth) {
+        const HWND wnd = m_hWnd;
         TakeListedMonth();
         CloseMonthList();
+        if (!::IsWindow(wnd)) {
+            return;
+        }
         ::ReleaseCapture();
         Repaint();
     }

@@ -429,3 +429,23 @@ TEST_F(CalendarMouse, ParentMayDestroyTheCalendarWhenTold)
     ts::MouseUp();
     EXPECT_EQ(nullptr, m_calendar.m_hWnd);
 }
+
+TEST_F(CalendarMouse, HostMayCloseTheCalendarWhenItLosesTheFocusOrTheCapture)
+{
+    for (const UINT loss : {WM_KILLFOCUS, WM_CAPTURECHANGED}) {
+        Begin(7);
+        const CPoint day = CRect(PlaceOf(Date(2009, 3, 10))).CenterPoint();
+        m_host.SetFocus();
+        m_host.SetCapture();
+        m_host.Log().Answer(loss, [this](const ts::Message& /*message*/) {
+            m_calendar.DestroyWindow();
+            return std::nullopt;
+        });
+        m_calendar.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(day.x, day.y));
+        m_host.Log().Answer(loss, nullptr);
+        EXPECT_EQ(nullptr, m_calendar.m_hWnd) << loss;
+        EXPECT_FALSE(m_calendar.m_bTrackDay) << loss;
+        EXPECT_EQ(loss == WM_KILLFOCUS ? L"none" : L"2009-03-10 to 2009-03-10", Selection(m_calendar));
+        ::ReleaseCapture();
+    }
+}

@@ -65,12 +65,17 @@ class MonthList : public CalendarFixture
         });
     }
 
-    void ExpectClosed()
+    void ExpectListGone()
     {
-        EXPECT_EQ(nullptr, m_calendar.m_hWnd);
         EXPECT_EQ(nullptr, m_calendar.m_pSelMonthWnd);
         EXPECT_FALSE(m_calendar.m_bTrackMonth);
         EXPECT_EQ(nullptr, GetCapture());
+    }
+
+    void ExpectClosed()
+    {
+        EXPECT_EQ(nullptr, m_calendar.m_hWnd);
+        ExpectListGone();
     }
 
     HWND List() { return m_calendar.m_pSelMonthWnd ? m_calendar.m_pSelMonthWnd->m_hWnd : nullptr; }
@@ -384,6 +389,30 @@ TEST_F(MonthList, WithoutItsWindowNothingIsTracked)
     EXPECT_EQ(Name(3, 2009), Choose());
 }
 
+TEST_F(MonthList, ArrowReleasedElsewhereDoesNotKeepTheListOpen)
+{
+    Make();
+    MoveTo(m_calendar.m_rcRightArrow);
+    ts::MouseDown();
+    ts::MoveMouse(m_host.m_hWnd, 480, 380);
+    ts::MouseUp();
+    ASSERT_TRUE(m_calendar.m_bTrackArrow);
+    PressHeader(0);
+    EXPECT_EQ(Name(4, 2009), Choose());
+    ExpectListGone();
+}
+
+TEST_F(MonthList, DragThatLostTheMouseDoesNotKeepTheListOpen)
+{
+    Make();
+    m_host.Log().Clear();
+    m_calendar.m_bTrackDay = TRUE;
+    PressHeader(0);
+    EXPECT_EQ(Name(3, 2009), Choose());
+    ExpectListGone();
+    EXPECT_TRUE(m_host.Log().Is({})) << "no day was selected";
+}
+
 TEST_F(MonthList, ErasingDoesNothing)
 {
     Open();
@@ -446,6 +475,36 @@ TEST_F(MonthList, HostMayCloseTheCalendarWhenTheListGoes)
     Choose();
     ExpectClosed();
     EXPECT_FALSE(m_closedWithList) << "the list was deleted while its window was being destroyed";
+}
+
+TEST_F(MonthList, HostThatClosesTheCalendarKeepsItsCapture)
+{
+    Open();
+    m_host.Log().Answer(WM_ACTIVATE, [this](const ts::Message& message) -> std::optional<LRESULT> {
+        if (LOWORD(message.wParam) != WA_INACTIVE) {
+            m_calendar.DestroyWindow();
+            m_host.SetCapture();
+        }
+        return std::nullopt;
+    });
+    m_calendar.SendMessage(WM_LBUTTONUP);
+    EXPECT_EQ(nullptr, m_calendar.m_hWnd);
+    EXPECT_EQ(m_host.m_hWnd, GetCapture());
+    ::ReleaseCapture();
+    ts::MouseUp();
+}
+
+TEST_F(MonthList, HostMayCloseTheCalendarWhenItLosesTheCapture)
+{
+    Make();
+    m_host.SetCapture();
+    m_host.Log().Answer(WM_CAPTURECHANGED, [this](const ts::Message& /*message*/) -> std::optional<LRESULT> {
+        m_calendar.DestroyWindow();
+        return std::nullopt;
+    });
+    SendPress(m_calendar, Header());
+    m_host.Log().Answer(WM_CAPTURECHANGED, nullptr);
+    ExpectClosed();
 }
 
 TEST_F(MonthList, LeavesNothingBehind)
