@@ -137,7 +137,11 @@ CString CQorCalendar::GetMonthName(int month, int year)
 
 BOOL CQorCalendar::Create(CWnd* parent, UINT id, int (*isSpecial)(COleDateTime&, void*), void* data, int rows, int cols)
 {
-    if (m_hWnd || !parent || rows < 1 || rows > QorMonth::kMaxGrid || cols < 1 || cols > QorMonth::kMaxGrid) {
+    if (m_hWnd) {
+        return FALSE;
+    }
+    FreeCells(); // of a former window
+    if (!parent || rows < 1 || rows > QorMonth::kMaxGrid || cols < 1 || cols > QorMonth::kMaxGrid) {
         return FALSE;
     }
     m_pCells.reset(new (std::nothrow) CalendarCell[static_cast<size_t>(rows) * static_cast<size_t>(cols)]);
@@ -151,18 +155,24 @@ BOOL CQorCalendar::Create(CWnd* parent, UINT id, int (*isSpecial)(COleDateTime&,
     if (MakeWindow(parent, id)) {
         return TRUE;
     }
+    FreeCells();
+    return FALSE;
+}
+
+void CQorCalendar::FreeCells()
+{
     m_pCells.reset();
     m_nRows = m_nCols = 0;
-    return FALSE;
 }
 
 BOOL CQorCalendar::MakeWindow(CWnd* parent, UINT id)
 {
-    if (!CWnd::Create(nullptr, nullptr, WS_CHILD, CRect(0, 0, 0, 0), parent, id)) {
-        return FALSE;
-    }
-    if (AdjustWndPos()) {
-        return TRUE;
+    try {
+        if (CWnd::Create(nullptr, nullptr, WS_CHILD, CRect(0, 0, 0, 0), parent, id) && AdjustWndPos()) {
+            return TRUE;
+        }
+    } catch (CException* exception) { // there is no window class or no device context
+        exception->Delete();
     }
     DestroyWindow();
     return FALSE;

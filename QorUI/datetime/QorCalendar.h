@@ -190,6 +190,7 @@ class QORUI_API CQorCalendar : public CWnd
   private:
     CalendarCell* CellAt(int row, int col);
     BOOL MakeWindow(CWnd* parent, UINT id);
+    void FreeCells();
     int MeasureDays(CDC& dc);
     int MeasureHeaders(CDC& dc, int leastWidth);
     void DrawArrow(CDC& dc, BOOL left, int y, int x);

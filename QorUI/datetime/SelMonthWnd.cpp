@@ -49,7 +49,13 @@ BOOL CSelMonthWnd::Create(int month, int year, CQorCalendar* calendar)
     if (!className || !CreateEx(0, className, L"", kStyle, CRect(0, 0, 0, 0), calendar, 0)) {
         return FALSE;
     }
-    const CSize size = WindowSize();
+    CSize size;
+    try {
+        size = WindowSize();
+    } catch (CException* exception) { // there is no device context
+        exception->Delete();
+        return FALSE;
+    }
     const DWORD mouse = ::GetMessagePos();
     // Activation may delete this object: nothing of it is used after this.
     return SetWindowPos(nullptr, GET_X_LPARAM(mouse) - size.cx / 2, GET_Y_LPARAM(mouse) - size.cy / 2, size.cx, size.cy,

@@ -1,5 +1,7 @@
 #include "Calendar.h"
 
+#include <tests/support/NoWindowClasses.h>
+
 #include <clocale>
 #include <new>
 
@@ -22,6 +24,11 @@ HFONT WINAPI FewFonts(const LOGFONTW* font)
 }
 
 HWND WINAPI NoWindow(DWORD, LPCWSTR, LPCWSTR, DWORD, int, int, int, int, HWND, HMENU, HINSTANCE, LPVOID)
+{
+    return nullptr;
+}
+
+HDC WINAPI NoDc(HWND)
 {
     return nullptr;
 }
@@ -154,6 +161,47 @@ TEST_F(Calendar, CreateFailsWithoutMemoryForItsCells)
     EXPECT_EQ(0, m_calendar.m_nRows + m_calendar.m_nCols);
     EXPECT_EQ(nullptr, ::GetWindow(m_host.m_hWnd, GW_CHILD));
     EXPECT_TRUE(create());
+}
+
+TEST_F(Calendar, CreateFailsWithoutADeviceContextOrAWindowClass)
+{
+    const auto create = [this] { return m_calendar.Create(&m_host, kCalendarId, nullptr, nullptr, 2, 3); };
+    {
+        const ts::ReplacedImport none(L"afx.dll", "GetDC", &NoDc);
+        EXPECT_FALSE(create());
+    }
+    EXPECT_EQ(nullptr, m_calendar.m_hWnd);
+    EXPECT_EQ(nullptr, m_calendar.m_pCells.get());
+    EXPECT_EQ(0, m_calendar.m_nRows + m_calendar.m_nCols);
+    {
+        const ts::NoWindowClasses none;
+        EXPECT_FALSE(create());
+    }
+    EXPECT_EQ(nullptr, m_calendar.m_pCells.get());
+    EXPECT_EQ(0, m_calendar.m_nRows + m_calendar.m_nCols);
+    EXPECT_EQ(nullptr, ::GetWindow(m_host.m_hWnd, GW_CHILD)) << "no window is left";
+    EXPECT_TRUE(create());
+}
+
+TEST_F(Calendar, CellsOfAFormerWindowDoNotOutliveAFailedCreate)
+{
+    Make(2, 3);
+    m_calendar.DestroyWindow();
+    EXPECT_FALSE(m_calendar.Create(nullptr, kCalendarId, nullptr, nullptr, 1, 1));
+    EXPECT_EQ(nullptr, m_calendar.m_pCells.get());
+    EXPECT_EQ(0, m_calendar.m_nRows + m_calendar.m_nCols);
+    Make(2, 3);
+    m_calendar.DestroyWindow();
+    {
+        const ts::ReplacedImport none(L"QorUI.dll", "_ZnayRKSt9nothrow_t", &NoMemory);
+        EXPECT_FALSE(m_calendar.Create(&m_host, kCalendarId, nullptr, nullptr, 1, 1));
+    }
+    ASSERT_EQ(0, m_calendar.m_nRows + m_calendar.m_nCols);
+    CPoint point(5, 5);
+    EXPECT_FALSE(m_calendar.InCellHdr(point));
+    EXPECT_FALSE(m_calendar.InCellDay(point));
+    m_calendar.ScrollRight(1);
+    EXPECT_EQ(3, m_calendar.m_nMonth) << "there is no grid to page by";
 }
 
 TEST_F(Calendar, WindowIsAsLargeAsItsMonths)

@@ -13,6 +13,11 @@ HWND WINAPI NoWindow(DWORD, LPCWSTR, LPCWSTR, DWORD, int, int, int, int, HWND, H
     return nullptr;
 }
 
+HDC WINAPI NoDc(HWND)
+{
+    return nullptr;
+}
+
 HDC WINAPI NoMemoryDc(HDC)
 {
     return nullptr;
@@ -387,6 +392,18 @@ TEST_F(MonthList, WithoutItsWindowNothingIsTracked)
     EXPECT_FALSE(m_calendar.m_bTrackMonth);
     EXPECT_EQ(nullptr, GetCapture());
     EXPECT_EQ(Name(3, 2009), Choose());
+}
+
+TEST_F(MonthList, WithoutADeviceContextNothingIsTracked)
+{
+    Make();
+    {
+        const ts::ReplacedImport none(L"afx.dll", "GetDC", &NoDc);
+        m_calendar.OnLButtonDown(MK_LBUTTON, Header());
+    }
+    EXPECT_EQ(nullptr, m_calendar.m_pSelMonthWnd);
+    EXPECT_FALSE(m_calendar.m_bTrackMonth);
+    EXPECT_EQ(nullptr, GetCapture());
 }
 
 TEST_F(MonthList, ArrowReleasedElsewhereDoesNotKeepTheListOpen)
