@@ -13,6 +13,7 @@ constexpr UINT kCalendarId = 77;
 class CTestCalendar : public CQorCalendar
 {
   public:
+    using CQorCalendar::AdjustWndPos;
     using CQorCalendar::ClearDays;
     using CQorCalendar::CreateFont;
     using CQorCalendar::DayHitTest;

@@ -110,6 +110,17 @@ TEST_F(CalendarMouse, ForbiddenSelectionIgnoresPresses)
     EXPECT_TRUE(m_host.Log().Is({}));
 }
 
+TEST_F(CalendarMouse, SelectionForbiddenDuringADragIsNotExtended)
+{
+    Begin(7);
+    PressOn(Date(2009, 3, 10));
+    m_calendar.SetMaxSelDays(0);
+    MoveTo(Date(2009, 3, 12));
+    EXPECT_EQ(L"none", Selection(m_calendar));
+    ts::MouseUp();
+    EXPECT_EQ(L"none", Selection(m_calendar));
+}
+
 TEST_F(CalendarMouse, MovesWithoutAPressSelectNothing)
 {
     Begin(7);
@@ -301,6 +312,16 @@ TEST_F(CalendarMouse, HitTestsFindHeadersAndDays)
     EXPECT_EQ(nullptr, m_calendar.DayHitTest(outside));
     EXPECT_EQ(nullptr, m_calendar.HdrHitTest(outside));
     EXPECT_FALSE(m_calendar.InCellDay(outside));
+}
+
+TEST_F(CalendarMouse, FirstOfTwoHeadersAtOnePlaceIsHit)
+{
+    Begin(1, 1, 2);
+    const RECT both = {10, 10, 20, 20};
+    m_calendar.SetCellHdrPos(1, 2, both);
+    m_calendar.SetCellHdrPos(1, 1, both);
+    CPoint point(15, 15);
+    EXPECT_EQ(&m_calendar.m_pCells[0], m_calendar.HdrHitTest(point));
 }
 
 TEST_F(CalendarMouse, DaysAreHitWithinTheWeeksOnly)

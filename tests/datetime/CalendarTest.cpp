@@ -3,6 +3,7 @@
 #include <tests/support/NoWindowClasses.h>
 
 #include <clocale>
+#include <map>
 #include <new>
 
 namespace
@@ -36,6 +37,23 @@ HDC WINAPI NoDc(HWND)
 void* NoMemory(size_t, const std::nothrow_t&) noexcept
 {
     return nullptr;
+}
+
+std::vector<std::wstring> g_measured;
+
+/** Gives a letter, a day and a header each a size of its own. */
+BOOL WINAPI SizeByKind(HDC, LPCWSTR text, int length, SIZE* size)
+{
+    g_measured.emplace_back(text, static_cast<size_t>(length));
+    *size = length == 1 ? SIZE{20, 9} : length == 2 ? SIZE{12, 40} : SIZE{10, 13};
+    return TRUE;
+}
+
+std::wstring ClassOf(const CWnd& wnd)
+{
+    WCHAR name[100] = L"";
+    ::GetClassNameW(wnd.m_hWnd, name, _countof(name));
+    return name;
 }
 
 class Calendar : public CalendarFixture
@@ -207,7 +225,10 @@ TEST_F(Calendar, CellsOfAFormerWindowDoNotOutliveAFailedCreate)
 TEST_F(Calendar, WindowIsAsLargeAsItsMonths)
 {
     Make(2, 3);
-    EXPECT_EQ(static_cast<DWORD>(WS_CHILD | WS_VISIBLE), m_calendar.GetStyle() & (WS_CHILD | WS_VISIBLE | WS_BORDER));
+    EXPECT_EQ(static_cast<DWORD>(WS_CHILD | WS_VISIBLE), m_calendar.GetStyle() & ~WS_CLIPSIBLINGS);
+    CWnd plain;
+    ASSERT_TRUE(plain.Create(nullptr, nullptr, WS_CHILD, CRect(0, 0, 0, 0), &m_host, kCalendarId + 1));
+    EXPECT_EQ(ClassOf(plain), ClassOf(m_calendar));
     CRect rect;
     m_calendar.GetWindowRect(rect);
     m_host.ScreenToClient(rect);
@@ -289,6 +310,53 @@ TEST_F(Calendar, GeometryComesFromTheMeasuredTexts)
     EXPECT_EQ(headerHeight + 2 + letterHeight + days + 4, m_calendar.m_nCellHeight);
 }
 
+TEST_F(Calendar, HeadersAreAtLeastAsWideAsTheWeeksAreHigh)
+{
+    g_measured.clear();
+    {
+        const ts::ReplacedImport sizes(L"afx.dll", "GetTextExtentPoint32W", &SizeByKind);
+        Make();
+    }
+    EXPECT_EQ(20, m_calendar.m_nDayWidth) << "as wide as a letter";
+    EXPECT_EQ(40, m_calendar.m_nDayHeight);
+    EXPECT_EQ(9, m_calendar.m_nDowHeight);
+    EXPECT_EQ(13 + 2, m_calendar.m_nHdrHeight);
+    EXPECT_EQ(252 + 4, m_calendar.m_nCellWidth);
+    EXPECT_EQ(15 + 9 + 252 + 4, m_calendar.m_nCellHeight);
+}
+
+TEST_F(Calendar, DaysLettersAndTheHeadersOfTwentyOneYearsAreMeasured)
+{
+    g_measured.clear();
+    {
+        const ts::ReplacedImport sizes(L"afx.dll", "GetTextExtentPoint32W", &SizeByKind);
+        Make();
+    }
+    std::map<size_t, std::vector<std::wstring>> texts; // by length; all headers under 3
+    for (const std::wstring& text : g_measured) {
+        texts[(std::min)(text.size(), size_t{3})].push_back(text);
+    }
+    ASSERT_EQ(3u, texts.size());
+    EXPECT_EQ((std::vector<std::wstring>{L"S", L"M", L"T", L"W", L"F"}), texts[1]);
+    ASSERT_EQ(31u, texts[2].size());
+    EXPECT_EQ(L"01", texts[2].front());
+    EXPECT_EQ(L"31", texts[2].back());
+    ASSERT_EQ(21u * 12, texts[3].size());
+    EXPECT_EQ(m_calendar.GetMonthName(1, 1999).GetString(), texts[3].front());
+    EXPECT_EQ(m_calendar.GetMonthName(12, 2019).GetString(), texts[3].back());
+}
+
+TEST_F(Calendar, MeasuringAgainLeavesTheWindowInItsPlace)
+{
+    Make();
+    m_calendar.MoveWindow(30, 40, 10, 10);
+    EXPECT_TRUE(m_calendar.AdjustWndPos());
+    CRect rect;
+    m_calendar.GetWindowRect(rect);
+    m_host.ScreenToClient(rect);
+    EXPECT_EQ(CRect(CPoint(30, 40), CSize(m_calendar.m_nCellWidth, m_calendar.m_nCellHeight)), rect);
+}
+
 TEST_F(Calendar, LongHeadersWidenTheCells)
 {
     for (CString& name : m_calendar.m_strMonths) {
@@ -299,7 +367,7 @@ TEST_F(Calendar, LongHeadersWidenTheCells)
               m_calendar.m_nCellWidth);
 }
 
-TEST_F(Calendar, HeadersOfTenYearsToEitherSideFit)
+TEST_F(Calendar, HeadersOfTheNextTenYearsFit)
 {
     for (CString& name : m_calendar.m_strMonths) {
         name = L"A month with an unusually long name";

@@ -460,6 +460,16 @@ TEST_F(MonthList, CalendarTakesAnOpenListWithIt)
     ts::MouseUp();
 }
 
+TEST_F(MonthList, EndOfTheParentClosesAnOpenList)
+{
+    Open();
+    const HWND list = List();
+    m_host.DestroyWindow();
+    EXPECT_FALSE(IsWindow(list));
+    ExpectClosed();
+    ts::MouseUp();
+}
+
 TEST_F(MonthList, EndOfTheCalendarClosesAnOpenList)
 {
     auto calendar = std::make_unique<CTestCalendar>();
