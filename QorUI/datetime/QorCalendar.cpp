@@ -135,7 +135,7 @@ CString CQorCalendar::GetMonthName(int month, int year)
     return name;
 }
 
-BOOL CQorCalendar::Create(CWnd* parent, UINT id, int (*isSpecial)(COleDateTime&, void*), void* data, int rows, int cols)
+BOOL CQorCalendar::Create(CWnd* parent, UINT id, QorSpecialDayProc isSpecial, void* data, int rows, int cols)
 {
     if (m_hWnd) {
         return FALSE;

@@ -54,9 +54,10 @@ class QORUI_API CQorCalendar : public CWnd
      * @param isSpecial may be null; called while painting
      * @param data handed to `isSpecial`, not owned
      * @param rows,cols months below and beside each other, 1 to 20
-     * @return FALSE without a parent, for a size out of range, or when cells, window or fonts cannot be made
+     * @return FALSE without a parent, for a size out of range, when cells, window or fonts cannot be made, or when the
+     * calendar has its window already
      */
-    BOOL Create(CWnd* parent, UINT id, int (*isSpecial)(COleDateTime&, void*), void* data, int rows, int cols);
+    BOOL Create(CWnd* parent, UINT id, QorSpecialDayProc isSpecial, void* data, int rows, int cols);
 
     /** Chooses the first month shown. @param year taken into 101 to 9999 @param month taken into 1 to 12 */
     void SetCurrentYearMonth(int year, int month);
@@ -66,7 +67,8 @@ class QORUI_API CQorCalendar : public CWnd
 
     /**
      * Selects the days from one date to another, in either order, without regard to the most days; with at most one day
-     * the first date alone. Does nothing while selecting is forbidden.
+     * the first date alone. A date that is not valid takes the selection away. Does nothing while selecting is
+     * forbidden.
      */
     void SetSelDate(COleDateTime& start, COleDateTime& end);
 
@@ -77,6 +79,7 @@ class QORUI_API CQorCalendar : public CWnd
      */
     COleDateTime GetSelDate(COleDateTime* end);
 
+    /** Sets the colour behind the days. */
     void SetBkColor(COLORREF background);
 
     /** Sets the colours of ordinary and of special days. */
@@ -126,7 +129,11 @@ class QORUI_API CQorCalendar : public CWnd
 
     /** Extends the selection to a day while the mouse is dragged. */
     void TrackCellDay(CalendarDay* day);
+
+    /** Whether a day belongs to the selection. */
     BOOL IsDateSelected(COleDateTime& date);
+
+    /** What the host's function says about a day; FALSE without one and when it throws. */
     BOOL IsSpecialDate(COleDateTime& date);
 
     /** @name Paging by whole grids; below 1 the calendar is only redrawn
@@ -165,7 +172,7 @@ class QORUI_API CQorCalendar : public CWnd
     COLORREF m_crBk;
     COLORREF m_crNormal;
     COLORREF m_crSpecial;
-    int (*m_pfnIsSpecial)(COleDateTime&, void*);
+    QorSpecialDayProc m_pfnIsSpecial;
     void* m_pData;
     BOOL m_bTrackDay; ///< a selection is being dragged
     COleDateTime m_dtAnchor;

@@ -9,11 +9,12 @@
 /**
  * A clock face for choosing a time of day: the user drags the minute hand, which takes the hour and AM or PM along.
  *
- * The parent gets `WM_NOTIFY` with `QCN_BEGINDRAG` and `QCN_ENDDRAG`. A new clock shows 1:30 AM.
+ * The parent gets `WM_NOTIFY` with `QCN_BEGINDRAG` and `QCN_ENDDRAG`.
  */
 class QORUI_API CQorClock : public CWnd
 {
   public:
+    /** Shows 1:30 AM; the time can be set before there is a window. */
     CQorClock();
     ~CQorClock() override;
 
@@ -21,7 +22,7 @@ class QORUI_API CQorClock : public CWnd
      * Creates the child window in the parent's top left corner, as large as the dial.
      * @param bitmapId bitmap resource with the dial, found through the framework's resource search
      * @param background colour behind the text AM or PM
-     * @return FALSE when there is no such bitmap or the window cannot be created
+     * @return FALSE when there is no such bitmap, the window cannot be created, or the clock has its window already
      */
     BOOL Create(UINT bitmapId, CWnd* parent, UINT id, COLORREF background);
 

@@ -131,7 +131,7 @@ class ScreenWatch
 class CalendarFixture : public testing::Test
 {
   protected:
-    void Make(int rows = 1, int cols = 1, int (*isSpecial)(COleDateTime&, void*) = nullptr, void* data = nullptr)
+    void Make(int rows = 1, int cols = 1, QorSpecialDayProc isSpecial = nullptr, void* data = nullptr)
     {
         m_calendar.SetFirstDayOfWeek(1);
         m_calendar.SetCurrentYearMonth(2009, 3);
