@@ -6,6 +6,7 @@
 #include "SelMonthWnd.h"
 
 #include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/NotifyParent.h>
 #include <QorUI/app/SysLook.h>
 
 #include <new>
@@ -750,15 +751,7 @@ BOOL CQorCalendar::PreTranslateMessage(MSG* msg)
 void CQorCalendar::FireNotify(UINT code)
 {
     Repaint();
-    const CWnd* parent = m_hWnd ? GetParent() : nullptr;
-    if (!parent) {
-        return;
-    }
-    NMHDR header = {};
-    header.hwndFrom = m_hWnd;
-    header.idFrom = static_cast<UINT_PTR>(GetDlgCtrlID());
-    header.code = code;
-    parent->SendMessage(WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
+    QorNotifyParent(*this, code);
 }
 
 // Changes of the surroundings

@@ -3,6 +3,7 @@
 #include "ClockHands.h"
 
 #include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/NotifyParent.h>
 #include <QorUI/app/WndClass.h>
 
 BEGIN_MESSAGE_MAP(CQorClock, CWnd)
@@ -294,13 +295,5 @@ void CQorClock::AdjustAmPmFlag(BOOL up)
 
 void CQorClock::SendNotify(UINT code)
 {
-    const CWnd* parent = m_hWnd ? GetParent() : nullptr;
-    if (!parent) {
-        return;
-    }
-    NMHDR header = {};
-    header.hwndFrom = m_hWnd;
-    header.idFrom = static_cast<UINT_PTR>(GetDlgCtrlID());
-    header.code = code;
-    parent->SendMessage(WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
+    QorNotifyParent(*this, code);
 }
