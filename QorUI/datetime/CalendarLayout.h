@@ -55,11 +55,10 @@ constexpr int DaysHeight(int dayHeight)
     return (3 * dayHeight + kWeeks) * 2;
 }
 
-/** @param headerText width of the longest header; @param letter width of the widest weekday initial; @param day width
- * of the widest day number */
-constexpr int CellWidth(int headerText, int letter, int day)
+/** @param headerText width of the longest header; @param dayWidth width of the widest day number or weekday initial */
+constexpr int CellWidth(int headerText, int dayWidth)
 {
-    return (std::max)({headerText + 4, kWeekDays * letter + kCellExtra, kWeekDays * day + kCellExtra});
+    return (std::max)(headerText + 4, kWeekDays * dayWidth + kCellExtra);
 }
 
 constexpr int CellHeight(int header, int initials, int days)

@@ -199,10 +199,10 @@ BOOL CQorCalendar::AdjustWndPos()
     if (!CreateFont(dc, m_fontBold, TRUE) || !CreateFont(dc, m_fontNormal, FALSE)) {
         return FALSE;
     }
-    const int dayWidth = MeasureDays(dc);
+    MeasureDays(dc);
     const int daysHeight = QorMonth::DaysHeight(m_nDayHeight);
     const int headerWidth = MeasureHeaders(dc, daysHeight);
-    const int width = QorMonth::CellWidth(headerWidth, m_nDayWidth, dayWidth);
+    const int width = QorMonth::CellWidth(headerWidth, m_nDayWidth);
     const int height = QorMonth::CellHeight(m_nHdrHeight, m_nDowHeight, daysHeight);
     if (width > 0) {
         m_nCellWidth = width;
@@ -213,8 +213,8 @@ BOOL CQorCalendar::AdjustWndPos()
     return SetWindowPos(nullptr, 0, 0, m_nCols * m_nCellWidth, m_nRows * m_nCellHeight, SWP_NOMOVE | SWP_SHOWWINDOW);
 }
 
-/** Measures the days and the weekday initials. @return width of the widest day number */
-int CQorCalendar::MeasureDays(CDC& dc)
+/** Measures the days and the weekday initials. */
+void CQorCalendar::MeasureDays(CDC& dc)
 {
     const CSelectSaver font(dc, m_fontNormal);
     CSize days(0, 0);
@@ -230,7 +230,6 @@ int CQorCalendar::MeasureDays(CDC& dc)
     m_nDayHeight = days.cy;
     m_nDowHeight = initials.cy;
     m_nDayWidth = (std::max)(days.cx, initials.cx);
-    return days.cx;
 }
 
 /** Measures the headers of the years around the first one. @return width of the widest, at least `leastWidth` */

@@ -198,7 +198,7 @@ class QORUI_API CQorCalendar : public CWnd
     CalendarCell* CellAt(int row, int col);
     BOOL MakeWindow(CWnd* parent, UINT id);
     void FreeCells();
-    int MeasureDays(CDC& dc);
+    void MeasureDays(CDC& dc);
     int MeasureHeaders(CDC& dc, int leastWidth);
     void DrawArrow(CDC& dc, BOOL left, int y, int x);
     void DrawDay(CDC& dc, COleDateTime& date, const RECT& text, const RECT& area);

@@ -51,9 +51,9 @@ TEST(CalendarGeometry, SixWeeksOfDaysAndGaps)
 
 TEST(CalendarGeometry, WidestPartDeterminesTheCellWidth)
 {
-    EXPECT_EQ(204, CellWidth(200, 9, 12));
-    EXPECT_EQ(124, CellWidth(100, 9, 12));
-    EXPECT_EQ(138, CellWidth(100, 14, 12));
+    EXPECT_EQ(204, CellWidth(200, 12));
+    EXPECT_EQ(124, CellWidth(100, 12));
+    EXPECT_EQ(138, CellWidth(100, 14));
 }
 
 TEST(CalendarGeometry, CellHeightIsTheSumOfItsPartsAndFour)
