@@ -470,12 +470,18 @@ BOOL CQorCalendar::IsDateSelected(COleDateTime& date)
 
 // Cells
 
+/** Place of a cell in the array, which is also how many months it comes after the first one. */
+int CQorCalendar::IndexOf(int row, int col) const
+{
+    return (row - 1) * m_nCols + col - 1;
+}
+
 CalendarCell* CQorCalendar::CellAt(int row, int col)
 {
     if (!m_pCells || row < 1 || row > m_nRows || col < 1 || col > m_nCols) {
         return nullptr;
     }
-    return &m_pCells[static_cast<size_t>((row - 1) * m_nCols + col - 1)];
+    return &m_pCells[static_cast<size_t>(IndexOf(row, col))];
 }
 
 void CQorCalendar::SetCellHdrPos(int row, int col, RECT rect)
@@ -568,6 +574,10 @@ void CQorCalendar::Page(int direction)
 /** Moves on by so many grids and shows where that leads, which takes time when the special days are slow to tell. */
 void CQorCalendar::Scroll(int direction, int pages)
 {
+    if (pages < 1) {
+        Repaint();
+        return;
+    }
     const CWaitCursor wait;
     for (; pages > 0; --pages) {
         Page(direction);
@@ -577,20 +587,12 @@ void CQorCalendar::Scroll(int direction, int pages)
 
 void CQorCalendar::ScrollLeft(int pages)
 {
-    if (pages < 1) {
-        Repaint();
-    } else {
-        Scroll(-1, pages);
-    }
+    Scroll(-1, pages);
 }
 
 void CQorCalendar::ScrollRight(int pages)
 {
-    if (pages < 1) {
-        Repaint();
-    } else {
-        Scroll(1, pages);
-    }
+    Scroll(1, pages);
 }
 
 /** Direction of the arrow under a point: -1, 1, or 0 without one. */
@@ -634,8 +636,7 @@ void CQorCalendar::OpenMonthList(CalendarCell* cell)
     if (!::IsWindow(wnd)) {
         return;
     }
-    const int offset = (cell->nRow - 1) * m_nCols + cell->nCol - 1;
-    const QorMonth::Month month = QorMonth::AddMonths({m_nYear, m_nMonth}, offset);
+    const QorMonth::Month month = QorMonth::AddMonths({m_nYear, m_nMonth}, IndexOf(cell->nRow, cell->nCol));
     m_pSelMonthWnd = new CSelMonthWnd; // the framework throws when there is no memory
     const BOOL shown = m_pSelMonthWnd->Create(month.month, month.year, this);
     if (!::IsWindow(wnd) || !m_pSelMonthWnd) {
@@ -725,7 +726,7 @@ void CQorCalendar::OnLButtonUp(UINT /*flags*/, CPoint /*point*/)
 /** Shows the month chosen in the list in the cell whose header opened it. */
 void CQorCalendar::TakeListedMonth()
 {
-    const int offset = (m_pHdrCell->nRow - 1) * m_nCols + m_pHdrCell->nCol - 1;
+    const int offset = IndexOf(m_pHdrCell->nRow, m_pHdrCell->nCol);
     const QorMonth::Month chosen = {m_pSelMonthWnd->m_nSelYear, m_pSelMonthWnd->m_nSelMonth};
     const QorMonth::Month first = QorMonth::AddMonths(chosen, -offset);
     SetCurrentYearMonth(first.year, first.month);

@@ -195,6 +195,7 @@ class QORUI_API CQorCalendar : public CWnd
     int m_nCols;
 
   private:
+    int IndexOf(int row, int col) const;
     CalendarCell* CellAt(int row, int col);
     BOOL MakeWindow(CWnd* parent, UINT id);
     void FreeCells();
