@@ -68,7 +68,6 @@ void Grow(CSize& size, const CSize& other)
 void DrawRule(CDC& dc, int x, int y, int width)
 {
     dc.FillSolidRect(x, y, width, 1, QorSysLook.m_clrBtnShadow);
-    dc.SetBkMode(TRANSPARENT);
 }
 
 } // namespace
@@ -438,7 +437,6 @@ void CQorCalendar::DrawDay(CDC& dc, COleDateTime& date, const RECT& text, const 
     COLORREF colour = IsSpecialDate(date) ? m_crSpecial : m_crNormal;
     if (IsDateSelected(date)) {
         dc.FillSolidRect(&area, kSelected);
-        dc.SetBkMode(TRANSPARENT);
         colour = kSelectedText;
     }
     dc.SetTextColor(colour);

@@ -115,7 +115,6 @@ void CSelMonthWnd::DrawRow(CDC& dc, const CRect& row, QorMonth::Month month, boo
 {
     if (chosen) {
         dc.FillSolidRect(row, kText);
-        dc.SetBkMode(TRANSPARENT);
     }
     dc.SetTextColor(chosen ? kBack : kText);
     CRect text(row);
