@@ -17,9 +17,12 @@ namespace
 {
 
 constexpr UINT kClassStyle = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS | CS_BYTEALIGNCLIENT;
-constexpr DWORD kStyle = WS_POPUP | WS_BORDER | 0x108;
+constexpr DWORD kLowBits = 0x108; ///< for the window class to define: this one gives them no meaning
+constexpr DWORD kStyle = WS_POPUP | WS_BORDER | kLowBits;
 constexpr LPCWSTR kHeightSample = L"abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
 constexpr int kTextLeft = 10;
+constexpr int kSideRoom = 2 * kTextLeft; ///< beside the longest name
+constexpr int kUnderRows = 3;            ///< below the last row
 constexpr int kSampleYear = 2000;
 constexpr COLORREF kBack = RGB(255, 255, 255);
 constexpr COLORREF kText = RGB(0, 0, 0);
@@ -76,7 +79,8 @@ CSize CSelMonthWnd::WindowSize()
         const int cx = dc.GetTextExtent(m_pCalendar->GetMonthName(month, kSampleYear)).cx;
         width = (std::max)(width, cx);
     }
-    return {(width + 20) / 2 * 2, (QorMonth::kListRows * LineHeight(dc) + 3) / 2 * 2};
+    const int height = QorMonth::kListRows * LineHeight(dc);
+    return {(width + kSideRoom) / 2 * 2, (height + kUnderRows) / 2 * 2}; // even: the mouse is in the middle
 }
 
 int CSelMonthWnd::RowUnderMouse(int lineHeight)
