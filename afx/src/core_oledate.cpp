@@ -37,11 +37,11 @@ DATE FromLinear(double days)
     return days >= 0 ? days : 2 * std::floor(days) - days;
 }
 
-/** Number of a day in the proleptic Gregorian calendar, counted from 1 January 1970. */
+/** Number of a day in the proleptic Gregorian calendar, counted from 1 January 1970. @param year 1 or later */
 int DayNumber(int year, int month, int day)
 {
     year -= month <= 2 ? 1 : 0;
-    const int era = (year >= 0 ? year : year - 399) / 400;
+    const int era = year / 400;
     const int yearOfEra = year - era * 400;
     const int dayOfYear = (153 * (month + (month > 2 ? -3 : 9)) + 2) / 5 + day - 1;
     return era * 146097 + yearOfEra * 365 + yearOfEra / 4 - yearOfEra / 100 + dayOfYear - 719468;
@@ -51,7 +51,7 @@ int DayNumber(int year, int month, int day)
 void DateOfDay(int number, Parts& parts)
 {
     number += 719468;
-    const int era = (number >= 0 ? number : number - 146096) / 146097;
+    const int era = number / 146097;
     const int dayOfEra = number - era * 146097;
     const int yearOfEra = (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
     const int dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);
