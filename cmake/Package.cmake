@@ -9,7 +9,7 @@ install(TARGETS afx afx_main QorPub QorApi QorUI
         EXPORT QorUITargets
         RUNTIME DESTINATION bin
         ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
-        INCLUDES DESTINATION include include/afx)
+        INCLUDES DESTINATION include)
 install(EXPORT QorUITargets NAMESPACE QorUI:: DESTINATION "${_package_dir}")
 install(TARGETS QorConsole RUNTIME DESTINATION bin)
 foreach(_dll IN LISTS QOR_RUNTIME_DLLS)
@@ -42,6 +42,7 @@ endwhile()
 
 install(DIRECTORY lang/ DESTINATION bin/lang FILES_MATCHING PATTERN "*.xml")
 install(DIRECTORY docs/sample/ DESTINATION sample)
+install(FILES cmake/toolchain-mingw64.cmake DESTINATION cmake)
 install(FILES README.md DESTINATION .)
 
 configure_package_config_file(cmake/QorUIConfig.cmake.in "${CMAKE_BINARY_DIR}/QorUIConfig.cmake"

@@ -15,7 +15,9 @@ add_compile_options("$<$<COMPILE_LANGUAGE:C,CXX>:-gdwarf-4>")
 if(NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
     add_compile_options("$<$<COMPILE_LANGUAGE:C,CXX>:-g1>")
 endif()
-add_compile_definitions(UNICODE _UNICODE STRICT WINVER=0x0601 _WIN32_WINNT=0x0601 _WIN32_IE=0x0800)
+# What the headers are read with, here (libraries fetched for the build included) and in the programs that use the SDK.
+set(QOR_API_DEFINITIONS UNICODE _UNICODE STRICT WINVER=0x0601 _WIN32_WINNT=0x0601 _WIN32_IE=0x0800)
+add_compile_definitions(${QOR_API_DEFINITIONS})
 add_compile_definitions("$<$<CONFIG:Debug>:_DEBUG>")
 # Traces and messages must not hold the paths of the machine that built them.
 add_compile_options("$<$<COMPILE_LANGUAGE:C,CXX>:-fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=>")
