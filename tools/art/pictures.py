@@ -63,7 +63,7 @@ RESOURCES = "QorUI/res"
 PIC = RESOURCES + "/pic/"
 CONSOLE = "hosts/console/res/"
 MADE_IN = (PIC, CONSOLE)
-PAGE = "docs/artwork.md"
+PAGE = "tools/art/artwork.md"
 
 ITEMS = {
     "add": "add.svg",

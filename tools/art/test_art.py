@@ -128,7 +128,7 @@ class CheckTest(unittest.TestCase):
         self.addCleanup(shutil.rmtree, self.root)
         for folder in (pictures.RESOURCES, *pictures.MADE_IN):
             shutil.copytree(check.ROOT / folder, self.root / folder, dirs_exist_ok=True)
-        (self.root / pictures.PAGE).parent.mkdir()
+        (self.root / pictures.PAGE).parent.mkdir(parents=True)
         shutil.copy(check.ROOT / pictures.PAGE, self.root / pictures.PAGE)
 
     def found(self, table=None):
@@ -249,7 +249,7 @@ class CheckTest(unittest.TestCase):
     def test_a_page_that_is_not_up_to_date_is_found(self):
         path = self.root / pictures.PAGE
         path.write_text(path.read_text(encoding="utf-8").replace("13 x 13", "14 x 14"), encoding="utf-8")
-        self.expect_one("docs/artwork.md", "not up to date")
+        self.expect_one("tools/art/artwork.md", "not up to date")
 
     def test_a_resource_under_a_wrong_number_is_found(self):
         table = [dataclasses.replace(picture, ident=299) if picture.ident == 213 else picture for picture in PICTURES]
