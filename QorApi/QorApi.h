@@ -20,6 +20,7 @@
 #include <afxwin.h>
 #include <QorPub/QorPub.h>
 
+/** Exports the service library's names while it is built and imports them everywhere else. */
 #ifdef QORAPI_EXPORTS
 #define QORAPI_API __declspec(dllexport)
 #else
@@ -190,11 +191,11 @@ enum QORRIGHT : DWORD
 /** Which fields of a _QORVEX_USER a set operation applies. */
 enum QORUSERFIELD : WORD
 {
-    QORUSER_NAME = 0x01,
-    QORUSER_DESC = 0x02,
-    QORUSER_PASSWORD = 0x04,
-    QORUSER_RIGHTS = 0x08,
-    QORUSER_FLAGS = 0x10,
+    QORUSER_NAME = 0x01,       ///< szName
+    QORUSER_DESC = 0x02,       ///< szDesc
+    QORUSER_PASSWORD = 0x04,   ///< the password
+    QORUSER_RIGHTS = 0x08,     ///< dwRights
+    QORUSER_FLAGS = 0x10,      ///< wFlags
     QORUSER_PROPERTIES = 0x1B, ///< all but the password
     QORUSER_NEW = 0x1F         ///< all, as QorAddUser() takes them
 };

@@ -11,7 +11,7 @@ extern QORPUB_API CString g_AppPath;
 
 /**
  * The product's store file: what the environment variable QOR_STORE names (as a full path), else
- * %LOCALAPPDATA%\Qor\store.db. Read anew at each call.
+ * `%LOCALAPPDATA%\Qor\store.db`. Read anew at each call.
  */
 QORPUB_API CString QorGetStorePath();
 

@@ -43,7 +43,25 @@ endwhile()
 install(DIRECTORY lang/ DESTINATION bin/lang FILES_MATCHING PATTERN "*.xml")
 install(DIRECTORY docs/sample/ DESTINATION sample)
 install(FILES cmake/toolchain-mingw64.cmake DESTINATION cmake)
-install(FILES README.md DESTINATION .)
+install(FILES docs/sdk.md DESTINATION . RENAME README.md)
+
+# The licences of what the SDK holds of others, as the Debian packages that it comes from state them (docs/sdk.md).
+function(qor_install_licence name file)
+    install(CODE "if(NOT EXISTS \"${file}\")
+        message(FATAL_ERROR \"The SDK needs the licence of ${name}, and ${file} is missing.\")
+    endif()")
+    install(FILES "${file}" DESTINATION licenses RENAME "${name}.txt")
+endfunction()
+
+if(NOT QOR_SYSTEM_LIBRARIES)
+    qor_install_licence(pugixml "${_pugixml}/debian/copyright")
+    qor_install_licence(sqlite3 "${_sqlite}/debian/copyright")
+    qor_install_licence(minizip "${_zlib}/debian/copyright")
+    qor_install_licence(zlib /usr/share/doc/libz-mingw-w64-dev/copyright)
+    qor_install_licence(gcc /usr/share/doc/gcc-mingw-w64-x86-64-posix-runtime/copyright)
+    qor_install_licence(mingw-w64 /usr/share/doc/mingw-w64-x86-64-dev/copyright)
+    qor_install_licence(GPL-3 /usr/share/common-licenses/GPL-3)
+endif()
 
 configure_package_config_file(cmake/QorUIConfig.cmake.in "${CMAKE_BINARY_DIR}/QorUIConfig.cmake"
                               INSTALL_DESTINATION "${_package_dir}" PATH_VARS CMAKE_INSTALL_BINDIR)

@@ -11,6 +11,7 @@
 
 #include <afxcmn.h>
 
+/** Marks what the library offers. */
 #if defined(QORUI_EXPORTS)
 #define QORUI_API __declspec(dllexport)
 #elif defined(QORUI_STATIC)
