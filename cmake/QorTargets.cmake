@@ -86,7 +86,8 @@ function(_qor_finish name)
              "${CMAKE_CURRENT_SOURCE_DIR}/${dir}/*.png" "${CMAKE_CURRENT_SOURCE_DIR}/${dir}/*.avi"
              "${CMAKE_CURRENT_SOURCE_DIR}/${dir}/*.ico" "${CMAKE_CURRENT_SOURCE_DIR}/${dir}/*.manifest"
              "${CMAKE_CURRENT_SOURCE_DIR}/${dir}/*.h" "${CMAKE_CURRENT_SOURCE_DIR}/${dir}/*.rc")
-        set_property(SOURCE "${ARG_RC}" APPEND PROPERTY OBJECT_DEPENDS "${parts}")
+        set_property(SOURCE "${ARG_RC}" APPEND PROPERTY OBJECT_DEPENDS "${parts}" "${QOR_VERSION_DIR}/QorVersion.h")
+        set_property(SOURCE "${ARG_RC}" APPEND PROPERTY INCLUDE_DIRECTORIES "${QOR_VERSION_DIR}")
     endif()
     target_link_libraries(${name} PUBLIC ${ARG_LIBS} PRIVATE qor_options)
     if(ARG_DEFINES)
