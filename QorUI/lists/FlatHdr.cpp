@@ -120,14 +120,15 @@ void CFlatHdr::DrawItemText(HDC dc, const DRAWITEMSTRUCT& draw, bool sorted) con
     RECT rect = QorHdr::TextRect(draw.rcItem, draw.itemState == ODS_SELECTED, sorted);
     if (rect.right > rect.left) {
         const CSelectSaver font(dc, reinterpret_cast<HGDIOBJ>(::SendMessageW(m_hWnd, WM_GETFONT, 0, 0)));
-        ::DrawTextW(dc, text.data(), -1, &rect, QorHdr::TextFormat(item.fmt));
+        // The control may answer with a text of its own instead of filling the buffer.
+        ::DrawTextW(dc, item.pszText ? item.pszText : L"", -1, &rect, QorHdr::TextFormat(item.fmt));
     }
 }
 
 void CFlatHdr::DrawItemLines(HDC dc, const RECT& rect) const
 {
-    CPen pen(PS_SOLID, 1, m_clrLine);
-    const CSelectSaver select(dc, pen.GetSafeHandle());
+    const CSelectSaver select(dc, ::GetStockObject(DC_PEN));
+    ::SetDCPenColor(dc, m_clrLine);
     ::MoveToEx(dc, rect.right - 1, rect.top, nullptr);
     ::LineTo(dc, rect.right - 1, rect.bottom - 1);
     ::LineTo(dc, rect.left - 1, rect.bottom - 1);
@@ -159,13 +160,16 @@ void CFlatHdr::FillRest(CDC& dc) const
 {
     CRect client;
     GetClientRect(&client);
-    const CRect last = GetItemCount() > 0 ? m_rcLast : CRect(0, 0, 0, client.bottom);
+    CRect end(0, 0, 0, 0);
+    GetItemRect(OrderToIndex(GetItemCount() - 1), &end);
+    // An item without width is not drawn, so what was drawn last may be long gone.
+    const CRect last = end.right > 0 ? m_rcLast : CRect(0, 0, 0, client.bottom);
     const CRect rest(last.right, last.top, client.right, last.bottom);
     if (rest.right > rest.left) {
         dc.FillSolidRect(&rest, m_clrBack);
     }
-    CPen pen(PS_SOLID, 1, m_clrLine);
-    const CSelectSaver select(dc, pen.GetSafeHandle());
+    const CSelectSaver select(dc, ::GetStockObject(DC_PEN));
+    ::SetDCPenColor(dc, m_clrLine);
     dc.MoveTo(rest.left - 1, rest.bottom - 1);
     dc.LineTo(rest.right, rest.bottom - 1);
 }

@@ -250,6 +250,22 @@ TEST_F(FlatHdr, TextHasTwoHundredAndSixtyCharactersAtMost)
     EXPECT_TRUE(ts::SamePicture(ExpectedItem(item, shown, CRect(6, 0, 1494, 20), DT_LEFT), Item(item, 0, 3)));
 }
 
+TEST_F(FlatHdr, TextIsReadWhereTheControlSaysThatItIs)
+{
+    const CRect item(0, 0, 100, 20);
+    const CRect place(6, 0, 94, 20);
+    for (const wchar_t* text : {L"Elsewhere", static_cast<const wchar_t*>(nullptr)}) {
+        ts::MessageRecorder log(m_header);
+        log.Answer(HDM_GETITEMW, [text](const ts::Message& message) -> std::optional<LRESULT> {
+            auto* const asked = reinterpret_cast<HDITEMW*>(message.lParam);
+            asked->pszText = const_cast<LPWSTR>(text);
+            asked->fmt = HDF_LEFT;
+            return TRUE;
+        });
+        EXPECT_TRUE(ts::SamePicture(ExpectedItem(item, text ? text : L"", place, DT_LEFT), Item(item)));
+    }
+}
+
 TEST_F(FlatHdr, TallTextIsNotClipped)
 {
     CFont tall;
@@ -300,6 +316,28 @@ TEST_F(FlatHdr, WithoutItemsIsFilledAsAWhole)
     fresh.DestroyWindow();
 }
 
+TEST_F(FlatHdr, WithoutAColumnThatHasWidthIsFilledAsAWhole)
+{
+    LookOf(m_header);
+    HDITEMW narrow = {};
+    narrow.mask = HDI_WIDTH;
+    for (int i = 0; i < m_header.GetItemCount(); ++i) {
+        m_header.SetItem(i, &narrow);
+    }
+    CTestHdr fresh;
+    ASSERT_TRUE(fresh.CHeaderCtrl::Create(WS_CHILD | WS_VISIBLE, CRect(0, 40, 300, 60), &m_host, 3));
+    narrow.mask = HDI_WIDTH | HDI_FORMAT;
+    narrow.fmt = HDF_OWNERDRAW;
+    fresh.InsertItem(0, &narrow);
+    for (const CTestHdr* header : {&m_header, &fresh}) {
+        CClientDC(const_cast<CTestHdr*>(header)).FillSolidRect(0, 0, 300, 20, RGB(255, 0, 0));
+        const ts::Picture look = LookOf(*header);
+        EXPECT_TRUE(ts::AreaIs(look, CRect(0, 0, 300, 19), kBack));
+        EXPECT_TRUE(ts::AreaIs(look, CRect(0, 19, 300, 20), kLine));
+    }
+    fresh.DestroyWindow();
+}
+
 TEST_F(FlatHdr, SpaceFollowsTheColumnsThatAreShown)
 {
     LookOf(m_header);
@@ -316,6 +354,20 @@ TEST_F(FlatHdr, SurvivesTheEndOfTheGdiObjects)
 {
     m_header.SetSortColumn(0, 1);
     EXPECT_TRUE(SurvivesGdiShortage(m_header));
+}
+
+TEST_F(FlatHdr, LinesNeedNoNewGdiObject)
+{
+    const CRect rect(0, 0, 100, 20);
+    const ts::Picture look = Item(rect);
+    const ts::Picture inNeed = ts::DrawTo(110, 30, [&](HDC dc) {
+        const ts::GdiShortage shortage;
+        DRAWITEMSTRUCT draw = {};
+        draw.hDC = dc;
+        draw.rcItem = rect;
+        m_header.DrawItem(&draw);
+    });
+    EXPECT_TRUE(ts::SamePicture(look, inNeed));
 }
 
 TEST_F(FlatHdr, OtherColoursRepaintAtOnce)
