@@ -37,11 +37,11 @@ ImageListOwner MakeCheckImages()
     return ImageListOwner(images.Detach());
 }
 
-/** The check boxes of all lists of the process; null when they could not be made. */
-HIMAGELIST CheckImages()
+/** The check boxes of all lists of the process; empty until they were needed, and when they could not be made. */
+ImageListOwner& SharedImages()
 {
-    static const ImageListOwner images = MakeCheckImages();
-    return images.get();
+    static ImageListOwner images;
+    return images;
 }
 
 } // namespace
@@ -53,6 +53,10 @@ CFlatList::~CFlatList()
     // The header object goes before the list's own base class would destroy the window.
     if (m_hWnd) {
         DestroyWindow();
+    }
+    // A control that was given back goes on with its header.
+    if (m_header.m_hWnd) {
+        m_header.UnsubclassWindow();
     }
 }
 
@@ -173,7 +177,7 @@ HIMAGELIST CFlatList::SetStateImages(HIMAGELIST images)
 bool CFlatList::ReleaseCheckImage()
 {
     const HIMAGELIST held = StateImages();
-    if (!held || held != CheckImages()) {
+    if (!held || held != SharedImages().get()) {
         return false;
     }
     SetStateImages(nullptr);
@@ -182,8 +186,12 @@ bool CFlatList::ReleaseCheckImage()
 
 void CFlatList::SetCheckImage()
 {
-    if (CheckImages()) {
-        SetStateImages(CheckImages());
+    ImageListOwner& images = SharedImages();
+    if (!images) {
+        images = MakeCheckImages();
+    }
+    if (images) {
+        SetStateImages(images.get());
     }
 }
 
@@ -206,8 +214,9 @@ LRESULT CFlatList::OnSetListExStyle(WPARAM /*mask*/, LPARAM style)
 
 void CFlatList::OnPaint()
 {
+    const HWND wnd = m_hWnd;
     Default();
-    if (m_lpszEmptyText && GetItemCount() < 1) {
+    if (::IsWindow(wnd) && m_lpszEmptyText && GetItemCount() < 1) {
         DrawEmptyText();
     }
 }

@@ -89,6 +89,22 @@ TEST_F(FlatList, IsSetUpWithoutAHeader)
     list.DestroyWindow();
 }
 
+TEST_F(FlatList, ControlThatIsGivenBackKeepsItsHeader)
+{
+    const HWND window = SystemList();
+    const auto header = reinterpret_cast<HWND>(::SendMessageW(window, LVM_GETHEADER, 0, 0));
+    const LONG_PTR procedure = ::GetWindowLongPtrW(header, GWLP_WNDPROC);
+    {
+        CFlatList list;
+        ASSERT_TRUE(list.SubclassWindow(window));
+        EXPECT_NE(procedure, ::GetWindowLongPtrW(header, GWLP_WNDPROC));
+        EXPECT_EQ(window, list.UnsubclassWindow());
+    }
+    EXPECT_TRUE(::IsWindow(header));
+    EXPECT_EQ(procedure, ::GetWindowLongPtrW(header, GWLP_WNDPROC));
+    ::DestroyWindow(window);
+}
+
 TEST_F(FlatList, NewColumnsAreOwnerDrawn)
 {
     for (int i = 0; i < 2; ++i) {
@@ -106,6 +122,43 @@ TEST_F(FlatList, NewColumnHasTheIndexThatTheControlGaveIt)
 {
     EXPECT_EQ(2, m_list.InsertColumn(99, L"Last", LVCFMT_LEFT, 30));
     EXPECT_EQ(0, m_list.InsertColumn(0, L"First", LVCFMT_LEFT, 30));
+}
+
+TEST_F(FlatList, NewColumnIsInsertedFirstAndFormattedThen)
+{
+    struct Settings
+    {
+        UINT mask;
+        int fmt;
+        int cx;
+    };
+    std::vector<Settings> inserted;
+    std::vector<Settings> changed;
+    const auto noteIn = [](std::vector<Settings>& settings) {
+        return [&settings](const ts::Message& message) -> std::optional<LRESULT> {
+            const auto* column = reinterpret_cast<const LVCOLUMNW*>(message.lParam);
+            settings.push_back({column->mask, column->fmt, column->cx});
+            return std::nullopt;
+        };
+    };
+    ts::MessageRecorder log(m_list);
+    log.RecordOnly({LVM_INSERTCOLUMNW, LVM_SETCOLUMNW});
+    log.Answer(LVM_INSERTCOLUMNW, noteIn(inserted));
+    log.Answer(LVM_SETCOLUMNW, noteIn(changed));
+    for (const int width : {30, -1}) {
+        log.Clear();
+        EXPECT_EQ(2, m_list.InsertColumn(2, L"Third", LVCFMT_RIGHT, width));
+        EXPECT_TRUE(log.Is({ts::Msg(LVM_INSERTCOLUMNW, 2), ts::Msg(LVM_SETCOLUMNW, 2)}));
+    }
+    ASSERT_EQ(2u, inserted.size());
+    ASSERT_EQ(2u, changed.size());
+    EXPECT_EQ(static_cast<UINT>(LVCF_TEXT | LVCF_WIDTH), inserted[0].mask);
+    EXPECT_EQ(30, inserted[0].cx);
+    EXPECT_EQ(static_cast<UINT>(LVCF_TEXT), inserted[1].mask);
+    for (const Settings& settings : changed) {
+        EXPECT_EQ(static_cast<UINT>(LVCF_FMT), settings.mask);
+        EXPECT_EQ(LVCFMT_RIGHT | 0x8000, settings.fmt);
+    }
 }
 
 TEST_F(FlatList, ColumnThatTheControlRefusesIsNotTouched)
@@ -456,6 +509,26 @@ TEST_F(FlatList, CheckBoxesCanBeTurnedOffAndOnAgain)
     EXPECT_EQ(images, StateImages(m_list));
 }
 
+TEST_F(FlatList, CheckBoxesAreTheLibrarysWheneverTheirStyleIsAmongThoseSet)
+{
+    m_list.SetExtendedStyle(LVS_EX_CHECKBOXES);
+    CFlatList other;
+    ASSERT_TRUE(Make(other));
+    other.SendMessage(LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_GRIDLINES, LVS_EX_GRIDLINES | LVS_EX_CHECKBOXES);
+    EXPECT_NE(nullptr, StateImages(other));
+    EXPECT_EQ(StateImages(m_list), StateImages(other));
+    EXPECT_FALSE(other.GetExtendedStyle() & LVS_EX_CHECKBOXES); // the mask does not name it
+    other.DestroyWindow();
+}
+
+int g_bitmapLoads = 0;
+
+HBITMAP WINAPI CountedNoBitmap(HINSTANCE module, LPCWSTR name)
+{
+    ++g_bitmapLoads;
+    return NoBitmapResource(module, name);
+}
+
 /** The images are made once in a process, so one of its own sees that they are missing. */
 TEST_F(FlatList, KeepsTheControlsCheckBoxesWhenTheLibrarysAreMissing)
 {
@@ -468,16 +541,29 @@ TEST_F(FlatList, KeepsTheControlsCheckBoxesWhenTheLibrarysAreMissing)
         EXPECT_NE(std::string::npos, result.output.find("[  PASSED  ] 1 test.")) << result.output;
         return;
     }
-    const ts::ImportRedirection failing({ts::ImportRedirection::Of(&::LoadBitmapW, &NoBitmapResource)});
-    m_list.SetExtendedStyle(LVS_EX_CHECKBOXES);
-    const HIMAGELIST images = StateImages(m_list);
-    ASSERT_NE(nullptr, images);
-    EXPECT_EQ(2, ::ImageList_GetImageCount(images));
-    AddRows(1);
-    m_list.SetCheck(0);
-    EXPECT_TRUE(m_list.GetCheck(0));
-    LookOf(m_list);
+    {
+        const ts::ImportRedirection failing({ts::ImportRedirection::Of(&::LoadBitmapW, &CountedNoBitmap)});
+        m_list.SetExtendedStyle(LVS_EX_CHECKBOXES);
+        const HIMAGELIST images = StateImages(m_list);
+        ASSERT_NE(nullptr, images);
+        EXPECT_EQ(2, ::ImageList_GetImageCount(images));
+        AddRows(1);
+        m_list.SetCheck(0);
+        EXPECT_TRUE(m_list.GetCheck(0));
+        LookOf(m_list);
+        CFlatList ending;
+        ASSERT_TRUE(Make(ending));
+        ending.SetExtendedStyle(LVS_EX_CHECKBOXES);
+        g_bitmapLoads = 0;
+        ending.DestroyWindow();
+        EXPECT_EQ(0, g_bitmapLoads);
+    }
     m_list.SetExtendedStyle(0);
+    m_list.SetExtendedStyle(LVS_EX_CHECKBOXES);
+    int cx = 0;
+    int cy = 0;
+    ::ImageList_GetIconSize(StateImages(m_list), &cx, &cy);
+    EXPECT_EQ(CSize(15, 15), CSize(cx, cy));
 }
 
 /** Lets the parent destroy the list while it is told something. */
@@ -561,6 +647,44 @@ TEST_F(DestroyedList, ByAClickOnTheHeader)
     ts::Click(m_list.GetFlatHdr(), 20, 8);
     EXPECT_TRUE(m_destroyed);
     EXPECT_EQ(nullptr, m_list.GetFlatHdr().m_hWnd);
+}
+
+/** A list that ends while the control paints it. */
+class PaintedToDeath : public CFlatList
+{
+  protected:
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        const LRESULT result = CFlatList::DefWindowProc(message, wParam, lParam);
+        if (message == WM_PAINT) {
+            DestroyWindow();
+        }
+        return result;
+    }
+
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        try {
+            return CFlatList::WindowProc(message, wParam, lParam);
+        } catch (CException* error) {
+            error->Delete();
+            ++m_failures;
+            return 0;
+        }
+    }
+
+  public:
+    int m_failures = 0;
+};
+
+TEST_F(FlatList, EndsWhileItIsPainted)
+{
+    PaintedToDeath list;
+    ASSERT_TRUE(Make(list));
+    list.SetEmptyText(L"Nothing here");
+    PaintNow(list);
+    EXPECT_EQ(nullptr, list.m_hWnd);
+    EXPECT_EQ(0, list.m_failures);
 }
 
 TEST_F(FlatList, EndsWithItsParent)
