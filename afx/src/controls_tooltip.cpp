@@ -103,8 +103,16 @@ BOOL CToolTipCtrl::GetToolInfo(CToolInfo& ToolInfo, CWnd* pWnd, UINT_PTR nIDTool
 {
     if (!FillInToolInfo(ToolInfo, pWnd, nIDTool))
         return FALSE;
-    ToolInfo.lpszText = ToolInfo.szText;
-    return static_cast<BOOL>(::SendMessage(m_hWnd, TTM_GETTOOLINFO, 0, reinterpret_cast<LPARAM>(&ToolInfo)));
+    // The message does not know how much space there is.
+    std::vector<TCHAR> buffer(TIP_TEXT_MAX + 1);
+    ToolInfo.lpszText = buffer.data();
+    const LRESULT found = ::SendMessage(m_hWnd, TTM_GETTOOLINFO, 0, reinterpret_cast<LPARAM>(&ToolInfo));
+    // Neither a resource nor a text that is asked for when it is shown comes in the buffer.
+    if (ToolInfo.lpszText == buffer.data()) {
+        ::lstrcpyn(ToolInfo.szText, buffer.data(), static_cast<int>(_countof(ToolInfo.szText)));
+        ToolInfo.lpszText = ToolInfo.szText;
+    }
+    return static_cast<BOOL>(found);
 }
 
 void CToolTipCtrl::SetToolInfo(LPTOOLINFO lpToolInfo)

@@ -6,6 +6,9 @@
 #include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>
 
+#include <algorithm>
+#include <array>
+
 namespace
 {
 /** Tips of a host window with one button. */
@@ -70,6 +73,76 @@ TEST_F(ToolTip, AreaIsMovedAndFound)
     EXPECT_TRUE(m_tip.HitTest(&m_host, CPoint(210, 210), &found));
     EXPECT_EQ(found.uId, 9u);
     EXPECT_FALSE(m_tip.HitTest(&m_host, CPoint(5, 5), &found));
+}
+
+TEST_F(ToolTip, LongTextIsCutToTheSpaceThatThereIs)
+{
+    struct
+    {
+        CToolInfo info;
+        std::array<TCHAR, 1024> behind;
+    } guarded;
+    guarded.behind.fill(TEXT('#'));
+    const CString text(TEXT('x'), 1000);
+    m_tip.AddTool(&m_button, text);
+    ASSERT_TRUE(m_tip.GetToolInfo(guarded.info, &m_button));
+    EXPECT_EQ(guarded.info.lpszText, guarded.info.szText);
+    EXPECT_STREQ(guarded.info.szText, text.Left(255));
+    EXPECT_EQ(std::count(guarded.behind.begin(), guarded.behind.end(), TEXT('#')), 1024);
+}
+
+TEST_F(ToolTip, TextThatIsAskedForIsGivenAsItIs)
+{
+    m_tip.AddTool(&m_button, LPSTR_TEXTCALLBACK);
+    CToolInfo info;
+    ASSERT_TRUE(m_tip.GetToolInfo(info, &m_button));
+    EXPECT_EQ(info.lpszText, LPSTR_TEXTCALLBACK);
+}
+
+TEST_F(ToolTip, ToolIsChangedAsAWhole)
+{
+    m_tip.AddTool(&m_host, TEXT("Old"), CRect(100, 100, 120, 120), 9);
+    CToolInfo info;
+    ASSERT_TRUE(m_tip.GetToolInfo(info, &m_host, 9));
+    EXPECT_STREQ(info.szText, TEXT("Old"));
+    info.lpszText = const_cast<LPTSTR>(TEXT("New"));
+    info.lParam = 42;
+    m_tip.SetToolInfo(&info);
+    EXPECT_STREQ(TextOf(&m_host, 9), TEXT("New"));
+    CToolInfo read;
+    ASSERT_TRUE(m_tip.GetToolInfo(read, &m_host, 9));
+    EXPECT_EQ(read.lParam, 42);
+    EXPECT_EQ(m_tip.GetToolCount(), 1);
+}
+
+/** What not every version of the control answers is looked at on its way there. */
+TEST_F(ToolTip, IsAskedForByItsMessages)
+{
+    ts::MessageRecorder recorder(m_tip);
+    recorder.RecordOnly({TTM_POPUP, TTM_UPDATE, TTM_GETTITLE, TTM_ADJUSTRECT});
+    recorder.Answer(TTM_GETTITLE, [](const ts::Message& message) -> std::optional<LRESULT> {
+        reinterpret_cast<TTGETTITLE*>(message.lParam)->uTitleBitmap = TTI_WARNING;
+        return 0;
+    });
+    recorder.Answer(TTM_ADJUSTRECT, [](const ts::Message& message) -> std::optional<LRESULT> {
+        const int grow = message.wParam ? 4 : -4;
+        return ::InflateRect(reinterpret_cast<RECT*>(message.lParam), grow, grow);
+    });
+    const CRect text(100, 100, 200, 120);
+    CRect rect = text;
+    EXPECT_TRUE(m_tip.AdjustRect(&rect));
+    EXPECT_EQ(rect, CRect(96, 96, 204, 124));
+    EXPECT_TRUE(m_tip.AdjustRect(&rect, FALSE));
+    EXPECT_EQ(rect, text);
+    recorder.Clear();
+    TTGETTITLE title = {};
+    title.dwSize = sizeof(title);
+    m_tip.GetTitle(&title);
+    EXPECT_EQ(title.uTitleBitmap, static_cast<UINT>(TTI_WARNING));
+    m_tip.Popup();
+    m_tip.Update();
+    EXPECT_TRUE(recorder.Is({ts::Msg(TTM_GETTITLE, 0, reinterpret_cast<LPARAM>(&title)), ts::Msg(TTM_POPUP, 0, 0),
+                             ts::Msg(TTM_UPDATE, 0, 0)}));
 }
 
 TEST_F(ToolTip, TimesWidthAndColoursAreKept)
