@@ -1554,10 +1554,12 @@ void CDC::Draw3dRect(LPCRECT lpRect, COLORREF clrTopLeft, COLORREF clrBottomRigh
 
 void CDC::Draw3dRect(int x, int y, int cx, int cy, COLORREF clrTopLeft, COLORREF clrBottomRight)
 {
+    if (cx <= 0 || cy <= 0)
+        return;
     FillSolidRect(x, y, cx - 1, 1, clrTopLeft);
     FillSolidRect(x, y, 1, cy - 1, clrTopLeft);
-    FillSolidRect(x + cx, y, -1, cy, clrBottomRight);
-    FillSolidRect(x, y + cy, cx, -1, clrBottomRight);
+    FillSolidRect(x + cx - 1, y, 1, cy, clrBottomRight);
+    FillSolidRect(x, y + cy - 1, cx, 1, clrBottomRight);
 }
 
 CClientDC::CClientDC(CWnd* pWnd) : m_hWnd(WindowOf(pWnd))

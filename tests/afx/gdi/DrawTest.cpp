@@ -1,5 +1,7 @@
 #include "MemoryDc.h"
 
+#include <algorithm>
+
 namespace
 {
 constexpr POINT TRIANGLE[] = {{0, 0}, {10, 0}, {0, 10}};
@@ -35,6 +37,20 @@ TEST(Draw, ThreeDimensionalRectIsOnePixelWide)
         EXPECT_EQ(dc.GetPixel(point), BLUE);
     EXPECT_EQ(dc.Count(RED), 9 + 4);
     EXPECT_EQ(dc.Count(BLUE), 10 + 5);
+}
+
+TEST(Draw, ThreeDimensionalRectStaysInsideWhateverItsSize)
+{
+    for (int cx = -1; cx <= 5; ++cx) {
+        for (int cy = -1; cy <= 5; ++cy) {
+            MemoryDc dc;
+            dc.Draw3dRect(10, 10, cx, cy, RED, BLUE);
+            const int rim = cx > 0 && cy > 0 ? cx * cy - (std::max)(cx - 2, 0) * (std::max)(cy - 2, 0) : 0;
+            EXPECT_EQ(dc.Count(RED) + dc.Count(BLUE), rim) << cx << " x " << cy;
+            dc.FillSolidRect(10, 10, cx > 0 ? cx : 0, cy > 0 ? cy : 0, WHITE);
+            EXPECT_EQ(dc.Count(WHITE), 40 * 30) << cx << " x " << cy;
+        }
+    }
 }
 
 TEST(Draw, BrushFillsFramesAndInverts)
