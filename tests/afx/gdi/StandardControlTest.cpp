@@ -352,6 +352,8 @@ TEST(EditLine, BalloonTipIsAskedForByItsMessage)
     recorder.RecordOnly({EM_SHOWBALLOONTIP, EM_HIDEBALLOONTIP});
     recorder.Answer(EM_SHOWBALLOONTIP, [&](const ts::Message& message) -> std::optional<LRESULT> {
         const auto* tip = reinterpret_cast<const EDITBALLOONTIP*>(message.lParam);
+        EXPECT_EQ(tip->cbStruct, sizeof(EDITBALLOONTIP));
+        EXPECT_EQ(tip->ttiIcon, TTI_ERROR);
         title = tip->pszTitle;
         body = tip->pszText;
         return TRUE;
