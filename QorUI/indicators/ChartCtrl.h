@@ -7,8 +7,8 @@
 /** One item of a chart. */
 struct UITEM
 {
-    CString strName;
-    UINT nValue = 0;
+    CString strName; ///< shown in the legend
+    UINT nValue = 0; ///< shown behind the name, and drawn in proportion to the other items
 };
 
 /** Kinds of charts. */
@@ -24,11 +24,17 @@ class QORUI_API CChartCtrl : public CStatic
   public:
     CChartCtrl();
 
-    /** @param name null counts as empty. */
+    /** Appends an item and repaints. @param name null counts as empty. */
     void AddItem(LPCWSTR name, UINT value);
+
+    /** Removes all items and repaints. */
     void RemoveAll();
 
-    /** @param type a `QorChartType`; the initial one is the ring. @return FALSE for any other value. */
+    /**
+     * Chooses the kind of chart and repaints.
+     * @param type a `QorChartType`; the initial one is the ring.
+     * @return FALSE, with nothing changed, for any other value.
+     */
     BOOL SetType(int type);
 
   protected:

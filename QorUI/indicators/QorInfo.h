@@ -8,7 +8,7 @@
 struct UINFOITEM
 {
     CString strLabel; ///< with its colon
-    CString strValue;
+    CString strValue; ///< shown right of all labels
 };
 
 /** A panel of rows with a label and a value; the value of the last row alone may have several lines. */
@@ -17,8 +17,13 @@ class QORUI_API CQorInfo : public CStatic
   public:
     CQorInfo();
 
-    /** @param label without colon, which is added; an empty one stays empty. A null text counts as empty. */
+    /**
+     * Appends a row and repaints. A null text counts as empty.
+     * @param label without colon, which is added; an empty one stays empty.
+     */
     void AddItem(LPCWSTR label, LPCWSTR value);
+
+    /** Removes all rows and repaints. */
     void RemoveAll();
 
   protected:

@@ -7,8 +7,8 @@
 /** One part of a status bar. */
 struct STATUSPART
 {
-    int nWidth = 0; ///< pixels; not used for the first part
-    CString strText;
+    int nWidth = 0;  ///< pixels; not used for the first part
+    CString strText; ///< shown on one line, cut with an ellipsis where the part ends
 };
 
 /**

@@ -12,7 +12,10 @@ class QORUI_API CFlatHdr : public CHeaderCtrl
   public:
     CFlatHdr();
 
-    /** @param background colour of the items. @param line colour of separators, bottom line and sort arrow. */
+    /**
+     * Repaints at once in other colours.
+     * @param background colour of the items. @param line colour of separators, bottom line and sort arrow.
+     */
     void SetColor(COLORREF background, COLORREF line);
 
     /** Makes all present items drawn by this object. */
@@ -21,11 +24,13 @@ class QORUI_API CFlatHdr : public CHeaderCtrl
     /** @param direction receives non-zero for ascending, 0 for descending; may be null. @return -1 for none. */
     int GetSortColumn(int* direction) const;
 
-    /** @param column -1 for none. @param direction 0 for descending. @return the former column. */
+    /** Repaints at once. @param column -1 for none. @param direction 0 for descending. @return the former column. */
     int SetSortColumn(int column, int direction);
 
     /** @return the item's value, 0 when there is no such item. */
     DWORD_PTR GetItemData(int item) const;
+
+    /** Keeps a value with an item. @return FALSE when there is no such item. */
     BOOL SetItemData(int item, DWORD_PTR data);
 
   protected:

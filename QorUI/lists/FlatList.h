@@ -13,6 +13,7 @@ class QORUI_API CFlatList : public CListCtrl
     CFlatList();
     ~CFlatList() override;
 
+    /** The list's header; it has no window while the control has none. */
     CFlatHdr& GetFlatHdr() { return m_header; }
 
     /**
@@ -27,12 +28,18 @@ class QORUI_API CFlatList : public CListCtrl
      * @return index of the column; negative on failure.
      */
     int InsertColumn(int column, LPCWSTR heading, int format, int width);
+
+    /** @return 0 also for a list without a header. */
     int GetColumnCount() const;
 
     /** @return the first row with this item data, -1 when there is none. */
     int FindItemData(LPARAM data) const;
 
-    /** Selects or deselects a row and leaves the focus. @param row -1 means all rows. */
+    /**
+     * Selects or deselects a row and leaves the focus.
+     * @param row -1 means all rows.
+     * @return FALSE when there is no such row.
+     */
     BOOL SelectItem(int row, BOOL select);
 
     /** @return the first selected row, -1 when there is none. */
