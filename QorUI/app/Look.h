@@ -14,7 +14,6 @@ inline constexpr COLORREF kDlgCaption = RGB(255, 255, 255);   ///< caption band 
 inline constexpr COLORREF kOutline = RGB(189, 189, 189);      ///< outline of dialogs, panels and frames
 inline constexpr COLORREF kFrameBack = RGB(186, 210, 234);    ///< body of a frame window
 inline constexpr COLORREF kFlatBorder = RGB(128, 128, 128);   ///< border of the flat input controls
-inline constexpr COLORREF kTabBorder = RGB(147, 145, 176);    ///< border of tabs
 inline constexpr COLORREF kCaptionText = RGB(255, 255, 255);  ///< caption of a picture button, text of a text link
 inline constexpr COLORREF kCmdHotBorder = RGB(182, 230, 251); ///< highlight of a command button: its outline
 inline constexpr COLORREF kCmdHotFill = RGB(229, 244, 252);   ///< highlight of a command button: its body

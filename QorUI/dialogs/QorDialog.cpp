@@ -7,9 +7,8 @@
 #include <QorUI/app/LibText.h>
 #include <QorUI/app/Look.h>
 #include <QorUI/app/QorUIApp.h>
+#include <QorUI/app/SystemVersion.h>
 #include <QorUI/res/resource.h>
-
-#include <QorPub/QorPub.h>
 
 namespace
 {
@@ -27,12 +26,10 @@ bool InSysMenuSpot(const CRect& window, CPoint point)
            point.y > window.top + kSysMenuNear && point.y <= window.top + kSysMenuFar;
 }
 
-/** Systems before version 2 draw their buttons a little lower in the band. */
+/** Before Windows XP the buttons stand a little lower in the band. */
 int BandOffset()
 {
-    constexpr DWORD kSecondVersion = 0x20000;
-    const DWORD version = static_cast<DWORD>(g_OsVer) * 65536 + g_SpVer;
-    return version < kSecondVersion ? 3 : 1;
+    return QorOsAtLeast(QOR_SYSTEM_XP) ? 1 : 3;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "ChartCtrl.h"
 
 #include <QorUI/app/GdiPlusFlat.h>
+#include <QorUI/app/Invalidate.h>
 #include <QorUI/app/OwnStatic.h>
 
 #include <algorithm>
@@ -190,26 +191,19 @@ void DrawChart(HDC dc, Gdiplus::GpGraphics* graphics, HFONT own, const CArray<UI
 
 CChartCtrl::CChartCtrl() : m_nType(QOR_CHART_RING) {}
 
-void CChartCtrl::Repaint()
-{
-    if (m_hWnd) {
-        Invalidate(TRUE);
-    }
-}
-
 void CChartCtrl::AddItem(LPCWSTR name, UINT value)
 {
     UITEM item;
     item.strName = name;
     item.nValue = value;
     m_arrItems.Add(item);
-    Repaint();
+    QorInvalidate(*this);
 }
 
 void CChartCtrl::RemoveAll()
 {
     m_arrItems.RemoveAll();
-    Repaint();
+    QorInvalidate(*this);
 }
 
 BOOL CChartCtrl::SetType(int type)
@@ -218,7 +212,7 @@ BOOL CChartCtrl::SetType(int type)
         return FALSE;
     }
     m_nType = type;
-    Repaint();
+    QorInvalidate(*this);
     return TRUE;
 }
 

@@ -44,8 +44,6 @@ class QORUI_API CChartCtrl : public CStatic
     DECLARE_MESSAGE_MAP()
 
   private:
-    void Repaint();
-
     int m_nType;
     CArray<UITEM, UITEM&> m_arrItems;
 };

@@ -1,7 +1,7 @@
 #include "DesktopTip.h"
 
-#include <QorPub/System.h>
 #include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/SystemVersion.h>
 #include <QorUI/app/WndClass.h>
 
 BEGIN_MESSAGE_MAP(CDesktopTip, CWnd)
@@ -19,7 +19,7 @@ constexpr int kFirstHeight = 16;
 constexpr int kMargin = 6;
 constexpr int kDefaultRight = 1024;
 constexpr int kDefaultBottom = 768;
-constexpr DWORD kOwnDesktopSince = 0x80000; // system code << 16 | service pack
+constexpr COLORREF kText = RGB(255, 255, 255);
 constexpr UINT kTextFormat = DT_WORDBREAK | DT_NOPREFIX | DT_EDITCONTROL;
 
 CSize MeasureTip(const CString& text)
@@ -29,11 +29,6 @@ CSize MeasureTip(const CString& text)
     CRect rect(0, 0, kWrapWidth, kFirstHeight);
     ::DrawTextW(screen.get(), text, text.GetLength(), &rect, DT_CALCRECT | kTextFormat);
     return rect.Size();
-}
-
-bool SystemPaintsDesktop()
-{
-    return ((static_cast<DWORD>(g_OsVer) << 16) | g_SpVer) < kOwnDesktopSince;
 }
 
 } // namespace
@@ -107,14 +102,14 @@ void CDesktopTip::CopyUnderTip(HDC target, HDC desktop) const
 void CDesktopTip::OnPaint()
 {
     CPaintDC dc(this);
-    if (SystemPaintsDesktop()) {
-        ::PaintDesktop(dc);
-    } else {
+    if (QorOsAtLeast(QOR_SYSTEM_WINDOWS_8)) {
         PaintDesktop(&dc);
+    } else {
+        ::PaintDesktop(dc);
     }
     const CDcStateSaver saver(dc);
     dc.SetBkMode(TRANSPARENT);
-    dc.SetTextColor(RGB(255, 255, 255));
+    dc.SetTextColor(kText);
     dc.SelectStockObject(DEFAULT_GUI_FONT);
     CString text;
     GetWindowText(text);

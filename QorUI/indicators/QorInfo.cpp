@@ -1,6 +1,7 @@
 #include "QorInfo.h"
 
 #include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/Invalidate.h>
 #include <QorUI/app/Look.h>
 #include <QorUI/app/OwnStatic.h>
 
@@ -28,13 +29,6 @@ int RowTop(INT_PTR row)
 
 CQorInfo::CQorInfo() = default;
 
-void CQorInfo::Repaint()
-{
-    if (m_hWnd) {
-        Invalidate(TRUE);
-    }
-}
-
 void CQorInfo::AddItem(LPCWSTR label, LPCWSTR value)
 {
     UINFOITEM item;
@@ -44,13 +38,13 @@ void CQorInfo::AddItem(LPCWSTR label, LPCWSTR value)
     }
     item.strValue = value;
     m_arrItems.Add(item);
-    Repaint();
+    QorInvalidate(*this);
 }
 
 void CQorInfo::RemoveAll()
 {
     m_arrItems.RemoveAll();
-    Repaint();
+    QorInvalidate(*this);
 }
 
 LRESULT CQorInfo::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)

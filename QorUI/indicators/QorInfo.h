@@ -35,7 +35,6 @@ class QORUI_API CQorInfo : public CStatic
   private:
     int DrawLabels(CDC& dc) const;
     void DrawValues(CDC& dc, const CRect& client, int left) const;
-    void Repaint();
 
     CArray<UINFOITEM, UINFOITEM&> m_arrItems;
 };

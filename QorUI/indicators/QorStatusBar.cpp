@@ -1,6 +1,7 @@
 #include "QorStatusBar.h"
 
 #include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/Invalidate.h>
 #include <QorUI/app/Look.h>
 
 BEGIN_MESSAGE_MAP(CQorStatusBar, CWnd)
@@ -12,6 +13,7 @@ namespace
 
 constexpr COLORREF kSeparatorDark = RGB(140, 172, 213);
 constexpr COLORREF kSeparatorLight = RGB(230, 239, 251);
+constexpr COLORREF kText = RGB(0, 0, 0);
 constexpr int kEdge = 2;
 constexpr int kTextLeft = 6;
 constexpr int kTextSpace = 12;
@@ -21,20 +23,13 @@ void DrawPartText(CDC& dc, const CString& text, CRect rect)
 {
     rect.left += kTextLeft;
     dc.SetBkMode(TRANSPARENT);
-    dc.SetTextColor(RGB(0, 0, 0));
+    dc.SetTextColor(kText);
     dc.DrawText(text, &rect, kTextFormat);
 }
 
 } // namespace
 
 CQorStatusBar::CQorStatusBar() = default;
-
-void CQorStatusBar::Repaint()
-{
-    if (m_hWnd) {
-        Invalidate(TRUE);
-    }
-}
 
 BOOL CQorStatusBar::SetParts(int parts, int* widths)
 {
@@ -44,7 +39,7 @@ BOOL CQorStatusBar::SetParts(int parts, int* widths)
         part.nWidth = widths ? widths[i] : 0;
         m_arrParts.Add(part);
     }
-    Repaint();
+    QorInvalidate(*this);
     return TRUE;
 }
 
@@ -55,7 +50,7 @@ BOOL CQorStatusBar::SetText(int part, LPCWSTR text)
     }
     ENSURE_ARG(part >= 0);
     m_arrParts[part].strText = text;
-    Repaint();
+    QorInvalidate(*this);
     return TRUE;
 }
 

@@ -43,7 +43,6 @@ class QORUI_API CQorStatusBar : public CWnd
 
   private:
     int DrawPart(CDC& dc, const CRect& bar, INT_PTR part, int right) const;
-    void Repaint();
 
     CArray<STATUSPART, STATUSPART&> m_arrParts;
 };

@@ -3,6 +3,7 @@
 #include "HdrLayout.h"
 
 #include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/Invalidate.h>
 #include <QorUI/app/Triangle.h>
 
 #include <array>
@@ -24,18 +25,11 @@ CFlatHdr::CFlatHdr() : m_nSortColumn(-1), m_nSortDirection(1), m_rcLast(0, 0, 0,
 {
 }
 
-void CFlatHdr::Repaint()
-{
-    if (m_hWnd) {
-        Invalidate(TRUE);
-    }
-}
-
 void CFlatHdr::SetColor(COLORREF background, COLORREF line)
 {
     m_clrBack = background;
     m_clrLine = line;
-    Repaint();
+    QorInvalidate(*this);
 }
 
 void CFlatHdr::SetOwnerDraw()
@@ -69,7 +63,7 @@ int CFlatHdr::SetSortColumn(int column, int direction)
     const int former = m_nSortColumn;
     m_nSortColumn = column;
     m_nSortDirection = direction;
-    Repaint();
+    QorInvalidate(*this);
     return former;
 }
 

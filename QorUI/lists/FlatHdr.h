@@ -46,7 +46,6 @@ class QORUI_API CFlatHdr : public CHeaderCtrl
     void DrawItemLines(HDC dc, const RECT& rect) const;
     void PaintInto(CDC& dc);
     void FillRest(CDC& dc) const;
-    void Repaint();
 
     int m_nSortColumn;
     int m_nSortDirection; // non-zero: ascending

@@ -125,7 +125,6 @@ TEST(Look, HasTheFixedColours)
     EXPECT_EQ(RGB(189, 189, 189), QorLook::kOutline);
     EXPECT_EQ(RGB(186, 210, 234), QorLook::kFrameBack);
     EXPECT_EQ(RGB(128, 128, 128), QorLook::kFlatBorder);
-    EXPECT_EQ(RGB(147, 145, 176), QorLook::kTabBorder);
 }
 
 TEST(Messages, HaveTheirNumbers)
