@@ -4,6 +4,7 @@
 #include "TwoColourText.h"
 
 #include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/Look.h>
 #include <QorUI/app/QorUIApp.h>
 #include <QorUI/res/resource.h>
 
@@ -19,7 +20,6 @@ namespace
 
 constexpr int kDefaultHeight = 18;
 constexpr int kFrames = 2; // above and below the pattern together
-constexpr COLORREF kOuterFrame = RGB(128, 128, 128);
 constexpr COLORREF kInnerFrame = RGB(255, 255, 255);
 
 } // namespace
@@ -111,6 +111,9 @@ void CProgressBar::OnPaint()
         return;
     }
     const CRect area = DrawFrames(dc);
+    if (area.IsRectEmpty()) {
+        return; // GDI would turn the rectangle round and draw over the frames
+    }
     const CWnd* parent = GetParent();
     const CSelectSaver font(dc, parent ? reinterpret_cast<HGDIOBJ>(parent->SendMessage(WM_GETFONT)) : nullptr);
     DrawBar(dc, area);
@@ -121,7 +124,7 @@ CRect CProgressBar::DrawFrames(CDC& dc) const
 {
     CRect rect;
     GetClientRect(&rect);
-    dc.Draw3dRect(&rect, kOuterFrame, kOuterFrame);
+    dc.Draw3dRect(&rect, QorLook::kFlatBorder, QorLook::kFlatBorder);
     rect.DeflateRect(1, 1);
     dc.Draw3dRect(&rect, kInnerFrame, kInnerFrame);
     rect.DeflateRect(1, 1);

@@ -69,12 +69,15 @@ void CQorStatusBar::OnPaint()
     dc.FillSolidRect(&bar, QorLook::kFrameBack);
     const CDcStateSaver saver(dc);
     bar.DeflateRect(0, kEdge);
+    ENSURE_ARG(!m_arrParts.IsEmpty());
+    if (bar.IsRectEmpty()) {
+        return; // GDI would turn the rectangle round and draw over the edges
+    }
     dc.SelectStockObject(DEFAULT_GUI_FONT);
     int right = bar.right;
     for (INT_PTR i = m_arrParts.GetUpperBound(); i >= 1; --i) {
         right = DrawPart(dc, bar, i, right);
     }
-    ENSURE_ARG(!m_arrParts.IsEmpty());
     DrawPartText(dc, m_arrParts[0].strText, CRect(0, bar.top, right, bar.bottom));
 }
 

@@ -2,6 +2,7 @@
 
 #include <QorUI/indicators/ProgressParts.h>
 
+#include <algorithm>
 #include <functional>
 
 namespace
@@ -343,12 +344,67 @@ TEST_F(ProgressBar, OnlyReachingTheEndErasesBeforePainting)
     EXPECT_EQ(stock + 1, erasings([this] { m_bar.SetPos(200); }));
 }
 
+TEST_F(ProgressBar, EndIsInvalidatedBeforeTheControlGetsItsPosition)
+{
+    LookOf(m_bar);
+    std::vector<std::pair<int, bool>> invalid;
+    ts::MessageRecorder log(m_bar);
+    log.Answer(PBM_SETPOS, [&](const ts::Message& message) -> std::optional<LRESULT> {
+        invalid.emplace_back(static_cast<int>(message.wParam), ::GetUpdateRect(m_bar, nullptr, FALSE) != FALSE);
+        return std::nullopt;
+    });
+    for (const int position : {199, 200}) {
+        m_bar.SetPos(position);
+        m_bar.UpdateWindow();
+    }
+    EXPECT_EQ((std::vector<std::pair<int, bool>>{{199, false}, {200, true}}), invalid);
+}
+
 TEST_F(ProgressBar, CalculatesWithItsRange)
 {
     m_bar.SetRange32(-50, 50);
     EXPECT_DOUBLE_EQ(0.5, m_bar.CalcFraction(0));
     EXPECT_DOUBLE_EQ(1.0, m_bar.CalcFraction(50));
     EXPECT_DOUBLE_EQ(1.1, m_bar.CalcFraction(60));
+}
+
+TEST_F(ProgressBar, RangeMayRunBackwards)
+{
+    m_bar.SetRange32(200, 0);
+    EXPECT_DOUBLE_EQ(0.0, m_bar.CalcFraction(200));
+    EXPECT_DOUBLE_EQ(0.75, m_bar.CalcFraction(50));
+    EXPECT_DOUBLE_EQ(1.0, m_bar.CalcFraction(0));
+    for (const int position : {-50, 0, 50, 200, 250}) {
+        const ts::Picture look = Bar(position);
+        EXPECT_TRUE(ts::FrameIs(look, CRect(0, 0, 200, 20), kOuter)) << position;
+        EXPECT_TRUE(ts::FrameIs(look, CRect(1, 1, 199, 19), kWhite)) << position;
+    }
+}
+
+TEST_F(ProgressBar, FramesStandHoweverSmallTheBarIs)
+{
+    const COLORREF other = RGB(255, 0, 255);
+    const int index = COLOR_WINDOW;
+    const COLORREF window = ::GetSysColor(index);
+    m_bar.SetFormat(L"");
+    ASSERT_TRUE(::SetSysColors(1, &index, &other));
+    for (int cx = 0; cx <= 5; ++cx) {
+        for (int cy = 0; cy <= 5; ++cy) {
+            m_bar.SetWindowPos(nullptr, 0, 0, cx, cy, SWP_NOMOVE | SWP_NOZORDER);
+            PaintNow(m_bar);
+            EXPECT_FALSE(::GetUpdateRect(m_bar, nullptr, FALSE)) << cx << " x " << cy;
+            if (cx > 0 && cy > 0) {
+                const ts::Picture expected = ts::DrawTo(cx, cy, [&](HDC dc) {
+                    CDC* const to = CDC::FromHandle(dc);
+                    to->FillSolidRect(0, 0, cx, cy, kOuter);
+                    to->FillSolidRect(CRect(1, 1, (std::max)(cx - 1, 1), (std::max)(cy - 1, 1)), kWhite);
+                    to->FillSolidRect(CRect(2, 2, (std::max)(cx - 2, 2), (std::max)(cy - 2, 2)), other);
+                });
+                EXPECT_TRUE(ts::SamePicture(expected, ts::CaptureWindow(m_bar))) << cx << " x " << cy;
+            }
+        }
+    }
+    ::SetSysColors(1, &index, &window);
 }
 
 TEST_F(ProgressBar, RangeWithoutWidthIsPainted)

@@ -1,5 +1,6 @@
 #include <tests/lists/Lists.h>
 
+#include <algorithm>
 #include <array>
 
 namespace
@@ -72,6 +73,27 @@ TEST_F(StatusBar, PartsAreLaidOutFromTheRight)
     EXPECT_TRUE(ts::AreaIs(look, CRect(0, 20, 400, 22), kBack));
     EXPECT_EQ(2 * 18, look.Count(kDark));
     EXPECT_EQ(2 * 18, look.Count(kLight));
+}
+
+TEST_F(StatusBar, LowBarHasNoSeparators)
+{
+    SetThree();
+    m_bar.SetText(1, L"Text");
+    for (int height = 0; height <= 5; ++height) {
+        m_bar.SetWindowPos(nullptr, 0, 0, 400, height, SWP_NOMOVE | SWP_NOZORDER);
+        PaintNow(m_bar);
+        EXPECT_FALSE(::GetUpdateRect(m_bar, nullptr, FALSE)) << height;
+        if (height > 0) {
+            const ts::Picture look = ts::CaptureWindow(m_bar);
+            EXPECT_EQ(height == 5 ? 2 : 0, look.Count(kDark)) << height;
+            EXPECT_EQ(height == 5 ? 2 : 0, look.Count(kLight)) << height;
+            EXPECT_TRUE(ts::AreaIs(look, CRect(0, 0, 400, (std::min)(height, 2)), kBack)) << height;
+        }
+    }
+    for (int width = 1; width <= 5; ++width) {
+        m_bar.SetWindowPos(nullptr, 0, 0, width, 22, SWP_NOMOVE | SWP_NOZORDER);
+        EXPECT_TRUE(ts::AreaIs(LookOf(m_bar), CRect(0, 0, width, 22), kBack)) << width;
+    }
 }
 
 TEST_F(StatusBar, TextsStandSixPixelsInsideTheirParts)
@@ -256,11 +278,18 @@ TEST_F(StatusBar, BadCountsAreNoHarm)
     EXPECT_TRUE(ts::PixelIs(LookOf(m_bar), 1, 1, kBack));
 }
 
-TEST_F(StatusBar, PaintingLeavesNothingBehind)
+TEST_F(StatusBar, LeavesNothingBehind)
 {
-    SetThree();
-    m_bar.SetText(1, L"Text");
-    EXPECT_TRUE(ts::NoLeak([this] { LookOf(m_bar); }));
+    EXPECT_TRUE(ts::NoLeak([this] {
+        CQorStatusBar bar;
+        bar.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 30, 400, 52), &m_host, 3);
+        std::array<int, 2> widths = {0, 100};
+        bar.SetParts(2, widths.data());
+        bar.SetText(1, L"Text");
+        bar.GetTextExtent(L"Text");
+        bar.UpdateWindow();
+        bar.DestroyWindow();
+    }));
 }
 
 } // namespace
