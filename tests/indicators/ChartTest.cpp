@@ -5,7 +5,10 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <numeric>
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace
@@ -28,7 +31,9 @@ class ExpectedChart
     }
 
     /** Writes the legend in the font that is selected in the window's device context. */
-    void TakeLegendFontOfTheDc() { m_dcFont = true; }
+    void TakeLegendFontOfTheDc() { m_legend = Legend::Dc; }
+
+    void TakeLegendFontOfTheTitle() { m_legend = Legend::Title; }
 
     /** @param window of that size. */
     ts::Picture DrawIn(CWnd& window)
@@ -47,6 +52,13 @@ class ExpectedChart
     }
 
   private:
+    enum class Legend
+    {
+        Gui,
+        Dc,
+        Title
+    };
+
     static Gdiplus::GpFont* FontOf(HDC dc, HGDIOBJ object)
     {
         LOGFONTW logFont = {};
@@ -56,7 +68,7 @@ class ExpectedChart
         return font;
     }
 
-    void DrawTitle(HDC dc)
+    static Gdiplus::GpFont* TitleFont(HDC dc)
     {
         CFont arial;
         arial.CreatePointFont(100, L"Arial");
@@ -65,6 +77,14 @@ class ExpectedChart
         Gdiplus::GpFont* font = nullptr;
         GdipGetFamily(near10, &family);
         GdipCreateFont(family, 10, Gdiplus::FontStyleRegular, Gdiplus::UnitPoint, &font);
+        GdipDeleteFontFamily(family);
+        GdipDeleteFont(near10);
+        return font;
+    }
+
+    void DrawTitle(HDC dc)
+    {
+        Gdiplus::GpFont* font = TitleFont(dc);
         Gdiplus::GpStringFormat* format = nullptr;
         GdipCreateStringFormat(0, LANG_NEUTRAL, &format);
         GdipSetStringFormatLineAlign(format, Gdiplus::StringAlignmentCenter);
@@ -73,16 +93,20 @@ class ExpectedChart
                        QorGdip::Solid(0xFF000000).get());
         GdipDeleteStringFormat(format);
         GdipDeleteFont(font);
-        GdipDeleteFontFamily(family);
-        GdipDeleteFont(near10);
     }
 
     void DrawItems(HDC dc)
     {
-        if (m_dcFont) {
-            GdipCreateFontFromDC(dc, &m_font);
-        } else {
+        switch (m_legend) {
+        case Legend::Gui:
             m_font = FontOf(dc, GuiFont());
+            break;
+        case Legend::Dc:
+            GdipCreateFontFromDC(dc, &m_font);
+            break;
+        case Legend::Title:
+            m_font = TitleFont(dc);
+            break;
         }
         float angle = 0;
         int y = 33;
@@ -131,7 +155,7 @@ class ExpectedChart
     CString m_title;
     QorGdip::Graphics m_graphics;
     Gdiplus::GpFont* m_font = nullptr;
-    bool m_dcFont = false;
+    Legend m_legend = Legend::Gui;
 };
 
 Gdiplus::SmoothingMode g_smoothing = Gdiplus::SmoothingModeInvalid;
@@ -497,19 +521,185 @@ TEST(ChartAlone, ChildNeedsAParent)
     EXPECT_EQ(nullptr, chart.m_hWnd);
 }
 
-TEST(ChartAlone, TakesItemsWithoutAWindow)
+TEST_F(Chart, TakesItemsBeforeItHasAWindow)
 {
+    const ts::Picture look = Look(1, {1, 2});
+    m_chart.DestroyWindow();
     CChartCtrl chart;
-    chart.AddItem(L"x", 1);
-    EXPECT_TRUE(chart.SetType(1));
+    chart.AddItem(L"Gone", 5);
     chart.RemoveAll();
+    chart.AddItem(L"Name", 1);
+    chart.AddItem(L"Name", 2);
+    EXPECT_TRUE(chart.SetType(1));
+    ASSERT_TRUE(chart.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &m_host, kControlId));
+    ::SendMessageW(chart, WM_SETFONT, reinterpret_cast<WPARAM>(GuiFont()), FALSE);
+    EXPECT_TRUE(ts::SamePicture(look, LookOf(chart).Crop(CRect(0, 0, 299, 199))));
+    chart.DestroyWindow();
 }
 
-TEST_F(Chart, PaintingLeavesNothingBehind)
+TEST_F(Chart, LeavesNothingBehind)
+{
+    EXPECT_TRUE(ts::NoLeak([this] {
+        for (const int type : {1, 2}) {
+            CChartCtrl chart;
+            chart.Create(L"Title", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &m_host, 3);
+            chart.SetType(type);
+            chart.AddItem(L"Name", 1);
+            chart.AddItem(L"Name", 0);
+            chart.UpdateWindow();
+            chart.DestroyWindow();
+        }
+    }));
+}
+
+/** How many of the library's GDI+ objects are not deleted yet. */
+int g_objects = 0;
+int g_mostObjects = 0;
+std::vector<int> g_objectsAtEnd;
+
+/** A function of GDI+ that makes or deletes an object, counted. */
+template <auto Function, int Change>
+struct Counting;
+template <class... Arguments, Gdiplus::GpStatus(WINGDIPAPI* Function)(Arguments...), int Change>
+struct Counting<Function, Change>
+{
+    static Gdiplus::GpStatus WINGDIPAPI Call(Arguments... arguments)
+    {
+        const Gdiplus::GpStatus status = Function(arguments...);
+        g_objects += status == Gdiplus::Ok ? Change : 0;
+        g_mostObjects = (std::max)(g_mostObjects, g_objects);
+        return status;
+    }
+};
+
+template <auto Function>
+ts::ReplacedImport Making(const char* name)
+{
+    return {L"QorUI.dll", name, &Counting<Function, 1>::Call};
+}
+
+template <auto Function>
+ts::ReplacedImport Deleting(const char* name)
+{
+    return {L"QorUI.dll", name, &Counting<Function, -1>::Call};
+}
+
+BOOL WINAPI NoteEndPaint(HWND wnd, const PAINTSTRUCT* paint)
+{
+    g_objectsAtEnd.push_back(g_objects);
+    return ::EndPaint(wnd, paint);
+}
+
+TEST_F(Chart, EveryGdiPlusObjectIsDeletedBeforeThePaintingEnds)
 {
     m_chart.SetWindowText(L"Title");
     Add(3);
-    EXPECT_TRUE(ts::NoLeak([this] { LookOf(m_chart); }));
+    const auto graphics = Making<GdipCreateFromHDC>("GdipCreateFromHDC");
+    const auto brush = Making<GdipCreateSolidFill>("GdipCreateSolidFill");
+    const auto pen = Making<GdipCreatePen1>("GdipCreatePen1");
+    const auto font = Making<GdipCreateFont>("GdipCreateFont");
+    const auto logFont = Making<GdipCreateFontFromLogfontW>("GdipCreateFontFromLogfontW");
+    const auto dcFont = Making<GdipCreateFontFromDC>("GdipCreateFontFromDC");
+    const auto family = Making<GdipGetFamily>("GdipGetFamily");
+    const auto format = Making<GdipCreateStringFormat>("GdipCreateStringFormat");
+    const auto noGraphics = Deleting<GdipDeleteGraphics>("GdipDeleteGraphics");
+    const auto noBrush = Deleting<GdipDeleteBrush>("GdipDeleteBrush");
+    const auto noPen = Deleting<GdipDeletePen>("GdipDeletePen");
+    const auto noFont = Deleting<GdipDeleteFont>("GdipDeleteFont");
+    const auto noFamily = Deleting<GdipDeleteFontFamily>("GdipDeleteFontFamily");
+    const auto noFormat = Deleting<GdipDeleteStringFormat>("GdipDeleteStringFormat");
+    const ts::ReplacedImport end(L"afx.dll", "EndPaint", &NoteEndPaint);
+    for (const HGDIOBJ own : {GuiFont(), HGDIOBJ()}) {
+        ::SendMessageW(m_chart, WM_SETFONT, reinterpret_cast<WPARAM>(own), FALSE);
+        ts::Settle();
+        g_objects = 0;
+        g_mostObjects = 0;
+        g_objectsAtEnd.clear();
+        PaintNow(m_chart);
+        EXPECT_GT(g_mostObjects, 3);
+        EXPECT_EQ(std::vector<int>(1, 0), g_objectsAtEnd);
+    }
+}
+
+int g_failedCalls = 0;
+
+/** Stands for a function of GDI+ and fails. */
+template <auto Function>
+struct Failing;
+template <class... Arguments, Gdiplus::GpStatus(WINGDIPAPI* Function)(Arguments...)>
+struct Failing<Function>
+{
+    static Gdiplus::GpStatus WINGDIPAPI Call(Arguments... /*arguments*/)
+    {
+        ++g_failedCalls;
+        return Gdiplus::OutOfMemory;
+    }
+};
+
+template <auto Function>
+constexpr std::unique_ptr<ts::ReplacedImport> (*kFail)(const char*) =
+    [](const char* name) { return std::make_unique<ts::ReplacedImport>(L"QorUI.dll", name, &Failing<Function>::Call); };
+
+using FailingCall = std::pair<const char*, std::unique_ptr<ts::ReplacedImport> (*)(const char*)>;
+
+class ChartFailure : public Chart, public testing::WithParamInterface<FailingCall>
+{
+};
+
+TEST_P(ChartFailure, LeavesThePaintingWholeAndTheNextOneRight)
+{
+    ::SendMessageW(m_chart, WM_SETFONT, 0, FALSE); // the legend has the device context's one
+    m_chart.SetWindowText(L"Title");
+    Add(3);
+    const CRect painted(0, 0, 299, 199);
+    const ts::Picture look = LookOf(m_chart).Crop(painted);
+    {
+        const auto& [name, fail] = GetParam();
+        const auto failing = fail(name);
+        const FaultCounter faults;
+        g_failedCalls = 0;
+        PaintNow(m_chart);
+        EXPECT_GT(g_failedCalls, 0);
+        EXPECT_FALSE(::GetUpdateRect(m_chart, nullptr, FALSE));
+        EXPECT_EQ(0, faults.Count());
+    }
+    EXPECT_TRUE(ts::SamePicture(look, LookOf(m_chart).Crop(painted)));
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ChartFailure,
+                         testing::Values(FailingCall("GdipCreateFromHDC", kFail<GdipCreateFromHDC>),
+                                         FailingCall("GdipCreateSolidFill", kFail<GdipCreateSolidFill>),
+                                         FailingCall("GdipCreatePen1", kFail<GdipCreatePen1>),
+                                         FailingCall("GdipCreateFont", kFail<GdipCreateFont>),
+                                         FailingCall("GdipGetFamily", kFail<GdipGetFamily>),
+                                         FailingCall("GdipCreateFontFromLogfontW", kFail<GdipCreateFontFromLogfontW>),
+                                         FailingCall("GdipCreateFontFromDC", kFail<GdipCreateFontFromDC>),
+                                         FailingCall("GdipCreateStringFormat", kFail<GdipCreateStringFormat>)),
+                         [](const testing::TestParamInfo<FailingCall>& failure) {
+                             return std::string(failure.param.first);
+                         });
+
+TEST_F(Chart, WithoutAUsableFontHasItsLegendInTheTitlesOne)
+{
+    ::SendMessageW(m_chart, WM_SETFONT, 0, FALSE);
+    const ts::ReplacedImport failing(L"QorUI.dll", "GdipCreateFontFromDC", &Failing<GdipCreateFontFromDC>::Call);
+    ExpectedChart expected(false, {1, 2});
+    expected.TakeLegendFontOfTheTitle();
+    CStatic canvas;
+    ASSERT_TRUE(canvas.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 210, 300, 410), &m_host, 3));
+    const ts::Picture look = expected.DrawIn(canvas).Crop(CRect(0, 0, 299, 199));
+    canvas.DestroyWindow();
+    EXPECT_TRUE(ts::SamePicture(look, Look(2, {1, 2})));
+    EXPECT_GT(look.Crop(CRect(134, 20, 299, 50)).Count(kSeries[0]), 5);
+}
+
+TEST_F(Chart, WithoutATitleFontHasEverythingElse)
+{
+    ::SendMessageW(m_chart, WM_SETFONT, 0, FALSE); // the legend has the device context's one
+    const ts::Picture look = Look(2, {1, 2});
+    const ts::ReplacedImport failing(L"QorUI.dll", "GdipCreateFontFromLogfontW",
+                                     &Failing<GdipCreateFontFromLogfontW>::Call);
+    EXPECT_TRUE(ts::SamePicture(look, Look(2, {1, 2}, L"Title")));
 }
 
 } // namespace

@@ -197,17 +197,34 @@ TEST(InfoAlone, ChildNeedsAParent)
     EXPECT_EQ(nullptr, info.m_hWnd);
 }
 
-TEST(InfoAlone, TakesItemsWithoutAWindow)
-{
-    CQorInfo info;
-    info.AddItem(L"A", L"b");
-    info.RemoveAll();
-}
-
-TEST_F(Info, PaintingLeavesNothingBehind)
+TEST_F(Info, TakesItemsBeforeItHasAWindow)
 {
     m_info.AddItem(L"A", L"b");
-    EXPECT_TRUE(ts::NoLeak([this] { LookOf(m_info); }));
+    const ts::Picture look = LookOf(m_info);
+    m_info.DestroyWindow();
+    CQorInfo info;
+    info.AddItem(L"Gone", L"gone");
+    info.RemoveAll();
+    info.AddItem(L"A", L"b");
+    ASSERT_TRUE(info.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 100), &m_host, kControlId));
+    EXPECT_TRUE(ts::SamePicture(look, LookOf(info)));
+    info.DestroyWindow();
+    info.RemoveAll();
+    ASSERT_TRUE(info.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 100), &m_host, kControlId));
+    EXPECT_TRUE(ts::AreaIs(LookOf(info), CRect(0, 0, 200, 100), kSoft));
+    info.DestroyWindow();
+}
+
+TEST_F(Info, LeavesNothingBehind)
+{
+    EXPECT_TRUE(ts::NoLeak([this] {
+        CQorInfo info;
+        info.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 100), &m_host, 3);
+        info.AddItem(L"A", L"b");
+        info.AddItem(L"B", kLong);
+        info.UpdateWindow();
+        info.DestroyWindow();
+    }));
 }
 
 } // namespace

@@ -285,9 +285,16 @@ TEST_F(ProgressList, MissingCellsAreLeftToTheControl)
     });
 }
 
-TEST_F(ProgressList, PaintingLeavesNothingBehind)
+TEST_F(ProgressList, LeavesNothingBehind)
 {
-    EXPECT_TRUE(ts::NoLeak([this] { Cell(L"45|Copying"); }));
+    EXPECT_TRUE(ts::NoLeak([this] {
+        CProgressList list;
+        list.Create(WS_CHILD | WS_VISIBLE | LVS_REPORT, CRect(0, 0, 300, 120), &m_host, 3);
+        list.InsertColumn(0, L"Progress", LVCFMT_LEFT, 150);
+        list.InsertItem(0, L"45|Copying");
+        list.UpdateWindow();
+        list.DestroyWindow();
+    }));
 }
 
 } // namespace

@@ -604,15 +604,6 @@ class UnreadableList : public CFlatList
     static void operator delete(void* list) { ::VirtualFree(list, 0, MEM_RELEASE); }
 };
 
-int g_faults = 0;
-
-/** Counts faults: the system may go on after one in a window procedure as if nothing had happened. */
-LONG CALLBACK NoteFault(EXCEPTION_POINTERS* exception)
-{
-    g_faults += exception->ExceptionRecord->ExceptionCode == EXCEPTION_ACCESS_VIOLATION;
-    return EXCEPTION_CONTINUE_SEARCH;
-}
-
 TEST_F(DestroyedList, WithItsObjectByTheNewsOfTheFocus)
 {
     auto* list = new UnreadableList;
@@ -624,12 +615,10 @@ TEST_F(DestroyedList, WithItsObjectByTheNewsOfTheFocus)
         }
         return std::nullopt;
     });
-    g_faults = 0;
-    void* const noting = ::AddVectoredExceptionHandler(TRUE, &NoteFault);
+    const FaultCounter faults;
     list->SetFocus();
-    ::RemoveVectoredExceptionHandler(noting);
     EXPECT_EQ(nullptr, list);
-    EXPECT_EQ(0, g_faults);
+    EXPECT_EQ(0, faults.Count());
 }
 
 TEST_F(DestroyedList, ByTheSelectionOfTheFirstRow)
