@@ -127,7 +127,10 @@ class CLinksPage : public CConsolePage
     afx_msg void OnVisited()
     {
         m_link->SetVisited(IsChecked(kVisited));
-        m_link->Invalidate();
+        CRect place; // on the page: the link has no background of its own
+        m_link->GetWindowRect(place);
+        ScreenToClient(place);
+        InvalidateRect(place, FALSE);
     }
 
     afx_msg void OnAutoSize()
