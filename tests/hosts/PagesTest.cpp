@@ -260,6 +260,7 @@ class ProgressPage : public Pages
     static constexpr UINT kRun = 2705;
     static constexpr UINT kStop = 2706;
     static constexpr UINT kReset = 2707;
+    static constexpr UINT_PTR kTimer = 7;
 
     void SetUp() override
     {
@@ -275,12 +276,8 @@ class ProgressPage : public Pages
         return ts::PumpUntil([&] { return Position() > before; }, 2000);
     }
 
-    bool Stands()
-    {
-        const int before = Position();
-        ts::PumpUntil([] { return false; }, 300);
-        return Position() == before;
-    }
+    /** Whether no timer moves the bars; ends one that does. */
+    bool Stands() { return !::KillTimer(*m_frame.CurrentPage(), kTimer); }
 };
 
 TEST_F(ProgressPage, RunsWhenItIsOpened)

@@ -213,12 +213,13 @@ TEST_F(DragList, ScrollsWithThePointerBelowAndTakesTheMarkAwayBefore)
     Press(0);
     MoveTo(3);
     ASSERT_EQ(3, m_list.marks.back());
-    for (int i = 0; i < 200 && marks.empty(); ++i) {
-        ts::MoveMouse(m_list, 20 + i % 2, client.bottom + 6);
-        ::Sleep(10);
-    }
+    int x = 20;
+    const bool scrolled = ts::PumpUntil([&] {
+        ts::MoveMouse(m_list, x ^= 1, client.bottom + 6);
+        return !marks.empty();
+    });
     ts::MouseUp();
-    ASSERT_FALSE(marks.empty());
+    ASSERT_TRUE(scrolled);
     EXPECT_EQ(-1, marks.front());
     EXPECT_LT(0, m_list.GetTopIndex());
 }
