@@ -65,23 +65,6 @@ CONSOLE = "hosts/console/res/"
 MADE_IN = (PIC, CONSOLE)
 PAGE = "tools/art/artwork.md"
 
-ITEMS = {
-    "add": "add.svg",
-    "delete": "delete.svg",
-    "snapshot": "item-snapshot.svg",
-    "restore": "item-restore.svg",
-    "schedule": "item-schedule.svg",
-    "user": "item-user.svg",
-    "settings": "item-settings.svg",
-    "lock": "item-lock.svg",
-    "info": "item-info.svg",
-    "checked": "item-check.svg",
-    "disk": "item-disk.svg",
-    "page": "item-page.svg",
-    "registry key": "reg-key.svg",
-    "registry value": "reg-value.svg",
-}
-
 PICTURES = [
     Picture(PIC + "radio.bmp", "radio button glyphs", 13, 13, glyphs("radio.svg"), 200, BODY, WHITE, solid=True,
             **GLYPH_RULES),
@@ -160,13 +143,6 @@ PICTURES = [
                 sizes=(32,))
         for name in ("snapshot", "restore", "schedule", "users")
     ),
-    *(
-        Picture(CONSOLE + f"tray-busy-{name}.ico", f"notification area, working, picture {name}", 16, 16,
-                states("tray-busy.svg", name), sizes=(16,))
-        for name in ("one", "two")
-    ),
-    Picture(CONSOLE + "items.bmp", "small images of menus, panels, lists and trees, in this order: "
-            + ", ".join(ITEMS), 16, 16, tuple(Frame(svg) for svg in ITEMS.values()), 0, (244, 249, 252), MASK, CUT),
     Picture(CONSOLE + "dial.bmp", "face of the clock", 161, 161, (Frame("dial.svg"),), 0, BODY),
 ]
 
