@@ -1,11 +1,6 @@
 #include "ConsolePage.h"
 
-namespace
-{
-
-constexpr COLORREF kHeading = RGB(28, 78, 120);
-
-} // namespace
+#include "ConsoleLook.h"
 
 BEGIN_MESSAGE_MAP(CConsolePage, CWnd)
     ON_WM_CREATE()
@@ -109,7 +104,7 @@ CListBox* CConsolePage::AddList(const CRect& rect, UINT id)
 void CConsolePage::DrawHeading(CDC& dc, LPCWSTR text, const CRect& rect) const
 {
     CFont* old = dc.SelectObject(const_cast<CFont*>(&m_boldFont));
-    const COLORREF colour = dc.SetTextColor(kHeading);
+    const COLORREF colour = dc.SetTextColor(kAccent);
     CRect line(rect);
     dc.DrawText(text, -1, line, DT_SINGLELINE | DT_BOTTOM | DT_NOPREFIX | DT_END_ELLIPSIS);
     dc.SetTextColor(colour);

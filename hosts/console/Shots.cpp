@@ -2,8 +2,7 @@
 
 #include "ConsoleOutput.h"
 
-#include <QorUI/app/GdiPlusFlat.h>
-
+#include <gdiplus.h>
 #include <shlobj.h>
 
 namespace

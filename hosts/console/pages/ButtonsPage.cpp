@@ -1,3 +1,4 @@
+#include "../ConsoleLook.h"
 #include "../ConsolePage.h"
 #include "../ConsoleText.h"
 #include "../res/ConsoleResource.h"
@@ -255,7 +256,6 @@ class CButtonsPage : public CConsolePage
         return AddLabel(ConText(L"STR_CON_NOTHING"), CRect(12, kLiveTop + 100, 660, kLiveTop + 118), kResult);
     }
 
-    static constexpr UINT kDialogCloseStrip = 223;
     int m_clicks = 0;
 };
 

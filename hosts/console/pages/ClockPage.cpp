@@ -1,3 +1,4 @@
+#include "../ConsoleLook.h"
 #include "../ConsolePage.h"
 #include "../ConsoleText.h"
 #include "../res/ConsoleResource.h"
@@ -19,9 +20,7 @@ constexpr UINT_PTR kRefresh = 7;
 constexpr UINT kRefreshPeriod = 100; // ms
 constexpr int kLeft = 12;
 constexpr int kTop = 44;
-constexpr int kDialSize = 161;
 constexpr int kSide = 220;
-constexpr COLORREF kDialBack = RGB(236, 245, 250); // around the dial in its bitmap
 
 class CClockPage : public CConsolePage
 {
@@ -39,7 +38,7 @@ class CClockPage : public CConsolePage
   protected:
     bool Build() override
     {
-        if (!m_clock.Create(IDB_DIAL, this, kClock, kDialBack)) {
+        if (!m_clock.Create(IDB_DIAL, this, kClock, kDialogBody)) {
             return false;
         }
         m_clock.SetWindowPos(nullptr, kLeft, kTop, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);

@@ -1,3 +1,4 @@
+#include "../ConsoleLook.h"
 #include "../ConsolePage.h"
 #include "../ConsoleText.h"
 #include "../res/ConsoleResource.h"
@@ -116,7 +117,6 @@ class CDrawingPage : public CConsolePage
         InvalidateRect(CRect(0, kLivePieTop - 22, 190, kLivePieTop + 80), FALSE);
     }
 
-    static constexpr UINT kLogonPicture = 262;
     double m_ratio = 0.4;
     HICON m_icon = nullptr; // shared
     HICON m_grayIcon = nullptr;

@@ -1,3 +1,4 @@
+#include "../ConsoleLook.h"
 #include "../ConsolePage.h"
 #include "../ConsoleText.h"
 
@@ -21,7 +22,6 @@ constexpr UINT kAddLink = 2712;
 constexpr UINT kClear = 2713;
 
 constexpr LPCWSTR kRefused = L"\\/:*?\"<>|";
-constexpr LPCWSTR kSite = L"http://www.example.org/help";
 constexpr int kLeft = 12;
 constexpr int kFieldLeft = 170;
 constexpr int kFieldRight = 400;
@@ -31,7 +31,6 @@ constexpr int kFirstRow = 40;
 constexpr int kLogTop = 250;
 constexpr long kLineHeight = 12;
 constexpr long kTitleHeight = 16;
-constexpr COLORREF kTitle = RGB(28, 78, 120);
 constexpr COLORREF kText = RGB(0, 0, 0);
 constexpr COLORREF kWarning = RGB(192, 0, 0);
 constexpr DWORD kChild = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_GROUP;
@@ -178,7 +177,7 @@ class CEditsPage : public CConsolePage
         }
         m_log = &log;
         m_log->FindUrls();
-        m_log->SetFormat(kTitleHeight, kTitle, CFE_BOLD);
+        m_log->SetFormat(kTitleHeight, kAccent, CFE_BOLD);
         m_log->InsertText(-2, L"%s", ConText(L"STR_CON_RICH_TITLE"));
         OnAddLine();
         OnAddWarning();

@@ -1,3 +1,4 @@
+#include "../ConsoleLook.h"
 #include "../ConsolePage.h"
 #include "../ConsoleText.h"
 
@@ -15,7 +16,6 @@ constexpr UINT kLabel = 3008;
 constexpr UINT kResult = 3009;
 constexpr UINT kClickLabel = 3010;
 
-constexpr LPCWSTR kSite = L"http://www.example.org/help";
 constexpr int kLeft = 12;
 constexpr int kRight = 704;
 constexpr int kColumnLeft = 130;
@@ -33,7 +33,6 @@ constexpr COLORREF kOwnVisited = RGB(128, 96, 32);
 constexpr COLORREF kOwnHover = RGB(208, 72, 0);
 constexpr COLORREF kBoxFrame = RGB(160, 176, 192);
 constexpr COLORREF kBandTop = RGB(72, 128, 184);
-constexpr COLORREF kBandBottom = RGB(28, 78, 120);
 
 const CRect kBand(kLeft, 264, kRight, 320);
 
@@ -209,8 +208,8 @@ class CLinksPage : public CConsolePage
     {
         TRIVERTEX corners[] = {
             {kBand.left, kBand.top, Wide(GetRValue(kBandTop)), Wide(GetGValue(kBandTop)), Wide(GetBValue(kBandTop)), 0},
-            {kBand.right, kBand.bottom, Wide(GetRValue(kBandBottom)), Wide(GetGValue(kBandBottom)),
-             Wide(GetBValue(kBandBottom)), 0}};
+            {kBand.right, kBand.bottom, Wide(GetRValue(kAccent)), Wide(GetGValue(kAccent)), Wide(GetBValue(kAccent)),
+             0}};
         GRADIENT_RECT whole = {0, 1};
         ::GdiGradientFill(dc.m_hDC, corners, 2, &whole, 1, GRADIENT_FILL_RECT_V);
     }
