@@ -182,6 +182,19 @@ TEST_F(ButtonsPage, SamplesOfFocusedCheckAndRadioButtonsLookFocused)
     }
 }
 
+TEST_F(ButtonsPage, CommandButtonsHaveASampleOfEachLook)
+{
+    constexpr COLORREF hotFill = RGB(229, 244, 252);
+    std::vector<HWND> samples;
+    std::vector<bool> hot;
+    for (const LONG x : {96, 274, 452, 630}) {
+        samples.push_back(::ChildWindowFromPoint(*m_frame.CurrentPage(), {x, 318}));
+        hot.push_back(ts::CaptureWindow(samples.back()).Count(hotFill) > 1000);
+    }
+    EXPECT_EQ((std::vector<bool>{false, true, false, false}), hot);
+    EXPECT_FALSE(::IsWindowEnabled(samples[2]));
+}
+
 // Links
 
 std::vector<std::wstring> g_opened;

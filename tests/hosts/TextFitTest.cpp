@@ -41,6 +41,20 @@ testing::AssertionResult FitsInto(const CString& text, CSize needed, CSize place
                                        << " and has " << place.cx << " x " << place.cy;
 }
 
+/** Whether a command button has nothing more to show under its title when it is higher. */
+testing::AssertionResult NoteFits(CWnd& button, const CString& title, const CRect& client)
+{
+    constexpr int more = 100;
+    button.SetWindowPos(nullptr, 0, 0, client.Width(), client.Height() + more, SWP_NOMOVE | SWP_NOZORDER);
+    const ts::Picture below = ts::CaptureWindow(button).Crop(
+        CRect(kCommandMargin, client.bottom - kCommandMargin, client.right - kCommandMargin, client.bottom + more / 2));
+    button.SetWindowPos(nullptr, 0, 0, client.Width(), client.Height(), SWP_NOMOVE | SWP_NOZORDER);
+    if (below.Count(below.At(0, 0)) == below.Width() * below.Height()) {
+        return testing::AssertionSuccess();
+    }
+    return testing::AssertionFailure() << "the text under " << ts::ToUtf8(title.GetString()) << " is cut off";
+}
+
 /** Whether a button's whole text can be seen. */
 testing::AssertionResult ButtonFits(CWnd& button, const CString& text, CRect client)
 {
@@ -50,9 +64,10 @@ testing::AssertionResult ButtonFits(CWnd& button, const CString& text, CRect cli
         return FitsInto(text, SizeOf(button, text, client.Width()), client.Size());
     }
     if (dynamic_cast<CCmdBtn*>(&button)) {
+        const testing::AssertionResult note = NoteFits(button, text, client);
         client.DeflateRect(kCommandMargin, kCommandMargin);
         client.left += kCommandIcon;
-        return FitsInto(text, SizeOf(button, text, 0), client.Size());
+        return note ? FitsInto(text, SizeOf(button, text, 0), client.Size()) : note;
     }
     client.DeflateRect(kPushMargin, 0);
     return FitsInto(text, SizeOf(button, text, 0), client.Size());

@@ -96,8 +96,28 @@ constexpr int kRowChecked = 122;
 constexpr int kRowRadio = 148;
 constexpr int kRowRadioSet = 174;
 constexpr int kRowBitmap = 204;
-constexpr int kRowCommand = 234;
-constexpr int kLiveTop = 330;
+constexpr int kCommandTop = 290;
+constexpr int kCommandLeft = 12;
+constexpr int kCommandStep = 178;
+constexpr SIZE kCommandSize = {168, 56};
+constexpr int kLiveTop = 396;
+
+/** A sample of a command button; there is none of a pressed one, which has no look of its own. */
+struct CommandSample
+{
+    Look look;
+    LPCWSTR lookKey;
+    UINT icon;
+    LPCWSTR titleKey;
+    LPCWSTR noteKey;
+};
+
+constexpr CommandSample kCommands[] = {
+    {Look::Normal, L"STR_CON_NORMAL", IDI_CMD_SNAPSHOT, L"STR_CON_CMD_TITLE", L"STR_CON_CMD_NOTE"},
+    {Look::Hot, L"STR_CON_HOT", IDI_CMD_RESTORE, L"STR_CON_CMD_RESTORE", L"STR_CON_CMD_RESTORE_NOTE"},
+    {Look::Disabled, L"STR_CON_DISABLED", IDI_CMD_SCHEDULE, L"STR_CON_CMD_SCHEDULE", L"STR_CON_CMD_SCHEDULE_NOTE"},
+    {Look::Focused, L"STR_CON_FOCUSED", IDI_CMD_USERS, L"STR_CON_CMD_USERS", L"STR_CON_CMD_USERS_NOTE"},
+};
 
 class CButtonsPage : public CConsolePage
 {
@@ -133,12 +153,12 @@ class CButtonsPage : public CConsolePage
             {L"STR_CON_PUSH", kRowPush, 20},          {L"STR_CON_CHECK", kRowCheck, 16},
             {L"STR_CON_CHECKED", kRowChecked, 16},    {L"STR_CON_RADIO", kRowRadio, 16},
             {L"STR_CON_RADIO_SET", kRowRadioSet, 16}, {L"STR_CON_BITMAP", kRowBitmap, 16},
-            {L"STR_CON_COMMAND", kRowCommand, 20},
         };
         for (const RowName& row : rows) {
             CRect cell(12, row.top, kColumnLeft - 4, row.top + row.height);
             dc.DrawText(ConText(row.key), -1, cell, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
         }
+        DrawCommandNames(dc, client.right - 16);
         DrawHeading(dc, ConText(L"STR_CON_TRY"), CRect(12, kLiveTop - 30, client.right - 16, kLiveTop - 10));
     }
 
@@ -158,6 +178,18 @@ class CButtonsPage : public CConsolePage
 
   private:
     static int ColumnLeft(int column) { return kColumnLeft + column * kColumnWidth; }
+
+    static CPoint CommandPlace(int index) { return {kCommandLeft + index * kCommandStep, kCommandTop}; }
+
+    void DrawCommandNames(CDC& dc, int right) const
+    {
+        DrawHeading(dc, ConText(L"STR_CON_COMMAND"), CRect(12, kCommandTop - 54, right, kCommandTop - 34));
+        int index = 0;
+        for (const CommandSample& command : kCommands) {
+            CRect cell(CommandPlace(index++) - CSize(0, 24), CSize(kCommandSize.cx, 18));
+            dc.DrawText(ConText(command.lookKey), -1, cell, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
+        }
+    }
 
     static CRect Cell(Look look, int top, int width, int height)
     {
@@ -209,18 +241,16 @@ class CButtonsPage : public CConsolePage
 
     bool BuildCommandSamples()
     {
-        static constexpr Look looks[] = {Look::Normal, Look::Hot, Look::Disabled};
-        int left = kColumnLeft;
-        for (const Look look : looks) {
-            auto& sample = Own<Sample<CCmdBtn>>(look);
-            const CRect rect(CPoint(left, kRowCommand), CSize(178, 52));
-            if (!sample.Create(IDI_CONSOLE, ConText(L"STR_CON_CMD_NOTE"), rect, this, kNoId)) {
+        int index = 0;
+        for (const CommandSample& command : kCommands) {
+            auto& sample = Own<Sample<CCmdBtn>>(command.look);
+            const CRect rect(CommandPlace(index++), kCommandSize);
+            if (!sample.Create(command.icon, ConText(command.noteKey), rect, this, kNoId)) {
                 return false;
             }
             sample.SetFont(PageFont());
-            sample.SetWindowText(ConText(L"STR_CON_CMD_TITLE"));
+            sample.SetWindowText(ConText(command.titleKey));
             sample.Freeze();
-            left += 186;
         }
         return true;
     }
@@ -230,8 +260,8 @@ class CButtonsPage : public CConsolePage
         auto& command = Own<CCmdBtn>();
         auto& bitmap = Own<CBmpBtn>();
         if (!AddPush(ConText(L"STR_CON_PRESS_ME"), CRect(12, kLiveTop, 132, kLiveTop + 21), kLivePush) ||
-            !command.Create(IDI_CONSOLE, ConText(L"STR_CON_CMD_NOTE"), CRect(150, kLiveTop, 350, kLiveTop + 56), this,
-                            kLiveCommand) ||
+            !command.Create(IDI_CMD_SNAPSHOT, ConText(L"STR_CON_CMD_NOTE"), CRect(150, kLiveTop, 350, kLiveTop + 56),
+                            this, kLiveCommand) ||
             !AddCheck(ConText(L"STR_CON_CHECK_ME"), CRect(370, kLiveTop, 530, kLiveTop + 18), kLiveCheck)) {
             return false;
         }
