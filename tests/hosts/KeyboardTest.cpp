@@ -557,11 +557,27 @@ class PickersPage : public Pages
     static constexpr UINT kAdd = 2814;
     static constexpr UINT kDelete = 2815;
     static constexpr UINT kChecked = 2816;
+    static constexpr UINT kUp = 2817;
+    static constexpr UINT kDown = 2818;
 
     void SetUp() override
     {
         Pages::SetUp();
         Show(L"pickers");
+    }
+
+    /** The texts of the list with items to move, the selected one in brackets. */
+    std::wstring Items()
+    {
+        auto& list = ControlAs<CDragLB>(kDrag);
+        std::wstring items;
+        for (int i = 0; i < list.GetCount(); ++i) {
+            CString text;
+            list.GetText(i, text);
+            items += list.GetCurSel() == i ? L"[" + std::wstring(text) + L"]" : std::wstring(text);
+            items += L'|';
+        }
+        return items;
     }
 
     LRESULT Ask(UINT id, UINT message) { return ::SendMessageW(Control(id), message, 0, 0); }
@@ -644,6 +660,27 @@ TEST_F(PickersPage, ItemsAreCheckedByKeyboard)
     EXPECT_EQ(3, Ask(kDrag, LB_GETCURSEL));
     Press(kDragOn, VK_SPACE);
     EXPECT_EQ(BST_UNCHECKED, Ask(kDragOn, BM_GETCHECK));
+}
+
+TEST_F(PickersPage, ItemsAreMovedByKeyboard)
+{
+    const std::wstring none = L"Every day|Every week|Every month|At start-up|";
+    Press(kUp, VK_SPACE);
+    Press(kDown, VK_SPACE);
+    EXPECT_EQ(none, Items());
+    Press(kDrag, VK_HOME);
+    ts::Key(VK_DOWN);
+    Press(kUp, VK_SPACE);
+    EXPECT_EQ(L"[Every week]|Every day|Every month|At start-up|", Items());
+    ts::Key(VK_SPACE); // at the top already
+    EXPECT_EQ(L"[Every week]|Every day|Every month|At start-up|", Items());
+    Press(kDown, VK_RETURN);
+    for (int i = 0; i < 3; ++i) {
+        ts::Key(VK_RETURN);
+    }
+    EXPECT_EQ(L"Every day|Every month|At start-up|[Every week]|", Items());
+    ts::Chord({VK_MENU, 'U'});
+    EXPECT_EQ(L"Every day|Every month|[Every week]|At start-up|", Items());
 }
 
 // Calendar

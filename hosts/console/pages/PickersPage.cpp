@@ -20,12 +20,15 @@ constexpr UINT kDragOn = 2813;
 constexpr UINT kAdd = 2814;
 constexpr UINT kDelete = 2815;
 constexpr UINT kChecked = 2816;
+constexpr UINT kUp = 2817;
+constexpr UINT kDown = 2818;
 
 constexpr int kLeft = 12;
 constexpr int kFieldLeft = 120;
 constexpr int kFieldRight = 300;
 constexpr int kRightLeft = 340;
 constexpr int kRight = 700;
+constexpr int kDragRow = 480;
 constexpr int kFirstRow = 40;
 constexpr int kRowHeight = 30;
 constexpr int kDropHeight = 150;
@@ -79,6 +82,9 @@ class CPickersPage : public CConsolePage
     }
 
     afx_msg void OnDragOn() { m_drag->EnableDrag(IsDlgButtonChecked(kDragOn) == BST_CHECKED); }
+
+    afx_msg void OnUp() { MoveSelected(-1); }
+    afx_msg void OnDown() { MoveSelected(1); }
 
     afx_msg void OnAdd()
     {
@@ -193,7 +199,10 @@ class CPickersPage : public CConsolePage
             return false;
         }
         m_drag = AddFlatList<CDragLB>(L"STR_CON_LIST_DRAG", kFirstRow + 305, kDrag, LBS_SORT);
-        if (!m_drag || !AddCheck(ConText(L"STR_CON_DRAG_ON"), CRect(kRightLeft, 480, kRight, 498), kDragOn)) {
+        if (!m_drag ||
+            !AddCheck(ConText(L"STR_CON_DRAG_ON"), CRect(kRightLeft, kDragRow + 2, 530, kDragRow + 20), kDragOn) ||
+            !AddPush(ConText(L"STR_CON_ITEM_UP"), CRect(538, kDragRow, 615, kDragRow + 21), kUp) ||
+            !AddPush(ConText(L"STR_CON_ITEM_DOWN"), CRect(623, kDragRow, kRight, kDragRow + 21), kDown)) {
             return false;
         }
         FillLists();
@@ -218,6 +227,20 @@ class CPickersPage : public CConsolePage
         OnDragOn();
     }
 
+    /** What dragging the selected item does, by a number of rows. */
+    void MoveSelected(int rows)
+    {
+        const int from = m_drag->GetCurSel();
+        const int to = from + rows;
+        if (from < 0 || to < 0 || to >= m_drag->GetCount()) {
+            return;
+        }
+        CString text;
+        m_drag->GetText(from, text);
+        m_drag->DeleteString(from);
+        m_drag->SetCurSel(m_drag->InsertString(to, text));
+    }
+
     CFlatCombo* m_kind = nullptr;
     CFlatCombo* m_fixed = nullptr;
     CFlatListBox* m_texts = nullptr;
@@ -229,6 +252,8 @@ BEGIN_MESSAGE_MAP(CPickersPage, CConsolePage)
     ON_CBN_SELCHANGE(kKind, &CPickersPage::OnKind)
     ON_CLBN_CHKCHANGE(kChecks, &CPickersPage::OnCheck)
     ON_BN_CLICKED(kDragOn, &CPickersPage::OnDragOn)
+    ON_BN_CLICKED(kUp, &CPickersPage::OnUp)
+    ON_BN_CLICKED(kDown, &CPickersPage::OnDown)
     ON_BN_CLICKED(kAdd, &CPickersPage::OnAdd)
     ON_BN_CLICKED(kDelete, &CPickersPage::OnDelete)
 END_MESSAGE_MAP()
