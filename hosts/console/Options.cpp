@@ -62,12 +62,15 @@ bool ParseOptions(int argc, const LPWSTR* argv, ConsoleOptions& options, CString
     return true;
 }
 
-LPCWSTR OptionsHelp()
+CString OptionsHelp(const CString& pages)
 {
-    return L"QorConsole [options]\r\n"
-           L"  --demo             fill the store with sample data\r\n"
-           L"  --lang <locale>    choose the language: en, de, zh-CN\r\n"
-           L"  --page <name>      open this page first\r\n"
+    return CString(L"QorConsole [options]\r\n"
+                   L"  --demo             fill the store with sample data\r\n"
+                   L"  --lang <locale>    choose the language: en, de, zh-CN\r\n"
+                   L"  --page <name>      open this page first:\r\n"
+                   L"                     ") +
+           pages +
+           L"\r\n"
            L"  --shots <folder>   walk through every page and dialog in every state, leave a PNG picture of each\r\n"
            L"                     in the folder, and end\r\n"
            L"  --help             show this text\r\n"

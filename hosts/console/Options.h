@@ -23,5 +23,5 @@ inline constexpr int kExitBadOptions = 2;
  */
 bool ParseOptions(int argc, const LPWSTR* argv, ConsoleOptions& options, CString& message);
 
-/** The text of `--help`. */
-LPCWSTR OptionsHelp();
+/** The text of `--help`. @param pages the names that `--page` takes, for the user. */
+CString OptionsHelp(const CString& pages);

@@ -24,6 +24,16 @@ DWORD FillDemoStore()
     return filled;
 }
 
+/** The names of all pages, as the user is told them. */
+CString PageNames()
+{
+    CString names;
+    for (const PageInfo& page : AllPages()) {
+        names += (names.IsEmpty() ? L"" : L", ") + CString(page.name);
+    }
+    return names;
+}
+
 class CConsoleApp : public CWinApp
 {
   public:
@@ -97,11 +107,11 @@ bool CConsoleApp::ReadOptions()
         return Fail(message, kExitBadOptions);
     }
     if (m_options.help) {
-        Say(STD_OUTPUT_HANDLE, OptionsHelp());
+        Say(STD_OUTPUT_HANDLE, OptionsHelp(PageNames()));
         return false;
     }
     if (!m_options.page.IsEmpty() && CConsoleFrame::FindPage(m_options.page) < 0) {
-        return Fail(L"there is no page '" + m_options.page + L"'", kExitBadOptions);
+        return Fail(L"there is no page '" + m_options.page + L"'; the pages: " + PageNames(), kExitBadOptions);
     }
     return true;
 }

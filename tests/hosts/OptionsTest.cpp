@@ -56,6 +56,11 @@ TEST(ConsoleOptions, AStrayWordIsRefused)
     EXPECT_FALSE(Parse({L"buttons"}).understood);
 }
 
+TEST(ConsoleOptions, HelpNamesThePages)
+{
+    EXPECT_GE(OptionsHelp(L"one, two").Find(L" one, two\r\n"), 0);
+}
+
 TEST(ConsoleOptions, AMissingValueIsRefused)
 {
     for (const wchar_t* option : {L"--lang", L"--shots", L"--page"}) {
