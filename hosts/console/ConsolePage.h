@@ -14,6 +14,14 @@ struct ModalShot
     std::function<void()> show; ///< returns when the dialog was closed
 };
 
+/** A window that a page can open beside itself, for the pictures. */
+struct PopupShot
+{
+    CString name;               ///< stem of the picture's file name
+    std::function<HWND()> open; ///< opens the window; null when that failed
+    std::function<void()> close;
+};
+
 /**
  * One page of the console: a child window with the dialog background, some controls, and drawing of its own.
  *
@@ -33,6 +41,9 @@ class CConsolePage : public CWnd
 
     /** Dialogs that get a picture of their own. */
     virtual std::vector<ModalShot> Modals() { return {}; }
+
+    /** Other windows that get a picture of their own. */
+    virtual std::vector<PopupShot> Popups() { return {}; }
 
   protected:
     static constexpr UINT kNoId = 0xFFFF; // of controls that nobody asks for

@@ -149,6 +149,12 @@ class ShotsWalk
             }
             Count(SaveWindow(m_frame, PathOf(stem)), stem);
         }
+        for (const PopupShot& popup : m_frame.CurrentPage()->Popups()) {
+            const HWND wnd = popup.open();
+            Settle();
+            Count(wnd && SaveWindow(wnd, PathOf(popup.name)), popup.name);
+            popup.close();
+        }
         for (const ModalShot& modal : m_frame.CurrentPage()->Modals()) {
             ModalPhotographer photographer(m_frame, PathOf(modal.name));
             modal.show();

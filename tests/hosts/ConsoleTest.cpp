@@ -54,16 +54,20 @@ TEST_F(Console, AnUnknownLanguageIsStatusTwo)
     EXPECT_NE(std::string::npos, result.output.find("xx-YY")) << result.output;
 }
 
-TEST_F(Console, AnUnknownPageIsStatusTwo)
+TEST_F(Console, AnUnknownPageIsStatusTwoAndThePagesAreNamed)
 {
-    EXPECT_EQ(2u, Run(L"--page nothing").status);
+    const ts::ProcessResult result = Run(L"--page nothing");
+    EXPECT_EQ(2u, result.status);
+    EXPECT_NE(std::string::npos, result.output.find("'nothing'")) << result.output;
+    EXPECT_NE(std::string::npos, result.output.find("buttons, links")) << result.output;
 }
 
-TEST_F(Console, HelpListsTheOptions)
+TEST_F(Console, HelpListsTheOptionsAndPages)
 {
     const ts::ProcessResult result = Run(L"--help");
     EXPECT_EQ(0u, result.status);
     EXPECT_NE(std::string::npos, result.output.find("--shots")) << result.output;
+    EXPECT_NE(std::string::npos, result.output.find("progress, info")) << result.output;
 }
 
 TEST_F(Console, ShotsLeavesAPictureOfEveryPageAndBox)
@@ -71,11 +75,29 @@ TEST_F(Console, ShotsLeavesAPictureOfEveryPageAndBox)
     const ts::ProcessResult result = Run(L"--demo --lang de --shots \"" + m_folder.File(L"shots") + L"\"", 480000);
     ASSERT_EQ(0u, result.status) << result.output;
     const std::set<std::wstring> pictures = Pictures();
-    for (const wchar_t* name :
-         {L"buttons.png", L"links.png", L"links-1.png", L"layout.png", L"layout-dialog.png", L"messages.png",
-          L"messagebox-error.png", L"messagebox-yesno.png", L"messagebox-code.png", L"drawing.png", L"drawing-1.png",
-          L"account.png", L"edits-2.png", L"pickers-2.png", L"calendar-3.png", L"clock-2.png", L"list.png",
-          L"progress.png", L"info.png"}) {
+    for (const wchar_t* name : {L"buttons.png",
+                                L"links.png",
+                                L"links-1.png",
+                                L"layout.png",
+                                L"layout-dialog.png",
+                                L"messages.png",
+                                L"messagebox-error.png",
+                                L"messagebox-yesno.png",
+                                L"messagebox-code.png",
+                                L"drawing.png",
+                                L"drawing-1.png",
+                                L"account.png",
+                                L"edits-2.png",
+                                L"pickers-2.png",
+                                L"calendar-3.png",
+                                L"clock-2.png",
+                                L"list.png",
+                                L"progress.png",
+                                L"info.png",
+                                L"info-desktop.png",
+                                L"calendar-months.png",
+                                L"pickers-combo.png",
+                                L"pickers-search.png"}) {
         EXPECT_EQ(1u, pictures.count(name)) << ts::ToUtf8(name);
     }
     EXPECT_EQ(5, SnapshotCount()); // those of --demo

@@ -43,9 +43,38 @@ class CPageCalendar : public CQorCalendar
     using CQorCalendar::ScrollRight;
     using CQorCalendar::SetFirstDayOfWeek;
 
+    /** Opens the list of months as a click on the first header does, with the pointer on its middle row. */
+    HWND OpenList()
+    {
+        const CPoint header = CRect(m_pCells[0].rcHdr).CenterPoint();
+        SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(header.x, header.y));
+        CWnd* list = m_bTrackMonth ? GetActiveWindow() : nullptr;
+        if (!list) {
+            return nullptr;
+        }
+        CPoint middle(header);
+        ClientToScreen(&middle);
+        CRect place;
+        list->GetWindowRect(place);
+        place.OffsetRect(middle - place.CenterPoint());
+        list->MoveWindow(place);
+        ::GetCursorPos(&m_pointer);
+        ::SetCursorPos(middle.x, middle.y);
+        return list->m_hWnd;
+    }
+
+    void CloseList()
+    {
+        SendMessage(WM_LBUTTONUP);
+        ::SetCursorPos(m_pointer.x, m_pointer.y);
+    }
+
     CString MonthAndYear() { return GetMonthName(m_nMonth, m_nYear); }
     int Year() const { return m_nYear; }
     int Month() const { return m_nMonth; }
+
+  private:
+    CPoint m_pointer; // where it was before the list of months
 };
 
 class CCalendarPage : public CConsolePage
@@ -74,6 +103,11 @@ class CCalendarPage : public CConsolePage
         COleDateTime end(2009, 3, shown.lastDay, 0, 0, 0);
         m_calendar->SetSelDate(start, end);
         ShowResult();
+    }
+
+    std::vector<PopupShot> Popups() override
+    {
+        return {{L"calendar-months", [this] { return m_calendar->OpenList(); }, [this] { m_calendar->CloseList(); }}};
     }
 
   protected:

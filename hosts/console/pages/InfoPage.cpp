@@ -43,6 +43,16 @@ class CInfoPage : public CConsolePage
         OnChoice();
     }
 
+    std::vector<PopupShot> Popups() override
+    {
+        return {{L"info-desktop",
+                 [this] {
+                     OnTip();
+                     return m_tip.m_hWnd;
+                 },
+                 [this] { OnTip(); }}};
+    }
+
   protected:
     bool Build() override
     {

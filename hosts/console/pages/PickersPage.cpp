@@ -54,6 +54,12 @@ class CPickersPage : public CConsolePage
         }
     }
 
+    std::vector<PopupShot> Popups() override
+    {
+        ShowState(0);
+        return {ListOf(L"pickers-combo", *m_kind), ListOf(L"pickers-search", *m_search)};
+    }
+
   protected:
     bool Build() override { return BuildCombos() && BuildPickers() && BuildLists(); }
 
@@ -97,6 +103,19 @@ class CPickersPage : public CConsolePage
     DECLARE_MESSAGE_MAP()
 
   private:
+    static PopupShot ListOf(LPCWSTR name, CComboBox& combo)
+    {
+        return {name,
+                [&combo] {
+                    combo.ShowDropDown(TRUE);
+                    COMBOBOXINFO info = {};
+                    info.cbSize = sizeof(info);
+                    combo.GetComboBoxInfo(&info);
+                    return info.hwndList;
+                },
+                [&combo] { combo.ShowDropDown(FALSE); }};
+    }
+
     static CRect Row(int row, int left = kFieldLeft, int right = kFieldRight, int height = 21)
     {
         return CRect(CPoint(left, kFirstRow + row * kRowHeight), CSize(right - left, height));
@@ -158,9 +177,9 @@ class CPickersPage : public CConsolePage
         auto* time =
             AddPicker<CFlatDateTime>(7, L"STR_CON_TIME", DATETIMEPICK_CLASSW, kTime, DTS_TIMEFORMAT, WS_EX_CLIENTEDGE);
         auto* address = AddPicker<CFlatIPAddr>(8, L"STR_CON_ADDRESS", WC_IPADDRESSW, kAddress, 0, WS_EX_CLIENTEDGE);
-        auto* search = AddPicker<CSearchBox>(10, L"STR_CON_SEARCH", WC_COMBOBOXW, kSearch,
-                                             CBS_DROPDOWN | CBS_AUTOHSCROLL | WS_VSCROLL, 0, kDropHeight);
-        if (!hotKey || !date || !time || !address || !search) {
+        m_search = AddPicker<CSearchBox>(10, L"STR_CON_SEARCH", WC_COMBOBOXW, kSearch,
+                                         CBS_DROPDOWN | CBS_AUTOHSCROLL | WS_VSCROLL, 0, kDropHeight);
+        if (!hotKey || !date || !time || !address || !m_search) {
             return false;
         }
         hotKey->SendMessage(HKM_SETHOTKEY, MAKEWORD(VK_F5, HOTKEYF_CONTROL | HOTKEYF_SHIFT));
@@ -169,8 +188,10 @@ class CPickersPage : public CConsolePage
         time->SetFormat(L"HH:mm");
         time->SendMessage(DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&moment));
         address->SendMessage(IPM_SETADDRESS, 0, static_cast<LPARAM>(MAKEIPADDRESS(192, 0, 2, 17)));
-        search->AddString(ConText(L"STR_CON_KIND2"));
-        search->SetWindowText(ConText(L"STR_CON_SEARCH_TEXT"));
+        for (const LPCWSTR key : {L"STR_CON_KIND1", L"STR_CON_KIND2", L"STR_CON_KIND3", L"STR_CON_KIND4"}) {
+            m_search->AddString(ConText(key));
+        }
+        m_search->SetWindowText(ConText(L"STR_CON_SEARCH_TEXT"));
         return AddPush(ConText(L"STR_CON_LIST_ADD"), Row(11, kFieldLeft, kFieldLeft + 86), kAdd) &&
                AddPush(ConText(L"STR_CON_LIST_DELETE"), Row(11, kFieldRight - 86, kFieldRight), kDelete);
     }
@@ -246,6 +267,7 @@ class CPickersPage : public CConsolePage
     CFlatListBox* m_texts = nullptr;
     CFlatChkList* m_checks = nullptr;
     CDragLB* m_drag = nullptr;
+    CSearchBox* m_search = nullptr;
 };
 
 BEGIN_MESSAGE_MAP(CPickersPage, CConsolePage)
