@@ -6,6 +6,7 @@
 #include "SelMonthWnd.h"
 
 #include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/Invalidate.h>
 #include <QorUI/app/NotifyParent.h>
 #include <QorUI/app/SysLook.h>
 
@@ -254,7 +255,7 @@ void CQorCalendar::SetCurrentYearMonth(int year, int month)
     }
     m_nYear = year;
     m_nMonth = month;
-    InvalidateIfShown();
+    QorInvalidate(*this);
 }
 
 void CQorCalendar::SetMaxSelDays(UINT days)
@@ -268,7 +269,7 @@ void CQorCalendar::SetMaxSelDays(UINT days)
     } else if (days == 0) {
         Select(NoDate(), NoDate());
     }
-    InvalidateIfShown();
+    QorInvalidate(*this);
 }
 
 void CQorCalendar::SetSelDate(COleDateTime& start, COleDateTime& end)
@@ -277,7 +278,7 @@ void CQorCalendar::SetSelDate(COleDateTime& start, COleDateTime& end)
         return;
     }
     const COleDateTime last = m_nMaxSelDays == 1 ? start : end;
-    InvalidateIfShown();
+    QorInvalidate(*this);
     if (!IsValid(start) || !IsValid(last)) {
         Select(NoDate(), NoDate());
     } else if (start > last) {
@@ -298,7 +299,7 @@ COleDateTime CQorCalendar::GetSelDate(COleDateTime* end)
 void CQorCalendar::SetBkColor(COLORREF background)
 {
     m_crBk = background;
-    InvalidateIfShown();
+    QorInvalidate(*this);
 }
 
 void CQorCalendar::SetColors(COLORREF normal, COLORREF special)
@@ -308,20 +309,13 @@ void CQorCalendar::SetColors(COLORREF normal, COLORREF special)
     }
     m_crNormal = normal;
     m_crSpecial = special;
-    InvalidateIfShown();
+    QorInvalidate(*this);
 }
 
 void CQorCalendar::Select(const COleDateTime& start, const COleDateTime& end)
 {
     m_dtSelStart = start;
     m_dtSelEnd = end;
-}
-
-void CQorCalendar::InvalidateIfShown()
-{
-    if (m_hWnd) {
-        Invalidate(TRUE);
-    }
 }
 
 void CQorCalendar::Repaint()

@@ -11,18 +11,18 @@ class CSelMonthWnd;
 /** One of the 42 places for days in a month of the calendar. */
 struct CalendarDay
 {
-    RECT rc = {}; ///< what the mouse hits, in client pixels; empty when nothing is shown
-    COleDateTime date;
+    RECT rc = {};      ///< what the mouse hits, in client pixels; empty when nothing is shown
+    COleDateTime date; ///< the day that is shown there
 };
 
 /** One month of the calendar's grid. Places in client pixels. */
 struct CalendarCell
 {
-    RECT rcHdr = {};  ///< the header's part that opens the list of months
-    int nRow = 0;     ///< row in the grid, from 1
-    int nCol = 0;     ///< column in the grid, from 1
-    RECT rcCell = {}; ///< the six weeks
-    CalendarDay days[42];
+    RECT rcHdr = {};      ///< the header's part that opens the list of months
+    int nRow = 0;         ///< row in the grid, from 1
+    int nCol = 0;         ///< column in the grid, from 1
+    RECT rcCell = {};     ///< the six weeks
+    CalendarDay days[42]; ///< six weeks of seven days
 };
 
 /**
@@ -100,31 +100,30 @@ class QORUI_API CQorCalendar : public CWnd
     /** Makes the fonts, measures, and gives the window its size. @return FALSE when a font cannot be made */
     BOOL AdjustWndPos();
 
-    /** @name Drawing of a month's parts
-     *  @param row,col the cell, from 1
-     *  @return height used, pixels
-     *  @{ */
+    /** Draws one cell's header, with the arrows where they belong. @param row,col from 1 @return height used, pixels */
     int DrawHeader(CDC& dc, int y, int x, int row, int col, int month, int year);
+    /** Draws the weekday initials and the line under them. @return height used, pixels */
     int DrawDaysOfWeek(CDC& dc, int y, int x);
+    /** Draws the six weeks. @param row,col from 1 @return height used, pixels */
     int DrawDays(CDC& dc, int y, int x, int row, int col, int month, int year);
-    /** @} */
 
-    /** @name Remembering where parts were drawn; places out of range are ignored
-     *  @{ */
+    /** Remembers where a header was drawn; does nothing for a cell that there is not. */
     void SetCellHdrPos(int row, int col, RECT rect);
+    /** Remembers where a cell's weeks were drawn; does nothing for a cell that there is not. */
     void SetCellPos(int row, int col, RECT rect);
+    /** Remembers a day and where it was drawn. @param day place in the weeks, from 0 */
     void SetCellDayPos(int row, int col, int day, COleDateTime& date, RECT rect);
-    /** @} */
 
     /** Makes all days' places empty. */
     void ClearDays();
 
-    /** @name What lies under a point; null for nothing
-     *  @{ */
+    /** The cell whose header lies under a point; null for none. */
     CalendarCell* HdrHitTest(CPoint& point);
+    /** The day that lies under a point; null for none. */
     CalendarDay* DayHitTest(CPoint& point);
-    /** @} */
+    /** Whether a point lies in a header. */
     BOOL InCellHdr(CPoint& point);
+    /** Whether a point lies in the weeks of a cell. */
     BOOL InCellDay(CPoint& point);
 
     /** Extends the selection to a day while the mouse is dragged. */
@@ -136,11 +135,10 @@ class QORUI_API CQorCalendar : public CWnd
     /** What the host's function says about a day; FALSE without one and when it throws. */
     BOOL IsSpecialDate(COleDateTime& date);
 
-    /** @name Paging by whole grids; below 1 the calendar is only redrawn
-     *  @{ */
+    /** Shows earlier months. @param pages whole grids; below 1 the calendar is only redrawn */
     void ScrollLeft(int pages);
+    /** Shows later months. @param pages whole grids; below 1 the calendar is only redrawn */
     void ScrollRight(int pages);
-    /** @} */
 
     /** Redraws and sends the parent a notification. */
     void FireNotify(UINT code);
@@ -161,38 +159,38 @@ class QORUI_API CQorCalendar : public CWnd
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     DECLARE_MESSAGE_MAP()
 
-    int m_nYear;  ///< year of the first cell
-    int m_nMonth; ///< month of the first cell, from 1
-    CFont m_fontBold;
-    CFont m_fontNormal;
-    CString m_strMonths[12];
-    CString m_strDays[7]; ///< weekday initials as displayed
-    int m_nFirstDayOfWeek;
-    UINT m_nMaxSelDays;
-    COLORREF m_crBk;
-    COLORREF m_crNormal;
-    COLORREF m_crSpecial;
-    QorSpecialDayProc m_pfnIsSpecial;
-    void* m_pData;
-    BOOL m_bTrackDay; ///< a selection is being dragged
-    COleDateTime m_dtAnchor;
-    BOOL m_bTrackArrow;           ///< an arrow is pressed
-    BOOL m_bTrackMonth;           ///< the list of months is open
-    CSelMonthWnd* m_pSelMonthWnd; ///< owned
-    CalendarCell* m_pHdrCell;     ///< whose header opened the list
-    RECT m_rcLeftArrow;
-    RECT m_rcRightArrow;
-    int m_nHdrHeight;
-    int m_nDayWidth;
-    int m_nDowHeight;
-    int m_nDayHeight;
-    int m_nCellWidth;
-    int m_nCellHeight;
-    COleDateTime m_dtSelStart;
-    COleDateTime m_dtSelEnd;
-    std::unique_ptr<CalendarCell[]> m_pCells;
-    int m_nRows;
-    int m_nCols;
+    int m_nYear;                              ///< year of the first cell
+    int m_nMonth;                             ///< month of the first cell, from 1
+    CFont m_fontBold;                         ///< of the headers
+    CFont m_fontNormal;                       ///< of everything else
+    CString m_strMonths[12];                  ///< names of the months, in the user's language
+    CString m_strDays[7];                     ///< weekday initials as displayed
+    int m_nFirstDayOfWeek;                    ///< 1 for Sunday to 7 for Saturday
+    UINT m_nMaxSelDays;                       ///< most days that the mouse can select; 0 for none
+    COLORREF m_crBk;                          ///< behind the days
+    COLORREF m_crNormal;                      ///< of ordinary days
+    COLORREF m_crSpecial;                     ///< of special days
+    QorSpecialDayProc m_pfnIsSpecial;         ///< null when no day is special
+    void* m_pData;                            ///< for that function, not owned
+    BOOL m_bTrackDay;                         ///< a selection is being dragged
+    COleDateTime m_dtAnchor;                  ///< where the drag began; not valid after the press of anything else
+    BOOL m_bTrackArrow;                       ///< an arrow is pressed
+    BOOL m_bTrackMonth;                       ///< the list of months is open
+    CSelMonthWnd* m_pSelMonthWnd;             ///< owned
+    CalendarCell* m_pHdrCell;                 ///< whose header opened the list
+    RECT m_rcLeftArrow;                       ///< what the mouse hits, in client pixels
+    RECT m_rcRightArrow;                      ///< what the mouse hits, in client pixels
+    int m_nHdrHeight;                         ///< height of a header, pixels
+    int m_nDayWidth;                          ///< width of a column of days, pixels
+    int m_nDowHeight;                         ///< height of the weekday initials, pixels
+    int m_nDayHeight;                         ///< height of a day number, pixels
+    int m_nCellWidth;                         ///< pixels
+    int m_nCellHeight;                        ///< pixels
+    COleDateTime m_dtSelStart;                ///< first selected day; not valid without a selection
+    COleDateTime m_dtSelEnd;                  ///< last selected day; not valid without a selection
+    std::unique_ptr<CalendarCell[]> m_pCells; ///< row by row; null without a grid
+    int m_nRows;                              ///< of the grid
+    int m_nCols;                              ///< of the grid
 
   private:
     int IndexOf(int row, int col) const;
@@ -213,5 +211,4 @@ class QORUI_API CQorCalendar : public CWnd
     void BeginDaySelection(const CalendarDay& day);
     void TakeListedMonth();
     void Repaint();
-    void InvalidateIfShown();
 };

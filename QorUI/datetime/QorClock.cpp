@@ -3,6 +3,7 @@
 #include "ClockHands.h"
 
 #include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/Invalidate.h>
 #include <QorUI/app/NotifyParent.h>
 #include <QorUI/app/WndClass.h>
 
@@ -108,13 +109,6 @@ int CQorClock::MinutesOfDay()
     return static_cast<int>(GetHour() * kMinutes + GetMinute());
 }
 
-void CQorClock::InvalidateIfShown()
-{
-    if (m_hWnd) {
-        Invalidate(TRUE);
-    }
-}
-
 void CQorClock::UpdateTime(UINT hour, UINT minute)
 {
     const BOOL pm = hour % kHours >= kNoon;
@@ -126,7 +120,7 @@ void CQorClock::UpdateTime(UINT hour, UINT minute)
     m_bPM = pm;
     m_nHour = hour;
     m_nMinute = minute;
-    InvalidateIfShown();
+    QorInvalidate(*this);
 }
 
 // Animation
@@ -270,11 +264,11 @@ void CQorClock::RedrawMinuteFinger(CPoint point)
     if (const int carry = QorHands::HourCarry(m_nMinute, m_nLastMinute); carry != 0) {
         m_nHour += static_cast<UINT>(carry);
         AdjustAmPmFlag(carry > 0);
-        InvalidateIfShown();
+        QorInvalidate(*this);
     }
     if (m_nMinute != m_nLastMinute) {
         m_nLastMinute = m_nMinute;
-        InvalidateIfShown();
+        QorInvalidate(*this);
     }
 }
 
@@ -290,7 +284,7 @@ void CQorClock::AdjustAmPmFlag(BOOL up)
         m_nHour = kNoon;
     }
     m_bPM = !m_bPM;
-    InvalidateIfShown();
+    QorInvalidate(*this);
 }
 
 void CQorClock::SendNotify(UINT code)

@@ -59,7 +59,6 @@ class QORUI_API CQorClock : public CWnd
     void AdjustAmPmFlag(BOOL up);
     void SendNotify(UINT code);
     void StopTimer();
-    void InvalidateIfShown();
     int MinutesOfDay();
     void DrawHand(CDC& dc, double ratio, double angle);
 
