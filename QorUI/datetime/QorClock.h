@@ -2,8 +2,9 @@
 
 #include <QorUI/app/QorUIDef.h>
 
-/** Notification codes of the clock: the user took hold of the minute hand, or let it go. */
+/** Notification code: the user took hold of the minute hand. */
 #define QCN_BEGINDRAG (-4000)
+/** Notification code: the user let the minute hand go. */
 #define QCN_ENDDRAG (-4001)
 
 /**
