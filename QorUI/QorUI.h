@@ -4,19 +4,19 @@
  * Everything that the user-interface library offers to a host program.
  */
 
-#include <QorUI/app/Draw.h>
-#include <QorUI/app/Messages.h>
-#include <QorUI/app/Picture.h>
-#include <QorUI/app/QorBmp.h>
-#include <QorUI/app/QorUIDef.h>
-#include <QorUI/app/Shared.h>
-#include <QorUI/app/SysLook.h>
+#include <QorUI/app/draw/Draw.h>
+#include <QorUI/app/module/Messages.h>
+#include <QorUI/app/draw/Picture.h>
+#include <QorUI/app/draw/QorBmp.h>
+#include <QorUI/app/module/QorUIDef.h>
+#include <QorUI/app/look/Shared.h>
+#include <QorUI/app/look/SysLook.h>
 #include <QorUI/buttons/BmpBtn.h>
 #include <QorUI/buttons/CheckRadio.h>
 #include <QorUI/buttons/CmdBtn.h>
 #include <QorUI/buttons/Links.h>
 #include <QorUI/buttons/QorBtn.h>
-#include <QorUI/datetime/MemDC.h>
+#include <QorUI/app/draw/MemDC.h>
 #include <QorUI/datetime/QorCalendar.h>
 #include <QorUI/datetime/QorClock.h>
 #include <QorUI/dialogs/CtrlLayout.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QorUI/app/QorBmp.h>
+#include <QorUI/app/draw/QorBmp.h>
 
 /**
  * A button whose face is one frame of a strip of pictures: normal, hot, pressed, disabled.

@@ -1,7 +1,7 @@
 #include "ButtonDraw.h"
 
-#include <QorUI/app/GdiSavers.h>
-#include <QorUI/app/Look.h>
+#include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/look/Palette.h>
 
 void QorDrawRounded(HDC dc, const RECT& rect, COLORREF line, HGDIOBJ brush)
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QorUI/app/QorUIApp.h>
+#include <QorUI/app/module/QorUIApp.h>
 
 /** Bits that say which parts of a button's label to draw. */
 enum QorLabelMode : UINT

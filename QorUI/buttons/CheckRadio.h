@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QorUI/app/QorUIDef.h>
+#include <QorUI/app/module/QorUIDef.h>
 
 /**
  * A check box that paints itself, keeps its own checked state and tells its parent of clicks with `BN_CLICKED`.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QorUI/app/QorUIDef.h>
+#include <QorUI/app/module/QorUIDef.h>
 
 /**
  * A large command button: an icon, a one-line title (the window text) and a wrapped description below it.

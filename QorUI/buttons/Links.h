@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QorUI/app/QorUIDef.h>
+#include <QorUI/app/module/QorUIDef.h>
 
 /**
  * A static text that opens an address when it is clicked and shows it as a tooltip.

@@ -2,10 +2,10 @@
 
 #include "ButtonDraw.h"
 
-#include <QorUI/app/GdiSavers.h>
-#include <QorUI/app/HotTrack.h>
-#include <QorUI/app/Look.h>
-#include <QorUI/app/SysLook.h>
+#include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/base/HotTrack.h>
+#include <QorUI/app/look/Palette.h>
+#include <QorUI/app/look/SysLook.h>
 
 BEGIN_MESSAGE_MAP(CQorBtn, CButton)
     ON_WM_MOUSEMOVE()

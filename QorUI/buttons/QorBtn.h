@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QorUI/app/QorUIDef.h>
+#include <QorUI/app/module/QorUIDef.h>
 
 /**
  * The ordinary push button of dialogs: rounded and bevelled, with a hot look under the mouse.

@@ -4,7 +4,7 @@
  * Places, months and ranges of the month calendar, worked out without a window. All measures in pixels.
  */
 
-#include <QorUI/app/QorUIDef.h>
+#include <QorUI/app/module/QorUIDef.h>
 
 #include <afxdisp.h>
 

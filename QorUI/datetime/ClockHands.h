@@ -4,7 +4,7 @@
  * Hands and times of the clock, worked out without a window. Points in pixels from the dial's top left corner.
  */
 
-#include <QorUI/app/QorUIDef.h>
+#include <QorUI/app/module/QorUIDef.h>
 
 #include <algorithm>
 #include <cmath>

@@ -2,13 +2,13 @@
 
 #include "CalendarLayout.h"
 #include "CalendarNames.h"
-#include "MemDC.h"
+#include <QorUI/app/draw/MemDC.h>
 #include "SelMonthWnd.h"
 
-#include <QorUI/app/GdiSavers.h>
-#include <QorUI/app/Invalidate.h>
-#include <QorUI/app/NotifyParent.h>
-#include <QorUI/app/SysLook.h>
+#include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/base/Invalidate.h>
+#include <QorUI/app/base/NotifyParent.h>
+#include <QorUI/app/look/SysLook.h>
 
 #include <new>
 #include <utility>

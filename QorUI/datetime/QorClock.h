@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QorUI/app/QorUIDef.h>
+#include <QorUI/app/module/QorUIDef.h>
 
 /** Notification code: the user took hold of the minute hand. */
 #define QCN_BEGINDRAG (-4000)

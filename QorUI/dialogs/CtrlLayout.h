@@ -7,7 +7,7 @@
  * left out silently.
  */
 
-#include <QorUI/app/QorUIDef.h>
+#include <QorUI/app/module/QorUIDef.h>
 
 /**
  * Where a control stands.

@@ -1,8 +1,8 @@
 #include "DialogFrame.h"
 
-#include <QorUI/app/GdiSavers.h>
-#include <QorUI/app/Look.h>
-#include <QorUI/app/QorUIApp.h>
+#include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/look/Palette.h>
+#include <QorUI/app/module/QorUIApp.h>
 
 namespace
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QorUI/app/QorUIDef.h>
+#include <QorUI/app/module/QorUIDef.h>
 
 /**
  * Draws the frame that dialogs and the wizard share: white caption band, body, outline, application icon and title.

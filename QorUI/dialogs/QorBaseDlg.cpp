@@ -1,6 +1,6 @@
 #include "QorBaseDlg.h"
 
-#include <QorUI/app/QorUIApp.h>
+#include <QorUI/app/module/QorUIApp.h>
 
 #include <QorApi/QorApi.h>
 

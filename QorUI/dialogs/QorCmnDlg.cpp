@@ -1,8 +1,8 @@
 #include "QorCmnDlg.h"
 
 #include "MsgBoxDlg.h"
-#include <QorUI/app/LibText.h>
-#include <QorUI/app/ResourceSwitch.h>
+#include <QorUI/app/module/LibText.h>
+#include <QorUI/app/module/ResourceSwitch.h>
 #include <QorUI/res/resource.h>
 
 #include <QorApi/QorApi.h>

@@ -4,7 +4,7 @@
  * The library's common dialogs that are reached by a function.
  */
 
-#include <QorUI/app/QorUIDef.h>
+#include <QorUI/app/module/QorUIDef.h>
 
 /** Kinds of message box: bits 0 to 6 of the type word. A higher value counts as information. */
 enum QorMsgBoxKind : UINT

@@ -3,11 +3,11 @@
 #include "CtrlLayout.h"
 #include "DialogFrame.h"
 #include "WindowShape.h"
-#include <QorUI/app/GdiSavers.h>
-#include <QorUI/app/LibText.h>
-#include <QorUI/app/Look.h>
-#include <QorUI/app/QorUIApp.h>
-#include <QorUI/app/SystemVersion.h>
+#include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/module/LibText.h>
+#include <QorUI/app/look/Palette.h>
+#include <QorUI/app/module/QorUIApp.h>
+#include <QorUI/app/module/SystemVersion.h>
 #include <QorUI/res/resource.h>
 
 namespace

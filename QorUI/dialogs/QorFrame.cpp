@@ -1,12 +1,12 @@
 #include "QorFrame.h"
 
 #include "WindowShape.h"
-#include <QorUI/app/GdiPlusFlat.h>
-#include <QorUI/app/GdiSavers.h>
-#include <QorUI/app/Look.h>
-#include <QorUI/app/Picture.h>
-#include <QorUI/app/QorUIApp.h>
-#include <QorUI/app/WndClass.h>
+#include <QorUI/app/draw/GdiPlusFlat.h>
+#include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/look/Palette.h>
+#include <QorUI/app/draw/Picture.h>
+#include <QorUI/app/module/QorUIApp.h>
+#include <QorUI/app/base/WndClass.h>
 #include <QorUI/res/resource.h>
 
 namespace

@@ -2,7 +2,7 @@
 
 #include "SizeLoop.h"
 
-#include <QorUI/app/Look.h>
+#include <QorUI/app/look/Palette.h>
 
 namespace
 {

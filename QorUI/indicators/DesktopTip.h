@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QorUI/app/QorUIDef.h>
+#include <QorUI/app/module/QorUIDef.h>
 
 /**
  * A text that seems to be written on the wallpaper, in the upper right corner of the work area. The window stays behind

@@ -3,9 +3,9 @@
 #include "ProgressParts.h"
 #include "TwoColourText.h"
 
-#include <QorUI/app/GdiSavers.h>
-#include <QorUI/app/Look.h>
-#include <QorUI/app/QorUIApp.h>
+#include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/look/Palette.h>
+#include <QorUI/app/module/QorUIApp.h>
 #include <QorUI/res/resource.h>
 
 BEGIN_MESSAGE_MAP(CProgressBar, CProgressCtrl)

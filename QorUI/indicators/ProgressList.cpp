@@ -3,7 +3,7 @@
 #include "ProgressParts.h"
 #include "TwoColourText.h"
 
-#include <QorUI/app/SysLook.h>
+#include <QorUI/app/look/SysLook.h>
 
 BEGIN_MESSAGE_MAP(CProgressList, CFlatList)
     ON_NOTIFY_REFLECT(NM_CUSTOMDRAW, &CProgressList::OnCustomDraw)

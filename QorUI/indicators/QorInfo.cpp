@@ -1,9 +1,9 @@
 #include "QorInfo.h"
 
-#include <QorUI/app/GdiSavers.h>
-#include <QorUI/app/Invalidate.h>
-#include <QorUI/app/Look.h>
-#include <QorUI/app/OwnStatic.h>
+#include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/base/Invalidate.h>
+#include <QorUI/app/look/Palette.h>
+#include <QorUI/app/base/OwnStatic.h>
 
 #include <algorithm>
 

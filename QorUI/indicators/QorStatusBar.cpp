@@ -1,8 +1,8 @@
 #include "QorStatusBar.h"
 
-#include <QorUI/app/GdiSavers.h>
-#include <QorUI/app/Invalidate.h>
-#include <QorUI/app/Look.h>
+#include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/base/Invalidate.h>
+#include <QorUI/app/look/Palette.h>
 
 BEGIN_MESSAGE_MAP(CQorStatusBar, CWnd)
     ON_WM_PAINT()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QorUI/app/GdiSavers.h>
+#include <QorUI/app/draw/GdiSavers.h>
 
 #include <afxwin.h>
 

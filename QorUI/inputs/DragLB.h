@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QorUI/app/QorUIDef.h>
+#include <QorUI/app/module/QorUIDef.h>
 
 /**
  * A list box whose items the user can move by dragging, once that is enabled, and whose horizontal scroll range follows

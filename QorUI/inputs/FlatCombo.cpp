@@ -2,9 +2,9 @@
 
 #include "ComboLook.h"
 
-#include <QorUI/app/GdiSavers.h>
-#include <QorUI/app/Look.h>
-#include <QorUI/app/SysLook.h>
+#include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/look/Palette.h>
+#include <QorUI/app/look/SysLook.h>
 
 BEGIN_MESSAGE_MAP(CFlatCombo, CComboBox)
     ON_WM_PAINT()

@@ -1,7 +1,7 @@
 #include "FlatEdit.h"
 
-#include <QorUI/app/Look.h>
-#include <QorUI/app/SysLook.h>
+#include <QorUI/app/look/Palette.h>
+#include <QorUI/app/look/SysLook.h>
 
 BEGIN_MESSAGE_MAP(CFlatEdit, CEdit)
     ON_WM_NCPAINT()

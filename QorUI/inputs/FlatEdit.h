@@ -4,7 +4,7 @@
  * The flat border and the plain edit control with it.
  */
 
-#include <QorUI/app/QorUIDef.h>
+#include <QorUI/app/module/QorUIDef.h>
 
 /**
  * Repaints the sunken client edge of a control flat: a grey line of one pixel around the window.

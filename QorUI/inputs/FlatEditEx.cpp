@@ -1,6 +1,6 @@
 #include "FlatEditEx.h"
 
-#include <QorUI/app/LibText.h>
+#include <QorUI/app/module/LibText.h>
 
 BEGIN_MESSAGE_MAP(CFlatEditEx, CFlatEdit)
     ON_CONTROL_REFLECT_EX(EN_UPDATE, &CFlatEditEx::OnUpdate)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QorUI/app/QorUIDef.h>
+#include <QorUI/app/module/QorUIDef.h>
 #include <QorUI/inputs/TextBound.h>
 
 /** A list box with a flat border whose horizontal scroll range follows its widest text. */

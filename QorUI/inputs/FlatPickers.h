@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QorUI/app/QorUIDef.h>
+#include <QorUI/app/module/QorUIDef.h>
 
 /** A hot-key control with a flat border. */
 class QORUI_API CFlatHotKey : public CHotKeyCtrl

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QorUI/app/QorUIDef.h>
+#include <QorUI/app/module/QorUIDef.h>
 
 /** A rich-edit control with a flat border and a preset character format for the texts that the program inserts. */
 class QORUI_API CFlatRichEdit : public CRichEditCtrl

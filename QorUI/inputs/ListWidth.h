@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QorUI/app/GdiSavers.h>
-#include <QorUI/app/QorUIDef.h>
+#include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/module/QorUIDef.h>
 
 /** Measures texts in a list's own font. */
 class CListMeasure

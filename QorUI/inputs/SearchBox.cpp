@@ -1,7 +1,7 @@
 #include "SearchBox.h"
 
-#include <QorUI/app/GdiSavers.h>
-#include <QorUI/app/QorUIApp.h>
+#include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/module/QorUIApp.h>
 #include <QorUI/res/resource.h>
 
 BEGIN_MESSAGE_MAP(CSearchBox, CComboBox)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QorUI/app/QorUIDef.h>
+#include <QorUI/app/module/QorUIDef.h>
 
 /** A combo box for search texts of up to 260 characters, with a magnifier where the drop-down button is. */
 class QORUI_API CSearchBox : public CComboBox

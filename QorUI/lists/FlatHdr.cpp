@@ -2,9 +2,9 @@
 
 #include "HdrLayout.h"
 
-#include <QorUI/app/GdiSavers.h>
-#include <QorUI/app/Invalidate.h>
-#include <QorUI/app/Triangle.h>
+#include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/base/Invalidate.h>
+#include <QorUI/app/draw/Triangle.h>
 
 #include <array>
 

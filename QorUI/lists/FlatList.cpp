@@ -1,9 +1,9 @@
 #include "FlatList.h"
 
-#include <QorUI/app/Draw.h>
-#include <QorUI/app/GdiSavers.h>
-#include <QorUI/app/Look.h>
-#include <QorUI/app/QorUIApp.h>
+#include <QorUI/app/draw/Draw.h>
+#include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/look/Palette.h>
+#include <QorUI/app/module/QorUIApp.h>
 #include <QorUI/inputs/FlatEdit.h>
 #include <QorUI/res/resource.h>
 

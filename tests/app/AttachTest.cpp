@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 #include <optional>
-#include <QorUI/app/Attach.h>
+#include <QorUI/app/module/Attach.h>
 #include <string>
 #include <tests/support/Imports.h>
 #include <tests/support/Support.h>

@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
-#include <QorUI/app/Draw.h>
-#include <QorUI/app/GdiPlusFlat.h>
+#include <QorUI/app/draw/Draw.h>
+#include <QorUI/app/draw/GdiPlusFlat.h>
 #include <span>
 #include <tests/app/Drawn.h>
 #include <tests/app/OwnResources.h>

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 #include <QorApi/QorApi.h>
-#include <QorUI/app/LibText.h>
+#include <QorUI/app/module/LibText.h>
 #include <tests/support/Support.h>
 
 namespace

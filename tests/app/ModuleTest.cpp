@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
-#include <QorUI/app/GdiplusCalls.h>
-#include <QorUI/app/Look.h>
-#include <QorUI/app/QorUIApp.h>
-#include <QorUI/app/ResourceSwitch.h>
+#include <QorUI/app/module/GdiplusCalls.h>
+#include <QorUI/app/look/Palette.h>
+#include <QorUI/app/module/QorUIApp.h>
+#include <QorUI/app/module/ResourceSwitch.h>
 #include <QorUI/buttons/QorBtn.h>
 #include <QorUI/res/resource.h>
 #include <tests/app/Drawn.h>

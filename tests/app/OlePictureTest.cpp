@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 #include <memory>
 #include <olectl.h>
-#include <QorUI/app/QorBmp.h>
+#include <QorUI/app/draw/QorBmp.h>
 #include <tests/app/OwnResources.h>
 #include <tests/app/res/resource.h>
 #include <tests/support/Imports.h>

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 #include <QorPub/QorPub.h>
-#include <QorUI/app/GdiPlusFlat.h>
-#include <QorUI/app/Picture.h>
-#include <QorUI/app/QorBmp.h>
+#include <QorUI/app/draw/GdiPlusFlat.h>
+#include <QorUI/app/draw/Picture.h>
+#include <QorUI/app/draw/QorBmp.h>
 #include <tests/app/OwnResources.h>
 #include <tests/app/res/resource.h>
 #include <tests/support/Imports.h>

@@ -2,10 +2,10 @@
 #include <gtest/gtest.h>
 #include <malloc.h>
 #include <memory>
-#include <QorUI/app/GdiPlusFlat.h>
-#include <QorUI/app/Picture.h>
-#include <QorUI/app/QorBmp.h>
-#include <QorUI/app/Shared.h>
+#include <QorUI/app/draw/GdiPlusFlat.h>
+#include <QorUI/app/draw/Picture.h>
+#include <QorUI/app/draw/QorBmp.h>
+#include <QorUI/app/look/Shared.h>
 #include <tests/app/Drawn.h>
 #include <tests/app/OwnResources.h>
 #include <tests/app/res/resource.h>

@@ -2,9 +2,9 @@
 #include <gtest/gtest.h>
 #include <memory>
 #include <QorPub/Zip.h>
-#include <QorUI/app/Look.h>
-#include <QorUI/app/Messages.h>
-#include <QorUI/app/SysLook.h>
+#include <QorUI/app/look/Palette.h>
+#include <QorUI/app/module/Messages.h>
+#include <QorUI/app/look/SysLook.h>
 #include <tests/support/Imports.h>
 #include <vector>
 

@@ -1,5 +1,5 @@
 #include <gtest/gtest.h>
-#include <QorUI/app/Triangle.h>
+#include <QorUI/app/draw/Triangle.h>
 #include <tests/app/Drawn.h>
 #include <tests/support/Imports.h>
 

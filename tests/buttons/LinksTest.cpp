@@ -1,6 +1,6 @@
 #include "Buttons.h"
 
-#include <QorUI/app/Messages.h>
+#include <QorUI/app/module/Messages.h>
 #include <QorUI/buttons/Links.h>
 #include <tests/support/Imports.h>
 

@@ -1,4 +1,4 @@
-#include <QorUI/datetime/MemDC.h>
+#include <QorUI/app/draw/MemDC.h>
 #include <tests/app/Drawn.h>
 #include <tests/support/Imports.h>
 

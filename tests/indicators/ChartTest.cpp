@@ -1,6 +1,6 @@
 #include <tests/lists/Lists.h>
 
-#include <QorUI/app/GdiPlusFlat.h>
+#include <QorUI/app/draw/GdiPlusFlat.h>
 #include <tests/support/Imports.h>
 
 #include <algorithm>

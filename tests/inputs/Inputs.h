@@ -2,7 +2,7 @@
 
 #include <afxcmn.h>
 #include <afxwin.h>
-#include <QorUI/app/SysLook.h>
+#include <QorUI/app/look/SysLook.h>
 #include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>
 

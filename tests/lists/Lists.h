@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QorUI/app/SysLook.h>
+#include <QorUI/app/look/SysLook.h>
 #include <QorUI/QorUI.h>
 #include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>

@@ -1,0 +1,26 @@
+#include <afxwin.h>
+
+#include <afxcmn.h>
+
+#include "internal.h"
+
+#include <memory>
+
+void AfxInitControls(DWORD dwClasses)
+{
+    const INITCOMMONCONTROLSEX init = {sizeof(init), dwClasses};
+    ::InitCommonControlsEx(&init);
+}
+
+BOOL AfxCreateControl(CWnd& wnd, DWORD dwClasses, DWORD dwExStyle, LPCTSTR lpszClass, DWORD dwStyle, const RECT& rect,
+                      CWnd* pParentWnd, UINT nID)
+{
+    AfxInitControls(dwClasses);
+    return wnd.CWnd::CreateEx(dwExStyle, lpszClass, nullptr, dwStyle, rect, pParentWnd, nID);
+}
+
+CImageList* AfxOwnImageList(LRESULT lHandle)
+{
+    auto pList = std::make_unique<CImageList>();
+    return pList->Attach(reinterpret_cast<HIMAGELIST>(lHandle)) ? pList.release() : nullptr;
+}
