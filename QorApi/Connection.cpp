@@ -22,10 +22,12 @@ class CLinkTable
     CLinkTable() : m_index(IsProcessEnding() ? FLS_OUT_OF_INDEXES : FlsAlloc(Drop)) {}
     ~CLinkTable()
     {
-        if (IsProcessEnding())
+        if (IsProcessEnding()) {
             return;
-        if (m_index != FLS_OUT_OF_INDEXES)
+        }
+        if (m_index != FLS_OUT_OF_INDEXES) {
             FlsFree(m_index);
+        }
         sqlite3_shutdown();
     }
     CLinkTable(const CLinkTable&) = delete;
@@ -52,8 +54,9 @@ class CLinkTable
     }
     static void CALLBACK Drop(void* link)
     {
-        if (!IsProcessEnding())
+        if (!IsProcessEnding()) {
             delete static_cast<ThreadLink*>(link);
+        }
     }
 
     DWORD m_index;
@@ -72,24 +75,29 @@ DWORD OpenStore(CDatabase& db)
         const std::wstring path = QorGetStorePath().GetString();
         return db.IsOpen() && db.GetPath() == path ? 0 : db.Open(path);
     });
-    if (status != 0)
+    if (status != 0) {
         db.Close();
+    }
     return status;
 }
 
 DWORD RunInTransaction(CDatabase& db, bool write, StoreWork work, void* context)
 {
     DWORD status = db.Begin(write);
-    if (status != 0)
+    if (status != 0) {
         return status;
+    }
     status = qor::GuardMemory([&] { return work(db, context); });
     // A failed statement counts, whatever the work made of it.
-    if (db.GetStatus() != 0)
+    if (db.GetStatus() != 0) {
         status = db.GetStatus();
-    if (status == 0)
+    }
+    if (status == 0) {
         status = db.Commit();
-    if (status != 0)
+    }
+    if (status != 0) {
         db.Rollback();
+    }
     return status;
 }
 
@@ -112,19 +120,22 @@ DWORD QorOpen()
     ThreadLink* link = GetLinks().Find();
     if (!link) {
         auto fresh = std::unique_ptr<ThreadLink>(new (std::nothrow) ThreadLink);
-        if (!fresh || !GetLinks().Set(fresh.get()))
+        if (!fresh || !GetLinks().Set(fresh.get())) {
             return ERROR_NOT_ENOUGH_MEMORY;
+        }
         link = fresh.release();
     }
     const DWORD status = OpenStore(link->db);
-    if (status == 0)
+    if (status == 0) {
         ++link->depth;
+    }
     return status;
 }
 
 void QorClose()
 {
     ThreadLink* link = GetLinks().Find();
-    if (link && link->depth > 0 && --link->depth == 0)
+    if (link && link->depth > 0 && --link->depth == 0) {
         link->db.Close();
+    }
 }

@@ -101,8 +101,9 @@ bool HasName(UINT kind, LPCWSTR name)
     const std::unique_ptr<void, FreeTaskMem> memory(QorGetAllInfo(kind, sizeof(Record), &count, 0));
     const auto* records = static_cast<const Record*>(memory.get());
     for (int i = 0; i < count; ++i) {
-        if (FoldName(records[i].szName) == FoldName(name))
+        if (FoldName(records[i].szName) == FoldName(name)) {
             return true;
+        }
     }
     return false;
 }
@@ -110,8 +111,9 @@ bool HasName(UINT kind, LPCWSTR name)
 DWORD FillUsers()
 {
     for (const DEMOUSER& sample : USERS) {
-        if (HasName<_QORVEX_USER>(QORLIST_USERS, sample.name))
+        if (HasName<_QORVEX_USER>(QORLIST_USERS, sample.name)) {
             continue;
+        }
         _QORVEX_USER user = {};
         user.wNumber = QORUSER_MAX + 1;
         user.wFieldMask = QORUSER_NEW;
@@ -119,8 +121,9 @@ DWORD FillUsers()
         user.dwRights = sample.rights;
         WriteField(user.szName, sample.name);
         WriteField(user.szDesc, sample.description);
-        if (const DWORD status = QorAddUser(user, nullptr))
+        if (const DWORD status = QorAddUser(user, nullptr)) {
             return status;
+        }
     }
     return 0;
 }
@@ -129,15 +132,17 @@ DWORD FillSnapshots()
 {
     constexpr ULONGLONG megabyte = 1024ULL * 1024;
     for (const DEMOSNAP& sample : SNAPSHOTS) {
-        if (HasName<_QORVEX_SNAP>(QORLIST_SNAPSHOTS, sample.name))
+        if (HasName<_QORVEX_SNAP>(QORLIST_SNAPSHOTS, sample.name)) {
             continue;
+        }
         _QORVEX_SNAP snapshot = {};
         snapshot.wFlags = sample.flags;
         snapshot.time = sample.time;
         snapshot.nSize = sample.megabytes * megabyte;
         WriteField(snapshot.szName, sample.name);
-        if (const DWORD status = QorAddSnapshot(snapshot))
+        if (const DWORD status = QorAddSnapshot(snapshot)) {
             return status;
+        }
     }
     return 0;
 }
@@ -145,10 +150,12 @@ DWORD FillSnapshots()
 DWORD FillTasks()
 {
     for (_QORVEX_TASK& task : MakeTasks()) {
-        if (HasName<_QORVEX_TASK>(QORLIST_TASKS, task.szName))
+        if (HasName<_QORVEX_TASK>(QORLIST_TASKS, task.szName)) {
             continue;
-        if (const DWORD status = QorAddTask(task))
+        }
+        if (const DWORD status = QorAddTask(task)) {
             return status;
+        }
     }
     return 0;
 }
@@ -156,8 +163,9 @@ DWORD FillTasks()
 DWORD FillRegistryList()
 {
     CStringArray entries;
-    for (LPCWSTR entry : REGISTRY_LIST)
+    for (LPCWSTR entry : REGISTRY_LIST) {
         entries.Add(entry);
+    }
     return QorSetMultiString(QORINFO_SYNC_REG, entries, 0);
 }
 
@@ -166,11 +174,14 @@ DWORD FillRegistryList()
 DWORD QorFillDemoStore()
 {
     DWORD status = ReadStore([](CDatabase& db) { return NeedRights(db, QORRIGHT_ALL); });
-    if (status == 0)
+    if (status == 0) {
         status = FillUsers();
-    if (status == 0)
+    }
+    if (status == 0) {
         status = FillSnapshots();
-    if (status == 0)
+    }
+    if (status == 0) {
         status = FillTasks();
+    }
     return status ? status : FillRegistryList();
 }

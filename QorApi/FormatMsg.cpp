@@ -20,9 +20,11 @@ CString GetSystemText(DWORD code)
 CString QorFormatMsg(DWORD code)
 {
     CString text = GetSystemText(code);
-    if (text.IsEmpty() && HRESULT_FACILITY(code) == FACILITY_WIN32)
+    if (text.IsEmpty() && HRESULT_FACILITY(code) == FACILITY_WIN32) {
         text = GetSystemText(HRESULT_CODE(code));
-    if (text.IsEmpty())
+    }
+    if (text.IsEmpty()) {
         text.Format(L"0x%08X", code);
+    }
     return text;
 }

@@ -23,8 +23,9 @@ void SkipNumber(Text text, size_t& pos, std::wstring& item)
         ++pos;
         return;
     }
-    while (pos < text.size() && IsDigit(text[pos]))
+    while (pos < text.size() && IsDigit(text[pos])) {
         ++pos;
+    }
 }
 
 struct SizePrefix
@@ -57,14 +58,18 @@ std::wstring KindOf(wchar_t ch, wchar_t size)
         std::wstring kind(1, ch == L'i' ? L'd' : ch == L'X' ? L'x' : ch);
         return size ? size + kind : kind;
     }
-    if (IsOneOf(ch, L"eEfFgGaA"))
+    if (IsOneOf(ch, L"eEfFgGaA")) {
         return L"f";
-    if (IsOneOf(ch, L"sc"))
+    }
+    if (IsOneOf(ch, L"sc")) {
         return (size == L'h' ? L"n" : L"") + std::wstring(1, ch);
-    if (IsOneOf(ch, L"SC"))
+    }
+    if (IsOneOf(ch, L"SC")) {
         return ch == L'S' ? L"ns" : L"nc";
-    if (ch == L'p')
+    }
+    if (ch == L'p') {
         return L"p";
+    }
     return {};
 }
 
@@ -73,8 +78,9 @@ bool ParsePlaceholder(Text text, size_t& pos, std::wstring& signature)
 {
     const size_t start = pos;
     std::wstring item;
-    while (pos < text.size() && IsOneOf(text[pos], L"-+ #0"))
+    while (pos < text.size() && IsOneOf(text[pos], L"-+ #0")) {
         ++pos;
+    }
     SkipNumber(text, pos, item);
     if (pos < text.size() && text[pos] == L'.') {
         ++pos;
@@ -82,14 +88,16 @@ bool ParsePlaceholder(Text text, size_t& pos, std::wstring& signature)
     }
     const wchar_t size = SkipSize(text, pos);
     const wchar_t ch = pos < text.size() ? text[pos] : 0;
-    if (ch == L'n')
+    if (ch == L'n') {
         return false;
+    }
     const std::wstring kind = KindOf(ch, size);
     if (kind.empty()) {
         pos = start;
         signature += L'?';
-        if (start < text.size())
+        if (start < text.size()) {
             signature += text[start];
+        }
         signature += L';';
         return true;
     }
@@ -106,10 +114,11 @@ bool GetFormatSignature(std::wstring_view text, std::wstring& signature)
     size_t pos = 0;
     while ((pos = text.find(L'%', pos)) != Text::npos) {
         ++pos;
-        if (pos < text.size() && text[pos] == L'%')
+        if (pos < text.size() && text[pos] == L'%') {
             ++pos;
-        else if (!ParsePlaceholder(text, pos, signature))
+        } else if (!ParsePlaceholder(text, pos, signature)) {
             return false;
+        }
     }
     return true;
 }

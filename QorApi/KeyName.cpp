@@ -32,8 +32,9 @@ constexpr ROOT ROOTS[] = {
 const ROOT* FindRoot(const std::wstring& name)
 {
     for (const ROOT& root : ROOTS) {
-        if (_wcsicmp(root.name, name.c_str()) == 0)
+        if (_wcsicmp(root.name, name.c_str()) == 0) {
             return &root;
+        }
     }
     return nullptr;
 }
@@ -44,8 +45,9 @@ std::vector<std::wstring> SplitNames(const std::wstring& path)
     size_t start = 0;
     while (start < path.size()) {
         const size_t end = (std::min)(path.find(L'\\', start), path.size());
-        if (end > start)
+        if (end > start) {
             names.push_back(path.substr(start, end - start));
+        }
         start = end + 1;
     }
     return names;
@@ -55,8 +57,9 @@ bool AreNamesValid(const std::vector<std::wstring>& names, bool isKey)
 {
     for (size_t i = 0; i < names.size(); ++i) {
         const bool isValue = !isKey && i + 1 == names.size();
-        if (names[i].size() > (isValue ? MAX_VALUE_NAME : MAX_KEY_NAME))
+        if (names[i].size() > (isValue ? MAX_VALUE_NAME : MAX_KEY_NAME)) {
             return false;
+        }
     }
     return true;
 }
@@ -66,23 +69,29 @@ bool AreNamesValid(const std::vector<std::wstring>& names, bool isKey)
 DWORD QorConvertKeyName(CString& entry)
 {
     const std::wstring text(entry.GetString(), entry.GetLength());
-    if (text.find(L'\0') != std::wstring::npos)
+    if (text.find(L'\0') != std::wstring::npos) {
         return ERROR_INVALID_NAME;
+    }
     const size_t slash = text.find(L'\\');
     const ROOT* root = slash == std::wstring::npos ? nullptr : FindRoot(text.substr(0, slash));
-    if (!root)
+    if (!root) {
         return ERROR_INVALID_PARAMETER;
+    }
     const bool isKey = text.back() == L'\\';
     const std::vector<std::wstring> names = SplitNames(text.substr(slash));
-    if (names.size() < root->minDepth)
+    if (names.size() < root->minDepth) {
         return ERROR_NOT_SUPPORTED;
-    if (!AreNamesValid(names, isKey))
+    }
+    if (!AreNamesValid(names, isKey)) {
         return ERROR_INVALID_NAME;
+    }
     std::wstring result = root->stored;
-    for (const std::wstring& name : names)
+    for (const std::wstring& name : names) {
         result += name + L"\\";
-    if (!isKey)
+    }
+    if (!isKey) {
         result.pop_back();
+    }
     entry = result.c_str();
     return 0;
 }

@@ -27,12 +27,14 @@ std::wstring GetLangFolder()
 // Names of locales become names of folders: nothing but letters, digits and hyphens.
 bool IsLocaleName(const std::wstring& name)
 {
-    if (name.empty() || name.size() >= LOCALE_NAME_MAX_LENGTH)
+    if (name.empty() || name.size() >= LOCALE_NAME_MAX_LENGTH) {
         return false;
+    }
     for (const wchar_t ch : name) {
         const bool letter = (ch >= L'a' && ch <= L'z') || (ch >= L'A' && ch <= L'Z');
-        if (!letter && !(ch >= L'0' && ch <= L'9') && ch != L'-')
+        if (!letter && !(ch >= L'0' && ch <= L'9') && ch != L'-') {
             return false;
+        }
     }
     return true;
 }
@@ -64,8 +66,9 @@ bool HasFolder(const std::wstring& path)
 std::wstring FindFolder(const std::wstring& locale)
 {
     for (const std::wstring& name : GetChain(locale)) {
-        if (HasFolder(GetLangFolder() + L"\\" + name))
+        if (HasFolder(GetLangFolder() + L"\\" + name)) {
             return name;
+        }
     }
     return {};
 }
@@ -85,8 +88,9 @@ std::wstring GetUserLocale()
 int GetControlId(LPCWSTR name)
 {
     constexpr size_t length = std::size(CONTROL_PREFIX) - 1;
-    if (wcsncmp(name, CONTROL_PREFIX, length) != 0 || !iswdigit(name[length]))
+    if (wcsncmp(name, CONTROL_PREFIX, length) != 0 || !iswdigit(name[length])) {
         return 0;
+    }
     wchar_t* end = nullptr;
     const unsigned long id = wcstoul(name + length, &end, 10);
     return *end == 0 && id <= 0xFFFF ? static_cast<int>(id) : 0;
@@ -104,12 +108,14 @@ void SetTexts(HWND window, const CXmlElem& element)
     for (int i = 0; i < element.GetChildCount(); ++i) {
         const CXmlElem* child = element.GetChild(i);
         HWND target = nullptr;
-        if (wcscmp(child->GetName(), WINDOW_TEXT) == 0)
+        if (wcscmp(child->GetName(), WINDOW_TEXT) == 0) {
             target = window;
-        else if (const int id = GetControlId(child->GetName()))
+        } else if (const int id = GetControlId(child->GetName())) {
             target = GetDlgItem(window, id);
-        if (target)
+        }
+        if (target) {
             SetWindowTextW(target, child->GetData());
+        }
     }
 }
 
@@ -130,14 +136,16 @@ CModuleLang::CModuleLang(const std::wstring& folder, const std::vector<std::wstr
         std::wstring path(folder);
         path.append(L"\\").append(locale).append(file);
         Sections translation;
-        if (Read(path, false, translation))
+        if (Read(path, false, translation)) {
             Translate(texts, translation, english, path);
+        }
     }
     for (const auto& [name, section] : english) {
         for (const auto& [key, text] : section) {
             std::wstring signature;
-            if (GetFormatSignature(text, signature))
+            if (GetFormatSignature(text, signature)) {
                 texts[name].try_emplace(key, text);
+            }
         }
         texts[name];
     }
@@ -156,19 +164,22 @@ bool CModuleLang::Read(const std::wstring& path, bool needed, Sections& sections
     CQorXml xml;
     DWORD status = xml.Load(path.c_str());
     const CXmlElem* root = status == 0 ? xml.GetRoot() : nullptr;
-    if (root && wcscmp(root->GetName(), ROOT_NAME) != 0)
+    if (root && wcscmp(root->GetName(), ROOT_NAME) != 0) {
         status = ERROR_INVALID_DATA;
+    }
     if (status != 0) {
-        if (needed || (status != ERROR_FILE_NOT_FOUND && status != ERROR_PATH_NOT_FOUND))
+        if (needed || (status != ERROR_FILE_NOT_FOUND && status != ERROR_PATH_NOT_FOUND)) {
             QorTrace(1, status, L"CModuleLang::Read", L"Language", __LINE__, L"Language file '%s' ignored. %s",
                      path.c_str(), xml.GetErrorText());
+        }
         return false;
     }
     for (int i = 0; i < root->GetChildCount(); ++i) {
         const CXmlElem* element = root->GetChild(i);
         Section& section = sections[element->GetName()];
-        for (int j = 0; j < element->GetChildCount(); ++j)
+        for (int j = 0; j < element->GetChildCount(); ++j) {
             section.try_emplace(element->GetChild(j)->GetName(), element->GetChild(j)->GetData());
+        }
     }
     return true;
 }
@@ -190,12 +201,13 @@ void CModuleLang::Translate(Sections& texts, const Sections& translation, const 
                 const auto found = model->second.find(key);
                 original = found != model->second.end() ? &found->second : nullptr;
             }
-            if (IsFit(text, original))
+            if (IsFit(text, original)) {
                 texts[name].try_emplace(key, text);
-            else
+            } else {
                 QorTrace(1, ERROR_INVALID_DATA, L"CModuleLang::Translate", L"Language", __LINE__,
                          L"Text '%s' of '%s' in '%s' ignored: its placeholders are not the English ones.", key.c_str(),
                          name.c_str(), path.c_str());
+            }
         }
     }
 }
@@ -205,8 +217,9 @@ void CModuleLang::Build(const Sections& texts)
     for (const auto& [name, section] : texts) {
         CXmlElem* element = m_root->AddChild(name.c_str());
         for (const auto& [key, text] : section) {
-            if (element)
+            if (element) {
                 element->AddChild(key.c_str(), text.c_str());
+            }
         }
     }
 }
@@ -237,8 +250,9 @@ CXmlElem* CLanguage::FindSection(LPCWSTR module, LPCWSTR section)
     const std::wstring folder = GetLangFolder();
     const std::wstring locale = GetLocale();
     std::unique_ptr<CModuleLang>& texts = m_modules[folder + L"|" + locale + L"|" + module];
-    if (!texts)
+    if (!texts) {
         texts = std::make_unique<CModuleLang>(folder, GetChain(locale), module);
+    }
     return texts->GetSection(section);
 }
 
@@ -246,10 +260,12 @@ BOOL CLanguage::Choose(LPCWSTR locale)
 {
     const std::wstring name = locale ? locale : L"";
     if (!name.empty()) {
-        if (!IsLocaleName(name))
+        if (!IsLocaleName(name)) {
             return FALSE;
-        if (FindFolder(name).empty() && !(IsEnglish(name) && HasFolder(GetLangFolder() + L"\\" + ENGLISH)))
+        }
+        if (FindFolder(name).empty() && !(IsEnglish(name) && HasFolder(GetLangFolder() + L"\\" + ENGLISH))) {
             return FALSE;
+        }
     }
     const std::lock_guard guard(m_lock);
     m_chosen = name;
@@ -265,8 +281,9 @@ std::wstring CLanguage::GetFolderName()
 
 std::wstring CLanguage::GetLocale() const
 {
-    if (!m_chosen.empty())
+    if (!m_chosen.empty()) {
         return m_chosen;
+    }
     const std::wstring named = ReadEnvironment(L"QOR_LANG");
     return IsLocaleName(named) ? named : GetUserLocale();
 }
@@ -276,8 +293,9 @@ std::wstring CLanguage::GetLocale() const
 CXmlElem* QorSetDlgLang(HWND window, LPCWSTR module, LPCWSTR dialogKey, int flag)
 {
     CXmlElem* element = CLanguage::Get().GetSection(module, dialogKey);
-    if ((flag & SET_TEXTS) && window && IsWindow(window))
+    if ((flag & SET_TEXTS) && window && IsWindow(window)) {
         SetTexts(window, *element);
+    }
     return element;
 }
 

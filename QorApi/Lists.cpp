@@ -66,8 +66,9 @@ constexpr LISTKIND LIST_KINDS[] = {
 DWORD ListAll(UINT kind, int recordSize, int flags, std::vector<BYTE>& records)
 {
     for (const LISTKIND& candidate : LIST_KINDS) {
-        if (candidate.kind == kind && candidate.recordSize == recordSize && flags == 0)
+        if (candidate.kind == kind && candidate.recordSize == recordSize && flags == 0) {
             return ReadStore([&](CDatabase& db) { return candidate.list(db, records); });
+        }
     }
     return ERROR_INVALID_PARAMETER;
 }
@@ -76,20 +77,23 @@ DWORD ListAll(UINT kind, int recordSize, int flags, std::vector<BYTE>& records)
 
 void* QorGetAllInfo(UINT kind, int recordSize, int* count, int flags)
 {
-    if (count)
+    if (count) {
         *count = 0;
+    }
     std::vector<BYTE> records;
     DWORD status = ListAll(kind, recordSize, flags, records);
     void* result = nullptr;
     if (status == 0 && !records.empty()) {
         result = CoTaskMemAlloc(records.size());
-        if (result)
+        if (result) {
             memcpy(result, records.data(), records.size());
-        else
+        } else {
             status = ERROR_NOT_ENOUGH_MEMORY;
+        }
     }
-    if (count && result)
+    if (count && result) {
         *count = static_cast<int>(records.size()) / recordSize;
+    }
     SetLastError(status);
     return result;
 }

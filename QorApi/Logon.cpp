@@ -16,10 +16,11 @@ std::atomic<QORWAITPROC> g_wait = nullptr;
 void Wait(DWORD milliseconds)
 {
     const QORWAITPROC wait = g_wait;
-    if (wait)
+    if (wait) {
         wait(milliseconds);
-    else
+    } else {
         Sleep(milliseconds);
+    }
 }
 
 /** One attempt to log on. */
@@ -46,8 +47,9 @@ DWORD StartAttempt(CDatabase& db, const CString& name, ATTEMPT& attempt)
         return CQuery(db, "UPDATE user SET failures = failures + 1 WHERE id = ?1").Bind(1, attempt.accountId).Run();
     }
     CQuery unknown(db, "SELECT failures FROM logon");
-    if (unknown.Next())
+    if (unknown.Next()) {
         attempt.failures = static_cast<int>(unknown.GetNumber(0));
+    }
     return CQuery(db, "UPDATE logon SET failures = failures + 1").Run();
 }
 
@@ -60,15 +62,17 @@ DWORD EndFailures(CDatabase& db, long long accountId)
 
 void DelayAnswer(int failures)
 {
-    if (failures >= FREE_FAILURES)
+    if (failures >= FREE_FAILURES) {
         Wait(FIRST_DELAY << (std::min)(failures - FREE_FAILURES, DOUBLINGS));
+    }
 }
 
 /** Whether the password is right; an unknown name takes as long as a known one with a password. */
 DWORD Compare(const ATTEMPT& attempt, LPCWSTR password, bool& right)
 {
-    if (attempt.accountId != 0)
+    if (attempt.accountId != 0) {
         return CheckPassword(password, attempt.kept, right);
+    }
     PASSWORDHASH unused;
     right = false;
     return HashPassword(password && *password ? password : L" ", unused);
@@ -87,20 +91,25 @@ DWORD QorLogonUser(LPCWSTR name, LPCWSTR password)
     trimmed.Trim();
     ATTEMPT attempt;
     DWORD status = WriteStore([&](CDatabase& db) { return StartAttempt(db, trimmed, attempt); });
-    if (status != 0)
+    if (status != 0) {
         return status;
+    }
     DelayAnswer(attempt.failures);
     bool right = false;
     status = Compare(attempt, password, right);
-    if (status != 0)
+    if (status != 0) {
         return status;
-    if (!right)
+    }
+    if (!right) {
         return ERROR_LOGON_FAILURE;
+    }
     status = WriteStore([&](CDatabase& db) { return EndFailures(db, attempt.accountId); });
-    if (status != 0)
+    if (status != 0) {
         return status;
-    if (attempt.flags & QORUSER_INACTIVE)
+    }
+    if (attempt.flags & QORUSER_INACTIVE) {
         return ERROR_ACCOUNT_DISABLED;
+    }
     CSession::Start(attempt.accountId);
     return 0;
 }
@@ -110,8 +119,9 @@ BOOL QorGetLastLogonInfo(CString& name)
     CString stored;
     const DWORD status = ReadStore([&](CDatabase& db) {
         CQuery query(db, "SELECT name FROM logon WHERE remember = 1");
-        if (query.Next())
+        if (query.Next()) {
             stored = query.GetText(0);
+        }
         return db.GetStatus();
     });
     name = status == 0 ? stored : CString();

@@ -28,8 +28,9 @@ class CCng
     {
         BCRYPT_ALG_HANDLE algorithm = nullptr;
         LONG status = m_open(&algorithm, BCRYPT_SHA256_ALGORITHM, nullptr, BCRYPT_ALG_HANDLE_HMAC_FLAG);
-        if (status < 0)
+        if (status < 0) {
             return ERROR_NOT_SUPPORTED;
+        }
         CStringA text = WStrToUTF8(password);
         const int length = text.GetLength();
         char* bytes = text.GetBuffer();
@@ -52,8 +53,9 @@ class CCng
     CCng()
     {
         const HMODULE module = LoadLibraryExW(L"bcrypt.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-        if (!module)
+        if (!module) {
             return;
+        }
         Load(module, "BCryptOpenAlgorithmProvider", m_open);
         Load(module, "BCryptCloseAlgorithmProvider", m_close);
         Load(module, "BCryptDeriveKeyPBKDF2", m_derive);
@@ -75,8 +77,9 @@ class CCng
 bool IsEqual(const std::vector<BYTE>& first, const std::vector<BYTE>& second)
 {
     volatile BYTE differences = 0;
-    for (size_t i = 0; i < HASH_SIZE; ++i)
+    for (size_t i = 0; i < HASH_SIZE; ++i) {
         differences = differences | (first[i] ^ second[i]);
+    }
     return differences == 0;
 }
 
@@ -85,18 +88,22 @@ bool IsEqual(const std::vector<BYTE>& first, const std::vector<BYTE>& second)
 DWORD HashPassword(LPCWSTR password, PASSWORDHASH& result)
 {
     result = PASSWORDHASH();
-    if (!password || !*password)
+    if (!password || !*password) {
         return 0;
+    }
     const CCng& cng = CCng::Get();
-    if (!cng.IsLoaded())
+    if (!cng.IsLoaded()) {
         return ERROR_NOT_SUPPORTED;
+    }
     result.salt.resize(SALT_SIZE);
     result.rounds = ROUNDS;
     DWORD status = cng.Random(result.salt);
-    if (status == 0)
+    if (status == 0) {
         status = cng.Derive(password, result.salt, result.rounds, result.hash);
-    if (status != 0)
+    }
+    if (status != 0) {
         result = PASSWORDHASH();
+    }
     return status;
 }
 
@@ -107,11 +114,13 @@ DWORD CheckPassword(LPCWSTR password, const PASSWORDHASH& kept, bool& equal)
         equal = !password || !*password;
         return 0;
     }
-    if (kept.hash.size() != HASH_SIZE || kept.salt.empty() || kept.rounds < 1 || kept.rounds > MAX_ROUNDS)
+    if (kept.hash.size() != HASH_SIZE || kept.salt.empty() || kept.rounds < 1 || kept.rounds > MAX_ROUNDS) {
         return ERROR_FILE_CORRUPT;
+    }
     const CCng& cng = CCng::Get();
-    if (!cng.IsLoaded())
+    if (!cng.IsLoaded()) {
         return ERROR_NOT_SUPPORTED;
+    }
     std::vector<BYTE> key;
     const DWORD status = cng.Derive(password ? password : L"", kept.salt, kept.rounds, key);
     equal = status == 0 && IsEqual(key, kept.hash);

@@ -17,8 +17,9 @@
  */
 #pragma once
 
-#include <afxwin.h>
 #include <QorPub/QorPub.h>
+
+#include <afxwin.h>
 
 /** Exports the service library's names while it is built and imports them everywhere else. */
 #ifdef QORAPI_EXPORTS

@@ -11,8 +11,9 @@ DWORD CRecordTable::Store(CDatabase& db, WORD number, const void* record) const
 DWORD CRecordTable::Delete(CDatabase& db, WORD number) const
 {
     CQuery query(db, Sql("DELETE FROM ", " WHERE number = ?1 RETURNING number").c_str());
-    if (query.Bind(1, number).Next())
+    if (query.Bind(1, number).Next()) {
         return query.Run();
+    }
     return db.GetStatus() ? db.GetStatus() : ERROR_NOT_FOUND;
 }
 
@@ -20,9 +21,11 @@ DWORD CRecordTable::FindFree(CDatabase& db, WORD& number) const
 {
     CQuery query(db, Sql("SELECT number FROM ", " ORDER BY number").c_str());
     number = m_first;
-    while (query.Next() && query.GetNumber(0) == number)
+    while (query.Next() && query.GetNumber(0) == number) {
         ++number;
-    if (db.GetStatus() != 0)
+    }
+    if (db.GetStatus() != 0) {
         return db.GetStatus();
+    }
     return number <= m_last ? 0 : ERROR_NOT_ENOUGH_QUOTA;
 }

@@ -17,8 +17,9 @@ class CRecordTable
     DWORD Load(CDatabase& db, WORD number, Record& record) const
     {
         CQuery query(db, Sql("SELECT record FROM ", " WHERE number = ?1").c_str());
-        if (!query.Bind(1, number).Next())
+        if (!query.Bind(1, number).Next()) {
             return db.GetStatus() ? db.GetStatus() : ERROR_NOT_FOUND;
+        }
         query.GetRecord(0, record);
         return db.GetStatus();
     }
@@ -48,16 +49,19 @@ DWORD AddRecord(const CRecordTable& table, Record& record, Allow allow)
     WORD number = 0;
     const DWORD status = WriteStore([&](CDatabase& db) {
         DWORD result = allow(db);
-        if (result == 0)
+        if (result == 0) {
             result = table.FindFree(db, number);
-        if (result != 0)
+        }
+        if (result != 0) {
             return result;
+        }
         Record added = record;
         added.wNumber = number;
         return table.Store(db, number, &added);
     });
-    if (status == 0)
+    if (status == 0) {
         record.wNumber = number;
+    }
     return status;
 }
 

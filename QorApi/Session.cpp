@@ -43,8 +43,9 @@ DWORD CSession::GetUser(CDatabase& db, ACCOUNT& user)
         user.id = state.storePath == db.GetPath() ? state.accountId : 0;
     }
     CQuery query(db, "SELECT number, flags, rights FROM user WHERE id = ?1");
-    if (user.id == 0 || !query.Bind(1, user.id).Next())
+    if (user.id == 0 || !query.Bind(1, user.id).Next()) {
         return db.GetStatus() ? db.GetStatus() : ERROR_NOT_LOGGED_ON;
+    }
     user.number = static_cast<WORD>(query.GetNumber(0));
     user.flags = static_cast<WORD>(query.GetNumber(1));
     user.rights = static_cast<DWORD>(query.GetNumber(2));
@@ -54,8 +55,9 @@ DWORD CSession::GetUser(CDatabase& db, ACCOUNT& user)
 DWORD NeedRights(CDatabase& db, DWORD rights)
 {
     ACCOUNT user;
-    if (const DWORD status = CSession::GetUser(db, user))
+    if (const DWORD status = CSession::GetUser(db, user)) {
         return status;
+    }
     return (user.rights & rights) == rights ? 0 : ERROR_ACCESS_DENIED;
 }
 

@@ -51,12 +51,13 @@ DWORD LoadInfo(CDatabase& db, UINT id, std::vector<BYTE>& value)
 {
     CQuery query(db, "SELECT value FROM info WHERE id = ?1");
     const KNOWNINFO* known = FindKnown(id);
-    if (query.Bind(1, id).Next())
+    if (query.Bind(1, id).Next()) {
         value = query.GetBlob(0);
-    else if (known)
+    } else if (known) {
         value = GetDefault(*known);
-    else if (db.GetStatus() == 0)
+    } else if (db.GetStatus() == 0) {
         return ERROR_NOT_FOUND;
+    }
     return db.GetStatus();
 }
 
@@ -67,11 +68,13 @@ DWORD StoreInfo(CDatabase& db, UINT id, const void* data, size_t size)
 
 bool IsFitValue(const KNOWNINFO& info, const void* data, int size)
 {
-    if (!info.text)
+    if (!info.text) {
         return size == sizeof(DWORD);
+    }
     WCHAR last = L'?';
-    if (size < static_cast<int>(sizeof(WCHAR)) || size % sizeof(WCHAR) != 0)
+    if (size < static_cast<int>(sizeof(WCHAR)) || size % sizeof(WCHAR) != 0) {
         return false;
+    }
     memcpy(&last, static_cast<const BYTE*>(data) + size - sizeof(WCHAR), sizeof(WCHAR));
     return last == 0;
 }
@@ -79,8 +82,9 @@ bool IsFitValue(const KNOWNINFO& info, const void* data, int size)
 bool IsUpdateRunning()
 {
     const HANDLE event = OpenEventW(SYNCHRONIZE, FALSE, GetUpdateEventName());
-    if (event)
+    if (event) {
         CloseHandle(event);
+    }
     return event != nullptr;
 }
 
@@ -99,15 +103,17 @@ void LoadTexts(CDatabase& db, UINT id, CStringArray& texts)
 {
     CQuery query(db, "SELECT value FROM multi WHERE id = ?1 ORDER BY pos");
     query.Bind(1, id);
-    while (query.Next())
+    while (query.Next()) {
         texts.Add(query.GetText(0));
+    }
 }
 
 DWORD ReplaceTexts(CDatabase& db, UINT id, const CStringArray& texts)
 {
     CQuery(db, "DELETE FROM multi WHERE id = ?1").Bind(1, id).Run();
-    for (int i = 0; i < texts.GetSize(); ++i)
+    for (int i = 0; i < texts.GetSize(); ++i) {
         AppendText(db, id, i, texts.GetAt(i));
+    }
     return db.GetStatus();
 }
 
@@ -116,12 +122,14 @@ DWORD AddMissingTexts(CDatabase& db, UINT id, const CStringArray& texts)
     CStringArray present;
     LoadTexts(db, id, present);
     std::set<std::wstring> known;
-    for (int i = 0; i < present.GetSize(); ++i)
+    for (int i = 0; i < present.GetSize(); ++i) {
         known.insert(FoldName(present.GetAt(i)).GetString());
+    }
     int position = static_cast<int>(present.GetSize());
     for (int i = 0; i < texts.GetSize(); ++i) {
-        if (known.insert(FoldName(texts.GetAt(i)).GetString()).second)
+        if (known.insert(FoldName(texts.GetAt(i)).GetString()).second) {
             AppendText(db, id, position++, texts.GetAt(i));
+        }
     }
     return db.GetStatus();
 }
@@ -152,18 +160,22 @@ DWORD GetInfoText(UINT id, CString& text)
 
 DWORD QorGetInfo(UINT id, void* data, int size)
 {
-    if (!data || size <= 0)
+    if (!data || size <= 0) {
         return ERROR_INVALID_PARAMETER;
+    }
     memset(data, 0, size);
     const KNOWNINFO* known = FindKnown(id);
-    if (!IsId(id) || (known && !known->text && size != sizeof(DWORD)))
+    if (!IsId(id) || (known && !known->text && size != sizeof(DWORD))) {
         return ERROR_INVALID_PARAMETER;
+    }
     std::vector<BYTE> value;
     const DWORD status = ReadStore([&](CDatabase& db) { return LoadInfo(db, id, value); });
-    if (status != 0)
+    if (status != 0) {
         return status;
-    if (value.size() > static_cast<size_t>(size))
+    }
+    if (value.size() > static_cast<size_t>(size)) {
         return ERROR_INSUFFICIENT_BUFFER;
+    }
     memcpy(data, value.data(), value.size());
     if (id == QORINFO_UPDATE_CHECK) {
         auto& flags = *static_cast<DWORD UNALIGNED*>(data);
@@ -175,8 +187,9 @@ DWORD QorGetInfo(UINT id, void* data, int size)
 DWORD QorSetInfo(UINT id, const void* data, int size)
 {
     const KNOWNINFO* known = FindKnown(id);
-    if (!data || size <= 0 || size > MAX_SIZE || !IsId(id) || (known && !IsFitValue(*known, data, size)))
+    if (!data || size <= 0 || size > MAX_SIZE || !IsId(id) || (known && !IsFitValue(*known, data, size))) {
         return ERROR_INVALID_PARAMETER;
+    }
     return WriteStore([&](CDatabase& db) {
         const DWORD status = NeedRights(db, known ? known->right : static_cast<DWORD>(QORRIGHT_SETTINGS));
         return status ? status : StoreInfo(db, id, data, size);
@@ -186,25 +199,29 @@ DWORD QorSetInfo(UINT id, const void* data, int size)
 DWORD QorGetMultiString(UINT id, CStringArray& texts)
 {
     texts.RemoveAll();
-    if (!IsId(id))
+    if (!IsId(id)) {
         return ERROR_INVALID_PARAMETER;
+    }
     const DWORD status = ReadStore([&](CDatabase& db) {
         LoadTexts(db, id, texts);
         return db.GetStatus();
     });
-    if (status != 0)
+    if (status != 0) {
         texts.RemoveAll();
+    }
     return status;
 }
 
 DWORD QorSetMultiString(UINT id, const CStringArray& texts, int flag)
 {
-    if (!IsId(id))
+    if (!IsId(id)) {
         return ERROR_INVALID_PARAMETER;
+    }
     return WriteStore([&](CDatabase& db) {
         const DWORD status = NeedRights(db, QORRIGHT_SETTINGS);
-        if (status != 0)
+        if (status != 0) {
             return status;
+        }
         return flag ? ReplaceTexts(db, id, texts) : AddMissingTexts(db, id, texts);
     });
 }

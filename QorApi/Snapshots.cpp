@@ -15,16 +15,18 @@ bool IsNoTime(const _QORTIME& time)
 DWORD Clean(const _QORVEX_SNAP& snapshot, _QORVEX_SNAP& clean)
 {
     CString name;
-    if (!ReadField(snapshot.szName, name) || name.IsEmpty())
+    if (!ReadField(snapshot.szName, name) || name.IsEmpty()) {
         return ERROR_INVALID_NAME;
+    }
     WriteField(clean.szName, name);
     clean.wFlags = snapshot.wFlags & QORSNAP_LOCKED;
     clean.nSize = snapshot.nSize;
     SYSTEMTIME time = {};
-    if (IsNoTime(snapshot.time))
+    if (IsNoTime(snapshot.time)) {
         GetLocalTime(&time);
-    else if (!QorTime2SysTime(snapshot.time, time))
+    } else if (!QorTime2SysTime(snapshot.time, time)) {
         return ERROR_INVALID_TIME;
+    }
     return SysTime2QorTime(time, clean.time) ? 0 : ERROR_INVALID_TIME;
 }
 
@@ -41,8 +43,9 @@ DWORD ChangeSnapshot(WORD number, Change change)
 {
     return WriteStore([&](CDatabase& db) {
         _QORVEX_SNAP snapshot;
-        if (const DWORD status = LoadFor(db, QORRIGHT_TAKESNAP, number, snapshot))
+        if (const DWORD status = LoadFor(db, QORRIGHT_TAKESNAP, number, snapshot)) {
             return status;
+        }
         change(snapshot);
         return SNAPSHOT_TABLE.Store(db, number, &snapshot);
     });
@@ -54,11 +57,13 @@ DWORD QorAddSnapshot(_QORVEX_SNAP& snapshot)
 {
     _QORVEX_SNAP clean = {};
     DWORD status = Clean(snapshot, clean);
-    if (status != 0)
+    if (status != 0) {
         return status;
+    }
     status = AddRecord(SNAPSHOT_TABLE, clean, [](CDatabase& db) { return NeedRights(db, QORRIGHT_TAKESNAP); });
-    if (status == 0)
+    if (status == 0) {
         snapshot = clean;
+    }
     return status;
 }
 
@@ -66,8 +71,9 @@ DWORD QorDeleteSnapshot(WORD number)
 {
     return WriteStore([&](CDatabase& db) {
         _QORVEX_SNAP snapshot;
-        if (const DWORD status = LoadFor(db, QORRIGHT_DELSNAP, number, snapshot))
+        if (const DWORD status = LoadFor(db, QORRIGHT_DELSNAP, number, snapshot)) {
             return status;
+        }
         return snapshot.wFlags & QORSNAP_LOCKED ? static_cast<DWORD>(ERROR_LOCKED) : SNAPSHOT_TABLE.Delete(db, number);
     });
 }
@@ -76,8 +82,9 @@ DWORD QorRenameSnapshot(WORD number, LPCWSTR name)
 {
     CString trimmed(name ? name : L"");
     trimmed.Trim();
-    if (trimmed.IsEmpty() || trimmed.GetLength() >= static_cast<int>(std::size(_QORVEX_SNAP().szName)))
+    if (trimmed.IsEmpty() || trimmed.GetLength() >= static_cast<int>(std::size(_QORVEX_SNAP().szName))) {
         return ERROR_INVALID_NAME;
+    }
     return ChangeSnapshot(number, [&](_QORVEX_SNAP& snapshot) { WriteField(snapshot.szName, trimmed); });
 }
 

@@ -72,8 +72,9 @@ DWORD GetFileState(const std::wstring& path, FileState& state)
         const DWORD error = GetLastError();
         return error == ERROR_FILE_NOT_FOUND ? 0 : error;
     }
-    if (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)
+    if (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) {
         return ERROR_ACCESS_DENIED;
+    }
     state.exists = true;
     state.readOnly = (data.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
     state.empty = data.nFileSizeHigh == 0 && data.nFileSizeLow == 0;
@@ -99,16 +100,20 @@ DWORD CDatabase::Open(const std::wstring& path)
 {
     Close();
     m_path = path;
-    if (ReadEnvironment(L"QOR_STORE").empty())
+    if (ReadEnvironment(L"QOR_STORE").empty()) {
         QorCreateFolder(QorGetStoreFolder());
+    }
     FileState file;
     DWORD status = GetFileState(path, file);
-    if (status == 0)
+    if (status == 0) {
         status = OpenFile(!file.exists, file.readOnly);
-    if (status == 0)
+    }
+    if (status == 0) {
         status = Check(file.empty);
-    if (status != 0)
+    }
+    if (status != 0) {
         Close();
+    }
     return status;
 }
 
@@ -117,8 +122,9 @@ DWORD CDatabase::OpenFile(bool create, bool readOnly)
     m_status = 0;
     const int flags = readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE | (create ? SQLITE_OPEN_CREATE : 0);
     const int code = sqlite3_open_v2(WStrToUTF8(m_path.c_str()), &m_db, flags, nullptr);
-    if (code != SQLITE_OK)
+    if (code != SQLITE_OK) {
         return Note(code);
+    }
     sqlite3_busy_timeout(m_db, WAIT_FOR_OTHERS);
     // Until the file has proved to be sound, closing it must not bring a log's content into it.
     sqlite3_db_config(m_db, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
@@ -133,27 +139,32 @@ DWORD CDatabase::Check(bool fresh)
     const long long id = QueryNumber("PRAGMA application_id");
     const long long version = QueryNumber("PRAGMA user_version");
     const bool unmade = id == 0 && version == 0 && (fresh || IsEmpty());
-    if (m_status == 0 && !unmade && (id != APPLICATION_ID || !IsIntact()))
+    if (m_status == 0 && !unmade && (id != APPLICATION_ID || !IsIntact())) {
         SetDamaged();
-    else if (m_status == 0 && !unmade && version != SCHEMA_VERSION)
+    } else if (m_status == 0 && !unmade && version != SCHEMA_VERSION) {
         m_status = ERROR_REVISION_MISMATCH;
+    }
     Commit();
-    if (unmade)
+    if (unmade) {
         MakeSchema();
-    if (m_status != 0)
+    }
+    if (m_status != 0) {
         return m_status;
+    }
     sqlite3_db_config(m_db, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
     Execute("PRAGMA synchronous=FULL");
     // Fails while another process works with the file in the older way; then the next connection does it.
-    if (!sqlite3_db_readonly(m_db, "main"))
+    if (!sqlite3_db_readonly(m_db, "main")) {
         sqlite3_exec(m_db, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
+    }
     return m_status;
 }
 
 DWORD CDatabase::MakeSchema()
 {
-    if (Execute("BEGIN EXCLUSIVE") != 0)
+    if (Execute("BEGIN EXCLUSIVE") != 0) {
         return m_status;
+    }
     // Another process may have made it while this one waited.
     if (QueryNumber("PRAGMA application_id") != APPLICATION_ID) {
         Execute(SCHEMA);
@@ -167,8 +178,9 @@ DWORD CDatabase::MakeSchema()
         Execute(("PRAGMA user_version=" + std::to_string(SCHEMA_VERSION)).c_str());
     }
     const DWORD status = Commit();
-    if (status != 0)
+    if (status != 0) {
         Rollback();
+    }
     return status;
 }
 
@@ -187,15 +199,17 @@ bool CDatabase::IsEmpty()
 
 DWORD CDatabase::Note(int code)
 {
-    if (m_status == 0)
+    if (m_status == 0) {
         m_status = StatusOf(m_db, code);
+    }
     return m_status;
 }
 
 DWORD CDatabase::SetDamaged()
 {
-    if (m_status == 0)
+    if (m_status == 0) {
         m_status = ERROR_FILE_CORRUPT;
+    }
     return m_status;
 }
 
@@ -223,16 +237,18 @@ DWORD CDatabase::Commit()
 
 void CDatabase::Rollback()
 {
-    if (!sqlite3_get_autocommit(m_db))
+    if (!sqlite3_get_autocommit(m_db)) {
         sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+    }
 }
 
 // ------------------------------------------------------------------ statements
 
 CQuery::CQuery(CDatabase& db, const char* sql) : m_db(db)
 {
-    if (db.m_status == 0)
+    if (db.m_status == 0) {
         db.Note(sqlite3_prepare_v2(db.m_db, sql, -1, &m_statement, nullptr));
+    }
 }
 
 CQuery::~CQuery()
@@ -242,29 +258,33 @@ CQuery::~CQuery()
 
 CQuery& CQuery::Bind(int index, long long value)
 {
-    if (m_statement)
+    if (m_statement) {
         m_db.Note(sqlite3_bind_int64(m_statement, index, value));
+    }
     return *this;
 }
 
 CQuery& CQuery::Bind(int index, LPCWSTR text)
 {
-    if (m_statement)
+    if (m_statement) {
         m_db.Note(sqlite3_bind_text16(m_statement, index, text, -1, SQLITE_TRANSIENT));
+    }
     return *this;
 }
 
 CQuery& CQuery::Bind(int index, const void* data, size_t size)
 {
-    if (m_statement)
+    if (m_statement) {
         m_db.Note(sqlite3_bind_blob(m_statement, index, data, static_cast<int>(size), SQLITE_TRANSIENT));
+    }
     return *this;
 }
 
 bool CQuery::Next()
 {
-    if (!m_statement || m_db.m_status != 0)
+    if (!m_statement || m_db.m_status != 0) {
         return false;
+    }
     const int code = sqlite3_step(m_statement);
     m_db.Note(code);
     return code == SQLITE_ROW;

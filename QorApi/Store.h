@@ -78,8 +78,9 @@ class CQuery
     void GetRecord(int column, Record& record) const
     {
         ReadRecord(column, &record, sizeof(record));
-        if (wmemchr(record.szName, 0, std::size(record.szName)) != nullptr)
+        if (wmemchr(record.szName, 0, std::size(record.szName)) != nullptr) {
             return;
+        }
         record = {};
         m_db.SetDamaged();
     }

@@ -19,8 +19,9 @@ bool IsSchedule(BYTE schedule)
 
 bool DoGoTogether(int kind, BYTE schedule)
 {
-    if (schedule == QORSCHED_LOGOFF)
+    if (schedule == QORSCHED_LOGOFF) {
         return kind == QORTASK_ROLLBACK;
+    }
     return schedule != QORSCHED_SHUTDOWN || kind == QORTASK_DEFRAG;
 }
 
@@ -50,8 +51,9 @@ DWORD LoadOwn(CDatabase& db, WORD number, _QORVEX_TASK& task)
 {
     ACCOUNT user;
     DWORD status = CSession::GetUser(db, user);
-    if (status == 0)
+    if (status == 0) {
         status = TASK_TABLE.Load(db, number, task);
+    }
     return status ? status : NeedRightFor(db, task);
 }
 
@@ -61,27 +63,31 @@ DWORD QorGetTask(_QORVEX_TASK& task)
 {
     _QORVEX_TASK found = {};
     const DWORD status = ReadStore([&](CDatabase& db) { return TASK_TABLE.Load(db, task.wNumber, found); });
-    if (status == 0)
+    if (status == 0) {
         task = found;
+    }
     return status;
 }
 
 DWORD QorAddTask(_QORVEX_TASK& task)
 {
-    if (!IsValid(task))
+    if (!IsValid(task)) {
         return ERROR_INVALID_DATA;
+    }
     return AddRecord(TASK_TABLE, task, [&](CDatabase& db) { return NeedRightFor(db, task); });
 }
 
 DWORD QorSetTask(const _QORVEX_TASK& task)
 {
-    if (!IsValid(task))
+    if (!IsValid(task)) {
         return ERROR_INVALID_DATA;
+    }
     return WriteStore([&](CDatabase& db) {
         _QORVEX_TASK former;
         DWORD status = LoadOwn(db, task.wNumber, former);
-        if (status == 0)
+        if (status == 0) {
             status = NeedRightFor(db, task);
+        }
         return status ? status : TASK_TABLE.Store(db, task.wNumber, &task);
     });
 }

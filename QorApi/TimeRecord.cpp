@@ -13,8 +13,9 @@ bool Complete(SYSTEMTIME& time)
     FILETIME fileTime = {};
     SYSTEMTIME back = {};
     if (time.wYear < FIRST_YEAR || time.wYear > LAST_YEAR || !SystemTimeToFileTime(&time, &fileTime) ||
-        !FileTimeToSystemTime(&fileTime, &back) || back.wDay != time.wDay || back.wMonth != time.wMonth)
+        !FileTimeToSystemTime(&fileTime, &back) || back.wDay != time.wDay || back.wMonth != time.wMonth) {
         return false;
+    }
     time = back;
     return true;
 }
@@ -40,8 +41,9 @@ BOOL SysTime2QorTime(const SYSTEMTIME& sysTime, _QORTIME& time)
 {
     SYSTEMTIME complete = sysTime;
     time = _QORTIME();
-    if (!Complete(complete))
+    if (!Complete(complete)) {
         return FALSE;
+    }
     time.wYear = complete.wYear;
     time.nMonth = static_cast<BYTE>(complete.wMonth);
     time.nDayOfWeek = static_cast<BYTE>(complete.wDayOfWeek);

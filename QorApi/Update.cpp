@@ -19,13 +19,15 @@ class CRunningMark
     CRunningMark() : m_event(CreateEventW(nullptr, TRUE, FALSE, GetUpdateEventName()))
     {
         m_status = m_event ? 0 : GetLastError();
-        if (m_event && GetLastError() == ERROR_ALREADY_EXISTS)
+        if (m_event && GetLastError() == ERROR_ALREADY_EXISTS) {
             m_status = ERROR_BUSY;
+        }
     }
     ~CRunningMark()
     {
-        if (m_event)
+        if (m_event) {
             CloseHandle(m_event);
+        }
     }
     CRunningMark(const CRunningMark&) = delete;
     CRunningMark& operator=(const CRunningMark&) = delete;
@@ -58,13 +60,16 @@ DWORD ReadAll(IStream& stream, std::vector<BYTE>& content)
     for (;;) {
         ULONG read = 0;
         const HRESULT result = stream.Read(buffer, sizeof(buffer), &read);
-        if (FAILED(result))
+        if (FAILED(result)) {
             return result;
+        }
         content.insert(content.end(), buffer, buffer + read);
-        if (content.size() > MAX_DESCRIPTION)
+        if (content.size() > MAX_DESCRIPTION) {
             return ERROR_FILE_TOO_LARGE;
-        if (read == 0)
+        }
+        if (read == 0) {
             return 0;
+        }
     }
 }
 
@@ -72,26 +77,31 @@ DWORD ReadUrl(const CString& url, std::vector<BYTE>& content)
 {
     const std::unique_ptr<std::remove_pointer_t<HMODULE>, FreeModule> module(
         LoadLibraryExW(L"urlmon.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32));
-    if (!module)
+    if (!module) {
         return GetLastError();
+    }
     const auto open = reinterpret_cast<decltype(&URLOpenBlockingStreamW)>(
         reinterpret_cast<void*>(GetProcAddress(module.get(), "URLOpenBlockingStreamW")));
-    if (!open)
+    if (!open) {
         return ERROR_PROC_NOT_FOUND;
+    }
     IStream* opened = nullptr;
     const HRESULT result = open(nullptr, url, &opened, 0, nullptr);
-    if (FAILED(result))
+    if (FAILED(result)) {
         return result;
-    if (!opened)
+    }
+    if (!opened) {
         return ERROR_HOST_UNREACHABLE;
+    }
     const std::unique_ptr<IStream, ReleaseStream> stream(opened);
     return ReadAll(*stream, content);
 }
 
 DWORD LoadDescription(const CString& source, CQorXml& xml)
 {
-    if (!IsUrl(source))
+    if (!IsUrl(source)) {
         return xml.Load(source);
+    }
     std::vector<BYTE> content;
     const DWORD status = ReadUrl(source, content);
     return status ? status : xml.LoadMemory(content.data(), content.size());
@@ -101,12 +111,14 @@ DWORD LoadDescription(const CString& source, CQorXml& xml)
 DWORD FindNewer(const CQorXml& xml, CString& newer)
 {
     const CXmlElem* root = xml.GetRoot();
-    if (!root || wcscmp(root->GetName(), L"QorUpdate") != 0)
+    if (!root || wcscmp(root->GetName(), L"QorUpdate") != 0) {
         return ERROR_INVALID_DATA;
+    }
     const CString offered = root->GetAttr(L"Version", L"");
     int order = 0;
-    if (!CompareVersions(offered.GetString(), PRODUCT_VERSION, order))
+    if (!CompareVersions(offered.GetString(), PRODUCT_VERSION, order)) {
         return ERROR_INVALID_DATA;
+    }
     newer = order > 0 ? offered : CString();
     return 0;
 }
@@ -116,20 +128,25 @@ DWORD FindNewer(const CQorXml& xml, CString& newer)
 DWORD QorCheckUpdate()
 {
     CString source;
-    if (const DWORD status = GetInfoText(QORINFO_UPDATE_SOURCE, source))
+    if (const DWORD status = GetInfoText(QORINFO_UPDATE_SOURCE, source)) {
         return status;
+    }
     source.Trim();
-    if (source.IsEmpty())
+    if (source.IsEmpty()) {
         return ERROR_HOST_UNREACHABLE;
+    }
     const CRunningMark running;
     CQorXml xml;
     CString newer;
     DWORD status = running.GetStatus();
-    if (status == 0)
+    if (status == 0) {
         status = LoadDescription(source, xml);
-    if (status == 0)
+    }
+    if (status == 0) {
         status = FindNewer(xml, newer);
-    if (status != 0)
+    }
+    if (status != 0) {
         return status;
+    }
     return WriteStore([&](CDatabase& db) { return PutInfoText(db, QORINFO_UPDATE_VERSION, newer); });
 }

@@ -27,28 +27,36 @@ DWORD ReadChange(const _QORVEX_USER& user, LPCWSTR password, USERCHANGE& change)
     change.mask = user.wFieldMask;
     change.flags = user.wFlags;
     change.rights = user.dwRights;
-    if (change.mask == 0 || (change.mask & ~QORUSER_NEW))
+    if (change.mask == 0 || (change.mask & ~QORUSER_NEW)) {
         return ERROR_INVALID_PARAMETER;
-    if (change.Has(QORUSER_NAME) && (!ReadField(user.szName, change.name) || change.name.IsEmpty()))
+    }
+    if (change.Has(QORUSER_NAME) && (!ReadField(user.szName, change.name) || change.name.IsEmpty())) {
         return ERROR_INVALID_ACCOUNT_NAME;
-    if (change.Has(QORUSER_DESC) && !ReadField(user.szDesc, change.description))
+    }
+    if (change.Has(QORUSER_DESC) && !ReadField(user.szDesc, change.description)) {
         return ERROR_INVALID_PARAMETER;
-    if (change.Has(QORUSER_RIGHTS) && (change.rights & ~QORRIGHT_ALL))
+    }
+    if (change.Has(QORUSER_RIGHTS) && (change.rights & ~QORRIGHT_ALL)) {
         return ERROR_INVALID_PARAMETER;
-    if (change.Has(QORUSER_FLAGS) && (change.flags & ~QORUSER_INACTIVE))
+    }
+    if (change.Has(QORUSER_FLAGS) && (change.flags & ~QORUSER_INACTIVE)) {
         return ERROR_INVALID_PARAMETER;
-    if (!change.Has(QORUSER_PASSWORD))
+    }
+    if (!change.Has(QORUSER_PASSWORD)) {
         return 0;
-    if (password && wcsnlen(password, MAX_PASSWORD + 1) > MAX_PASSWORD)
+    }
+    if (password && wcsnlen(password, MAX_PASSWORD + 1) > MAX_PASSWORD) {
         return ERROR_ILL_FORMED_PASSWORD;
+    }
     return HashPassword(password, change.password);
 }
 
 DWORD FindAccount(CDatabase& db, WORD number, ACCOUNT& account)
 {
     CQuery query(db, "SELECT id, flags, rights FROM user WHERE number = ?1");
-    if (!query.Bind(1, number).Next())
+    if (!query.Bind(1, number).Next()) {
         return db.GetStatus() ? db.GetStatus() : ERROR_NO_SUCH_USER;
+    }
     account.id = query.GetNumber(0);
     account.number = number;
     account.flags = static_cast<WORD>(query.GetNumber(1));
@@ -65,13 +73,16 @@ DWORD NeedPowerOver(const ACCOUNT& user, DWORD rights)
 
 DWORD NeedChange(const ACCOUNT& user, const ACCOUNT& target, const USERCHANGE& change)
 {
-    if (target.number == QORUSER_BUILTIN && change.Has(QORUSER_PROPERTIES))
+    if (target.number == QORUSER_BUILTIN && change.Has(QORUSER_PROPERTIES)) {
         return ERROR_ACCESS_DENIED;
+    }
     const bool own = user.id == target.id;
-    if (own && change.Has(QORUSER_PASSWORD) && !(user.rights & QORRIGHT_PASSWORD))
+    if (own && change.Has(QORUSER_PASSWORD) && !(user.rights & QORRIGHT_PASSWORD)) {
         return ERROR_ACCESS_DENIED;
-    if (own && change.mask == QORUSER_PASSWORD)
+    }
+    if (own && change.mask == QORUSER_PASSWORD) {
         return 0;
+    }
     return NeedPowerOver(user, target.rights | (change.Has(QORUSER_RIGHTS) ? change.rights : 0));
 }
 
@@ -83,28 +94,33 @@ bool IsNameInUse(CDatabase& db, const CString& name, long long exceptId)
 
 DWORD ApplyChange(CDatabase& db, const ACCOUNT& target, const USERCHANGE& change)
 {
-    if (change.Has(QORUSER_NAME))
+    if (change.Has(QORUSER_NAME)) {
         CQuery(db, "UPDATE user SET name = ?2, name_key = ?3 WHERE id = ?1")
             .Bind(1, target.id)
             .Bind(2, change.name)
             .Bind(3, FoldName(change.name))
             .Run();
-    if (change.Has(QORUSER_DESC))
+    }
+    if (change.Has(QORUSER_DESC)) {
         CQuery(db, "UPDATE user SET description = ?2 WHERE id = ?1")
             .Bind(1, target.id)
             .Bind(2, change.description)
             .Run();
-    if (change.Has(QORUSER_RIGHTS))
+    }
+    if (change.Has(QORUSER_RIGHTS)) {
         CQuery(db, "UPDATE user SET rights = ?2 WHERE id = ?1").Bind(1, target.id).Bind(2, change.rights).Run();
-    if (change.Has(QORUSER_FLAGS))
+    }
+    if (change.Has(QORUSER_FLAGS)) {
         CQuery(db, "UPDATE user SET flags = ?2 WHERE id = ?1").Bind(1, target.id).Bind(2, change.flags).Run();
-    if (change.Has(QORUSER_PASSWORD))
+    }
+    if (change.Has(QORUSER_PASSWORD)) {
         CQuery(db, "UPDATE user SET salt = ?2, rounds = ?3, hash = ?4, failures = 0 WHERE id = ?1")
             .Bind(1, target.id)
             .Bind(2, change.password.salt.data(), change.password.salt.size())
             .Bind(3, change.password.rounds)
             .Bind(4, change.password.hash.data(), change.password.hash.size())
             .Run();
+    }
     return db.GetStatus();
 }
 
@@ -113,14 +129,18 @@ DWORD ChangeAccount(CDatabase& db, const USERCHANGE& change)
     ACCOUNT user;
     ACCOUNT target;
     DWORD status = CSession::GetUser(db, user);
-    if (status == 0)
+    if (status == 0) {
         status = FindAccount(db, change.number, target);
-    if (status == 0)
+    }
+    if (status == 0) {
         status = NeedChange(user, target, change);
-    if (status != 0)
+    }
+    if (status != 0) {
         return status;
-    if (change.Has(QORUSER_NAME) && IsNameInUse(db, change.name, target.id))
+    }
+    if (change.Has(QORUSER_NAME) && IsNameInUse(db, change.name, target.id)) {
         return ERROR_USER_EXISTS;
+    }
     return ApplyChange(db, target, change);
 }
 
@@ -131,12 +151,15 @@ DWORD ChooseNumber(CDatabase& db, WORD wanted, WORD& number)
     const bool any = wanted > QORUSER_MAX;
     for (number = any ? 1 : wanted; number <= QORUSER_MAX; ++number) {
         const DWORD status = FindAccount(db, number, other);
-        if (status == ERROR_NO_SUCH_USER)
+        if (status == ERROR_NO_SUCH_USER) {
             return 0;
-        if (status != 0)
+        }
+        if (status != 0) {
             return status;
-        if (!any)
+        }
+        if (!any) {
             return ERROR_ALREADY_EXISTS;
+        }
     }
     return ERROR_NOT_ENOUGH_QUOTA;
 }
@@ -145,14 +168,18 @@ DWORD AddAccount(CDatabase& db, const USERCHANGE& change, WORD& number)
 {
     ACCOUNT user;
     DWORD status = CSession::GetUser(db, user);
-    if (status == 0)
+    if (status == 0) {
         status = NeedPowerOver(user, change.Has(QORUSER_RIGHTS) ? change.rights : 0);
-    if (status == 0)
+    }
+    if (status == 0) {
         status = ChooseNumber(db, change.number, number);
-    if (status != 0)
+    }
+    if (status != 0) {
         return status;
-    if (IsNameInUse(db, change.name, 0))
+    }
+    if (IsNameInUse(db, change.name, 0)) {
         return ERROR_USER_EXISTS;
+    }
     CQuery(db, "INSERT INTO user(number, name, name_key, description, flags, rights) VALUES(?1, ?2, ?3, '', 0, 0)")
         .Bind(1, number)
         .Bind(2, change.name)
@@ -168,22 +195,27 @@ DWORD DeleteAccount(CDatabase& db, WORD number)
     ACCOUNT user;
     ACCOUNT target;
     DWORD status = CSession::GetUser(db, user);
-    if (status == 0)
+    if (status == 0) {
         status = FindAccount(db, number, target);
-    if (status == 0)
+    }
+    if (status == 0) {
         status = NeedPowerOver(user, target.rights);
-    if (status != 0)
+    }
+    if (status != 0) {
         return status;
-    if (number == QORUSER_BUILTIN || target.id == user.id)
+    }
+    if (number == QORUSER_BUILTIN || target.id == user.id) {
         return ERROR_ACCESS_DENIED;
+    }
     return CQuery(db, "DELETE FROM user WHERE id = ?1").Bind(1, target.id).Run();
 }
 
 DWORD LoadUser(CDatabase& db, WORD number, _QORVEX_USER& user)
 {
     CQuery query(db, "SELECT name, description, flags, rights FROM user WHERE number = ?1");
-    if (!query.Bind(1, number).Next())
+    if (!query.Bind(1, number).Next()) {
         return db.GetStatus() ? db.GetStatus() : ERROR_NO_SUCH_USER;
+    }
     user = _QORVEX_USER();
     user.wNumber = number;
     WriteField(user.szName, query.GetText(0));
@@ -212,22 +244,26 @@ DWORD QorGetLogonUser(_QORVEX_USER& user)
 DWORD QorSetUserInfo(_QORVEX_USER& user, LPCWSTR password)
 {
     USERCHANGE change;
-    if (const DWORD status = ReadChange(user, password, change))
+    if (const DWORD status = ReadChange(user, password, change)) {
         return status;
+    }
     return WriteStore([&](CDatabase& db) { return ChangeAccount(db, change); });
 }
 
 DWORD QorAddUser(_QORVEX_USER& user, LPCWSTR password)
 {
     USERCHANGE change;
-    if (const DWORD status = ReadChange(user, password, change))
+    if (const DWORD status = ReadChange(user, password, change)) {
         return status;
-    if (!change.Has(QORUSER_NAME) || change.number == QORUSER_BUILTIN)
+    }
+    if (!change.Has(QORUSER_NAME) || change.number == QORUSER_BUILTIN) {
         return ERROR_INVALID_PARAMETER;
+    }
     WORD number = 0;
     const DWORD status = WriteStore([&](CDatabase& db) { return AddAccount(db, change, number); });
-    if (status == 0)
+    if (status == 0) {
         user.wNumber = number;
+    }
     return status;
 }
 

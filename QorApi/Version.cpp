@@ -12,12 +12,14 @@ using Parts = std::array<int, PARTS>;
 
 bool ParsePart(std::wstring_view text, int& part)
 {
-    if (text.empty() || text.size() > MAX_DIGITS)
+    if (text.empty() || text.size() > MAX_DIGITS) {
         return false;
+    }
     part = 0;
     for (const wchar_t ch : text) {
-        if (ch < L'0' || ch > L'9')
+        if (ch < L'0' || ch > L'9') {
             return false;
+        }
         part = part * 10 + (ch - L'0');
     }
     return true;
@@ -28,10 +30,12 @@ bool ParseVersion(std::wstring_view text, Parts& parts)
     parts = {};
     for (size_t i = 0; i < PARTS; ++i) {
         const size_t dot = text.find(L'.');
-        if (!ParsePart(text.substr(0, dot), parts[i]))
+        if (!ParsePart(text.substr(0, dot), parts[i])) {
             return false;
-        if (dot == std::wstring_view::npos)
+        }
+        if (dot == std::wstring_view::npos) {
             return true;
+        }
         text.remove_prefix(dot + 1);
     }
     return false;
@@ -44,8 +48,9 @@ bool CompareVersions(std::wstring_view first, std::wstring_view second, int& ord
     Parts left;
     Parts right;
     order = 0;
-    if (!ParseVersion(first, left) || !ParseVersion(second, right))
+    if (!ParseVersion(first, left) || !ParseVersion(second, right)) {
         return false;
+    }
     order = left < right ? -1 : left == right ? 0 : 1;
     return true;
 }

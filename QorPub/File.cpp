@@ -15,8 +15,9 @@ constexpr int MOST_PARTS = 1000;
 DWORD WriteAndFlush(HANDLE file, const void* data, DWORD size)
 {
     DWORD status = WriteAll(file, data, size);
-    if (status == ERROR_SUCCESS && !FlushFileBuffers(file))
+    if (status == ERROR_SUCCESS && !FlushFileBuffers(file)) {
         status = GetLastError();
+    }
     return status;
 }
 
@@ -25,11 +26,13 @@ DWORD WriteAndFlush(HANDLE file, const void* data, DWORD size)
 CString FullPath(LPCWSTR path)
 {
     CString full;
-    if (path == nullptr || *path == 0)
+    if (path == nullptr || *path == 0) {
         return full;
+    }
     DWORD size = GetFullPathNameW(path, 0, nullptr, nullptr);
-    if (size == 0)
+    if (size == 0) {
         return full;
+    }
     DWORD length = GetFullPathNameW(path, size, full.GetBuffer(static_cast<int>(size)), nullptr);
     full.ReleaseBuffer(length < size ? static_cast<int>(length) : 0);
     return full;
@@ -38,10 +41,12 @@ CString FullPath(LPCWSTR path)
 CString LongPath(LPCWSTR path)
 {
     CString full = FullPath(path);
-    if (full.IsEmpty() || IsPrefixed(full))
+    if (full.IsEmpty() || IsPrefixed(full)) {
         return full;
-    if (full.Left(2) == L"\\\\")
+    }
+    if (full.Left(2) == L"\\\\") {
         return L"\\\\?\\UNC" + full.Mid(1);
+    }
     return L"\\\\?\\" + full;
 }
 
@@ -56,18 +61,21 @@ DWORD ReadToEnd(HANDLE file, size_t limit, std::vector<BYTE>& bytes)
         BOOL ok = ReadFile(file, bytes.data() + used, BLOCK, &got, nullptr);
         DWORD status = ok ? ERROR_SUCCESS : GetLastError();
         bytes.resize(used + got);
-        if (status != ERROR_SUCCESS || got == 0)
+        if (status != ERROR_SUCCESS || got == 0) {
             return status;
-        if (bytes.size() > limit)
+        }
+        if (bytes.size() > limit) {
             return ERROR_FILE_TOO_LARGE;
+        }
     }
 }
 
 DWORD ReadWholeFile(LPCWSTR path, size_t limit, std::vector<BYTE>& bytes)
 {
     CString name = LongPath(path);
-    if (name.IsEmpty())
+    if (name.IsEmpty()) {
         return ERROR_INVALID_NAME;
+    }
     Handle file(CreateFileW(name, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                             OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     return file.IsValid() ? ReadToEnd(file.Get(), limit, bytes) : GetLastError();
@@ -76,10 +84,12 @@ DWORD ReadWholeFile(LPCWSTR path, size_t limit, std::vector<BYTE>& bytes)
 DWORD WriteAll(HANDLE file, const void* data, DWORD size)
 {
     DWORD written = 0;
-    if (size == 0)
+    if (size == 0) {
         return ERROR_SUCCESS;
-    if (!WriteFile(file, data, size, &written, nullptr))
+    }
+    if (!WriteFile(file, data, size, &written, nullptr)) {
         return GetLastError();
+    }
     return written == size ? ERROR_SUCCESS : ERROR_DISK_FULL;
 }
 
@@ -88,8 +98,9 @@ DWORD CreatePart(const CString& stem, Handle& file, CString& path)
     DWORD status = ERROR_FILE_EXISTS;
     for (int i = 1; i <= MOST_PARTS && status == ERROR_FILE_EXISTS; ++i) {
         path = stem + L".part";
-        if (i > 1)
+        if (i > 1) {
             path.AppendFormat(L"%d", i);
+        }
         file.Reset(CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
         status = file.IsValid() ? ERROR_SUCCESS : GetLastError();
     }
@@ -99,19 +110,23 @@ DWORD CreatePart(const CString& stem, Handle& file, CString& path)
 DWORD ReplaceWholeFile(LPCWSTR path, const void* data, DWORD size)
 {
     CString name = LongPath(path);
-    if (name.IsEmpty())
+    if (name.IsEmpty()) {
         return ERROR_INVALID_NAME;
+    }
     Handle file;
     CString part;
     DWORD status = CreatePart(name, file, part);
-    if (status != ERROR_SUCCESS)
+    if (status != ERROR_SUCCESS) {
         return status;
+    }
     status = WriteAndFlush(file.Get(), data, size);
     file.Close();
-    if (status == ERROR_SUCCESS && !MoveFileExW(part, name, MOVEFILE_REPLACE_EXISTING))
+    if (status == ERROR_SUCCESS && !MoveFileExW(part, name, MOVEFILE_REPLACE_EXISTING)) {
         status = GetLastError();
-    if (status != ERROR_SUCCESS)
+    }
+    if (status != ERROR_SUCCESS) {
         DeleteFileW(part);
+    }
     return status;
 }
 

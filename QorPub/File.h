@@ -21,8 +21,9 @@ class Handle
     HANDLE Get() const { return m_handle; }
     void Close()
     {
-        if (IsValid())
+        if (IsValid()) {
             CloseHandle(m_handle);
+        }
         m_handle = INVALID_HANDLE_VALUE;
     }
     void Reset(HANDLE handle)

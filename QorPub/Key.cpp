@@ -20,16 +20,18 @@ const PrimaryKey g_primaryKeys[] = {
 CString WithoutLastBackslash(LPCWSTR path)
 {
     CString text = path;
-    if (text.Right(1) == L"\\")
+    if (text.Right(1) == L"\\") {
         text.Truncate(text.GetLength() - 1);
+    }
     return text;
 }
 
 /** Reads a value whose size may change between the calls. */
 LONG QueryBytes(HKEY key, LPCWSTR name, DWORD& type, std::vector<BYTE>& bytes)
 {
-    if (key == nullptr)
+    if (key == nullptr) {
         return ERROR_INVALID_HANDLE;
+    }
     DWORD size = 0;
     LONG status = RegQueryValueExW(key, name, nullptr, &type, nullptr, &size);
     while (status == ERROR_SUCCESS) {
@@ -37,12 +39,14 @@ LONG QueryBytes(HKEY key, LPCWSTR name, DWORD& type, std::vector<BYTE>& bytes)
         // Without a buffer the call would only ask for the size.
         BYTE none = 0;
         status = RegQueryValueExW(key, name, nullptr, &type, size != 0 ? bytes.data() : &none, &size);
-        if (status != ERROR_MORE_DATA)
+        if (status != ERROR_MORE_DATA) {
             break;
+        }
         status = ERROR_SUCCESS;
     }
-    if (status == ERROR_SUCCESS)
+    if (status == ERROR_SUCCESS) {
         bytes.resize(size);
+    }
     return status;
 }
 
@@ -51,8 +55,9 @@ LONG QueryTyped(HKEY key, LPCWSTR name, DWORD type, DWORD otherType, std::vector
 {
     DWORD found = 0;
     LONG status = QueryBytes(key, name, found, bytes);
-    if (status == ERROR_SUCCESS && found != type && found != otherType)
+    if (status == ERROR_SUCCESS && found != type && found != otherType) {
         status = ERROR_INVALID_DATATYPE;
+    }
     return status;
 }
 
@@ -66,10 +71,12 @@ std::vector<WCHAR> ToChars(const std::vector<BYTE>& bytes)
 
 LONG SetBytes(HKEY key, LPCWSTR name, DWORD type, const void* data, size_t size)
 {
-    if (key == nullptr)
+    if (key == nullptr) {
         return ERROR_INVALID_HANDLE;
-    if ((data == nullptr && size != 0) || size > MAXDWORD)
+    }
+    if ((data == nullptr && size != 0) || size > MAXDWORD) {
         return ERROR_INVALID_PARAMETER;
+    }
     return RegSetValueExW(key, name, 0, type, static_cast<const BYTE*>(data), static_cast<DWORD>(size));
 }
 
@@ -88,8 +95,9 @@ LONG CQorKey::Open(HKEY parent, LPCWSTR path, REGSAM access, DWORD options)
     LONG status = parent != nullptr ? RegOpenKeyExW(parent, WithoutLastBackslash(path), options, access, &key)
                                     : static_cast<LONG>(ERROR_INVALID_HANDLE);
     Close();
-    if (status == ERROR_SUCCESS)
+    if (status == ERROR_SUCCESS) {
         m_key = key;
+    }
     return status;
 }
 
@@ -100,15 +108,17 @@ LONG CQorKey::Create(HKEY parent, LPCWSTR path, REGSAM access, DWORD options, DW
                                                       nullptr, &key, disposition)
                                     : static_cast<LONG>(ERROR_INVALID_HANDLE);
     Close();
-    if (status == ERROR_SUCCESS)
+    if (status == ERROR_SUCCESS) {
         m_key = key;
+    }
     return status;
 }
 
 void CQorKey::Close()
 {
-    if (m_key != nullptr && QorPrimaryKey2Acronym(m_key) == nullptr)
+    if (m_key != nullptr && QorPrimaryKey2Acronym(m_key) == nullptr) {
         RegCloseKey(m_key);
+    }
     m_key = nullptr;
 }
 
@@ -121,15 +131,18 @@ HKEY CQorKey::Detach()
 
 LONG CQorKey::QueryInfo(LPCWSTR name, DWORD* type, DWORD* size) const
 {
-    if (m_key == nullptr)
+    if (m_key == nullptr) {
         return ERROR_INVALID_HANDLE;
+    }
     DWORD foundType = 0;
     DWORD foundSize = 0;
     LONG status = RegQueryValueExW(m_key, name, nullptr, &foundType, nullptr, &foundSize);
-    if (status == ERROR_SUCCESS && type != nullptr)
+    if (status == ERROR_SUCCESS && type != nullptr) {
         *type = foundType;
-    if (status == ERROR_SUCCESS && size != nullptr)
+    }
+    if (status == ERROR_SUCCESS && size != nullptr) {
         *size = foundSize;
+    }
     return status;
 }
 
@@ -137,8 +150,9 @@ LONG CQorKey::QueryString(LPCWSTR name, CString& value) const
 {
     std::vector<BYTE> bytes;
     LONG status = QueryTyped(m_key, name, REG_SZ, REG_EXPAND_SZ, bytes);
-    if (status == ERROR_SUCCESS)
+    if (status == ERROR_SUCCESS) {
         value = ToChars(bytes).data();
+    }
     return status;
 }
 
@@ -146,10 +160,12 @@ LONG CQorKey::QueryDword(LPCWSTR name, DWORD& value) const
 {
     std::vector<BYTE> bytes;
     LONG status = QueryTyped(m_key, name, REG_DWORD, REG_DWORD, bytes);
-    if (status != ERROR_SUCCESS)
+    if (status != ERROR_SUCCESS) {
         return status;
-    if (bytes.size() != sizeof(value))
+    }
+    if (bytes.size() != sizeof(value)) {
         return ERROR_INVALID_DATATYPE;
+    }
     memcpy(&value, bytes.data(), sizeof(value));
     return ERROR_SUCCESS;
 }
@@ -159,8 +175,9 @@ LONG CQorKey::QueryBinary(LPCWSTR name, std::vector<BYTE>& value) const
     DWORD type = 0;
     std::vector<BYTE> bytes;
     LONG status = QueryBytes(m_key, name, type, bytes);
-    if (status == ERROR_SUCCESS)
+    if (status == ERROR_SUCCESS) {
         value.swap(bytes);
+    }
     return status;
 }
 
@@ -168,19 +185,22 @@ LONG CQorKey::QueryMultiString(LPCWSTR name, CStringArray& value) const
 {
     std::vector<BYTE> bytes;
     LONG status = QueryTyped(m_key, name, REG_MULTI_SZ, REG_MULTI_SZ, bytes);
-    if (status != ERROR_SUCCESS)
+    if (status != ERROR_SUCCESS) {
         return status;
+    }
     value.RemoveAll();
     std::vector<WCHAR> chars = ToChars(bytes);
-    for (LPCWSTR text = chars.data(); *text != 0; text += wcslen(text) + 1)
+    for (LPCWSTR text = chars.data(); *text != 0; text += wcslen(text) + 1) {
         value.Add(text);
+    }
     return ERROR_SUCCESS;
 }
 
 LONG CQorKey::SetString(LPCWSTR name, LPCWSTR value, DWORD type)
 {
-    if (value == nullptr)
+    if (value == nullptr) {
         value = L"";
+    }
     return SetBytes(m_key, name, type, value, (wcslen(value) + 1) * sizeof(WCHAR));
 }
 
@@ -199,8 +219,9 @@ LONG CQorKey::SetMultiString(LPCWSTR name, const CStringArray& value)
     std::vector<WCHAR> chars;
     for (INT_PTR i = 0; i < value.GetSize(); ++i) {
         LPCWSTR text = value[i].GetString();
-        if (*text == 0)
+        if (*text == 0) {
             return ERROR_INVALID_PARAMETER;
+        }
         chars.insert(chars.end(), text, text + wcslen(text) + 1);
     }
     chars.push_back(0);
@@ -209,28 +230,33 @@ LONG CQorKey::SetMultiString(LPCWSTR name, const CStringArray& value)
 
 LONG CQorKey::EnumKey(DWORD index, CString& name) const
 {
-    if (m_key == nullptr)
+    if (m_key == nullptr) {
         return ERROR_INVALID_HANDLE;
+    }
     WCHAR text[MAX_KEY_NAME] = {};
     LONG status = RegEnumKeyW(m_key, index, text, MAX_KEY_NAME);
-    if (status == ERROR_SUCCESS)
+    if (status == ERROR_SUCCESS) {
         name = text;
+    }
     return status;
 }
 
 LONG CQorKey::EnumValue(DWORD index, CString& name, DWORD* type) const
 {
-    if (m_key == nullptr)
+    if (m_key == nullptr) {
         return ERROR_INVALID_HANDLE;
+    }
     std::vector<WCHAR> text(MAX_VALUE_NAME);
     DWORD length = MAX_VALUE_NAME;
     DWORD foundType = 0;
     LONG status = RegEnumValueW(m_key, index, text.data(), &length, nullptr, &foundType, nullptr, nullptr);
-    if (status != ERROR_SUCCESS)
+    if (status != ERROR_SUCCESS) {
         return status;
+    }
     name = CString(text.data(), static_cast<int>(length));
-    if (type != nullptr)
+    if (type != nullptr) {
         *type = foundType;
+    }
     return ERROR_SUCCESS;
 }
 
@@ -241,8 +267,9 @@ LONG CQorKey::DeleteValue(LPCWSTR name)
 
 LONG CQorKey::DeleteKey(LPCWSTR path)
 {
-    if (m_key == nullptr)
+    if (m_key == nullptr) {
         return ERROR_INVALID_HANDLE;
+    }
     CString name = WithoutLastBackslash(path);
     // An empty name would empty this key itself.
     return name.IsEmpty() ? static_cast<LONG>(ERROR_INVALID_PARAMETER) : RegDeleteTreeW(m_key, name);
@@ -250,14 +277,17 @@ LONG CQorKey::DeleteKey(LPCWSTR path)
 
 HKEY QorAcronym2PrimaryKey(LPCWSTR entry, int* acronymLength)
 {
-    if (acronymLength != nullptr)
+    if (acronymLength != nullptr) {
         *acronymLength = 0;
+    }
     for (const PrimaryKey& primary : g_primaryKeys) {
         size_t length = wcslen(primary.acronym);
-        if (entry == nullptr || _wcsnicmp(entry, primary.acronym, length) != 0)
+        if (entry == nullptr || _wcsnicmp(entry, primary.acronym, length) != 0) {
             continue;
-        if (acronymLength != nullptr)
+        }
+        if (acronymLength != nullptr) {
             *acronymLength = static_cast<int>(length);
+        }
         return primary.key;
     }
     return nullptr;
@@ -266,8 +296,9 @@ HKEY QorAcronym2PrimaryKey(LPCWSTR entry, int* acronymLength)
 LPCWSTR QorPrimaryKey2Acronym(HKEY key)
 {
     for (const PrimaryKey& primary : g_primaryKeys) {
-        if (primary.key == key)
+        if (primary.key == key) {
             return primary.acronym;
+        }
     }
     return nullptr;
 }

@@ -29,13 +29,15 @@ struct Cng
 Cng::Cng()
 {
     HMODULE module = LoadLibraryW(L"bcrypt.dll");
-    if (module == nullptr)
+    if (module == nullptr) {
         return;
+    }
     bool found = Find(module, "BCryptOpenAlgorithmProvider", openAlgorithm) &&
                  Find(module, "BCryptCreateHash", createHash) && Find(module, "BCryptHashData", hashData) &&
                  Find(module, "BCryptFinishHash", finishHash) && Find(module, "BCryptDestroyHash", destroyHash);
-    if (!found || openAlgorithm(&md5, BCRYPT_MD5_ALGORITHM, nullptr, 0) < 0)
+    if (!found || openAlgorithm(&md5, BCRYPT_MD5_ALGORITHM, nullptr, 0) < 0) {
         md5 = nullptr;
+    }
 }
 
 const Cng& TheCng()
@@ -56,30 +58,34 @@ CQorMd5::~CQorMd5()
 BOOL CQorMd5::Begin()
 {
     const Cng& cng = TheCng();
-    if (m_hash == nullptr && cng.md5 != nullptr && cng.createHash(cng.md5, &m_hash, nullptr, 0, nullptr, 0, 0) < 0)
+    if (m_hash == nullptr && cng.md5 != nullptr && cng.createHash(cng.md5, &m_hash, nullptr, 0, nullptr, 0, 0) < 0) {
         m_hash = nullptr;
+    }
     return m_hash != nullptr;
 }
 
 void CQorMd5::Drop()
 {
-    if (m_hash != nullptr)
+    if (m_hash != nullptr) {
         TheCng().destroyHash(m_hash);
+    }
     m_hash = nullptr;
 }
 
 BOOL CQorMd5::Update(const void* data, DWORD size)
 {
-    if ((data == nullptr && size != 0) || !Begin())
+    if ((data == nullptr && size != 0) || !Begin()) {
         return FALSE;
+    }
     auto bytes = static_cast<PUCHAR>(const_cast<void*>(data));
     return size == 0 || TheCng().hashData(m_hash, bytes, size, 0) >= 0;
 }
 
 BOOL CQorMd5::Final(BYTE* digest)
 {
-    if (digest == nullptr || !Begin())
+    if (digest == nullptr || !Begin()) {
         return FALSE;
+    }
     BOOL done = TheCng().finishHash(m_hash, digest, MD5_DIGEST_SIZE, 0) >= 0;
     Drop();
     return done;
@@ -94,7 +100,8 @@ BOOL CQorMd5::Digest(const void* data, DWORD size, BYTE* digest)
 CString CQorMd5::ToHex(const BYTE* digest)
 {
     CString hex;
-    for (DWORD i = 0; digest != nullptr && i < MD5_DIGEST_SIZE; ++i)
+    for (DWORD i = 0; digest != nullptr && i < MD5_DIGEST_SIZE; ++i) {
         hex.AppendFormat(L"%02x", digest[i]);
+    }
     return hex;
 }

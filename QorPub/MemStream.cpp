@@ -39,12 +39,14 @@ class ReadOnlyMemStream final : public IStream
 
 HRESULT ReadOnlyMemStream::QueryInterface(REFIID iid, void** object)
 {
-    if (object == nullptr)
+    if (object == nullptr) {
         return E_POINTER;
+    }
     bool known = iid == IID_IUnknown || iid == IID_ISequentialStream || iid == IID_IStream;
     *object = known ? static_cast<IStream*>(this) : nullptr;
-    if (!known)
+    if (!known) {
         return E_NOINTERFACE;
+    }
     AddRef();
     return S_OK;
 }
@@ -52,57 +54,68 @@ HRESULT ReadOnlyMemStream::QueryInterface(REFIID iid, void** object)
 ULONG ReadOnlyMemStream::Release()
 {
     LONG refs = InterlockedDecrement(&m_refs);
-    if (refs == 0)
+    if (refs == 0) {
         delete this;
+    }
     return static_cast<ULONG>(refs);
 }
 
 HRESULT ReadOnlyMemStream::Read(void* buffer, ULONG size, ULONG* read)
 {
-    if (buffer == nullptr)
+    if (buffer == nullptr) {
         return STG_E_INVALIDPOINTER;
+    }
     ULONG count = (std::min)(size, Rest());
-    if (count != 0)
+    if (count != 0) {
         memcpy(buffer, m_data + m_pos, count);
+    }
     m_pos += count;
-    if (read != nullptr)
+    if (read != nullptr) {
         *read = count;
+    }
     return S_OK;
 }
 
 HRESULT ReadOnlyMemStream::Seek(LARGE_INTEGER move, DWORD origin, ULARGE_INTEGER* pos)
 {
-    if (origin > STREAM_SEEK_END)
+    if (origin > STREAM_SEEK_END) {
         return STG_E_INVALIDFUNCTION;
+    }
     ULONGLONG base = origin == STREAM_SEEK_SET ? 0 : origin == STREAM_SEEK_CUR ? m_pos : m_size;
     auto target = static_cast<LONGLONG>(base + static_cast<ULONGLONG>(move.QuadPart));
-    if (target < 0)
+    if (target < 0) {
         return STG_E_INVALIDFUNCTION;
+    }
     m_pos = static_cast<ULONGLONG>(target);
-    if (pos != nullptr)
+    if (pos != nullptr) {
         pos->QuadPart = m_pos;
+    }
     return S_OK;
 }
 
 HRESULT ReadOnlyMemStream::CopyTo(IStream* to, ULARGE_INTEGER size, ULARGE_INTEGER* read, ULARGE_INTEGER* written)
 {
-    if (to == nullptr)
+    if (to == nullptr) {
         return STG_E_INVALIDPOINTER;
+    }
     auto count = static_cast<ULONG>((std::min)(size.QuadPart, static_cast<ULONGLONG>(Rest())));
     ULONG done = 0;
     HRESULT result = count != 0 ? to->Write(m_data + m_pos, count, &done) : S_OK;
     m_pos += count;
-    if (read != nullptr)
+    if (read != nullptr) {
         read->QuadPart = count;
-    if (written != nullptr)
+    }
+    if (written != nullptr) {
         written->QuadPart = done;
+    }
     return result;
 }
 
 HRESULT ReadOnlyMemStream::Stat(STATSTG* stat, DWORD)
 {
-    if (stat == nullptr)
+    if (stat == nullptr) {
         return STG_E_INVALIDPOINTER;
+    }
     *stat = {};
     stat->type = STGTY_STREAM;
     stat->cbSize.QuadPart = m_size;
@@ -112,8 +125,9 @@ HRESULT ReadOnlyMemStream::Stat(STATSTG* stat, DWORD)
 
 HRESULT ReadOnlyMemStream::Clone(IStream** clone)
 {
-    if (clone == nullptr)
+    if (clone == nullptr) {
         return STG_E_INVALIDPOINTER;
+    }
     *clone = new (std::nothrow) ReadOnlyMemStream(m_data, m_size, m_pos);
     return *clone != nullptr ? S_OK : STG_E_INSUFFICIENTMEMORY;
 }
@@ -126,14 +140,16 @@ const void* QorLoadResource(HINSTANCE inst, LPCWSTR name, LPCWSTR type, DWORD& s
     HRSRC found = name != nullptr && type != nullptr ? FindResourceW(inst, name, type) : nullptr;
     HGLOBAL loaded = found != nullptr ? LoadResource(inst, found) : nullptr;
     const void* data = loaded != nullptr ? LockResource(loaded) : nullptr;
-    if (data != nullptr)
+    if (data != nullptr) {
         size = SizeofResource(inst, found);
+    }
     return data;
 }
 
 IStream* QorCreateReadOnlyMemStream(DWORD, const void* data, DWORD size)
 {
-    if (data == nullptr)
+    if (data == nullptr) {
         return nullptr;
+    }
     return new (std::nothrow) ReadOnlyMemStream(static_cast<const BYTE*>(data), size, 0);
 }

@@ -10,8 +10,9 @@ CString GetVariable(LPCWSTR name)
 {
     CString value;
     DWORD size = GetEnvironmentVariableW(name, nullptr, 0);
-    if (size == 0)
+    if (size == 0) {
         return value;
+    }
     DWORD length = GetEnvironmentVariableW(name, value.GetBuffer(static_cast<int>(size)), size);
     value.ReleaseBuffer(length < size ? static_cast<int>(length) : 0);
     return value;
@@ -47,12 +48,15 @@ bool IsFolder(const CString& path)
 
 BOOL CreateFolder(const CString& path)
 {
-    if (path.IsEmpty())
+    if (path.IsEmpty()) {
         return FALSE;
-    if (IsFolder(path) || CreateDirectoryW(path, nullptr))
+    }
+    if (IsFolder(path) || CreateDirectoryW(path, nullptr)) {
         return TRUE;
-    if (GetLastError() != ERROR_PATH_NOT_FOUND)
+    }
+    if (GetLastError() != ERROR_PATH_NOT_FOUND) {
         return IsFolder(path);
+    }
     CString parent = FolderOf(path);
     return parent.GetLength() < path.GetLength() && CreateFolder(parent) &&
            (CreateDirectoryW(path, nullptr) || IsFolder(path));
@@ -65,11 +69,13 @@ CString g_AppPath = FindAppPath();
 CString QorGetStorePath()
 {
     CString named = qor::FullPath(GetVariable(L"QOR_STORE"));
-    if (!named.IsEmpty())
+    if (!named.IsEmpty()) {
         return named;
+    }
     CString base = GetVariable(L"LOCALAPPDATA");
-    if (base.IsEmpty())
+    if (base.IsEmpty()) {
         base = TempFolder();
+    }
     base.TrimRight(L'\\');
     return base + L"\\Qor\\store.db";
 }

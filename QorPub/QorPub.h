@@ -12,12 +12,11 @@
  * any other call that makes texts or elements may let a std::bad_alloc or a CMemoryException* out.
  */
 
-#include <QorPub/QorPubDef.h>
-
 #include <QorPub/Key.h>
 #include <QorPub/Md5.h>
 #include <QorPub/MemStream.h>
 #include <QorPub/Paths.h>
+#include <QorPub/QorPubDef.h>
 #include <QorPub/System.h>
 #include <QorPub/Text.h>
 #include <QorPub/TextFile.h>

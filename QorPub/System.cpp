@@ -14,8 +14,9 @@ OSVERSIONINFOEXW SystemVersion()
         ntdll != nullptr
             ? reinterpret_cast<RtlGetVersionFn>(reinterpret_cast<void*>(GetProcAddress(ntdll, "RtlGetVersion")))
             : nullptr;
-    if (getVersion != nullptr)
+    if (getVersion != nullptr) {
         getVersion(&info);
+    }
     return info;
 }
 
@@ -28,9 +29,9 @@ WORD FindOsVersion()
 HWND FindVisibleWindow(LPCWSTR className, LPCWSTR title)
 {
     HWND found = nullptr;
-    do
+    do {
         found = FindWindowExW(nullptr, found, className, title);
-    while (found != nullptr && !IsWindowVisible(found));
+    } while (found != nullptr && !IsWindowVisible(found));
     return found;
 }
 
@@ -41,13 +42,16 @@ WORD g_SpVer = SystemVersion().wServicePackMajor;
 
 BOOL QorShowPreInstanceWnd(LPCWSTR className, LPCWSTR title)
 {
-    if (title == nullptr || *title == 0)
+    if (title == nullptr || *title == 0) {
         return FALSE;
+    }
     HWND found = FindVisibleWindow(className != nullptr && *className != 0 ? className : nullptr, title);
-    if (found == nullptr)
+    if (found == nullptr) {
         return FALSE;
-    if (IsIconic(found))
+    }
+    if (IsIconic(found)) {
         ShowWindow(found, SW_RESTORE);
+    }
     SetForegroundWindow(GetLastActivePopup(found));
     return TRUE;
 }

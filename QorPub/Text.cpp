@@ -17,8 +17,9 @@ CString GroupDigits(ULONGLONG number)
     CString digits;
     digits.Format(L"%I64u", number);
     CString separator = LocaleText(LOCALE_STHOUSAND, L",");
-    for (int pos = digits.GetLength() - 3; pos > 0; pos -= 3)
+    for (int pos = digits.GetLength() - 3; pos > 0; pos -= 3) {
         digits.Insert(pos, separator);
+    }
     return digits;
 }
 
@@ -26,13 +27,15 @@ CString GroupDigits(ULONGLONG number)
 CString FormatUnits(ULONGLONG whole, unsigned hundredths)
 {
     CString text = GroupDigits(whole);
-    if (whole >= 100)
+    if (whole >= 100) {
         return text;
+    }
     CString decimals;
-    if (whole >= 10)
+    if (whole >= 10) {
         decimals.Format(L"%u", hundredths / 10);
-    else
+    } else {
         decimals.Format(L"%02u", hundredths);
+    }
     return text + LocaleText(LOCALE_SDECIMAL, L".") + decimals;
 }
 
@@ -40,8 +43,9 @@ CString NormalExtension(CString extension)
 {
     extension.Trim();
     extension.TrimLeft(L'*');
-    if (!extension.IsEmpty() && extension[0] != L'.')
+    if (!extension.IsEmpty() && extension[0] != L'.') {
         extension.Insert(0, L'.');
+    }
     return extension.GetLength() > 1 ? extension : CString();
 }
 
@@ -66,8 +70,9 @@ CStringA WStrToUTF8(LPCWSTR text)
 CStringA WStrToUTF8(LPCWSTR text, int length)
 {
     CStringA utf8;
-    if (text == nullptr || length <= 0)
+    if (text == nullptr || length <= 0) {
         return utf8;
+    }
     int size = WideCharToMultiByte(CP_UTF8, 0, text, length, nullptr, 0, nullptr, nullptr);
     if (size > 0) {
         WideCharToMultiByte(CP_UTF8, 0, text, length, utf8.GetBuffer(size), size, nullptr, nullptr);
@@ -84,8 +89,9 @@ CString UTF8ToWStr(LPCSTR text)
 CString UTF8ToWStr(LPCSTR text, int length)
 {
     CString wide;
-    if (text == nullptr || length <= 0)
+    if (text == nullptr || length <= 0) {
         return wide;
+    }
     int size = MultiByteToWideChar(CP_UTF8, 0, text, length, nullptr, 0);
     if (size > 0) {
         MultiByteToWideChar(CP_UTF8, 0, text, length, wide.GetBuffer(size), size);
@@ -97,8 +103,9 @@ CString UTF8ToWStr(LPCSTR text, int length)
 CString QorFormatSize(ULONGLONG size)
 {
     static constexpr LPCWSTR units[] = {L" KB", L" MB", L" GB", L" TB", L" PB", L" EB"};
-    if (size < UNIT_STEP)
+    if (size < UNIT_STEP) {
         return GroupDigits(size) + (size == 1 ? L" byte" : L" bytes");
+    }
     size_t unit = 0;
     ULONGLONG divisor = UNIT_STEP;
     while (size / divisor >= UNIT_STEP) {
@@ -121,11 +128,13 @@ BOOL QorFindExtName(LPCWSTR filter, LPCWSTR path)
     CString name = LastComponent(path);
     for (int start = 0; start < list.GetLength();) {
         int end = list.Find(L';', start);
-        if (end < 0)
+        if (end < 0) {
             end = list.GetLength();
+        }
         CString extension = NormalExtension(list.Mid(start, end - start));
-        if (!extension.IsEmpty() && name.Right(extension.GetLength()).CompareNoCase(extension) == 0)
+        if (!extension.IsEmpty() && name.Right(extension.GetLength()).CompareNoCase(extension) == 0) {
             return TRUE;
+        }
         start = end + 1;
     }
     return FALSE;

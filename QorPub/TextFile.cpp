@@ -15,12 +15,15 @@ constexpr int BOM_SIZE_UTF16 = 2;
 /** Encoding that a byte-order mark names, or -1. */
 int EncodingOfMark(const BYTE* bytes, size_t size)
 {
-    if (size >= BOM_SIZE_UTF8 && bytes[0] == 0xEF && bytes[1] == 0xBB && bytes[2] == 0xBF)
+    if (size >= BOM_SIZE_UTF8 && bytes[0] == 0xEF && bytes[1] == 0xBB && bytes[2] == 0xBF) {
         return TEXTFILE_UTF8_BOM;
-    if (size >= BOM_SIZE_UTF16 && bytes[0] == 0xFF && bytes[1] == 0xFE)
+    }
+    if (size >= BOM_SIZE_UTF16 && bytes[0] == 0xFF && bytes[1] == 0xFE) {
         return TEXTFILE_UTF16LE;
-    if (size >= BOM_SIZE_UTF16 && bytes[0] == 0xFE && bytes[1] == 0xFF)
+    }
+    if (size >= BOM_SIZE_UTF16 && bytes[0] == 0xFE && bytes[1] == 0xFF) {
         return TEXTFILE_UTF16BE;
+    }
     return -1;
 }
 
@@ -29,8 +32,9 @@ CString DecodeUtf16(const BYTE* bytes, size_t size, bool lowFirst)
     CString text;
     auto length = static_cast<int>(size / sizeof(WCHAR));
     LPWSTR buffer = text.GetBuffer(length);
-    for (int i = 0; i < length; ++i, bytes += sizeof(WCHAR))
+    for (int i = 0; i < length; ++i, bytes += sizeof(WCHAR)) {
         buffer[i] = static_cast<WCHAR>(lowFirst ? bytes[0] | bytes[1] << 8 : bytes[0] << 8 | bytes[1]);
+    }
     text.ReleaseBuffer(length);
     return text;
 }
@@ -44,8 +48,9 @@ CString Decode(const BYTE* bytes, size_t size, int encoding)
         size -= mark;
         encoding = marked;
     }
-    if (encoding == TEXTFILE_UTF16LE || encoding == TEXTFILE_UTF16BE)
+    if (encoding == TEXTFILE_UTF16LE || encoding == TEXTFILE_UTF16BE) {
         return DecodeUtf16(bytes, size, encoding == TEXTFILE_UTF16LE);
+    }
     return UTF8ToWStr(reinterpret_cast<LPCSTR>(bytes), static_cast<int>(size));
 }
 
@@ -56,9 +61,10 @@ HANDLE OpenFor(LPCWSTR path, int mode)
         SetLastError(ERROR_INVALID_NAME);
         return INVALID_HANDLE_VALUE;
     }
-    if (mode == TEXTFILE_READ)
+    if (mode == TEXTFILE_READ) {
         return CreateFileW(name, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
                            FILE_ATTRIBUTE_NORMAL, nullptr);
+    }
     return CreateFileW(name, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, nullptr,
                        mode == TEXTFILE_CREATE ? CREATE_ALWAYS : OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
 }
@@ -68,8 +74,9 @@ template <class Work>
 BOOL Succeeds(Work work)
 {
     DWORD status = qor::GuardMemory(work);
-    if (status != ERROR_SUCCESS)
+    if (status != ERROR_SUCCESS) {
         SetLastError(status);
+    }
     return status == ERROR_SUCCESS;
 }
 
@@ -90,8 +97,9 @@ BOOL CTextFile::Open(LPCWSTR path, int mode, int encoding)
         return FALSE;
     }
     DWORD status = qor::GuardMemory([&] { return OpenFile(path, mode, encoding); });
-    if (status == ERROR_SUCCESS)
+    if (status == ERROR_SUCCESS) {
         return TRUE;
+    }
     Close();
     SetLastError(status);
     return FALSE;
@@ -100,11 +108,13 @@ BOOL CTextFile::Open(LPCWSTR path, int mode, int encoding)
 DWORD CTextFile::OpenFile(LPCWSTR path, int mode, int encoding)
 {
     m_file = OpenFor(path, mode);
-    if (m_file == INVALID_HANDLE_VALUE)
+    if (m_file == INVALID_HANDLE_VALUE) {
         return GetLastError();
+    }
     m_mode = mode;
-    if (mode == TEXTFILE_READ)
+    if (mode == TEXTFILE_READ) {
         return LoadText(encoding);
+    }
     return StartWriting(encoding) ? ERROR_SUCCESS : GetLastError();
 }
 
@@ -112,8 +122,9 @@ DWORD CTextFile::LoadText(int encoding)
 {
     std::vector<BYTE> bytes;
     DWORD status = qor::ReadToEnd(m_file, READ_LIMIT, bytes);
-    if (status != ERROR_SUCCESS)
+    if (status != ERROR_SUCCESS) {
         return status;
+    }
     m_text = Decode(bytes.data(), bytes.size(), encoding);
     m_pos = 0;
     return ERROR_SUCCESS;
@@ -127,10 +138,12 @@ BOOL CTextFile::StartWriting(int encoding)
         return FALSE;
     }
     LARGE_INTEGER size = {};
-    if (!SetFilePointerEx(m_file, {}, &size, FILE_END))
+    if (!SetFilePointerEx(m_file, {}, &size, FILE_END)) {
         return FALSE;
-    if (size.QuadPart != 0 || m_encoding == TEXTFILE_UTF8)
+    }
+    if (size.QuadPart != 0 || m_encoding == TEXTFILE_UTF8) {
         return TRUE;
+    }
     return m_encoding == TEXTFILE_UTF8_BOM ? WriteBytes("\xEF\xBB\xBF", BOM_SIZE_UTF8)
                                            : WriteBytes("\xFF\xFE", BOM_SIZE_UTF16);
 }
@@ -159,10 +172,12 @@ BOOL CTextFile::WriteString(LPCWSTR text)
         SetLastError(ERROR_INVALID_HANDLE);
         return FALSE;
     }
-    if (text == nullptr)
+    if (text == nullptr) {
         text = L"";
-    if (m_encoding == TEXTFILE_UTF16LE)
+    }
+    if (m_encoding == TEXTFILE_UTF16LE) {
         return WriteBytes(text, static_cast<DWORD>(wcslen(text) * sizeof(WCHAR)));
+    }
     return Succeeds([&] {
         CStringA utf8 = WStrToUTF8(text);
         return qor::WriteAll(m_file, utf8.GetString(), static_cast<DWORD>(utf8.GetLength()));
@@ -175,8 +190,9 @@ BOOL CTextFile::WriteStringV(LPCWSTR format, ...)
     va_list args;
     va_start(args, format);
     BOOL formatted = Succeeds([&] {
-        if (format != nullptr)
+        if (format != nullptr) {
             text.FormatV(format, args);
+        }
         return static_cast<DWORD>(ERROR_SUCCESS);
     });
     va_end(args);
@@ -197,8 +213,9 @@ BOOL CTextFile::ReadLine(CString& line)
     }
     LPCWSTR text = m_text.GetString();
     int end = m_pos;
-    while (end < length && text[end] != L'\r' && text[end] != L'\n')
+    while (end < length && text[end] != L'\r' && text[end] != L'\n') {
         ++end;
+    }
     return Succeeds([&] {
         line = CString(text + m_pos, end - m_pos);
         bool pair = end + 1 < length && text[end] == L'\r' && text[end + 1] == L'\n';
@@ -224,8 +241,9 @@ BOOL CTextFile::ReadAll(CString& text)
 BOOL CTextFile::Close()
 {
     BOOL closed = TRUE;
-    if (IsOpen())
+    if (IsOpen()) {
         closed = CloseHandle(m_file);
+    }
     m_file = INVALID_HANDLE_VALUE;
     m_mode = 0;
     m_encoding = TEXTFILE_UTF8;

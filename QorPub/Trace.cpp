@@ -33,8 +33,9 @@ class LogLock
     }
     ~LogLock()
     {
-        if (m_owned)
+        if (m_owned) {
             ReleaseMutex(m_mutex.Get());
+        }
     }
     LogLock(const LogLock&) = delete;
     LogLock& operator=(const LogLock&) = delete;
@@ -46,8 +47,9 @@ class LogLock
         constexpr ULONGLONG FNV_PRIME = 1099511628211ULL;
         path.MakeUpper();
         ULONGLONG hash = FNV_START;
-        for (int i = 0; i < path.GetLength(); ++i)
+        for (int i = 0; i < path.GetLength(); ++i) {
             hash = (hash ^ path[i]) * FNV_PRIME;
+        }
         CString name;
         name.Format(L"Local\\QorTrace-%016I64x", hash);
         return name;
@@ -89,16 +91,18 @@ void AppendToLog(const CString& folder, const CStringA& line)
     CString path = folder + L"\\qor.log";
     LogLock lock(path);
     qor::Handle file(OpenLog(path));
-    if (!file.IsValid() && QorCreateFolder(folder))
+    if (!file.IsValid() && QorCreateFolder(folder)) {
         file.Reset(OpenLog(path));
+    }
     LARGE_INTEGER size = {};
     if (file.IsValid() && GetFileSizeEx(file.Get(), &size) && size.QuadPart >= TRACE_LOG_LIMIT) {
         file.Close();
         MoveFileExW(path, path + L".1", MOVEFILE_REPLACE_EXISTING);
         file.Reset(OpenLog(path));
     }
-    if (file.IsValid())
+    if (file.IsValid()) {
         qor::WriteAll(file.Get(), line.GetString(), static_cast<DWORD>(line.GetLength()));
+    }
 }
 
 } // namespace
@@ -109,8 +113,9 @@ void QorTrace(DWORD level, DWORD code, LPCWSTR function, LPCWSTR source, int lin
     WCHAR text[TRACE_TEXT_LIMIT + 1] = {};
     va_list args;
     va_start(args, format);
-    if (format != nullptr)
+    if (format != nullptr) {
         _vsnwprintf(text, TRACE_TEXT_LIMIT, format, args);
+    }
     va_end(args);
     try {
         CString place;

@@ -3,9 +3,8 @@
 #include <QorPub/QorPub.h>
 #include <QorPub/ZipNames.h>
 
-#include <minizip/unzip.h>
-
 #include <minizip/iowin32.h>
+#include <minizip/unzip.h>
 
 namespace
 {
@@ -20,8 +19,9 @@ class Archive
     Archive() = default;
     ~Archive()
     {
-        if (m_file != nullptr)
+        if (m_file != nullptr) {
             unzClose(m_file);
+        }
     }
     Archive(const Archive&) = delete;
     Archive& operator=(const Archive&) = delete;
@@ -34,16 +34,19 @@ class Archive
     template <typename F>
     DWORD ForEach(F visit)
     {
-        if (m_file == nullptr)
+        if (m_file == nullptr) {
             return ERROR_SUCCESS;
+        }
         unz_global_info64 global = {};
-        if (unzGetGlobalInfo64(m_file, &global) != UNZ_OK)
+        if (unzGetGlobalInfo64(m_file, &global) != UNZ_OK) {
             return ERROR_INVALID_DATA;
+        }
         int found = global.number_entry != 0 ? unzGoToFirstFile(m_file) : UNZ_END_OF_LIST_OF_FILE;
         for (; found == UNZ_OK; found = unzGoToNextFile(m_file)) {
             DWORD status = visit();
-            if (status != ERROR_SUCCESS)
+            if (status != ERROR_SUCCESS) {
                 return status;
+            }
         }
         return found == UNZ_END_OF_LIST_OF_FILE ? ERROR_SUCCESS : ERROR_INVALID_DATA;
     }
@@ -68,15 +71,18 @@ bool IsEmptyArchive(HANDLE file)
 DWORD Archive::Open(LPCWSTR path)
 {
     CString name = qor::LongPath(path);
-    if (name.IsEmpty())
+    if (name.IsEmpty()) {
         return ERROR_INVALID_NAME;
+    }
     // The archive library does not tell a missing file from a damaged one.
     qor::Handle probe(
         CreateFileW(name, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (!probe.IsValid())
+    if (!probe.IsValid()) {
         return GetLastError();
-    if (IsEmptyArchive(probe.Get()))
+    }
+    if (IsEmptyArchive(probe.Get())) {
         return ERROR_SUCCESS;
+    }
     probe.Close();
     zlib_filefunc64_def files = {};
     fill_win32_filefunc64W(&files);
@@ -98,11 +104,13 @@ CString DecodeName(const std::vector<char>& bytes, bool utf8)
 DWORD Archive::Current(CString& name, uLong& dosTime) const
 {
     unz_file_info64 info = {};
-    if (unzGetCurrentFileInfo64(m_file, &info, nullptr, 0, nullptr, 0, nullptr, 0) != UNZ_OK)
+    if (unzGetCurrentFileInfo64(m_file, &info, nullptr, 0, nullptr, 0, nullptr, 0) != UNZ_OK) {
         return ERROR_INVALID_DATA;
+    }
     std::vector<char> bytes(info.size_filename + 1);
-    if (unzGetCurrentFileInfo64(m_file, &info, bytes.data(), info.size_filename, nullptr, 0, nullptr, 0) != UNZ_OK)
+    if (unzGetCurrentFileInfo64(m_file, &info, bytes.data(), info.size_filename, nullptr, 0, nullptr, 0) != UNZ_OK) {
         return ERROR_INVALID_DATA;
+    }
     name = DecodeName(bytes, (info.flag & FLAG_UTF8_NAME) != 0);
     dosTime = info.dosDate;
     return ERROR_SUCCESS;
@@ -137,8 +145,9 @@ DWORD Unpacker::CheckCurrent()
     CString name;
     uLong dosTime = 0;
     DWORD status = m_archive.Current(name, dosTime);
-    if (status == ERROR_SUCCESS && !qor::IsSafeEntryName(name.GetString()))
+    if (status == ERROR_SUCCESS && !qor::IsSafeEntryName(name.GetString())) {
         status = ERROR_BAD_PATHNAME;
+    }
     return status;
 }
 
@@ -147,13 +156,15 @@ DWORD Unpacker::UnpackCurrent()
     CString name;
     uLong dosTime = 0;
     DWORD status = m_archive.Current(name, dosTime);
-    if (status != ERROR_SUCCESS)
+    if (status != ERROR_SUCCESS) {
         return status;
+    }
     name.Replace(L'/', L'\\');
     CString path = m_folder + L"\\" + name;
     bool isFolder = path.Right(1) == L"\\";
-    if (!QorCreateFolder(path.Left(path.ReverseFind(L'\\'))))
+    if (!QorCreateFolder(path.Left(path.ReverseFind(L'\\')))) {
         return GetLastError();
+    }
     return isFolder ? static_cast<DWORD>(ERROR_SUCCESS) : UnpackFile(path, dosTime);
 }
 
@@ -161,33 +172,39 @@ void SetDosTime(HANDLE file, uLong dosTime)
 {
     FILETIME local = {};
     FILETIME time = {};
-    if (DosDateTimeToFileTime(HIWORD(dosTime), LOWORD(dosTime), &local) && LocalFileTimeToFileTime(&local, &time))
+    if (DosDateTimeToFileTime(HIWORD(dosTime), LOWORD(dosTime), &local) && LocalFileTimeToFileTime(&local, &time)) {
         SetFileTime(file, nullptr, nullptr, &time);
+    }
 }
 
 DWORD Unpacker::UnpackFile(const CString& path, uLong dosTime)
 {
-    if (!m_overwrite && GetFileAttributesW(path) != INVALID_FILE_ATTRIBUTES)
+    if (!m_overwrite && GetFileAttributesW(path) != INVALID_FILE_ATTRIBUTES) {
         return ERROR_FILE_EXISTS;
+    }
     qor::Handle file;
     CString part;
     // Not called after the entry, whose name may be as long as a name can be.
     DWORD status = qor::CreatePart(path.Left(path.ReverseFind(L'\\')) + L"\\~unpacked", file, part);
-    if (status != ERROR_SUCCESS)
+    if (status != ERROR_SUCCESS) {
         return status;
+    }
     status = WriteEntry(file.Get(), dosTime);
     file.Close();
-    if (status == ERROR_SUCCESS)
+    if (status == ERROR_SUCCESS) {
         status = MoveIntoPlace(part, path);
-    if (status != ERROR_SUCCESS)
+    }
+    if (status != ERROR_SUCCESS) {
         DeleteFileW(part);
+    }
     return status;
 }
 
 DWORD Unpacker::WriteEntry(HANDLE file, uLong dosTime)
 {
-    if (unzOpenCurrentFile(m_archive.Get()) != UNZ_OK)
+    if (unzOpenCurrentFile(m_archive.Get()) != UNZ_OK) {
         return ERROR_INVALID_DATA;
+    }
     DWORD status = WriteFileData(file);
     // Tells whether the checksum is right.
     int closed = unzCloseCurrentFile(m_archive.Get());
@@ -197,8 +214,9 @@ DWORD Unpacker::WriteEntry(HANDLE file, uLong dosTime)
 
 DWORD Unpacker::MoveIntoPlace(const CString& part, const CString& path) const
 {
-    if (MoveFileExW(part, path, m_overwrite ? MOVEFILE_REPLACE_EXISTING : 0))
+    if (MoveFileExW(part, path, m_overwrite ? MOVEFILE_REPLACE_EXISTING : 0)) {
         return ERROR_SUCCESS;
+    }
     DWORD error = GetLastError();
     return error == ERROR_ALREADY_EXISTS ? static_cast<DWORD>(ERROR_FILE_EXISTS) : error;
 }
@@ -207,11 +225,13 @@ DWORD Unpacker::WriteFileData(HANDLE file)
 {
     for (;;) {
         int got = unzReadCurrentFile(m_archive.Get(), m_block.data(), BLOCK_SIZE);
-        if (got <= 0)
+        if (got <= 0) {
             return got == 0 ? ERROR_SUCCESS : ERROR_INVALID_DATA;
+        }
         DWORD status = qor::WriteAll(file, m_block.data(), static_cast<DWORD>(got));
-        if (status != ERROR_SUCCESS)
+        if (status != ERROR_SUCCESS) {
             return status;
+        }
     }
 }
 
@@ -221,16 +241,20 @@ DWORD ExtractAll(LPCWSTR archive, LPCWSTR folder, bool overwrite)
     DWORD status = file.Open(archive);
     CString target = qor::LongPath(folder);
     target.TrimRight(L'\\');
-    if (status == ERROR_SUCCESS && target.IsEmpty())
+    if (status == ERROR_SUCCESS && target.IsEmpty()) {
         status = ERROR_INVALID_NAME;
-    if (status != ERROR_SUCCESS)
+    }
+    if (status != ERROR_SUCCESS) {
         return status;
+    }
     Unpacker unpacker(file, target, overwrite);
     status = file.ForEach([&] { return unpacker.CheckCurrent(); });
-    if (status != ERROR_SUCCESS)
+    if (status != ERROR_SUCCESS) {
         return status;
-    if (!QorCreateFolder(target))
+    }
+    if (!QorCreateFolder(target)) {
         return GetLastError();
+    }
     return file.ForEach([&] { return unpacker.UnpackCurrent(); });
 }
 
@@ -238,14 +262,16 @@ DWORD ListAll(LPCWSTR archive, CStringArray& names)
 {
     Archive file;
     DWORD status = file.Open(archive);
-    if (status != ERROR_SUCCESS)
+    if (status != ERROR_SUCCESS) {
         return status;
+    }
     return file.ForEach([&] {
         CString name;
         uLong dosTime = 0;
         DWORD found = file.Current(name, dosTime);
-        if (found == ERROR_SUCCESS)
+        if (found == ERROR_SUCCESS) {
             names.Add(name);
+        }
         return found;
     });
 }

@@ -41,22 +41,26 @@ qor::xml::Node ToNode(const CXmlElem& elem)
     qor::xml::Node node;
     node.name = Narrow(elem.GetName());
     node.text = Narrow(elem.GetData());
-    for (int i = 0; i < elem.GetAttrCount(); ++i)
+    for (int i = 0; i < elem.GetAttrCount(); ++i) {
         node.attrs.emplace_back(Narrow(elem.GetAttrName(i)), Narrow(elem.GetAttrValue(i)));
-    for (int i = 0; i < elem.GetChildCount(); ++i)
+    }
+    for (int i = 0; i < elem.GetChildCount(); ++i) {
         node.children.push_back(ToNode(*elem.GetChild(i)));
+    }
     return node;
 }
 
 void Fill(CXmlElem& elem, const qor::xml::Node& node)
 {
     elem.SetData(Widen(node.text).c_str());
-    for (const auto& [name, value] : node.attrs)
+    for (const auto& [name, value] : node.attrs) {
         elem.SetAttr(Widen(name).c_str(), Widen(value).c_str());
+    }
     for (const qor::xml::Node& child : node.children) {
         CXmlElem* added = elem.AddChild(Widen(child.name).c_str());
-        if (added != nullptr)
+        if (added != nullptr) {
             Fill(*added, child);
+        }
     }
 }
 
@@ -67,8 +71,9 @@ bool ParseInt(LPCWSTR text, int& value)
     errno = 0;
     long long number = wcstoll(text, &end, hex ? 16 : 10);
     bool whole = end != text && *end == 0 && errno == 0;
-    if (!whole || number < (std::numeric_limits<int>::min)() || number > (std::numeric_limits<int>::max)())
+    if (!whole || number < (std::numeric_limits<int>::min)() || number > (std::numeric_limits<int>::max)()) {
         return false;
+    }
     value = static_cast<int>(number);
     return true;
 }
@@ -92,10 +97,12 @@ LPCWSTR CXmlElem::GetData() const
 LPCWSTR CXmlElem::GetChildData(LPCWSTR key, int flag) const
 {
     const CXmlElem* child = FindChild(key);
-    if (child != nullptr)
+    if (child != nullptr) {
         return child->GetData();
-    if (flag != 1)
+    }
+    if (flag != 1) {
         return nullptr;
+    }
     std::lock_guard lock(g_missingLock);
     return m_missing.emplace(OrEmpty(key)).first->c_str();
 }
@@ -103,8 +110,9 @@ LPCWSTR CXmlElem::GetChildData(LPCWSTR key, int flag) const
 LPCWSTR CXmlElem::GetAttr(LPCWSTR name, LPCWSTR missing) const
 {
     for (const auto& [key, value] : m_attrs) {
-        if (key == OrEmpty(name))
+        if (key == OrEmpty(name)) {
             return value.c_str();
+        }
     }
     return missing;
 }
@@ -144,8 +152,9 @@ CXmlElem* CXmlElem::GetChild(int index) const
 CXmlElem* CXmlElem::FindChild(LPCWSTR name) const
 {
     for (const auto& child : m_children) {
-        if (child->m_name == OrEmpty(name))
+        if (child->m_name == OrEmpty(name)) {
             return child.get();
+        }
     }
     return nullptr;
 }
@@ -154,11 +163,13 @@ CXmlElem* CXmlElem::FindChildByAttr(LPCWSTR name, LPCWSTR attr, LPCWSTR value) c
 {
     std::wstring wanted = OrEmpty(name);
     for (const auto& child : m_children) {
-        if (!wanted.empty() && child->m_name != wanted)
+        if (!wanted.empty() && child->m_name != wanted) {
             continue;
+        }
         LPCWSTR found = child->GetAttr(attr);
-        if (found != nullptr && wcscmp(found, OrEmpty(value)) == 0)
+        if (found != nullptr && wcscmp(found, OrEmpty(value)) == 0) {
             return child.get();
+        }
     }
     return nullptr;
 }
@@ -175,8 +186,9 @@ void CXmlElem::SetData(LPCWSTR data)
 
 BOOL CXmlElem::SetAttr(LPCWSTR name, LPCWSTR value)
 {
-    if (!IsXmlName(name))
+    if (!IsXmlName(name)) {
         return FALSE;
+    }
     for (auto& [key, current] : m_attrs) {
         if (key == name) {
             current = OrEmpty(value);
@@ -190,16 +202,18 @@ BOOL CXmlElem::SetAttr(LPCWSTR name, LPCWSTR value)
 BOOL CXmlElem::RemoveAttr(LPCWSTR name)
 {
     auto found = std::find_if(m_attrs.begin(), m_attrs.end(), [&](auto& attr) { return attr.first == OrEmpty(name); });
-    if (found == m_attrs.end())
+    if (found == m_attrs.end()) {
         return FALSE;
+    }
     m_attrs.erase(found);
     return TRUE;
 }
 
 CXmlElem* CXmlElem::AddChild(LPCWSTR name, LPCWSTR data)
 {
-    if (!IsXmlName(name))
+    if (!IsXmlName(name)) {
         return nullptr;
+    }
     m_children.push_back(std::make_unique<CXmlElem>(name));
     CXmlElem* child = m_children.back().get();
     child->m_parent = this;
@@ -210,8 +224,9 @@ CXmlElem* CXmlElem::AddChild(LPCWSTR name, LPCWSTR data)
 BOOL CXmlElem::RemoveChild(CXmlElem* child)
 {
     auto found = std::find_if(m_children.begin(), m_children.end(), [&](auto& own) { return own.get() == child; });
-    if (found == m_children.end())
+    if (found == m_children.end()) {
         return FALSE;
+    }
     m_children.erase(found);
     return TRUE;
 }
@@ -233,8 +248,9 @@ DWORD CQorXml::Load(LPCWSTR path)
 DWORD CQorXml::LoadMemory(const void* data, size_t size)
 {
     Clear();
-    if (size > qor::xml::MAX_SIZE)
+    if (size > qor::xml::MAX_SIZE) {
         return ERROR_FILE_TOO_LARGE;
+    }
     return qor::GuardMemory([&]() -> DWORD {
         qor::xml::Node node;
         qor::xml::Error error;
@@ -252,8 +268,9 @@ DWORD CQorXml::LoadMemory(const void* data, size_t size)
 
 DWORD CQorXml::Save(LPCWSTR path) const
 {
-    if (m_root == nullptr)
+    if (m_root == nullptr) {
         return ERROR_INVALID_DATA;
+    }
     return qor::GuardMemory([&] {
         std::string text = qor::xml::Write(ToNode(*m_root));
         return qor::ReplaceWholeFile(path, text.data(), static_cast<DWORD>(text.size()));
@@ -262,8 +279,9 @@ DWORD CQorXml::Save(LPCWSTR path) const
 
 BOOL CQorXml::SaveMemory(CStringA& text) const
 {
-    if (m_root == nullptr)
+    if (m_root == nullptr) {
         return FALSE;
+    }
     DWORD status = qor::GuardMemory([&] {
         std::string written = qor::xml::Write(ToNode(*m_root));
         text = CStringA(written.c_str(), static_cast<int>(written.size()));
@@ -280,8 +298,9 @@ CXmlElem* CQorXml::GetRoot() const
 CXmlElem* CQorXml::CreateRoot(LPCWSTR name)
 {
     Clear();
-    if (!IsXmlName(name))
+    if (!IsXmlName(name)) {
         return nullptr;
+    }
     m_root = std::make_unique<CXmlElem>(name);
     return m_root.get();
 }

@@ -41,14 +41,16 @@ bool CQorZip::Job::Wait(DWORD timeout)
     ULONGLONG start = GetTickCount64();
     while (thread.IsValid()) {
         // Inside the window's own handling of a report the thread would wait for us, and we for it.
-        if (packer.IsReporting() && InSendMessage())
+        if (packer.IsReporting() && InSendMessage()) {
             ReplyMessage(0);
+        }
         ULONGLONG passed = GetTickCount64() - start;
         DWORD rest = timeout == INFINITE ? INFINITE : static_cast<DWORD>(passed < timeout ? timeout - passed : 0);
         HANDLE handle = thread.Get();
         DWORD what = MsgWaitForMultipleObjectsEx(1, &handle, rest, QS_SENDMESSAGE, MWMO_INPUTAVAILABLE);
-        if (what != WAIT_OBJECT_0 + 1)
+        if (what != WAIT_OBJECT_0 + 1) {
             return what == WAIT_OBJECT_0;
+        }
         MSG message;
         PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
     }
@@ -61,19 +63,24 @@ CQorZip::~CQorZip() = default;
 
 LONG CQorZip::Start(HWND notify, LPCWSTR source, LPCWSTR archive, DWORD flags)
 {
-    if (source == nullptr || *source == 0 || archive == nullptr || *archive == 0)
+    if (source == nullptr || *source == 0 || archive == nullptr || *archive == 0) {
         return E_INVALIDARG;
-    if (notify != nullptr && !IsWindow(notify))
+    }
+    if (notify != nullptr && !IsWindow(notify)) {
         return HRESULT_FROM_WIN32(ERROR_INVALID_WINDOW_HANDLE);
-    if (IsRunning())
+    }
+    if (IsRunning()) {
         return HRESULT_FROM_WIN32(ERROR_BUSY);
+    }
     DWORD status = qor::GuardMemory([&] {
         auto job = std::make_unique<Job>(notify, flags);
         DWORD opened = job->packer.Open(source, archive);
-        if (opened == ERROR_SUCCESS && !job->StartThread())
+        if (opened == ERROR_SUCCESS && !job->StartThread()) {
             opened = ERROR_NOT_ENOUGH_MEMORY;
-        if (opened == ERROR_SUCCESS)
+        }
+        if (opened == ERROR_SUCCESS) {
             m_job = std::move(job);
+        }
         return opened;
     });
     return HRESULT_FROM_WIN32(status);
@@ -81,8 +88,9 @@ LONG CQorZip::Start(HWND notify, LPCWSTR source, LPCWSTR archive, DWORD flags)
 
 void CQorZip::Cancel()
 {
-    if (m_job != nullptr)
+    if (m_job != nullptr) {
         m_job->packer.Cancel();
+    }
 }
 
 BOOL CQorZip::IsRunning() const

@@ -27,10 +27,11 @@ tm_zip ZipTime(const FILETIME& time)
     SYSTEMTIME parts = {};
     FileTimeToLocalFileTime(&time, &local);
     FileTimeToSystemTime(&local, &parts);
-    if (parts.wYear < FIRST_TIME.wYear)
+    if (parts.wYear < FIRST_TIME.wYear) {
         parts = FIRST_TIME;
-    else if (parts.wYear > LAST_TIME.wYear)
+    } else if (parts.wYear > LAST_TIME.wYear) {
         parts = LAST_TIME;
+    }
     tm_zip zip = {};
     zip.tm_sec = parts.wSecond;
     zip.tm_min = parts.wMinute;
@@ -53,8 +54,9 @@ CString SystemText(DWORD error)
 
 CString WithoutPrefix(const CString& path)
 {
-    if (path.Left(8) == L"\\\\?\\UNC\\")
+    if (path.Left(8) == L"\\\\?\\UNC\\") {
         return L"\\" + path.Mid(7);
+    }
     return path.Left(4) == L"\\\\?\\" ? path.Mid(4) : path;
 }
 
@@ -83,8 +85,9 @@ class FindHandle
     explicit FindHandle(HANDLE handle) : m_handle(handle) {}
     ~FindHandle()
     {
-        if (m_handle != INVALID_HANDLE_VALUE)
+        if (m_handle != INVALID_HANDLE_VALUE) {
             FindClose(m_handle);
+        }
     }
     FindHandle(const FindHandle&) = delete;
     FindHandle& operator=(const FindHandle&) = delete;
@@ -98,30 +101,37 @@ class FindHandle
 
 ZipPacker::~ZipPacker()
 {
-    if (m_zip != nullptr)
+    if (m_zip != nullptr) {
         CloseArchive(ERROR_CANCELLED);
+    }
 }
 
 DWORD ZipPacker::Open(LPCWSTR source, LPCWSTR archive)
 {
     m_source = LongPath(source);
     m_archive = LongPath(archive);
-    if (m_source.IsEmpty() || m_archive.IsEmpty())
+    if (m_source.IsEmpty() || m_archive.IsEmpty()) {
         return ERROR_INVALID_NAME;
-    if (m_source.Right(1) == L"\\" && m_source.Right(2) != L":\\")
+    }
+    if (m_source.Right(1) == L"\\" && m_source.Right(2) != L":\\") {
         m_source.Truncate(m_source.GetLength() - 1);
+    }
     DWORD attributes = GetFileAttributesW(m_source);
-    if (attributes == INVALID_FILE_ATTRIBUTES)
+    if (attributes == INVALID_FILE_ATTRIBUTES) {
         return GetLastError();
+    }
     m_isFile = (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
     m_root = m_isFile ? m_source.Left(m_source.ReverseFind(L'\\')) : m_source;
-    if (m_source.CompareNoCase(m_archive) == 0)
+    if (m_source.CompareNoCase(m_archive) == 0) {
         return ERROR_INVALID_PARAMETER;
+    }
     DWORD existing = GetFileAttributesW(m_archive);
-    if (existing != INVALID_FILE_ATTRIBUTES && (m_flags & QORZIP_OVERWRITE) == 0)
+    if (existing != INVALID_FILE_ATTRIBUTES && (m_flags & QORZIP_OVERWRITE) == 0) {
         return ERROR_FILE_EXISTS;
-    if (existing != INVALID_FILE_ATTRIBUTES && (existing & FILE_ATTRIBUTE_DIRECTORY) != 0)
+    }
+    if (existing != INVALID_FILE_ATTRIBUTES && (existing & FILE_ATTRIBUTE_DIRECTORY) != 0) {
         return ERROR_ACCESS_DENIED;
+    }
     return OpenPart();
 }
 
@@ -130,14 +140,16 @@ DWORD ZipPacker::OpenPart()
     // The archive library does not tell why a file could not be created, and takes one that is there already.
     Handle probe;
     DWORD status = CreatePart(m_archive, probe, m_part);
-    if (status != ERROR_SUCCESS)
+    if (status != ERROR_SUCCESS) {
         return status;
+    }
     probe.Close();
     zlib_filefunc64_def files = {};
     fill_win32_filefunc64W(&files);
     m_zip = zipOpen2_64(m_part.GetString(), APPEND_STATUS_CREATE, nullptr, &files);
-    if (m_zip != nullptr)
+    if (m_zip != nullptr) {
         return ERROR_SUCCESS;
+    }
     DeleteFileW(m_part);
     return ERROR_OPEN_FAILED;
 }
@@ -151,18 +163,21 @@ void ZipPacker::Run()
     status = CloseArchive(status);
     m_result = HRESULT_FROM_WIN32(status);
     m_finished = true;
-    if (m_notify != nullptr && !m_silent)
+    if (m_notify != nullptr && !m_silent) {
         PostMessageW(m_notify, WM_QORZIP, ZIPREPORT_FINISHED, m_result);
+    }
 }
 
 DWORD ZipPacker::Pack()
 {
     ReportProgress();
-    if (!ScanSource())
+    if (!ScanSource()) {
         return m_error;
+    }
     for (const ZipItem& item : m_items) {
-        if (IsCancelled() || !PackItem(item))
+        if (IsCancelled() || !PackItem(item)) {
             return m_error;
+        }
         ReportProgress();
     }
     m_done = m_total;
@@ -172,40 +187,47 @@ DWORD ZipPacker::Pack()
 DWORD ZipPacker::CloseArchive(DWORD status)
 {
     SetLastError(ERROR_SUCCESS);
-    if (zipClose(m_zip, nullptr) != ZIP_OK && status == ERROR_SUCCESS)
+    if (zipClose(m_zip, nullptr) != ZIP_OK && status == ERROR_SUCCESS) {
         status = LastErrorOr(ERROR_WRITE_FAULT);
+    }
     m_zip = nullptr;
     DWORD replace = (m_flags & QORZIP_OVERWRITE) != 0 ? MOVEFILE_REPLACE_EXISTING : 0;
-    if (status == ERROR_SUCCESS && !MoveFileExW(m_part, m_archive, replace))
+    if (status == ERROR_SUCCESS && !MoveFileExW(m_part, m_archive, replace)) {
         status = GetLastError();
-    if (status != ERROR_SUCCESS)
+    }
+    if (status != ERROR_SUCCESS) {
         DeleteFileW(m_part);
-    else
+    } else {
         ReportProgress();
+    }
     return status;
 }
 
 bool ZipPacker::ScanSource()
 {
     if (!m_isFile) {
-        if (!ScanFolder(CString()))
+        if (!ScanFolder(CString())) {
             return false;
+        }
         // Folders found on the way are appended behind, and so get their turn too.
         for (size_t i = 0; (m_flags & QORZIP_SUBFOLDERS) != 0 && i < m_items.size(); ++i) {
-            if (m_items[i].isFolder && !ScanFolder(CString(m_items[i].name)))
+            if (m_items[i].isFolder && !ScanFolder(CString(m_items[i].name))) {
                 return false;
+            }
         }
         auto less = [](const ZipItem& a, const ZipItem& b) { return a.name.CompareNoCase(b.name) < 0; };
         std::sort(m_items.begin(), m_items.end(), less);
     } else {
         WIN32_FIND_DATAW data = {};
         FindHandle find(FindFirstFileW(m_source, &data));
-        if (find.Get() == INVALID_HANDLE_VALUE)
+        if (find.Get() == INVALID_HANDLE_VALUE) {
             return Fail(GetLastError());
+        }
         m_items.push_back(MakeItem(m_source.Mid(m_source.ReverseFind(L'\\') + 1), data));
     }
-    for (const ZipItem& item : m_items)
+    for (const ZipItem& item : m_items) {
         m_total += item.size;
+    }
     return true;
 }
 
@@ -213,8 +235,9 @@ bool ZipPacker::ScanFolder(const CString& folder)
 {
     std::vector<ZipItem> found;
     ZipStep step = ZipStep::Retry;
-    while (step == ZipStep::Retry)
+    while (step == ZipStep::Retry) {
         step = IsCancelled() ? ZipStep::Stop : TryScanFolder(folder, found);
+    }
     m_items.insert(m_items.end(), found.begin(), found.end());
     return step == ZipStep::Done;
 }
@@ -225,20 +248,23 @@ ZipStep ZipPacker::TryScanFolder(const CString& folder, std::vector<ZipItem>& fo
     WIN32_FIND_DATAW data = {};
     CString path = PathOf(folder);
     FindHandle find(FindFirstFileW(path + (path.Right(1) == L"\\" ? L"*" : L"\\*"), &data));
-    if (find.Get() == INVALID_HANDLE_VALUE)
+    if (find.Get() == INVALID_HANDLE_VALUE) {
         return GetLastError() == ERROR_FILE_NOT_FOUND ? ZipStep::Done : Ask(path, GetLastError());
+    }
     do {
         CString name = folder.IsEmpty() ? CString(data.cFileName) : folder + L"\\" + data.cFileName;
-        if (!IsDots(data.cFileName) && TakesItem(PathOf(name), data))
+        if (!IsDots(data.cFileName) && TakesItem(PathOf(name), data)) {
             found.push_back(MakeItem(name, data));
+        }
     } while (FindNextFileW(find.Get(), &data));
     return GetLastError() == ERROR_NO_MORE_FILES ? ZipStep::Done : Ask(path, GetLastError());
 }
 
 bool ZipPacker::TakesItem(const CString& path, const WIN32_FIND_DATAW& data) const
 {
-    if ((data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
+    if ((data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
         return (m_flags & QORZIP_SUBFOLDERS) != 0 && (data.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0;
+    }
     return path.CompareNoCase(m_archive) != 0 && path.CompareNoCase(m_part) != 0;
 }
 
@@ -260,10 +286,12 @@ bool ZipPacker::PackFile(const ZipItem& item)
     Handle file;
     DWORD got = 0;
     ZipStep step = ZipStep::Retry;
-    while (step == ZipStep::Retry)
+    while (step == ZipStep::Retry) {
         step = IsCancelled() ? ZipStep::Stop : TryOpen(path, file, got);
-    if (step == ZipStep::Stop)
+    }
+    if (step == ZipStep::Stop) {
         return false;
+    }
     bool packed = !file.IsValid() || (BeginEntry(item) && CopyData(path, file.Get(), got) && EndEntry());
     m_done = planned;
     return packed;
@@ -274,8 +302,9 @@ ZipStep ZipPacker::TryOpen(const CString& path, Handle& file, DWORD& got)
 {
     file.Reset(CreateFileW(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                            OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-    if (file.IsValid() && ReadFile(file.Get(), m_block.data(), BLOCK_SIZE, &got, nullptr))
+    if (file.IsValid() && ReadFile(file.Get(), m_block.data(), BLOCK_SIZE, &got, nullptr)) {
         return ZipStep::Done;
+    }
     DWORD error = GetLastError();
     file.Close();
     return Ask(path, error);
@@ -285,15 +314,18 @@ ZipStep ZipPacker::TryOpen(const CString& path, Handle& file, DWORD& got)
 bool ZipPacker::CopyData(const CString& path, HANDLE file, DWORD got)
 {
     while (got != 0) {
-        if (IsCancelled())
+        if (IsCancelled()) {
             return false;
+        }
         SetLastError(ERROR_SUCCESS);
-        if (zipWriteInFileInZip(m_zip, m_block.data(), got) != ZIP_OK)
+        if (zipWriteInFileInZip(m_zip, m_block.data(), got) != ZIP_OK) {
             return Fail(LastErrorOr(ERROR_WRITE_FAULT));
+        }
         m_done += got;
         ReportProgress();
-        if (!ReadBlock(path, file, got))
+        if (!ReadBlock(path, file, got)) {
             return false;
+        }
     }
     return true;
 }
@@ -301,14 +333,17 @@ bool ZipPacker::CopyData(const CString& path, HANDLE file, DWORD got)
 bool ZipPacker::ReadBlock(const CString& path, HANDLE file, DWORD& got)
 {
     for (;;) {
-        if (ReadFile(file, m_block.data(), BLOCK_SIZE, &got, nullptr))
+        if (ReadFile(file, m_block.data(), BLOCK_SIZE, &got, nullptr)) {
             return true;
+        }
         got = 0;
         ZipStep step = Ask(path, GetLastError());
-        if (step != ZipStep::Retry)
+        if (step != ZipStep::Retry) {
             return step == ZipStep::Done;
-        if (IsCancelled())
+        }
+        if (IsCancelled()) {
             return false;
+        }
     }
 }
 
@@ -336,8 +371,9 @@ bool ZipPacker::EndEntry()
 
 LRESULT ZipPacker::Report(WPARAM kind, LPARAM value)
 {
-    if (m_notify == nullptr)
+    if (m_notify == nullptr) {
         return 0;
+    }
     m_reporting = true;
     LRESULT answer = m_silent ? 0 : SendMessageW(m_notify, WM_QORZIP, kind, value);
     m_reporting = false;
@@ -347,10 +383,12 @@ LRESULT ZipPacker::Report(WPARAM kind, LPARAM value)
 void ZipPacker::ReportProgress()
 {
     int percent = 100;
-    if (m_zip != nullptr)
+    if (m_zip != nullptr) {
         percent = m_total != 0 ? static_cast<int>((std::min)(m_done * 100.0 / m_total, 99.0)) : 0;
-    if (percent <= m_percent)
+    }
+    if (percent <= m_percent) {
         return;
+    }
     m_percent = percent;
     Report(ZIPREPORT_PERCENT, percent);
 }
@@ -363,10 +401,12 @@ ZipStep ZipPacker::Ask(const CString& path, DWORD error)
     }
     CString question = WithoutPrefix(path) + L"\n" + SystemText(error);
     LRESULT answer = Report(ZIPREPORT_QUESTION, reinterpret_cast<LPARAM>(question.GetString()));
-    if (answer == IDRETRY)
+    if (answer == IDRETRY) {
         return ZipStep::Retry;
-    if (answer == IDIGNORE || answer == ANSWER_TIMED_OUT)
+    }
+    if (answer == IDIGNORE || answer == ANSWER_TIMED_OUT) {
         return ZipStep::Done;
+    }
     Fail(ERROR_CANCELLED);
     return ZipStep::Stop;
 }
@@ -379,15 +419,17 @@ bool ZipPacker::Fail(DWORD error)
 
 bool ZipPacker::IsCancelled()
 {
-    if (m_cancel)
+    if (m_cancel) {
         m_error = ERROR_CANCELLED;
+    }
     return m_cancel;
 }
 
 CString ZipPacker::PathOf(const CString& name) const
 {
-    if (name.IsEmpty())
+    if (name.IsEmpty()) {
         return m_root;
+    }
     return m_root + (m_root.Right(1) == L"\\" ? L"" : L"\\") + name;
 }
 

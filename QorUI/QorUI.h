@@ -5,18 +5,18 @@
  */
 
 #include <QorUI/app/draw/Draw.h>
-#include <QorUI/app/module/Messages.h>
+#include <QorUI/app/draw/MemDC.h>
 #include <QorUI/app/draw/Picture.h>
 #include <QorUI/app/draw/QorBmp.h>
-#include <QorUI/app/module/QorUIDef.h>
 #include <QorUI/app/look/Shared.h>
 #include <QorUI/app/look/SysLook.h>
+#include <QorUI/app/module/Messages.h>
+#include <QorUI/app/module/QorUIDef.h>
 #include <QorUI/buttons/BmpBtn.h>
 #include <QorUI/buttons/CheckRadio.h>
 #include <QorUI/buttons/CmdBtn.h>
 #include <QorUI/buttons/Links.h>
 #include <QorUI/buttons/QorBtn.h>
-#include <QorUI/app/draw/MemDC.h>
 #include <QorUI/datetime/QorCalendar.h>
 #include <QorUI/datetime/QorClock.h>
 #include <QorUI/dialogs/CtrlLayout.h>

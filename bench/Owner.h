@@ -1,7 +1,8 @@
 #pragma once
 
-#include <benchmark/benchmark.h>
 #include <QorUI/QorUI.h>
+
+#include <benchmark/benchmark.h>
 
 /** A visible window that carries what is measured. */
 class COwner : public CWnd

@@ -2,8 +2,8 @@
 
 #include "ButtonDraw.h"
 
-#include <QorUI/app/draw/Draw.h>
 #include <QorUI/app/base/HotTrack.h>
+#include <QorUI/app/draw/Draw.h>
 #include <QorUI/app/look/Palette.h>
 #include <QorUI/app/look/SysLook.h>
 

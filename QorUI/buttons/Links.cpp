@@ -1,9 +1,9 @@
 #include "Links.h"
 
+#include <QorUI/app/base/OwnStatic.h>
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/look/Palette.h>
 #include <QorUI/app/module/Messages.h>
-#include <QorUI/app/base/OwnStatic.h>
 
 #include <shellapi.h>
 

@@ -2,12 +2,12 @@
 
 #include "CalendarLayout.h"
 #include "CalendarNames.h"
-#include <QorUI/app/draw/MemDC.h>
 #include "SelMonthWnd.h"
 
-#include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/base/Invalidate.h>
 #include <QorUI/app/base/NotifyParent.h>
+#include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/draw/MemDC.h>
 #include <QorUI/app/look/SysLook.h>
 
 #include <new>

@@ -2,10 +2,10 @@
 
 #include "ClockHands.h"
 
-#include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/base/Invalidate.h>
 #include <QorUI/app/base/NotifyParent.h>
 #include <QorUI/app/base/WndClass.h>
+#include <QorUI/app/draw/GdiSavers.h>
 
 BEGIN_MESSAGE_MAP(CQorClock, CWnd)
     ON_WM_TIMER()

@@ -1,10 +1,10 @@
 #include "SelMonthWnd.h"
 
-#include <QorUI/app/draw/MemDC.h>
 #include "QorCalendar.h"
 
-#include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/base/WndClass.h>
+#include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/draw/MemDC.h>
 
 #include <windowsx.h>
 

@@ -1,8 +1,7 @@
 #include "QorBaseDlg.h"
 
-#include <QorUI/app/module/QorUIApp.h>
-
 #include <QorApi/QorApi.h>
+#include <QorUI/app/module/QorUIApp.h>
 
 BEGIN_MESSAGE_MAP(CQorBaseDlg, CDialog)
     ON_WM_CTLCOLOR()

@@ -1,11 +1,11 @@
 #include "QorCmnDlg.h"
 
 #include "MsgBoxDlg.h"
+
+#include <QorApi/QorApi.h>
 #include <QorUI/app/module/LibText.h>
 #include <QorUI/app/module/ResourceSwitch.h>
 #include <QorUI/res/resource.h>
-
-#include <QorApi/QorApi.h>
 
 namespace
 {

@@ -3,9 +3,10 @@
 #include "CtrlLayout.h"
 #include "DialogFrame.h"
 #include "WindowShape.h"
+
 #include <QorUI/app/draw/GdiSavers.h>
-#include <QorUI/app/module/LibText.h>
 #include <QorUI/app/look/Palette.h>
+#include <QorUI/app/module/LibText.h>
 #include <QorUI/app/module/QorUIApp.h>
 #include <QorUI/app/module/SystemVersion.h>
 #include <QorUI/res/resource.h>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "QorBaseDlg.h"
+
 #include <QorUI/buttons/BmpBtn.h>
 #include <QorUI/buttons/QorBtn.h>
 

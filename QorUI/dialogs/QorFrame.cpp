@@ -1,12 +1,13 @@
 #include "QorFrame.h"
 
 #include "WindowShape.h"
+
+#include <QorUI/app/base/WndClass.h>
 #include <QorUI/app/draw/GdiPlusFlat.h>
 #include <QorUI/app/draw/GdiSavers.h>
-#include <QorUI/app/look/Palette.h>
 #include <QorUI/app/draw/Picture.h>
+#include <QorUI/app/look/Palette.h>
 #include <QorUI/app/module/QorUIApp.h>
-#include <QorUI/app/base/WndClass.h>
 #include <QorUI/res/resource.h>
 
 namespace

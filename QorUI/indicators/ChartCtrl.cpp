@@ -1,8 +1,8 @@
 #include "ChartCtrl.h"
 
-#include <QorUI/app/draw/GdiPlusFlat.h>
 #include <QorUI/app/base/Invalidate.h>
 #include <QorUI/app/base/OwnStatic.h>
+#include <QorUI/app/draw/GdiPlusFlat.h>
 
 #include <algorithm>
 #include <array>

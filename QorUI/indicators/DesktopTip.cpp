@@ -1,8 +1,8 @@
 #include "DesktopTip.h"
 
+#include <QorUI/app/base/WndClass.h>
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/module/SystemVersion.h>
-#include <QorUI/app/base/WndClass.h>
 
 BEGIN_MESSAGE_MAP(CDesktopTip, CWnd)
     ON_WM_PAINT()

@@ -1,9 +1,9 @@
 #include "QorInfo.h"
 
-#include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/base/Invalidate.h>
-#include <QorUI/app/look/Palette.h>
 #include <QorUI/app/base/OwnStatic.h>
+#include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/look/Palette.h>
 
 #include <algorithm>
 

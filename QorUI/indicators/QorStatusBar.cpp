@@ -1,7 +1,7 @@
 #include "QorStatusBar.h"
 
-#include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/base/Invalidate.h>
+#include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/look/Palette.h>
 
 BEGIN_MESSAGE_MAP(CQorStatusBar, CWnd)

@@ -2,8 +2,8 @@
 
 #include "HdrLayout.h"
 
-#include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/base/Invalidate.h>
+#include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/draw/Triangle.h>
 
 #include <array>

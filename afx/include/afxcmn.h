@@ -1,8 +1,7 @@
 #pragma once
 
-#include <afxwin.h>
-
 #include <afx/cmnctrl.h>
 #include <afx/draglist.h>
 #include <afx/imagelist.h>
 #include <afx/richedit.h>
+#include <afxwin.h>

@@ -3,6 +3,5 @@
 /** @file
  *  The place of the automation types. */
 
-#include <afxwin.h>
-
 #include <afx/oledate.h>
+#include <afxwin.h>

@@ -3,6 +3,5 @@
 /** @file
  *  Dialog templates in memory and the framework's own messages. */
 
-#include <afxwin.h>
-
 #include <afx/dlgtemplate.h>
+#include <afxwin.h>

@@ -14,8 +14,9 @@ struct OwnModuleState
 
     void Leave()
     {
-        if (AfxGetModuleState() == &state)
+        if (AfxGetModuleState() == &state) {
             AfxSetModuleState(pPrevious);
+        }
     }
     ~OwnModuleState() { Leave(); }
 };

@@ -8,11 +8,13 @@ class CSampleFrame : public CQorFrame
   protected:
     afx_msg int OnCreate(LPCREATESTRUCT create)
     {
-        if (CQorFrame::OnCreate(create) != 0)
+        if (CQorFrame::OnCreate(create) != 0) {
             return -1;
+        }
         const DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW;
-        if (!m_ask.Create(L"&Ask", style, CRect(20, 100, 120, 121), this, kAskId))
+        if (!m_ask.Create(L"&Ask", style, CRect(20, 100, 120, 121), this, kAskId)) {
             return -1;
+        }
         return 0;
     }
 
@@ -34,8 +36,9 @@ class CSampleApp : public CWinApp
   public:
     BOOL InitInstance() override
     {
-        if (!m_frame.CreateEx(0, nullptr, L"Sample", 0, 200, 200, 480, 320, nullptr, nullptr))
+        if (!m_frame.CreateEx(0, nullptr, L"Sample", 0, 200, 200, 480, 320, nullptr, nullptr)) {
             return FALSE;
+        }
         m_pMainWnd = &m_frame; // the program ends when this window is closed
         m_frame.ShowWindow(SW_SHOW);
         return TRUE;

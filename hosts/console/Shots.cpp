@@ -2,8 +2,9 @@
 
 #include "ConsoleOutput.h"
 
-#include <gdiplus.h>
 #include <shlobj.h>
+
+#include <gdiplus.h>
 
 namespace
 {

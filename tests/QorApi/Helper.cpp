@@ -13,8 +13,9 @@ int AddSnapshots(int count, LPCWSTR name)
     for (int i = 0; i < count; ++i) {
         _QORVEX_SNAP snapshot = {};
         wcsncpy(snapshot.szName, name, std::size(snapshot.szName) - 1);
-        if (const DWORD status = QorAddSnapshot(snapshot))
+        if (const DWORD status = QorAddSnapshot(snapshot)) {
             return static_cast<int>(status);
+        }
     }
     return 0;
 }
@@ -26,12 +27,15 @@ int WriteWithoutEnd(LPCWSTR startedFile)
         CString text;
         text.Format(L"round %d", round);
         CStringArray texts;
-        for (int i = 0; i < LIST_SIZE; ++i)
+        for (int i = 0; i < LIST_SIZE; ++i) {
             texts.Add(text);
-        if (const DWORD status = QorSetMultiString(QORINFO_SYNC_REG, texts, 1))
+        }
+        if (const DWORD status = QorSetMultiString(QORINFO_SYNC_REG, texts, 1)) {
             return static_cast<int>(status);
-        if (round == 0)
+        }
+        if (round == 0) {
             CloseHandle(CreateFileW(startedFile, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+        }
     }
 }
 
@@ -51,8 +55,9 @@ int FailToLogOn(int count, LPCWSTR name)
 {
     for (int i = 0; i < count; ++i) {
         const DWORD status = QorLogonUser(name, L"certainly wrong");
-        if (status != ERROR_LOGON_FAILURE)
+        if (status != ERROR_LOGON_FAILURE) {
             return static_cast<int>(status ? status : ERROR_INVALID_DATA);
+        }
     }
     return 0;
 }
@@ -64,22 +69,26 @@ int FailToLogOn(int count, LPCWSTR name)
 int wmain(int argc, wchar_t** argv)
 {
     const std::wstring command = argc > 1 ? argv[1] : L"";
-    if (command == L"rights")
+    if (command == L"rights") {
         return QorHasUserRight(0) ? 1 : 0;
+    }
     DWORD status = QorOpen();
-    if (status == 0)
+    if (status == 0) {
         status = QorLogonUser(QORUSER_BUILTIN_NAME, nullptr);
-    if (status != 0)
+    }
+    if (status != 0) {
         return static_cast<int>(status);
+    }
     int result = ERROR_INVALID_PARAMETER;
-    if (command == L"snapshots" && argc == 4)
+    if (command == L"snapshots" && argc == 4) {
         result = AddSnapshots(_wtoi(argv[2]), argv[3]);
-    else if (command == L"renew" && argc == 3)
+    } else if (command == L"renew" && argc == 3) {
         result = RenewUser(static_cast<WORD>(_wtoi(argv[2])));
-    else if (command == L"fail" && argc == 4)
+    } else if (command == L"fail" && argc == 4) {
         result = FailToLogOn(_wtoi(argv[2]), argv[3]);
-    else if (command == L"write" && argc == 3)
+    } else if (command == L"write" && argc == 3) {
         result = WriteWithoutEnd(argv[2]);
+    }
     QorClose();
     return result;
 }

@@ -53,20 +53,23 @@ TEST(KeyName, RepeatedBackslashesBecomeOne)
 TEST(KeyName, UnknownRootsAreRefused)
 {
     for (LPCWSTR entry : {L"", L"Software\\Qor\\", L"HKXX\\Software\\", L"HKCU", L"HKCUSoftware\\",
-                          L"\\HKCU\\Software\\", L"HKEY_PERFORMANCE_DATA\\A\\"})
+                          L"\\HKCU\\Software\\", L"HKEY_PERFORMANCE_DATA\\A\\"}) {
         EXPECT_EQ(Refusal(entry), static_cast<DWORD>(ERROR_INVALID_PARAMETER)) << entry;
+    }
 }
 
 TEST(KeyName, WholeRootsAreRefused)
 {
-    for (LPCWSTR entry : {L"HKCU\\", L"HKLM\\", L"HKU\\", L"HKCC\\", L"HKCR\\", L"HKCU\\\\\\"})
+    for (LPCWSTR entry : {L"HKCU\\", L"HKLM\\", L"HKU\\", L"HKCC\\", L"HKCR\\", L"HKCU\\\\\\"}) {
         EXPECT_EQ(Refusal(entry), static_cast<DWORD>(ERROR_NOT_SUPPORTED)) << entry;
+    }
 }
 
 TEST(KeyName, DirectChildrenOfMachineAndUsersAreRefused)
 {
-    for (LPCWSTR entry : {L"HKLM\\SOFTWARE\\", L"HKLM\\Value", L"HKU\\.DEFAULT\\", L"HKU\\\\.DEFAULT\\"})
+    for (LPCWSTR entry : {L"HKLM\\SOFTWARE\\", L"HKLM\\Value", L"HKU\\.DEFAULT\\", L"HKU\\\\.DEFAULT\\"}) {
         EXPECT_EQ(Refusal(entry), static_cast<DWORD>(ERROR_NOT_SUPPORTED)) << entry;
+    }
 }
 
 TEST(KeyName, TooLongNamesAreRefused)

@@ -99,8 +99,9 @@ TEST_F(LanguageTest, UnknownLanguageIsRefusedAndChangesNothing)
 {
     Write(L"en", "<Strings><STR_A>en</STR_A></Strings>");
     Write(L"de", "<Strings><STR_A>de</STR_A></Strings>");
-    for (LPCWSTR name : {L"fr", L"fr-FR", L"..", L"..\\en", L"de/AT", L"d e"})
+    for (LPCWSTR name : {L"fr", L"fr-FR", L"..", L"..\\en", L"de/AT", L"d e"}) {
         EXPECT_FALSE(QorSetLanguage(name)) << name;
+    }
     EXPECT_EQ(Text(L"STR_A"), L"de");
 }
 
@@ -213,8 +214,9 @@ TEST(SameFormat, PlaceholdersCountInNumberOrderAndKind)
     EXPECT_TRUE(QorIsSameFormat(L"%s: 0x%04X", L"%s %x"));
     EXPECT_TRUE(QorIsSameFormat(L"100 %%", L"none"));
     EXPECT_TRUE(QorIsSameFormat(nullptr, L""));
-    for (LPCWSTR text : {L"", L"%s", L"%s %s", L"%x %s", L"%s %x %x", L"%s %I64x", L"%s %x %"})
+    for (LPCWSTR text : {L"", L"%s", L"%s %s", L"%x %s", L"%s %x %x", L"%s %I64x", L"%s %x %"}) {
         EXPECT_FALSE(QorIsSameFormat(text, L"%s %x")) << ts::ToUtf8(text);
+    }
     EXPECT_FALSE(QorIsSameFormat(L"%n", L"%n"));
 }
 
@@ -313,8 +315,9 @@ TEST_F(LanguageTest, NullAndDestroyedWindowsStillGiveTheElement)
         ts::HostWindow host;
         destroyed = host.Hwnd();
     }
-    for (const HWND window : {static_cast<HWND>(nullptr), destroyed})
+    for (const HWND window : {static_cast<HWND>(nullptr), destroyed}) {
         EXPECT_STREQ(QorSetDlgLang(window, MODULE, L"IDD_DLG_ONE", 1)->GetChildData(L"Text", 1), L"Title");
+    }
 }
 
 TEST_F(LanguageTest, ElementsThatOnlyLookLikeControlsAreNoControls)

@@ -20,8 +20,9 @@ class LogonTest : public StoreTest
 
     static void FailTimes(int count, LPCWSTR name)
     {
-        for (int i = 0; i < count; ++i)
+        for (int i = 0; i < count; ++i) {
             EXPECT_EQ(QorLogonUser(name, L"wrong"), FAILED_LOGON);
+        }
     }
 };
 
@@ -37,8 +38,9 @@ TEST_F(LogonTest, BuiltinAccountHasNoPasswordAtFirst)
 TEST_F(LogonTest, PasswordCountsWithLetterCaseAndBlanks)
 {
     Add(L"Anna", L"Secret \u4E2D");
-    for (LPCWSTR password : {L"secret \u4E2D", L"Secret \u4E2D ", L"Secret ", L"", L"Secret \u4E2E"})
+    for (LPCWSTR password : {L"secret \u4E2D", L"Secret \u4E2D ", L"Secret ", L"", L"Secret \u4E2E"}) {
         EXPECT_EQ(QorLogonUser(L"Anna", password), FAILED_LOGON) << password;
+    }
     EXPECT_EQ(QorLogonUser(L"Anna", L"Secret \u4E2D"), 0U);
 }
 

@@ -236,8 +236,9 @@ TEST_F(RightsTest, OwnPasswordNeedsThePasswordRight)
 TEST_F(RightsTest, OfTheBuiltinAccountOnlyThePasswordChanges)
 {
     LogonBuiltin();
-    for (const WORD mask : {QORUSER_NAME, QORUSER_DESC, QORUSER_RIGHTS, QORUSER_FLAGS, QORUSER_NEW})
+    for (const WORD mask : {QORUSER_NAME, QORUSER_DESC, QORUSER_RIGHTS, QORUSER_FLAGS, QORUSER_NEW}) {
         EXPECT_EQ(Set(0, mask), DENIED) << mask;
+    }
     EXPECT_EQ(Set(0, QORUSER_PASSWORD), 0U);
     EXPECT_EQ(QorDeleteUser(0), DENIED);
     EXPECT_TRUE(QorHasUserRight(QORRIGHT_ALL));

@@ -20,8 +20,9 @@ class SettingsTest : public StoreTest
     static DWORD WriteTexts(std::initializer_list<LPCWSTR> texts, int flag, UINT id = QORINFO_SYNC_REG)
     {
         CStringArray array;
-        for (LPCWSTR text : texts)
+        for (LPCWSTR text : texts) {
             array.Add(text);
+        }
         return QorSetMultiString(id, array, flag);
     }
 
@@ -32,8 +33,9 @@ class SettingsTest : public StoreTest
         EXPECT_EQ(QorGetMultiString(id, array), 0U);
         std::vector<std::wstring> texts;
         texts.reserve(array.GetSize());
-        for (int i = 0; i < array.GetSize(); ++i)
+        for (int i = 0; i < array.GetSize(); ++i) {
             texts.emplace_back(array.GetAt(i));
+        }
         return texts;
     }
 

@@ -4,6 +4,7 @@
 #include <tests/support/Support.h>
 
 #include <gtest/gtest.h>
+
 #include <vector>
 
 /** A test with a fresh store of its own, nobody logged on, and log-on delays that are noted and not waited for. */

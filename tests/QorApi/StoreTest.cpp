@@ -453,8 +453,9 @@ TEST_F(StoreFileTest, TwoProcessesShareTheStore)
             results[i] = ts::RunProcess(HelperCommand(L"snapshots " + std::to_wstring(each) + L" " + name));
         });
     }
-    for (std::thread& thread : threads)
+    for (std::thread& thread : threads) {
         thread.join();
+    }
     EXPECT_EQ(results[0].status, 0U) << results[0].output;
     EXPECT_EQ(results[1].status, 0U) << results[1].output;
     const std::vector<_QORVEX_SNAP> list = ListAll<_QORVEX_SNAP>(QORLIST_SNAPSHOTS);
@@ -473,13 +474,15 @@ TEST_F(StoreFileTest, StoreMayBeMadeByManyAtTheSameTime)
         const ts::EnvironmentVariable store(L"QOR_STORE", File(L"made" + std::to_wstring(round) + L".db").c_str());
         std::vector<std::thread> threads;
         threads.reserve(8);
-        for (int i = 0; i < 8; ++i)
+        for (int i = 0; i < 8; ++i) {
             threads.emplace_back([] {
                 EXPECT_EQ(QorOpen(), 0U);
                 QorClose();
             });
-        for (std::thread& thread : threads)
+        }
+        for (std::thread& thread : threads) {
             thread.join();
+        }
         EXPECT_EQ(ListAll<_QORVEX_USER>(QORLIST_USERS).size(), 1U);
     }
 }
@@ -512,8 +515,9 @@ TEST_F(StoreFileTest, StoreSurvivesAProcessThatIsKilledWhileItWrites)
         CStringArray texts;
         ASSERT_EQ(QorGetMultiString(QORINFO_SYNC_REG, texts), 0U);
         ASSERT_EQ(texts.GetSize(), 200);
-        for (int i = 1; i < texts.GetSize(); ++i)
+        for (int i = 1; i < texts.GetSize(); ++i) {
             EXPECT_STREQ(texts.GetAt(i), texts.GetAt(0));
+        }
         EXPECT_EQ(Integrity(StorePath()), "ok");
     }
 }
@@ -534,7 +538,8 @@ TEST_F(StoreFileTest, ManyThreadsWorkAtTheSameTime)
             QorClose();
         });
     }
-    for (std::thread& thread : threads)
+    for (std::thread& thread : threads) {
         thread.join();
+    }
     EXPECT_EQ(ListAll<_QORVEX_SNAP>(QORLIST_SNAPSHOTS).size(), 40U);
 }

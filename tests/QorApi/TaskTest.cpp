@@ -40,8 +40,9 @@ TEST(TaskRecord, FieldsStandAtTheirBytes)
     task.wSnapshot = 0x2221;
     SetField(task.szName, L"N");
     const auto* bytes = reinterpret_cast<const BYTE*>(&task);
-    for (const int i : {0, 1, 2, 3, 4, 5, 6, 8, 9, 10, 11, 12})
+    for (const int i : {0, 1, 2, 3, 4, 5, 6, 8, 9, 10, 11, 12}) {
         EXPECT_EQ(bytes[i], i + 1);
+    }
     EXPECT_EQ(bytes[32], 0x21);
     EXPECT_EQ(bytes[33], 0x22);
     EXPECT_EQ(bytes[64], 'N');
@@ -70,8 +71,9 @@ TEST_F(TaskTest, AddedTaskIsReadBackByteForByte)
 TEST_F(TaskTest, NumbersAreFilledUp)
 {
     LogonBuiltin();
-    for (LPCWSTR name : {L"a", L"b", L"c"})
+    for (LPCWSTR name : {L"a", L"b", L"c"}) {
         ASSERT_EQ(Add(Make(name)), 0U);
+    }
     ASSERT_EQ(QorDeleteTask(1), 0U);
     ASSERT_EQ(Add(Make(L"d")), 0U);
     EXPECT_EQ(std::wstring(List()[1].szName), L"d");
@@ -81,8 +83,9 @@ TEST_F(TaskTest, ThirtyThirdTaskIsRefused)
 {
     ASSERT_EQ(QorOpen(), 0U);
     LogonBuiltin();
-    for (int i = 0; i < 32; ++i)
+    for (int i = 0; i < 32; ++i) {
         ASSERT_EQ(Add(Make(L"task")), 0U);
+    }
     EXPECT_EQ(List().back().wNumber, 31);
     EXPECT_EQ(Add(Make(L"one too many")), DWORD(ERROR_NOT_ENOUGH_QUOTA));
 }
@@ -131,8 +134,9 @@ TEST_F(TaskTest, UnfitRecordsAreRefused)
     constexpr DWORD refused = ERROR_INVALID_DATA;
     EXPECT_EQ(Add(Make(L"a", 0)), refused);
     EXPECT_EQ(Add(Make(L"a", 4)), refused);
-    for (const BYTE schedule : {0, 8, 9, 11, 255})
+    for (const BYTE schedule : {0, 8, 9, 11, 255}) {
         EXPECT_EQ(Add(Make(L"a", 1, schedule)), refused) << int(schedule);
+    }
     EXPECT_EQ(Add(Make(L"  ")), refused);
     EXPECT_EQ(Add(Make(std::wstring(32, L'x').c_str())), refused);
     _QORVEX_TASK hours = Make(L"a");

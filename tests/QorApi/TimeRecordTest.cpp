@@ -21,8 +21,9 @@ bool IsZero(const void* data, size_t size)
 {
     const auto* bytes = static_cast<const BYTE*>(data);
     for (size_t i = 0; i < size; ++i) {
-        if (bytes[i])
+        if (bytes[i]) {
             return false;
+        }
     }
     return true;
 }

@@ -35,12 +35,14 @@ TEST(UserRecord, FieldsStandAtTheirBytes)
     SetField(user.szDesc, L"D");
     user.dwRights = 0x0D0C0B0A;
     const auto* bytes = reinterpret_cast<const BYTE*>(&user);
-    for (int i = 0; i < 6; ++i)
+    for (int i = 0; i < 6; ++i) {
         EXPECT_EQ(bytes[i], i + 1);
+    }
     EXPECT_EQ(bytes[6], 'N');
     EXPECT_EQ(bytes[70], 'D');
-    for (int i = 0; i < 4; ++i)
+    for (int i = 0; i < 4; ++i) {
         EXPECT_EQ(bytes[214 + i], 0x0A + i);
+    }
     EXPECT_EQ(sizeof(user), 256U);
 }
 

@@ -1,7 +1,7 @@
 #include <QorPub/QorPub.h>
+#include <tests/support/Imports.h>
 
 #include <gtest/gtest.h>
-#include <tests/support/Imports.h>
 
 namespace
 {

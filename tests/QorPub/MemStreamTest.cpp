@@ -37,8 +37,9 @@ class MemStream : public testing::Test
         distance.QuadPart = move;
         ULARGE_INTEGER reached = {};
         HRESULT result = m_stream->Seek(distance, origin, &reached);
-        if (pos != nullptr)
+        if (pos != nullptr) {
             *pos = reached.QuadPart;
+        }
         return result;
     }
 

@@ -14,8 +14,9 @@ class PreInstance : public testing::Test
   protected:
     void TearDown() override
     {
-        if (m_window != nullptr)
+        if (m_window != nullptr) {
             DestroyWindow(m_window);
+        }
     }
 
     void MakeWindow(DWORD style)

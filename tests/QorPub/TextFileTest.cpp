@@ -266,8 +266,9 @@ TEST_F(TextFile, LargeTextsComeBackWhole)
 TEST_F(TextFile, PathsLongerThanTheOldLimitWork)
 {
     std::wstring path = m_folder.Path();
-    for (int i = 0; i < 6; ++i)
+    for (int i = 0; i < 6; ++i) {
         path += L"\\" + std::wstring(60, L'x');
+    }
     ASSERT_TRUE(QorCreateFolder(path.c_str()));
     CTextFile file;
     EXPECT_TRUE(file.Open((path + L"\\a.txt").c_str(), TEXTFILE_CREATE, 0));

@@ -18,12 +18,13 @@ CString Localized(LPCWSTR text)
 {
     CString result;
     for (; *text != 0; ++text) {
-        if (*text == L'.')
+        if (*text == L'.') {
             result += Separator(LOCALE_SDECIMAL);
-        else if (*text == L',')
+        } else if (*text == L',') {
             result += Separator(LOCALE_STHOUSAND);
-        else
+        } else {
             result += *text;
+        }
     }
     return result;
 }

@@ -15,8 +15,9 @@ std::vector<std::string> Split(const std::string& text, char separator)
 {
     std::vector<std::string> parts;
     std::istringstream in(text);
-    for (std::string part; std::getline(in, part, separator);)
+    for (std::string part; std::getline(in, part, separator);) {
         parts.push_back(part);
+    }
     return parts;
 }
 
@@ -45,8 +46,9 @@ class Trace : public testing::Test
     {
         std::vector<std::string> lines = Split(log, '\n');
         EXPECT_EQ(2u * COUNT, lines.size());
-        for (const std::string& line : lines)
+        for (const std::string& line : lines) {
             EXPECT_EQ(9u, Split(line, '\t').size()) << line;
+        }
         for (int i = 0; i < COUNT; ++i) {
             EXPECT_NE(std::string::npos, log.find("\tfirst " + std::to_string(i) + "\r\n"));
             EXPECT_NE(std::string::npos, log.find("\tsecond " + std::to_string(i) + "\r\n"));

@@ -13,8 +13,9 @@ namespace
 
 void AddNumber(std::string& bytes, unsigned value, int size)
 {
-    for (int i = 0; i < size; ++i)
+    for (int i = 0; i < size; ++i) {
         bytes += static_cast<char>(value >> (8 * i) & 0xFF);
+    }
 }
 
 /** The header fields that the local and the central entry share; the content is stored and empty. */
@@ -80,8 +81,9 @@ class Unzip : public testing::Test
     std::set<std::wstring> Unpacked() const
     {
         std::set<std::wstring> names;
-        for (const auto& entry : std::filesystem::directory_iterator(LR"(\\?\)" + m_folder.File(L"out")))
+        for (const auto& entry : std::filesystem::directory_iterator(LR"(\\?\)" + m_folder.File(L"out"))) {
             names.insert(entry.path().filename().wstring());
+        }
         return names;
     }
 
@@ -93,22 +95,25 @@ class Unzip : public testing::Test
 TEST(SafeEntryName, OrdinaryNamesAreAllowed)
 {
     for (LPCWSTR name :
-         {L"a", L"a/b.txt", L"a\\b", L"folder/", L".hidden", L"a..b", L"console", L"com10", L"\u4E2D/x y"})
+         {L"a", L"a/b.txt", L"a\\b", L"folder/", L".hidden", L"a..b", L"console", L"com10", L"\u4E2D/x y"}) {
         EXPECT_TRUE(qor::IsSafeEntryName(name)) << ts::ToUtf8(name);
+    }
 }
 
 TEST(SafeEntryName, NamesThatLeaveTheFolderAreRefused)
 {
     for (LPCWSTR name :
-         {L"..", L"../a", L"a/../../b", L"a\\..\\b", L"/a", L"\\a", L"C:\\a", L"C:a", L"//server/a", L"a/./b"})
+         {L"..", L"../a", L"a/../../b", L"a\\..\\b", L"/a", L"\\a", L"C:\\a", L"C:a", L"//server/a", L"a/./b"}) {
         EXPECT_FALSE(qor::IsSafeEntryName(name)) << ts::ToUtf8(name);
+    }
 }
 
 TEST(SafeEntryName, NamesThatAreNoFilesAreRefused)
 {
     for (LPCWSTR name : {L"", L"/", L"a//b", L"a?", L"a*", L"a|b", L"a\tb", L"a:stream", L"a.", L"a ", L"CON",
-                         L"nul.txt", L"x/Com1", L"lpt9.a.b", L"aux "})
+                         L"nul.txt", L"x/Com1", L"lpt9.a.b", L"aux "}) {
         EXPECT_FALSE(qor::IsSafeEntryName(name)) << ts::ToUtf8(name);
+    }
 }
 
 TEST_F(Unzip, AHandMadeArchiveIsRead)
@@ -149,8 +154,9 @@ TEST_F(Unzip, DamagedContentIsRefusedAndNotLeftBehind)
     std::string damaged = GoodArchive();
     // The first byte of the file's data follows the local header and its name.
     size_t data = 30 + std::string("file.txt").size();
-    for (size_t i = data + 2; i < data + 8; ++i)
+    for (size_t i = data + 2; i < data + 8; ++i) {
         damaged[i] = static_cast<char>(~damaged[i]);
+    }
     EXPECT_EQ(HRESULT_FROM_WIN32(ERROR_INVALID_DATA), Extract(damaged));
     EXPECT_FALSE(ts::FileExists(m_folder.File(L"out\\file.txt")));
 }

@@ -291,18 +291,21 @@ TEST(CQorXml, EveryPrefixOfADocumentIsRefusedAndNothingCrashes)
                        "<!-- e --><?pi f?><g/>\xE4\xB8\xAD</a>";
     CQorXml xml;
     EXPECT_EQ(0u, LoadText(xml, text));
-    for (size_t size = 0; size < text.size(); ++size)
+    for (size_t size = 0; size < text.size(); ++size) {
         EXPECT_NE(0u, LoadText(xml, text.substr(0, size))) << size;
+    }
 }
 
 TEST(CQorXml, DeepNestingHasALimit)
 {
     auto nested = [](int depth) {
         std::string text;
-        for (int i = 0; i < depth; ++i)
+        for (int i = 0; i < depth; ++i) {
             text += "<a>";
-        for (int i = 0; i < depth; ++i)
+        }
+        for (int i = 0; i < depth; ++i) {
             text += "</a>";
+        }
         return text;
     };
     CQorXml xml;
@@ -315,8 +318,9 @@ TEST(CQorXml, AttributesHaveALimit)
 {
     auto many = [](int count) {
         std::string text = "<a";
-        for (int i = 0; i < count; ++i)
+        for (int i = 0; i < count; ++i) {
             text += " a" + std::to_string(i) + "=''";
+        }
         return text + "/>";
     };
     CQorXml xml;
@@ -327,8 +331,9 @@ TEST(CQorXml, AttributesHaveALimit)
 TEST(CQorXml, LargeDocumentsAreRead)
 {
     std::string text = "<a>";
-    for (int i = 0; i < 20000; ++i)
+    for (int i = 0; i < 20000; ++i) {
         text += "<b id='" + std::to_string(i) + "'>text of an element</b>";
+    }
     CQorXml xml;
     EXPECT_EQ(0u, LoadText(xml, text + "</a>"));
     ASSERT_EQ(20000, xml.GetRoot()->GetChildCount());

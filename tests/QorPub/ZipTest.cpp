@@ -36,8 +36,9 @@ class ReportWindow
     }
     ~ReportWindow()
     {
-        if (m_window != nullptr)
+        if (m_window != nullptr) {
             DestroyWindow(m_window);
+        }
     }
     ReportWindow(const ReportWindow&) = delete;
     ReportWindow& operator=(const ReportWindow&) = delete;
@@ -58,8 +59,9 @@ class ReportWindow
     {
         std::vector<std::wstring> texts;
         for (const ReportLine& line : lines) {
-            if (line.kind == kind)
+            if (line.kind == kind) {
                 texts.push_back(line.text);
+            }
         }
         return texts;
     }
@@ -71,11 +73,13 @@ class ReportWindow
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     {
         auto self = reinterpret_cast<ReportWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-        if (message != WM_QORZIP)
+        if (message != WM_QORZIP) {
             return DefWindowProcW(window, message, wParam, lParam);
+        }
         ReportLine line = {wParam, lParam, L"", GetCurrentThreadId()};
-        if (wParam == ZIPREPORT_FILE || wParam == ZIPREPORT_QUESTION)
+        if (wParam == ZIPREPORT_FILE || wParam == ZIPREPORT_QUESTION) {
             line.text = reinterpret_cast<LPCWSTR>(lParam);
+        }
         self->lines.push_back(line);
         return self->m_answer ? self->m_answer(line) : 0;
     }
@@ -98,8 +102,9 @@ class HeldFile
     HeldFile& operator=(const HeldFile&) = delete;
     void Release()
     {
-        if (m_file != INVALID_HANDLE_VALUE)
+        if (m_file != INVALID_HANDLE_VALUE) {
             CloseHandle(m_file);
+        }
         m_file = INVALID_HANDLE_VALUE;
     }
 
@@ -149,8 +154,9 @@ class Zip : public testing::Test
         CStringArray names;
         EXPECT_EQ(0, CQorZip::List(archive.c_str(), names));
         std::vector<std::wstring> all;
-        for (INT_PTR i = 0; i < names.GetSize(); ++i)
+        for (INT_PTR i = 0; i < names.GetSize(); ++i) {
             all.emplace_back(names[i].GetString());
+        }
         return all;
     }
     std::vector<std::wstring> Names() const { return Names(Archive()); }
@@ -238,8 +244,9 @@ TEST_F(Zip, ReportsFilesPercentAndEndInOrder)
     LPARAM last = -1;
     for (const ReportLine& line : window.lines) {
         EXPECT_EQ(GetCurrentThreadId(), line.thread);
-        if (line.kind != ZIPREPORT_PERCENT)
+        if (line.kind != ZIPREPORT_PERCENT) {
             continue;
+        }
         EXPECT_GT(line.value, last);
         last = line.value;
     }
@@ -277,8 +284,9 @@ TEST_F(Zip, HalfOfTheBytesIsFiftyPercent)
 TEST_F(Zip, LargeFilesComeBackWhole)
 {
     std::string bytes(3 * MB + 7, 0);
-    for (size_t i = 0; i < bytes.size(); ++i)
+    for (size_t i = 0; i < bytes.size(); ++i) {
         bytes[i] = static_cast<char>((i * 2654435761u) >> 13);
+    }
     Make(L"big.bin", bytes);
     ReportWindow window;
     ASSERT_EQ(0, Pack(window));
@@ -426,10 +434,12 @@ TEST_F(Zip, AnUnreadableFileCanBeTriedAgain)
     HeldFile held(InSource(L"held.txt"));
     int questions = 0;
     ReportWindow window([&](const ReportLine& line) -> LRESULT {
-        if (line.kind != ZIPREPORT_QUESTION)
+        if (line.kind != ZIPREPORT_QUESTION) {
             return 0;
-        if (++questions == 2)
+        }
+        if (++questions == 2) {
             held.Release();
+        }
         return IDRETRY;
     });
     EXPECT_EQ(0, Pack(window));
@@ -474,8 +484,9 @@ TEST_F(Zip, WithoutWindowAnUnreadableFileEndsThePacking)
 TEST_F(Zip, AVanishedSourceMakesAQuestion)
 {
     ReportWindow window([&](const ReportLine& line) -> LRESULT {
-        if (line.kind == ZIPREPORT_PERCENT && line.value == 0)
+        if (line.kind == ZIPREPORT_PERCENT && line.value == 0) {
             RemoveDirectoryW(Source().c_str());
+        }
         return line.kind == ZIPREPORT_QUESTION ? IDCANCEL : 0;
     });
     EXPECT_EQ(HRESULT_FROM_WIN32(ERROR_CANCELLED), Pack(window));
@@ -498,8 +509,9 @@ TEST_F(Zip, CancelEndsSoonAndLeavesNothing)
     Make(L"a.bin", std::string(2 * MB, 'a'));
     Make(L"b.bin", std::string(2 * MB, 'b'));
     ReportWindow window([&](const ReportLine& line) {
-        if (line.kind == ZIPREPORT_FILE)
+        if (line.kind == ZIPREPORT_FILE) {
             m_zip.Cancel();
+        }
         return 0;
     });
     EXPECT_EQ(HRESULT_FROM_WIN32(ERROR_CANCELLED), Pack(window));
@@ -590,8 +602,9 @@ TEST_F(Zip, TheObjectMayBeDestroyedInsideAReport)
     Make(L"a.txt", "1");
     auto zip = std::make_unique<CQorZip>();
     ReportWindow window([&](const ReportLine& line) {
-        if (line.kind == ZIPREPORT_FILE)
+        if (line.kind == ZIPREPORT_FILE) {
             zip.reset();
+        }
         return 0;
     });
     ASSERT_EQ(0, zip->Start(window.Get(), Source().c_str(), Archive().c_str(), ALL));

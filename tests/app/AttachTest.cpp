@@ -1,9 +1,11 @@
-#include <gtest/gtest.h>
-#include <optional>
 #include <QorUI/app/module/Attach.h>
-#include <string>
 #include <tests/support/Imports.h>
 #include <tests/support/Support.h>
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
 #include <thread>
 
 namespace

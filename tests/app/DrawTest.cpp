@@ -1,13 +1,15 @@
-#include <algorithm>
-#include <cmath>
-#include <gtest/gtest.h>
 #include <QorUI/app/draw/Draw.h>
 #include <QorUI/app/draw/GdiPlusFlat.h>
-#include <span>
 #include <tests/app/Drawn.h>
 #include <tests/app/OwnResources.h>
 #include <tests/app/res/resource.h>
 #include <tests/support/Imports.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <span>
 
 namespace
 {
@@ -154,11 +156,13 @@ TEST(DrawPie, QuarterHasTheUsedRimFrom0To90AndTheFreeRimFrom90To180)
 
 void ExpectAll(const ts::Picture& picture, COLORREF top, COLORREF otherTop, COLORREF rim)
 {
-    for (const double turn : {0.02, 0.125, 0.375, 0.625, 0.875})
+    for (const double turn : {0.02, 0.125, 0.375, 0.625, 0.875}) {
         EXPECT_EQ(top, TopAt(picture, turn)) << turn;
+    }
     EXPECT_EQ(0, picture.Count(otherTop));
-    for (const int x : {12, 40, 80, 120, 148})
+    for (const int x : {12, 40, 80, 120, 148}) {
         EXPECT_TRUE(IsRimOf(RimAt(picture, x), rim)) << x;
+    }
 }
 
 TEST(DrawPie, RatioZeroIsAllFree)
@@ -194,8 +198,9 @@ TEST(DrawPie, NegativeRatioAndNoNumberAreAsZero)
 TEST(DrawPie, MoreThanHalfHasNoFreeRim)
 {
     const ts::Picture picture = DrawnPie(0.75);
-    for (const int x : {12, 40, 80, 120, 148})
+    for (const int x : {12, 40, 80, 120, 148}) {
         EXPECT_TRUE(IsRimOf(RimAt(picture, x), kUsed)) << x;
+    }
     EXPECT_EQ(kUsedTop, TopAt(picture, 0.7));
     EXPECT_EQ(kFreeTop, TopAt(picture, 0.8));
 }
@@ -486,10 +491,12 @@ std::vector<Gradient> g_gradients;
 BOOL WINAPI RecordGradient(HDC, TRIVERTEX* corners, ULONG count, void* mesh, ULONG rects, ULONG mode)
 {
     Gradient gradient = {{}, {}, mode};
-    for (const TRIVERTEX& corner : std::span(corners, count))
+    for (const TRIVERTEX& corner : std::span(corners, count)) {
         gradient.corners.push_back({corner.x, corner.y, corner.Red, corner.Green, corner.Blue, corner.Alpha});
-    for (const GRADIENT_RECT& rect : std::span(static_cast<GRADIENT_RECT*>(mesh), rects))
+    }
+    for (const GRADIENT_RECT& rect : std::span(static_cast<GRADIENT_RECT*>(mesh), rects)) {
         gradient.rects.emplace_back(rect.UpperLeft, rect.LowerRight);
+    }
     g_gradients.push_back(gradient);
     return TRUE;
 }
@@ -522,8 +529,9 @@ class ColourRow
         dc.CreateCompatibleDC(nullptr);
         const HGDIOBJ old = ::SelectObject(dc.m_hDC, m_bitmap.GetSafeHandle());
         int x = 0;
-        for (const COLORREF colour : colours)
+        for (const COLORREF colour : colours) {
             ::SetPixel(dc.m_hDC, x++, 0, colour);
+        }
         ::SelectObject(dc.m_hDC, old);
     }
     HBITMAP Handle() { return m_bitmap; }
@@ -536,9 +544,11 @@ std::vector<COLORREF> PixelsOf(HBITMAP bitmap)
 {
     const ts::Picture picture = ts::PictureOf(bitmap);
     std::vector<COLORREF> pixels;
-    for (int y = 0; y < picture.Height(); ++y)
-        for (int x = 0; x < picture.Width(); ++x)
+    for (int y = 0; y < picture.Height(); ++y) {
+        for (int x = 0; x < picture.Width(); ++x) {
             pixels.push_back(picture.At(x, y));
+        }
+    }
     return pixels;
 }
 
@@ -730,8 +740,9 @@ std::vector<COLORREF> MaskOf(HICON icon)
 TEST(GrayIcon, HasTheWholeMaskOfTheIcon)
 {
     std::vector<BYTE> mask;
-    for (int row = 0; row < 32; ++row)
+    for (int row = 0; row < 32; ++row) {
         mask.insert(mask.end(), {0x00, 0x00, 0xFF, static_cast<BYTE>(row < 16 ? 0xF0 : 0x0F)});
+    }
     const HICON icon = IconWithMask(mask);
     ASSERT_NE(nullptr, icon);
     const HICON gray = QorCreateGrayIcon(icon);

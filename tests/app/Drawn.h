@@ -1,7 +1,8 @@
 #pragma once
 
-#include <afxwin.h>
 #include <tests/support/Support.h>
+
+#include <afxwin.h>
 
 /** A background that is no colour of the look. */
 constexpr COLORREF kPaper = RGB(1, 2, 3);

@@ -1,6 +1,7 @@
-#include <gtest/gtest.h>
 #include <tests/support/Imports.h>
 #include <tests/support/Support.h>
+
+#include <gtest/gtest.h>
 
 namespace
 {

@@ -1,7 +1,8 @@
-#include <gtest/gtest.h>
 #include <QorApi/QorApi.h>
 #include <QorUI/app/module/LibText.h>
 #include <tests/support/Support.h>
+
+#include <gtest/gtest.h>
 
 namespace
 {

@@ -1,11 +1,12 @@
-#include <gtest/gtest.h>
-#include <QorUI/app/module/GdiplusCalls.h>
 #include <QorUI/app/look/Palette.h>
+#include <QorUI/app/module/GdiplusCalls.h>
 #include <QorUI/app/module/QorUIApp.h>
 #include <QorUI/app/module/ResourceSwitch.h>
 #include <QorUI/buttons/QorBtn.h>
 #include <QorUI/res/resource.h>
 #include <tests/app/Drawn.h>
+
+#include <gtest/gtest.h>
 
 #include <stdexcept>
 
@@ -61,8 +62,9 @@ class Module : public testing::Test
         g_QorUIApp.m_brDlgBack.DeleteObject();
         g_QorUIApp.m_bmpRadio.DeleteObject();
         g_QorUIApp.m_bmpCheck.DeleteObject();
-        for (QorBtnStyle& style : g_BtnStyles)
+        for (QorBtnStyle& style : g_BtnStyles) {
             style.brush.DeleteObject();
+        }
         ::FreeLibrary(m_library);
     }
 
@@ -80,19 +82,24 @@ class Module : public testing::Test
 /** Whether a brush repeats a bitmap of the library from the origin on. */
 testing::AssertionResult Repeats(CBrush& brush, HMODULE library, UINT id, CSize size)
 {
-    if (!brush.GetSafeHandle())
+    if (!brush.GetSafeHandle()) {
         return testing::AssertionFailure() << "no brush";
+    }
     const ts::Picture picture = ResourcePicture(library, id);
-    if (CSize(picture.Width(), picture.Height()) != size)
+    if (CSize(picture.Width(), picture.Height()) != size) {
         return testing::AssertionFailure() << "picture is " << picture.Width() << " x " << picture.Height();
+    }
     const ts::Picture filled = Drawn(size.cx * 2, size.cy * 2, [&](CDC& dc) {
         const CRect all(0, 0, size.cx * 2, size.cy * 2);
         ::FillRect(dc, &all, brush);
     });
-    for (int y = 0; y < filled.Height(); ++y)
-        for (int x = 0; x < filled.Width(); ++x)
-            if (filled.At(x, y) != picture.At(x % size.cx, y % size.cy))
+    for (int y = 0; y < filled.Height(); ++y) {
+        for (int x = 0; x < filled.Width(); ++x) {
+            if (filled.At(x, y) != picture.At(x % size.cx, y % size.cy)) {
                 return testing::AssertionFailure() << "differs at " << x << ", " << y;
+            }
+        }
+    }
     return testing::AssertionSuccess();
 }
 
@@ -184,8 +191,9 @@ TEST_F(Module, StyleTableHasTheFourFaces)
 {
     InitWithPictures();
     ASSERT_EQ(4u, g_BtnStyles.size());
-    for (UINT row = 0; row < 4; ++row)
+    for (UINT row = 0; row < 4; ++row) {
         EXPECT_TRUE(Repeats(g_BtnStyles[row].brush, m_library, 202 + row, CSize(6, 17))) << "row " << row;
+    }
 }
 
 TEST_F(Module, StyleTableHasTheBorderColours)
@@ -205,8 +213,9 @@ TEST_F(Module, MissingPicturesLeaveTheObjectsEmptyAndInitSucceeds)
 {
     g_QorUIApp.m_hInstance = ::GetModuleHandleW(nullptr); // this program has none of them
     EXPECT_TRUE(g_QorUIApp.InitInstance());
-    for (UINT row = 0; row < 4; ++row)
+    for (UINT row = 0; row < 4; ++row) {
         EXPECT_EQ(nullptr, g_BtnStyles[row].brush.GetSafeHandle());
+    }
     EXPECT_EQ(RGB(111, 111, 111), g_BtnStyles[0].outer);
     EXPECT_EQ(nullptr, g_QorUIApp.m_brTab.GetSafeHandle());
     EXPECT_EQ(nullptr, g_QorUIApp.m_bmpRadio.GetSafeHandle());

@@ -1,10 +1,13 @@
-#include <gtest/gtest.h>
-#include <memory>
-#include <olectl.h>
 #include <QorUI/app/draw/QorBmp.h>
 #include <tests/app/OwnResources.h>
 #include <tests/app/res/resource.h>
 #include <tests/support/Imports.h>
+
+#include <gtest/gtest.h>
+
+#include <olectl.h>
+
+#include <memory>
 
 /** @file
  * What the skin bitmap asks of the system's pictures, and what it makes of their answers.

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <string_view>
 #include <tests/support/Support.h>
+
+#include <string_view>
 
 /** The test program as a module: it carries the pictures of the tests. */
 inline HINSTANCE Program()

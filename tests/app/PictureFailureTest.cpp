@@ -1,4 +1,3 @@
-#include <gtest/gtest.h>
 #include <QorPub/QorPub.h>
 #include <QorUI/app/draw/GdiPlusFlat.h>
 #include <QorUI/app/draw/Picture.h>
@@ -6,6 +5,8 @@
 #include <tests/app/OwnResources.h>
 #include <tests/app/res/resource.h>
 #include <tests/support/Imports.h>
+
+#include <gtest/gtest.h>
 
 /** @file
  * What becomes of pictures and encoders when the system or a library below refuses.

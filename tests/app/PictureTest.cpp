@@ -1,7 +1,3 @@
-#include <functional>
-#include <gtest/gtest.h>
-#include <malloc.h>
-#include <memory>
 #include <QorUI/app/draw/GdiPlusFlat.h>
 #include <QorUI/app/draw/Picture.h>
 #include <QorUI/app/draw/QorBmp.h>
@@ -9,6 +5,13 @@
 #include <tests/app/Drawn.h>
 #include <tests/app/OwnResources.h>
 #include <tests/app/res/resource.h>
+
+#include <gtest/gtest.h>
+
+#include <malloc.h>
+
+#include <functional>
+#include <memory>
 
 namespace
 {
@@ -196,8 +199,9 @@ TEST(QorBmp, FileIsClosedOnEveryPath)
         EXPECT_FALSE(bitmap.Load(empty.c_str()));
         EXPECT_FALSE(bitmap.Load(folder.File(L"missing.png").c_str()));
     }));
-    for (const std::wstring& path : {picture, text, empty})
+    for (const std::wstring& path : {picture, text, empty}) {
         EXPECT_TRUE(::DeleteFileW(path.c_str()));
+    }
 }
 
 TEST(QorBmp, MissingFileIsRefusedAndKeepsThePicture)
@@ -272,8 +276,9 @@ int HeapBlocks()
 {
     int blocks = 0;
     _HEAPINFO entry = {};
-    while (::_heapwalk(&entry) == _HEAPOK)
+    while (::_heapwalk(&entry) == _HEAPOK) {
         blocks += entry._useflag == _USEDENTRY;
+    }
     return blocks;
 }
 
@@ -283,8 +288,9 @@ void ExpectNoBlocksLeft(const std::function<void()>& cycle)
     constexpr int kCycles = 200;
     cycle();
     const int before = HeapBlocks();
-    for (int i = 0; i < kCycles; ++i)
+    for (int i = 0; i < kCycles; ++i) {
         cycle();
+    }
     EXPECT_LT(HeapBlocks() - before, kCycles / 2);
 }
 

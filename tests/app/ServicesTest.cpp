@@ -1,9 +1,10 @@
-#include <gtest/gtest.h>
 #include <QorUI/QorUI.h>
 #include <tests/app/res/resource.h>
 #include <tests/doubles/QorApi/QorApiDouble.h>
 #include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>
+
+#include <gtest/gtest.h>
 
 namespace
 {
@@ -23,8 +24,9 @@ class Services : public testing::Test
 
     static void FailTexts()
     {
-        for (const char* call : {"QorGetString", "QorGetModuleLang", "QorSetDlgLang"})
+        for (const char* call : {"QorGetString", "QorGetModuleLang", "QorSetDlgLang"}) {
             qordouble::Fail(call, ERROR_INTERNAL_ERROR);
+        }
     }
 };
 

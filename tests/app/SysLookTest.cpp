@@ -1,11 +1,13 @@
-#include <cstring>
-#include <gtest/gtest.h>
-#include <memory>
 #include <QorPub/Zip.h>
 #include <QorUI/app/look/Palette.h>
-#include <QorUI/app/module/Messages.h>
 #include <QorUI/app/look/SysLook.h>
+#include <QorUI/app/module/Messages.h>
 #include <tests/support/Imports.h>
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <memory>
 #include <vector>
 
 namespace
@@ -39,8 +41,9 @@ std::vector<COLORREF> ColoursOf(const CQorSysLook& look)
 std::vector<COLORREF> ColoursBy(DWORD(WINAPI* colourOf)(int))
 {
     std::vector<COLORREF> colours;
-    for (const int index : kIndexes)
+    for (const int index : kIndexes) {
         colours.push_back(colourOf(index));
+    }
     return colours;
 }
 

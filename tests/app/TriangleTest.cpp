@@ -1,7 +1,8 @@
-#include <gtest/gtest.h>
 #include <QorUI/app/draw/Triangle.h>
 #include <tests/app/Drawn.h>
 #include <tests/support/Imports.h>
+
+#include <gtest/gtest.h>
 
 namespace
 {
@@ -18,10 +19,12 @@ ts::Picture DrawnTriangle(int direction, const RECT& place = kPlace)
 void ExpectTriangle(int direction, std::initializer_list<POINT> inked, std::initializer_list<POINT> outside)
 {
     const ts::Picture picture = DrawnTriangle(direction);
-    for (const POINT& at : inked)
+    for (const POINT& at : inked) {
         EXPECT_TRUE(ts::PixelIs(picture, at.x, at.y, kInk));
-    for (const POINT& at : outside)
+    }
+    for (const POINT& at : outside) {
         EXPECT_TRUE(ts::PixelIs(picture, at.x, at.y, kPaper));
+    }
 }
 
 TEST(DrawTriangle, UpHasItsApexAtTheTop)
@@ -46,8 +49,9 @@ TEST(DrawTriangle, RightHasItsApexAtTheRight)
 
 TEST(DrawTriangle, StaysInsideItsRectangle)
 {
-    for (int direction = 0; direction < 4; ++direction)
+    for (int direction = 0; direction < 4; ++direction) {
         EXPECT_EQ(CRect(4, 3, 13, 10), CRect(DrawnTriangle(direction).BoundsOfOthers(kPaper))) << direction;
+    }
 }
 
 TEST(DrawTriangle, OddExtentsAreHalvedDownwards)
@@ -62,8 +66,9 @@ TEST(DrawTriangle, OddExtentsAreHalvedDownwards)
 
 TEST(DrawTriangle, OtherDirectionsDrawNothing)
 {
-    for (const int direction : {-1, 4})
+    for (const int direction : {-1, 4}) {
         EXPECT_EQ(0, DrawnTriangle(direction).Count(kInk)) << direction;
+    }
     QorDrawTriangle(nullptr, kPlace, 0, kInk);
 }
 

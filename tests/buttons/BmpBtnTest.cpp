@@ -194,8 +194,9 @@ ts::Picture ExpectedCaption(const wchar_t* text, COLORREF colour, CRect rect = C
                             const CRect& face = CRect(0, 0, 0, 0))
 {
     return Drawn(60, 24, [&](CDC& dc) {
-        if (!face.IsRectEmpty())
+        if (!face.IsRectEmpty()) {
             dc.FillSolidRect(&face, kRed);
+        }
         const HGDIOBJ old = ::SelectObject(dc, ::GetStockObject(DEFAULT_GUI_FONT));
         ::SetTextColor(dc, colour);
         ::SetBkMode(dc, TRANSPARENT);

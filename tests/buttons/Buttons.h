@@ -1,11 +1,12 @@
 #pragma once
 
-#include <afxwin.h>
 #include <tests/app/Drawn.h>
 #include <tests/app/res/resource.h>
 #include <tests/support/AfxHost.h>
 #include <tests/support/Imports.h>
 #include <tests/support/Support.h>
+
+#include <afxwin.h>
 
 /** @file What the tests of buttons share. */
 

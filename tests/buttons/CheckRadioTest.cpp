@@ -17,11 +17,12 @@ ts::Picture Frame(UINT strip, int frame, COLORREF key = CLR_NONE)
 {
     const ts::Picture all = ResourcePicture(Library(), strip);
     std::vector<COLORREF> pixels;
-    for (int y = 0; y < 13; ++y)
+    for (int y = 0; y < 13; ++y) {
         for (int x = 0; x < 13; ++x) {
             const COLORREF pixel = all.At(frame * 13 + x, y);
             pixels.push_back(pixel == key ? kBody : pixel);
         }
+    }
     return ts::Picture(13, 13, std::move(pixels));
 }
 
@@ -120,9 +121,11 @@ ts::Picture ExpectedLook(const ts::Picture& glyph, COLORREF colour, bool focus =
         },
         kBody);
     std::vector<COLORREF> pixels;
-    for (int y = 0; y < 30; ++y)
-        for (int x = 0; x < 120; ++x)
+    for (int y = 0; y < 30; ++y) {
+        for (int x = 0; x < 120; ++x) {
             pixels.push_back(kGlyph.PtInRect(CPoint(x, y)) ? glyph.At(x - 2, y - 2) : text.At(x, y));
+        }
+    }
     return ts::Picture(120, 30, std::move(pixels));
 }
 
@@ -340,8 +343,9 @@ TEST_F(RadioBox, StateChangesRepaintTheMark)
 template <class Control>
 void ExpectSwallowed(Control& control, std::initializer_list<UINT> messages)
 {
-    for (const UINT message : messages)
+    for (const UINT message : messages) {
         EXPECT_EQ(1, control.SendMessage(message, VK_SPACE)) << ts::MessageName(message);
+    }
 }
 
 TEST_F(CheckBox, AnswersOneToWhatItSwallows)
@@ -549,8 +553,9 @@ TEST_F(RadioGroup, UncheckingLeavesTheOthersAlone)
     m_radio[0].SendMessage(BM_SETCHECK, BST_UNCHECKED);
     ExpectOnly(1);
     m_radio[1].SendMessage(BM_SETCHECK, BST_UNCHECKED);
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         EXPECT_FALSE(IsChecked(i));
+    }
     EXPECT_TRUE(IsTabStop(1));
 }
 

@@ -284,11 +284,14 @@ TEST_F(CmdBtn, SetBtnWorksBeforeTheWindow)
 CRect Changed(const ts::Picture& one, const ts::Picture& other)
 {
     CRect changed(kWidth, kHeight, 0, 0);
-    for (int y = 0; y < kHeight; ++y)
-        for (int x = 0; x < kWidth; ++x)
-            if (one.At(x, y) != other.At(x, y))
+    for (int y = 0; y < kHeight; ++y) {
+        for (int x = 0; x < kWidth; ++x) {
+            if (one.At(x, y) != other.At(x, y)) {
                 changed = CRect((std::min)(changed.left, LONG{x}), (std::min)(changed.top, LONG{y}),
                                 (std::max)(changed.right, LONG{x + 1}), (std::max)(changed.bottom, LONG{y + 1}));
+            }
+        }
+    }
     return changed;
 }
 
@@ -334,8 +337,9 @@ TEST_F(CmdBtn, HotButtonHasARoundedHighlight)
 {
     ts::MoveMouse(m_button);
     const ts::Picture picture = Draw(0);
-    for (const CPoint at : {CPoint(100, 0), CPoint(100, kHeight - 1), CPoint(0, 30), CPoint(kWidth - 1, 30)})
+    for (const CPoint at : {CPoint(100, 0), CPoint(100, kHeight - 1), CPoint(0, 30), CPoint(kWidth - 1, 30)}) {
         EXPECT_TRUE(ts::PixelIs(picture, at.x, at.y, kHotBorder));
+    }
     EXPECT_TRUE(ts::AreaIs(picture, CRect(4, 1, kWidth - 4, 5), kHotFill));
     EXPECT_TRUE(ts::PixelIs(picture, 0, 0, kPaper)) << "round corner";
     EXPECT_TRUE(ts::PixelIs(picture, 10, 10, kRed)) << "icon on top";

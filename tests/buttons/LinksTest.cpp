@@ -141,8 +141,9 @@ class QorLink : public Links
             DWORD process = 0;
             ::GetWindowThreadProcessId(tip, &process);
             if (process == ::GetCurrentProcessId() &&
-                ::SendMessageW(tip, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&tool)))
+                ::SendMessageW(tip, TTM_GETTOOLINFOW, 0, reinterpret_cast<LPARAM>(&tool))) {
                 return tip;
+            }
         }
         return nullptr;
     }

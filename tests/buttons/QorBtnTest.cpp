@@ -139,10 +139,12 @@ TEST_F(QorBtn, RowsHaveTheirOuterAndInnerBorder)
 {
     for (UINT row = 0; row < 4; ++row) {
         const ts::Picture picture = DrawnBack(m_button, row);
-        for (const CPoint at : {CPoint(30, 3), CPoint(30, 23), CPoint(2, 13), CPoint(57, 13)})
+        for (const CPoint at : {CPoint(30, 3), CPoint(30, 23), CPoint(2, 13), CPoint(57, 13)}) {
             EXPECT_TRUE(ts::PixelIs(picture, at.x, at.y, kRows[row].outer)) << "row " << row;
-        for (const CPoint at : {CPoint(30, 4), CPoint(30, 22), CPoint(3, 13), CPoint(56, 13)})
+        }
+        for (const CPoint at : {CPoint(30, 4), CPoint(30, 22), CPoint(3, 13), CPoint(56, 13)}) {
             EXPECT_TRUE(ts::PixelIs(picture, at.x, at.y, kRows[row].inner)) << "row " << row;
+        }
     }
 }
 
@@ -153,17 +155,20 @@ TEST_F(QorBtn, FaceStartsJustUnderTheTopBorder)
         const ts::Picture face = ResourcePicture(Library(), kRows[row].face);
         ASSERT_EQ(6, face.Width());
         ASSERT_EQ(17, face.Height());
-        for (int y = 5; y < 22; ++y)
-            for (int x = 8; x < 52; ++x)
+        for (int y = 5; y < 22; ++y) {
+            for (int x = 8; x < 52; ++x) {
                 ASSERT_TRUE(ts::PixelIs(picture, x, y, face.At((x - 3) % 6, y - 5))) << "row " << row;
+            }
+        }
     }
 }
 
 TEST_F(QorBtn, CornersAreRound)
 {
     const ts::Picture picture = DrawnBack(m_button, 0);
-    for (const CPoint at : {CPoint(2, 3), CPoint(57, 3), CPoint(2, 23), CPoint(57, 23)})
+    for (const CPoint at : {CPoint(2, 3), CPoint(57, 3), CPoint(2, 23), CPoint(57, 23)}) {
         EXPECT_TRUE(ts::PixelIs(picture, at.x, at.y, kPaper));
+    }
     EXPECT_EQ(CRect(2, 3, 58, 24), CRect(picture.BoundsOfOthers(kPaper)));
 }
 
@@ -172,11 +177,14 @@ TEST_F(QorBtn, FocusRectangleLiesTwoPixelsInside)
     const ts::Picture without = DrawnBack(m_button, 0);
     const ts::Picture with = DrawnBack(m_button, 0, TRUE);
     CRect changed(60, 25, 0, 0);
-    for (int y = 0; y < 25; ++y)
-        for (int x = 0; x < 60; ++x)
-            if (with.At(x, y) != without.At(x, y))
+    for (int y = 0; y < 25; ++y) {
+        for (int x = 0; x < 60; ++x) {
+            if (with.At(x, y) != without.At(x, y)) {
                 changed = CRect((std::min)(changed.left, LONG{x}), (std::min)(changed.top, LONG{y}),
                                 (std::max)(changed.right, LONG{x + 1}), (std::max)(changed.bottom, LONG{y + 1}));
+            }
+        }
+    }
     EXPECT_EQ(CRect(4, 5, 56, 22), changed);
     EXPECT_EQ(with.At(30, 13), without.At(30, 13));
 }

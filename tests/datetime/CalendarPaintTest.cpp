@@ -1,8 +1,9 @@
 #include "Calendar.h"
 
+#include <tests/app/Drawn.h>
+
 #include <set>
 #include <stdexcept>
-#include <tests/app/Drawn.h>
 
 namespace
 {

@@ -1,4 +1,3 @@
-#include <cmath>
 #include <QorUI/datetime/ClockHands.h>
 #include <QorUI/datetime/QorClock.h>
 #include <tests/app/Drawn.h>
@@ -6,6 +5,8 @@
 #include <tests/support/ImportRedirection.h>
 #include <tests/support/Imports.h>
 #include <tests/support/NoWindowClasses.h>
+
+#include <cmath>
 
 namespace
 {

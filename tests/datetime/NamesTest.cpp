@@ -1,6 +1,6 @@
-#include <QorUI/datetime/CalendarNames.h>
-
 #include "Calendar.h"
+
+#include <QorUI/datetime/CalendarNames.h>
 
 #include <clocale>
 #include <map>

@@ -1,5 +1,4 @@
 #include <QorUI/dialogs/WindowShape.h>
-
 #include <tests/support/Support.h>
 
 namespace

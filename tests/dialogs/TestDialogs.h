@@ -3,7 +3,6 @@
 #include "res/DialogsTest.h"
 
 #include <QorUI/QorUI.h>
-
 #include <tests/support/Support.h>
 
 /** Opens what is protected, for the tests. */

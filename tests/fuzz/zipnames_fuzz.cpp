@@ -12,8 +12,9 @@ std::wstring ToName(const uint8_t* data, size_t size)
     // Most bytes become what dangerous names are made of.
     static constexpr std::wstring_view parts = L"..//\\\\::  CcOoNnPpRrAaUuXxLlMmTtIi$019<>\"|?*_\x01\x1F\x7F\xE4";
     std::wstring name;
-    for (size_t i = 0; i < size; ++i)
+    for (size_t i = 0; i < size; ++i) {
         name += data[i] < 0xF0 ? parts[data[i] % parts.size()] : static_cast<wchar_t>(data[i]);
+    }
     return name;
 }
 
@@ -27,10 +28,12 @@ bool HasWrongPart(std::wstring_view name)
     for (;;) {
         const size_t slash = name.find(L'/');
         const std::wstring_view part = name.substr(0, slash);
-        if (part.empty() || part == L"." || part == L"..")
+        if (part.empty() || part == L"." || part == L"..") {
             return true;
-        if (slash == std::wstring_view::npos)
+        }
+        if (slash == std::wstring_view::npos) {
             return false;
+        }
         name.remove_prefix(slash + 1);
     }
 }
@@ -44,19 +47,26 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const bool safe = qor::IsSafeEntryName(name);
     std::wstring slashes = name;
     for (wchar_t& c : slashes) {
-        if (safe && IsForbidden(c))
+        if (safe && IsForbidden(c)) {
             abort();
+        }
         c = c == L'\\' ? L'/' : c;
     }
-    if (qor::IsSafeEntryName(slashes) != safe)
+    if (qor::IsSafeEntryName(slashes) != safe) {
         abort();
-    if (!safe)
+    }
+    if (!safe) {
         return 0;
-    if (slashes.back() == L'/')
+    }
+    if (slashes.back() == L'/') {
         slashes.pop_back(); // of a folder
-    if (HasWrongPart(slashes))
+    }
+    if (HasWrongPart(slashes)) {
         abort();
-    if (qor::IsSafeEntryName(L"../" + name) || qor::IsSafeEntryName(L"/" + name) || qor::IsSafeEntryName(L"C:" + name))
+    }
+    if (qor::IsSafeEntryName(L"../" + name) || qor::IsSafeEntryName(L"/" + name) ||
+        qor::IsSafeEntryName(L"C:" + name)) {
         abort();
+    }
     return 0;
 }

@@ -1,6 +1,5 @@
-#include <tests/support/Support.h>
-
 #include <QorApi/QorApi.h>
+#include <tests/support/Support.h>
 
 #include <filesystem>
 #include <set>

@@ -1,8 +1,7 @@
 #include <hosts/console/ConsoleFrame.h>
 #include <hosts/console/ConsoleText.h>
-#include <tests/support/Support.h>
-
 #include <QorApi/QorApi.h>
+#include <tests/support/Support.h>
 
 #include <regex>
 

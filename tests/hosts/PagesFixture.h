@@ -1,9 +1,8 @@
 #pragma once
 
 #include <hosts/console/ConsoleFrame.h>
-#include <tests/support/Support.h>
-
 #include <QorApi/QorApi.h>
+#include <tests/support/Support.h>
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,6 @@
 #include <hosts/console/ConsoleFrame.h>
-#include <tests/support/Support.h>
-
 #include <QorApi/QorApi.h>
+#include <tests/support/Support.h>
 
 #include <algorithm>
 #include <array>

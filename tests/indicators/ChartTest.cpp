@@ -1,6 +1,5 @@
-#include <tests/lists/Lists.h>
-
 #include <QorUI/app/draw/GdiPlusFlat.h>
+#include <tests/lists/Lists.h>
 #include <tests/support/Imports.h>
 
 #include <algorithm>

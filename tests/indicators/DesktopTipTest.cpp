@@ -1,6 +1,5 @@
-#include <tests/lists/Lists.h>
-
 #include <QorPub/System.h>
+#include <tests/lists/Lists.h>
 #include <tests/support/NoWindowClasses.h>
 
 namespace

@@ -1,6 +1,5 @@
-#include <tests/lists/Lists.h>
-
 #include <QorUI/indicators/ProgressParts.h>
+#include <tests/lists/Lists.h>
 
 namespace
 {

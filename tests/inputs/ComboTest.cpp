@@ -38,8 +38,9 @@ class FlatCombo : public testing::Test
     {
         ASSERT_TRUE(m_combo.SubclassWindow(AddSystem(m_host, L"COMBOBOX", CBS_DROPDOWNLIST, 0, {10, 10, 130, 200})));
         const DWORD_PTR data[] = {40, 30, 30, static_cast<DWORD_PTR>(-1)};
-        for (const DWORD_PTR one : data)
+        for (const DWORD_PTR one : data) {
             m_combo.SetItemData(m_combo.AddString(L"Item"), one);
+        }
         ts::ParkMouse();
     }
 

@@ -13,8 +13,9 @@ class DragLB : public testing::Test
     {
         ASSERT_TRUE(m_list.SubclassWindow(
             AddSystem(m_host, L"LISTBOX", LBS_NOTIFY | WS_HSCROLL, WS_EX_CLIENTEDGE, {30, 10, 130, 130})));
-        for (const wchar_t* text : {L"a", L"b", L"c", L"d"})
+        for (const wchar_t* text : {L"a", L"b", L"c", L"d"}) {
             m_list.AddString(text);
+        }
     }
 
     std::wstring Items() const

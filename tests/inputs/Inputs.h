@@ -1,10 +1,11 @@
 #pragma once
 
-#include <afxcmn.h>
-#include <afxwin.h>
 #include <QorUI/app/look/SysLook.h>
 #include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>
+
+#include <afxcmn.h>
+#include <afxwin.h>
 
 /** @file What the tests of input controls share. */
 
@@ -79,8 +80,9 @@ inline testing::AssertionResult HasFlatBorder(const CWnd& control)
     const OddLook odd;
     const ts::Picture picture = FrameOf(control);
     const CRect outer(0, 0, picture.Width(), picture.Height());
-    if (const auto grey = ts::FrameIs(picture, outer, kGrey); !grey)
+    if (const auto grey = ts::FrameIs(picture, outer, kGrey); !grey) {
         return grey;
+    }
     return ts::FrameIs(picture, CRect(1, 1, outer.right - 1, outer.bottom - 1), OddLook::kWindow);
 }
 
@@ -115,8 +117,9 @@ inline int TextWidth(HGDIOBJ font, const wchar_t* text)
     const HGDIOBJ old = font ? ::SelectObject(dc, font) : nullptr;
     SIZE size = {};
     ::GetTextExtentPoint32W(dc, text, ::lstrlenW(text), &size);
-    if (old)
+    if (old) {
         ::SelectObject(dc, old);
+    }
     ::ReleaseDC(nullptr, dc);
     return size.cx;
 }

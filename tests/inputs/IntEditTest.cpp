@@ -21,8 +21,9 @@ class IntEdit : public testing::Test
 
     void Take(DWORD style = 0)
     {
-        if (m_edit.m_hWnd)
+        if (m_edit.m_hWnd) {
             m_edit.DestroyWindow();
+        }
         ASSERT_TRUE(m_edit.SubclassWindow(AddSystem(m_host, L"EDIT", style)));
         m_edit.SetRange(0, 100, 50);
         m_edit.SetFocus();
@@ -374,8 +375,9 @@ LRESULT Step(CIntEdit& edit, int delta, LRESULT* answer = nullptr)
 {
     NMUPDOWN step = {{::GetDlgItem(edit, 1), 1, static_cast<UINT>(UDN_DELTAPOS)}, 0, delta};
     const LRESULT result = edit.SendMessage(WM_NOTIFY, 1, reinterpret_cast<LPARAM>(&step));
-    if (answer)
+    if (answer) {
         *answer = result;
+    }
     return result;
 }
 

@@ -75,8 +75,9 @@ ts::HandleCounts LeftBehind(CWnd& parent, const wchar_t* className)
     };
     cycle();
     const ts::HandleCounts before = ts::CountHandles();
-    for (int i = 0; i < 200; ++i)
+    for (int i = 0; i < 200; ++i) {
         cycle();
+    }
     ts::HandleCounts left = ts::Difference(before, ts::CountHandles());
     std::erase_if(left, [](const auto& kind) { return kind.second < 200; }); // made once and kept
     return left;

@@ -37,8 +37,9 @@ class SearchBox : public testing::Test
 
     void Create(DWORD style)
     {
-        if (m_box.m_hWnd)
+        if (m_box.m_hWnd) {
             m_box.DestroyWindow();
+        }
         ASSERT_TRUE(m_box.Create(WS_CHILD | WS_VISIBLE | CBS_AUTOHSCROLL | style, CRect(10, 10, 150, 160), &m_host,
                                  kControlId));
         ts::ParkMouse();

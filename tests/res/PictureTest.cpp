@@ -95,8 +95,9 @@ INSTANTIATE_TEST_SUITE_P(All, StripTest,
 TEST_P(StripTest, EveryFrameIsAnotherPicture)
 {
     std::set<std::string> frames;
-    for (int i = 0; i < GetParam().frames; ++i)
+    for (int i = 0; i < GetParam().frames; ++i) {
         EXPECT_TRUE(frames.insert(Frame(i)).second) << "frame " << i;
+    }
 }
 
 TEST_P(StripTest, NoFrameIsOfOneColour)
@@ -113,13 +114,16 @@ TEST(RadioStrip, CornersAreOfTheKeyColour)
     const std::vector<BYTE> bytes = ResourceBytes(IDB_RADIO, RT_BITMAP);
     constexpr size_t kStride = (size_t{78} * 3 + 3) / 4 * 4;
     ASSERT_EQ(sizeof(BITMAPINFOHEADER) + 13 * kStride, bytes.size());
-    for (const size_t y : {0, 12})
-        for (size_t x = 0; x < 78; x += 13)
-            for (const size_t corner : {x, x + 12})
+    for (const size_t y : {0, 12}) {
+        for (size_t x = 0; x < 78; x += 13) {
+            for (const size_t corner : {x, x + 12}) {
                 EXPECT_EQ(std::vector<BYTE>(3, 255),
                           std::vector<BYTE>(bytes.begin() + sizeof(BITMAPINFOHEADER) + y * kStride + corner * 3,
                                             bytes.begin() + sizeof(BITMAPINFOHEADER) + y * kStride + corner * 3 + 3))
                     << corner << ", " << y;
+            }
+        }
+    }
 }
 
 TEST(ProgressPattern, IsABitmapResourceOf472Bytes)
@@ -129,8 +133,9 @@ TEST(ProgressPattern, IsABitmapResourceOf472Bytes)
 
 TEST(PngPictures, AreThereUnderTheirType)
 {
-    for (UINT id : {281u, 282u, 283u})
+    for (UINT id : {281u, 282u, 283u}) {
         EXPECT_EQ("\x89PNG\r\n\x1a\n", Text(id, L"PNG").substr(0, 8)) << id;
+    }
     const std::string bar = Text(283, L"PNG");
     ASSERT_GT(bar.size(), 24u);
     EXPECT_EQ(200, static_cast<BYTE>(bar[19])) << "width";

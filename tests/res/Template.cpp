@@ -33,8 +33,9 @@ class Reader
     std::wstring Text()
     {
         std::wstring text;
-        for (WORD c = Word(); c != 0; c = Word())
+        for (WORD c = Word(); c != 0; c = Word()) {
             text += static_cast<wchar_t>(c);
+        }
         return text;
     }
 
@@ -64,8 +65,9 @@ std::wstring ClassName(Reader& reader)
     static const wchar_t* const kNames[] = {L"button", L"edit", L"static", L"listbox", L"scrollbar", L"combobox"};
     WORD ordinal = 0;
     std::wstring name = reader.NameOrOrdinal(ordinal);
-    if (ordinal >= 0x80 && ordinal - 0x80 < static_cast<int>(std::size(kNames)))
+    if (ordinal >= 0x80 && ordinal - 0x80 < static_cast<int>(std::size(kNames))) {
         name = kNames[ordinal - 0x80];
+    }
     std::transform(name.begin(), name.end(), name.begin(), std::towlower);
     return name;
 }
@@ -94,8 +96,9 @@ const TemplateItem& Template::Item(DWORD id) const
     static const TemplateItem kNone = {};
     const TemplateItem* found = &kNone;
     for (const TemplateItem& item : items) {
-        if (item.id != id)
+        if (item.id != id) {
             continue;
+        }
         EXPECT_EQ(&kNone, found) << "two controls have the id " << id;
         found = &item;
     }
@@ -118,8 +121,9 @@ HMODULE Resources()
 std::vector<BYTE> ResourceBytes(UINT id, LPCWSTR type)
 {
     const HRSRC resource = FindResourceW(Resources(), MAKEINTRESOURCEW(id), type);
-    if (resource == nullptr)
+    if (resource == nullptr) {
         return {};
+    }
     const BYTE* bytes = static_cast<const BYTE*>(LockResource(LoadResource(Resources(), resource)));
     return {bytes, bytes + SizeofResource(Resources(), resource)};
 }
@@ -146,7 +150,8 @@ Template ReadTemplate(UINT id)
     found.pointSize = reader.Word();
     reader.Skip(4);
     found.font = reader.Text();
-    for (WORD i = 0; i < count; ++i)
+    for (WORD i = 0; i < count; ++i) {
         found.items.push_back(ReadItem(reader));
+    }
     return found;
 }

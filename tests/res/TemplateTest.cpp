@@ -2,8 +2,9 @@
 
 #include <QorUI/res/resource.h>
 
-#include <commctrl.h>
 #include <gtest/gtest.h>
+
+#include <commctrl.h>
 
 #include <cstdlib>
 #include <vector>
@@ -59,8 +60,9 @@ TEST_P(TemplateTest, HasCancelAndAtMostOneDefaultButton)
 {
     EXPECT_TRUE(m_dialog.Has(IDCANCEL));
     int defaults = 0;
-    for (const TemplateItem& item : m_dialog.items)
+    for (const TemplateItem& item : m_dialog.items) {
         defaults += item.IsButton(BS_DEFPUSHBUTTON);
+    }
     EXPECT_LE(defaults, 1);
 }
 
@@ -84,19 +86,21 @@ TEST_P(TemplateTest, HasOnlyRadioButtonsInTheGroupOfARadioButton)
     const TemplateItem* first = nullptr;
     for (const TemplateItem& item : m_dialog.items) {
         const bool radio = item.IsButton(BS_AUTORADIOBUTTON);
-        if (item.style & WS_GROUP)
+        if (item.style & WS_GROUP) {
             first = radio ? &item : nullptr;
+        }
         EXPECT_EQ(first != nullptr, radio) << "control " << item.id << " after the start of the last group";
     }
 }
 
 TEST_P(TemplateTest, GivesEveryInputTheClientEdgeThatTheFlatBorderReplaces)
 {
-    for (const TemplateItem& item : m_dialog.items)
+    for (const TemplateItem& item : m_dialog.items) {
         if (item.className == L"edit" || item.className == L"listbox" || item.className == L"sysdatetimepick32") {
             EXPECT_EQ(static_cast<DWORD>(WS_EX_CLIENTEDGE), item.exStyle) << "control " << item.id;
             EXPECT_EQ(0u, item.style & WS_BORDER) << "control " << item.id;
         }
+    }
 }
 
 TEST(MessageBoxTemplate, HasItsControlsAtTheirPlaces)
@@ -120,11 +124,12 @@ TEST(MessageBoxTemplate, HasItsControlsAtTheirPlaces)
 TEST(MessageBoxTemplate, GivesTheDefaultButtonTheFirstFocus)
 {
     const Template dialog = ReadTemplate(IDD_DLG_MSGBOX);
-    for (const TemplateItem& item : dialog.items)
+    for (const TemplateItem& item : dialog.items) {
         if ((item.style & WS_VISIBLE) && (item.style & WS_TABSTOP)) {
             EXPECT_EQ(static_cast<DWORD>(IDOK), item.id);
             break;
         }
+    }
 }
 
 TEST(WaitingTemplate, HasItsControlsAtTheirPlaces)
@@ -158,8 +163,9 @@ TEST(LogonTemplate, HasItsControls)
     const Template dialog = ReadTemplate(IDD_DLG_LOGON);
     EXPECT_EQ(266, dialog.cx);
     EXPECT_EQ(141, dialog.cy);
-    for (DWORD id : {1151u, 1152u, 1154u})
+    for (DWORD id : {1151u, 1152u, 1154u}) {
         ExpectClass(dialog, id, L"static");
+    }
     ExpectClass(dialog, 1153, L"edit");
     EXPECT_EQ(117, dialog.Item(1153).cx);
     EXPECT_EQ(12, dialog.Item(1153).cy);
@@ -185,8 +191,9 @@ TEST(RestrictTemplate, HasATitleAndEightCheckBoxes)
     EXPECT_EQ(210, dialog.cx);
     EXPECT_EQ(180, dialog.cy);
     ExpectClass(dialog, 1240, L"static");
-    for (DWORD id = 1241; id <= 1248; ++id)
+    for (DWORD id = 1241; id <= 1248; ++id) {
         ExpectType(dialog, id, BS_AUTOCHECKBOX);
+    }
 }
 
 TEST(UpdateTemplates, HaveTheirControls)
@@ -199,15 +206,17 @@ TEST(UpdateTemplates, HaveTheirControls)
     const Template settings = ReadTemplate(IDD_DLG_UPDATE_SET);
     ExpectClass(settings, 1476, L"static");
     ExpectClass(settings, 1480, L"static");
-    for (DWORD id : {1478u, 1479u, 1482u, 1483u})
+    for (DWORD id : {1478u, 1479u, 1482u, 1483u}) {
         ExpectType(settings, id, BS_AUTORADIOBUTTON);
+    }
 }
 
 TEST(BoxTemplates, HaveTheControlsThatTheirCodeFills)
 {
     const Template about = ReadTemplate(IDD_DLG_ABOUTEX);
-    for (DWORD id : {1200u, 1215u, 1223u, 1224u})
+    for (DWORD id : {1200u, 1215u, 1223u, 1224u}) {
         ExpectClass(about, id, L"static");
+    }
     EXPECT_TRUE(about.Has(IDOK));
     const Template web = ReadTemplate(IDD_DLG_WEB_MSG);
     EXPECT_EQ(static_cast<DWORD>(SS_ICON), web.Item(1100).style & SS_TYPEMASK);
@@ -217,8 +226,9 @@ TEST(BoxTemplates, HaveTheControlsThatTheirCodeFills)
 TEST(UserTemplate, HasItsControls)
 {
     const Template dialog = ReadTemplate(IDD_DLG_USERINFO);
-    for (DWORD id : {1153u, 1389u, 1155u, 1391u})
+    for (DWORD id : {1153u, 1389u, 1155u, 1391u}) {
         ExpectClass(dialog, id, L"edit");
+    }
     EXPECT_NE(0u, dialog.Item(1155).style & ES_PASSWORD);
     EXPECT_NE(0u, dialog.Item(1391).style & ES_PASSWORD);
     ExpectType(dialog, 1395, BS_PUSHBUTTON);
@@ -242,18 +252,24 @@ TEST(UserTemplate, LeavesTheButtonsBesideThePasswordsInTheWidthOfTheDescription)
 TEST(TaskTemplate, HasTheControlsOfTheTable)
 {
     const Template dialog = ReadTemplate(IDD_DLG_TASKINFO);
-    for (DWORD id : {1401u, 1411u, 1413u, 1415u, 1417u, 1432u})
+    for (DWORD id : {1401u, 1411u, 1413u, 1415u, 1417u, 1432u}) {
         ExpectClass(dialog, id, L"edit");
-    for (DWORD id : {1403u, 1405u, 1409u, 1419u, 1427u})
+    }
+    for (DWORD id : {1403u, 1405u, 1409u, 1419u, 1427u}) {
         ExpectClass(dialog, id, L"combobox");
-    for (DWORD id : {1406u, 1407u})
+    }
+    for (DWORD id : {1406u, 1407u}) {
         ExpectClass(dialog, id, L"sysdatetimepick32");
-    for (DWORD id : {1408u, 1422u, 1424u, 1431u, 1434u})
+    }
+    for (DWORD id : {1408u, 1422u, 1424u, 1431u, 1434u}) {
         ExpectType(dialog, id, BS_AUTOCHECKBOX);
-    for (DWORD id : {1420u, 1421u, 1425u, 1426u, 1429u, 1430u})
+    }
+    for (DWORD id : {1420u, 1421u, 1425u, 1426u, 1429u, 1430u}) {
         ExpectType(dialog, id, BS_AUTORADIOBUTTON);
-    for (DWORD id : {1410u, 1412u, 1414u, 1416u, 1418u, 1423u, 1433u})
+    }
+    for (DWORD id : {1410u, 1412u, 1414u, 1416u, 1418u, 1423u, 1433u}) {
         ExpectClass(dialog, id, L"static");
+    }
     ExpectType(dialog, 1428, BS_GROUPBOX);
 }
 
@@ -282,8 +298,9 @@ TEST(RegistryTemplate, LeavesItsBodyBelowTheTextToTheCode)
 {
     const Template dialog = ReadTemplate(IDD_DLG_SYNCREG);
     for (const TemplateItem& item : dialog.items) {
-        if (item.id == IDOK || item.id == IDCANCEL)
+        if (item.id == IDOK || item.id == IDCANCEL) {
             continue;
+        }
         EXPECT_LE((item.y + item.cy) * 13 / 8, 90) << "the menu bar is at 90 pixels";
     }
 }

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <afxwin.h>
 #include <tests/support/HostWindow.h>
+
+#include <afxwin.h>
 
 namespace ts
 {
@@ -26,8 +27,9 @@ class AfxHost : public CWnd
     ~AfxHost() override
     {
         m_log.reset();
-        if (m_hWnd)
+        if (m_hWnd) {
             DestroyWindow();
+        }
     }
 
     /** What this window received. */

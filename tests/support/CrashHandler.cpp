@@ -1,15 +1,18 @@
 #include <tests/support/CrashHandler.h>
 
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+#include <cxxabi.h>
+
 #include <csignal>
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
-#include <cxxabi.h>
 #include <exception>
-#include <gtest/gtest.h>
 #include <iterator>
 #include <typeinfo>
-#include <windows.h>
 
 namespace ts
 {
@@ -26,14 +29,16 @@ class Report
     {
         wchar_t path[MAX_PATH] = {};
         const bool inDeathTest = wcsstr(GetCommandLineW(), L"--gtest_internal_run_death_test") != nullptr;
-        if (!inDeathTest && GetEnvironmentVariableW(L"QOR_CRASH_FILE", path, MAX_PATH) - 1 < MAX_PATH - 1)
+        if (!inDeathTest && GetEnvironmentVariableW(L"QOR_CRASH_FILE", path, MAX_PATH) - 1 < MAX_PATH - 1) {
             m_file = CreateFileW(path, GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_ALWAYS, 0, nullptr);
+        }
     }
 
     ~Report()
     {
-        if (m_file != INVALID_HANDLE_VALUE)
+        if (m_file != INVALID_HANDLE_VALUE) {
             CloseHandle(m_file);
+        }
     }
 
     Report(const Report&) = delete;
@@ -46,8 +51,9 @@ class Report
         va_start(arguments, format);
         const int length = vsnprintf(text, sizeof(text) - 1, format, arguments);
         va_end(arguments);
-        if (length < 0)
+        if (length < 0) {
             return;
+        }
         const DWORD size = (std::min)(static_cast<DWORD>(length), static_cast<DWORD>(sizeof(text) - 2));
         text[size] = '\n';
         DWORD written;
@@ -63,8 +69,9 @@ class Report
 void PrintTest(Report& report)
 {
     const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
-    if (test)
+    if (test) {
         report.Line("    in test %s.%s", test->test_suite_name(), test->name());
+    }
 }
 
 void PrintFrame(Report& report, DWORD64 address)
@@ -73,8 +80,9 @@ void PrintFrame(Report& report, DWORD64 address)
     GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
                        reinterpret_cast<LPCWSTR>(address), &module);
     wchar_t path[MAX_PATH] = L"?";
-    if (module)
+    if (module) {
         GetModuleFileNameW(module, path, MAX_PATH);
+    }
     char narrow[MAX_PATH * 3] = {};
     WideCharToMultiByte(CP_UTF8, 0, path, -1, narrow, static_cast<int>(sizeof(narrow)) - 1, nullptr, nullptr);
     report.Line("frame 0x%llx %s", static_cast<unsigned long long>(address - reinterpret_cast<DWORD64>(module)),
@@ -89,8 +97,9 @@ void PrintStack(Report& report, CONTEXT context)
         DWORD64 base = 0;
         const PRUNTIME_FUNCTION function = RtlLookupFunctionEntry(context.Rip, &base, nullptr);
         if (!function) {
-            if (IsBadReadPtr(reinterpret_cast<const void*>(context.Rsp), sizeof(DWORD64)))
+            if (IsBadReadPtr(reinterpret_cast<const void*>(context.Rsp), sizeof(DWORD64))) {
                 return;
+            }
             context.Rip = *reinterpret_cast<const DWORD64*>(context.Rsp);
             context.Rsp += sizeof(DWORD64);
             continue;

@@ -54,8 +54,9 @@ SIZE DialogUnitsToPixels(int horizontal, int vertical)
 testing::AssertionResult HasStandardDialogFont()
 {
     const FontInfo info = Measure();
-    if (info.units.cx == kStandardUnits.cx && info.units.cy == kStandardUnits.cy)
+    if (info.units.cx == kStandardUnits.cx && info.units.cy == kStandardUnits.cy) {
         return testing::AssertionSuccess();
+    }
     return testing::AssertionFailure() << "the dialog font MS Shell Dlg is drawn with '"
                                        << std::string(info.face.begin(), info.face.end()) << "', base units "
                                        << info.units.cx << " x " << info.units.cy

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <vector>
 #include <windows.h>
+
+#include <vector>
 
 namespace ts
 {
@@ -15,8 +16,9 @@ class GdiShortage
   public:
     explicit GdiShortage(size_t left = 0)
     {
-        while (const HBRUSH brush = CreateSolidBrush(RGB(1, 2, 3)))
+        while (const HBRUSH brush = CreateSolidBrush(RGB(1, 2, 3))) {
             m_taken.push_back(brush);
+        }
         LeaveMore(left);
     }
 

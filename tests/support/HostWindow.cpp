@@ -1,5 +1,4 @@
 #include <tests/support/HostWindow.h>
-
 #include <tests/support/Pump.h>
 
 namespace ts
@@ -31,8 +30,9 @@ bool RegisterHostClass()
 {
     WNDCLASSEXW info = {};
     info.cbSize = sizeof(info);
-    if (GetClassInfoExW(GetModuleHandleW(nullptr), kClass, &info))
+    if (GetClassInfoExW(GetModuleHandleW(nullptr), kClass, &info)) {
         return true;
+    }
     info.cbSize = sizeof(info);
     info.style = CS_DBLCLKS;
     info.lpfnWndProc = Procedure;
@@ -69,11 +69,13 @@ HostWindow::HostWindow(int cx, int cy, DWORD style, COLORREF background)
 
 HostWindow::~HostWindow()
 {
-    if (m_window && IsWindow(m_window))
+    if (m_window && IsWindow(m_window)) {
         DestroyWindow(m_window);
+    }
     m_log.reset();
-    if (m_background)
+    if (m_background) {
         DeleteObject(m_background);
+    }
     Settle();
 }
 
@@ -86,8 +88,9 @@ HWND HostWindow::Add(const wchar_t* className, const wchar_t* text, DWORD style,
 void HostWindow::Restart()
 {
     Settle();
-    if (m_log)
+    if (m_log) {
         m_log->Clear();
+    }
 }
 
 } // namespace ts

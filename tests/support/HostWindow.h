@@ -1,9 +1,10 @@
 #pragma once
 
-#include <memory>
 #include <tests/support/MessageRecorder.h>
 
 #include <commctrl.h>
+
+#include <memory>
 
 namespace ts
 {

@@ -1,8 +1,8 @@
 #include <tests/support/ImportRedirection.h>
-
 #include <tests/support/Imports.h>
 
 #include <psapi.h>
+
 #include <utility>
 
 namespace ts
@@ -21,14 +21,16 @@ std::vector<HMODULE> Modules()
 
 ImportRedirection::ImportRedirection(std::vector<Function> functions) : m_functions(std::move(functions))
 {
-    for (const HMODULE module : Modules())
+    for (const HMODULE module : Modules()) {
         ForEachImport(module, [this](const char*, const char*, void** slot) { Redirect(slot); });
+    }
 }
 
 ImportRedirection::~ImportRedirection()
 {
-    for (const Slot& slot : m_slots)
+    for (const Slot& slot : m_slots) {
         WriteImport(slot.place, slot.original);
+    }
 }
 
 void ImportRedirection::Redirect(void** place)

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <vector>
 #include <windows.h>
+
+#include <vector>
 
 namespace ts
 {

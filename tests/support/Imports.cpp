@@ -1,7 +1,8 @@
 #include <tests/support/Imports.h>
 
-#include <cstring>
 #include <gtest/gtest.h>
+
+#include <cstring>
 
 namespace ts
 {
@@ -17,8 +18,9 @@ T* At(HMODULE module, ULONGLONG offset)
 /** The module's table of imports; null when it has none. */
 const IMAGE_IMPORT_DESCRIPTOR* Libraries(HMODULE module)
 {
-    if (!module)
+    if (!module) {
         return nullptr;
+    }
     const auto* dos = At<const IMAGE_DOS_HEADER>(module, 0);
     const auto* headers = At<const IMAGE_NT_HEADERS64>(module, static_cast<ULONGLONG>(dos->e_lfanew));
     const IMAGE_DATA_DIRECTORY& imports = headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
@@ -50,15 +52,17 @@ void ForEachImport(HMODULE module,
 {
     const IMAGE_IMPORT_DESCRIPTOR* library = Libraries(module);
     for (; library && library->Name != 0; ++library) {
-        if (library->OriginalFirstThunk == 0)
+        if (library->OriginalFirstThunk == 0) {
             continue; // bound without keeping the names
+        }
         const auto* name = At<const IMAGE_THUNK_DATA64>(module, library->OriginalFirstThunk);
         auto* slot = At<IMAGE_THUNK_DATA64>(module, library->FirstThunk);
         for (; name->u1.AddressOfData != 0; ++name, ++slot) {
-            if (!IMAGE_SNAP_BY_ORDINAL64(name->u1.Ordinal))
+            if (!IMAGE_SNAP_BY_ORDINAL64(name->u1.Ordinal)) {
                 visit(At<const char>(module, library->Name),
                       At<const IMAGE_IMPORT_BY_NAME>(module, name->u1.AddressOfData)->Name,
                       reinterpret_cast<void**>(&slot->u1.Function));
+            }
         }
     }
 }
@@ -82,8 +86,9 @@ std::set<std::string> ImportsOf(HMODULE module)
 ReplacedImport::ReplacedImport(const wchar_t* module, const char* function, void* replacement) : m_slot(nullptr)
 {
     ForEachImport(GetModuleHandleW(module), [&](const char* /*library*/, const char* name, void** slot) {
-        if (strcmp(name, function) == 0)
+        if (strcmp(name, function) == 0) {
             m_slot = slot;
+        }
     });
     if (!m_slot) {
         ADD_FAILURE() << function << " is not imported by that module";
@@ -95,14 +100,16 @@ ReplacedImport::ReplacedImport(const wchar_t* module, const char* function, void
 
 ReplacedImport::~ReplacedImport()
 {
-    if (m_slot)
+    if (m_slot) {
         WriteImport(m_slot, m_original);
+    }
 }
 
 ReplacedFunction::ReplacedFunction(const wchar_t* library, const char* function, void* replacement)
 {
-    if (const HMODULE module = LoadLibraryW(library))
+    if (const HMODULE module = LoadLibraryW(library)) {
         m_entry = reinterpret_cast<void*>(GetProcAddress(module, function));
+    }
     if (!m_entry) {
         ADD_FAILURE() << function << " is not exported by that DLL";
         return;
@@ -114,8 +121,9 @@ ReplacedFunction::ReplacedFunction(const wchar_t* library, const char* function,
 
 ReplacedFunction::~ReplacedFunction()
 {
-    if (m_entry)
+    if (m_entry) {
         Write(m_original);
+    }
 }
 
 void ReplacedFunction::Write(const std::string& code)

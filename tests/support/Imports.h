@@ -1,9 +1,10 @@
 #pragma once
 
+#include <windows.h>
+
 #include <functional>
 #include <set>
 #include <string>
-#include <windows.h>
 
 /** @file
  * What modules import from others, and how a test gets in between: for failures of the system that cannot be brought

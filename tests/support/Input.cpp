@@ -1,7 +1,7 @@
 #include <tests/support/Input.h>
+#include <tests/support/Pump.h>
 
 #include <gtest/gtest.h>
-#include <tests/support/Pump.h>
 
 #include <algorithm>
 #include <vector>
@@ -47,8 +47,9 @@ std::vector<Button>& PressedButtons()
 
 void Send(INPUT input)
 {
-    if (SendInput(1, &input, sizeof(input)) != 1)
+    if (SendInput(1, &input, sizeof(input)) != 1) {
         ADD_FAILURE() << "SendInput failed, error " << GetLastError();
+    }
 }
 
 void SendMouse(DWORD flags, LONG x = 0, LONG y = 0, DWORD data = 0)
@@ -169,8 +170,9 @@ void Drag(HWND window, POINT from, POINT to, Button button)
 {
     MoveMouse(window, from.x, from.y);
     MouseDown(button);
-    for (int step = 1; step <= kDragSteps; ++step)
+    for (int step = 1; step <= kDragSteps; ++step) {
         MoveMouse(window, from.x + (to.x - from.x) * step / kDragSteps, from.y + (to.y - from.y) * step / kDragSteps);
+    }
     MouseUp(button);
 }
 
@@ -219,10 +221,12 @@ void Key(WORD key)
 
 void Chord(std::initializer_list<WORD> keys)
 {
-    for (const WORD key : keys)
+    for (const WORD key : keys) {
         KeyDown(key);
-    for (auto key = std::rbegin(keys); key != std::rend(keys); ++key)
+    }
+    for (auto key = std::rbegin(keys); key != std::rend(keys); ++key) {
         KeyUp(*key);
+    }
 }
 
 void Type(std::wstring_view text)
@@ -235,10 +239,12 @@ void Type(std::wstring_view text)
 
 void ReleaseInput()
 {
-    while (!PressedKeys().empty())
+    while (!PressedKeys().empty()) {
         KeyUp(PressedKeys().back());
-    while (!PressedButtons().empty())
+    }
+    while (!PressedButtons().empty()) {
         MouseUp(PressedButtons().back());
+    }
 }
 
 void SetHoverTime(UINT milliseconds)

@@ -1,8 +1,9 @@
 #pragma once
 
+#include <windows.h>
+
 #include <initializer_list>
 #include <string_view>
-#include <windows.h>
 
 /** @file
  * Mouse and keyboard as a user works them: through SendInput, to the window that is really there. Coordinates are

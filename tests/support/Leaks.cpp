@@ -1,13 +1,14 @@
 #include <tests/support/Leaks.h>
-
 #include <tests/support/Pump.h>
 #include <tests/support/Surroundings.h>
+
+#include <windows.h>
+
+#include <winternl.h>
 
 #include <algorithm>
 #include <sstream>
 #include <vector>
-#include <windows.h>
-#include <winternl.h>
 
 namespace ts
 {
@@ -78,8 +79,9 @@ void CountGdi(HandleCounts& counts)
     const auto* peb = reinterpret_cast<const BYTE*>(process.PebBaseAddress);
     const auto* table = *reinterpret_cast<const GdiEntry* const*>(peb + kGdiTableInPeb);
     for (ULONG_PTR i = 0; i < kGdiTableEntries; ++i) {
-        if (table[i].type != 0)
+        if (table[i].type != 0) {
             ++counts[GdiName(GetObjectType(reinterpret_cast<HGDIOBJ>(i | (ULONG_PTR{table[i].unique} << 16))))];
+        }
     }
 }
 
@@ -99,8 +101,9 @@ BOOL CALLBACK CountChild(HWND window, LPARAM count)
 BOOL CALLBACK CountTopLevel(HWND window, LPARAM count)
 {
     CountChild(window, count);
-    if (IsOurs(window))
+    if (IsOurs(window)) {
         EnumChildWindows(window, CountChild, count);
+    }
     return TRUE;
 }
 
@@ -109,19 +112,22 @@ int CountWindows()
     int count = 0;
     EnumWindows(CountTopLevel, reinterpret_cast<LPARAM>(&count));
     HWND window = nullptr;
-    while ((window = FindWindowExW(HWND_MESSAGE, window, nullptr, nullptr)) != nullptr)
+    while ((window = FindWindowExW(HWND_MESSAGE, window, nullptr, nullptr)) != nullptr) {
         CountTopLevel(window, reinterpret_cast<LPARAM>(&count));
+    }
     return count;
 }
 
 bool IsIcon(ULONG_PTR handle)
 {
     ICONINFO info = {};
-    if (!GetIconInfo(reinterpret_cast<HICON>(handle), &info))
+    if (!GetIconInfo(reinterpret_cast<HICON>(handle), &info)) {
         return false;
+    }
     DeleteObject(info.hbmMask);
-    if (info.hbmColor)
+    if (info.hbmColor) {
         DeleteObject(info.hbmColor);
+    }
     return true;
 }
 
@@ -139,8 +145,9 @@ std::string KernelTypeName(HANDLE handle)
 {
     alignas(void*) BYTE buffer[512] = {};
     ULONG size = 0;
-    if (NtQueryObject(handle, ObjectTypeInformation, buffer, sizeof(buffer), &size) != 0)
+    if (NtQueryObject(handle, ObjectTypeInformation, buffer, sizeof(buffer), &size) != 0) {
         return "kernel object";
+    }
     const auto& name = *reinterpret_cast<const UNICODE_STRING*>(buffer);
     return ToUtf8({name.Buffer, name.Length / sizeof(wchar_t)});
 }
@@ -151,8 +158,9 @@ void CountKernel(HandleCounts& counts)
     ULONG size = 0;
     NTSTATUS status;
     while ((status = NtQuerySystemInformation(static_cast<SYSTEM_INFORMATION_CLASS>(kHandleInformation), buffer.data(),
-                                              static_cast<ULONG>(buffer.size()), &size)) == kTooSmall)
+                                              static_cast<ULONG>(buffer.size()), &size)) == kTooSmall) {
         buffer.resize(buffer.size() * 2);
+    }
     if (status != 0) {
         ADD_FAILURE() << "the kernel handles cannot be listed";
         return;
@@ -161,11 +169,13 @@ void CountKernel(HandleCounts& counts)
     const auto* entries = reinterpret_cast<const KernelEntry*>(buffer.data() + sizeof(void*));
     std::map<BYTE, std::string> names;
     for (ULONG i = 0; i < count; ++i) {
-        if (entries[i].process != GetCurrentProcessId())
+        if (entries[i].process != GetCurrentProcessId()) {
             continue;
+        }
         std::string& name = names[entries[i].type];
-        if (name.empty())
+        if (name.empty()) {
             name = KernelTypeName(reinterpret_cast<HANDLE>(static_cast<ULONG_PTR>(entries[i].handle)));
+        }
         ++counts[name];
     }
 }
@@ -190,8 +200,9 @@ void Run(const std::function<void()>& cycle, int times)
 std::string Text(const HandleCounts& counts)
 {
     std::ostringstream text;
-    for (const auto& [kind, number] : counts)
+    for (const auto& [kind, number] : counts) {
         text << (text.tellp() > 0 ? ", " : "") << number << " x " << kind;
+    }
     return text.str();
 }
 
@@ -201,8 +212,9 @@ HandleCounts InBoth(const HandleCounts& one, const HandleCounts& other)
     HandleCounts both;
     for (const auto& [kind, number] : one) {
         const auto found = other.find(kind);
-        if (number > 0 && found != other.end() && found->second > 0)
+        if (number > 0 && found != other.end() && found->second > 0) {
             both[kind] = (std::min)(number, found->second);
+        }
     }
     return both;
 }
@@ -224,8 +236,9 @@ HandleCounts CountHandles()
 HandleCounts Difference(const HandleCounts& before, const HandleCounts& after)
 {
     HandleCounts difference = after;
-    for (const auto& [kind, number] : before)
+    for (const auto& [kind, number] : before) {
         difference[kind] -= number;
+    }
     std::erase_if(difference, [](const auto& entry) { return entry.second == 0; });
     return difference;
 }
@@ -241,8 +254,9 @@ testing::AssertionResult NoLeak(const std::function<void()>& cycle, int cycles)
         const HandleCounts grown = Difference(before, after);
         leaked = round == 0 ? grown : InBoth(leaked, grown);
         std::erase_if(leaked, [](const auto& entry) { return entry.second < 0; });
-        if (leaked.empty())
+        if (leaked.empty()) {
             return testing::AssertionSuccess() << "nothing was left behind";
+        }
         before = after;
     }
     return testing::AssertionFailure() << cycles << " cycles left behind " << Text(leaked);

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <functional>
 #include <gtest/gtest.h>
+
+#include <functional>
 #include <map>
 #include <string>
 

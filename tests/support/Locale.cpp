@@ -1,8 +1,9 @@
 #include <tests/support/Locale.h>
 
+#include <gtest/gtest.h>
+
 #include <clocale>
 #include <cwchar>
-#include <gtest/gtest.h>
 
 namespace ts
 {
@@ -19,8 +20,9 @@ std::wstring UserValue(LCTYPE type)
 ThreadLocale::ThreadLocale(const wchar_t* name) : m_old(GetThreadLocale())
 {
     const LCID locale = LocaleNameToLCID(name, 0);
-    if (locale == 0 || !SetThreadLocale(locale))
+    if (locale == 0 || !SetThreadLocale(locale)) {
         ADD_FAILURE() << "ThreadLocale: the system does not know this locale";
+    }
 }
 
 ThreadLocale::~ThreadLocale()
@@ -30,8 +32,9 @@ ThreadLocale::~ThreadLocale()
 
 UserLocaleValue::UserLocaleValue(LCTYPE type, const wchar_t* value) : m_type(type), m_old(UserValue(type))
 {
-    if (!SetLocaleInfoW(LOCALE_USER_DEFAULT, type, value))
+    if (!SetLocaleInfoW(LOCALE_USER_DEFAULT, type, value)) {
         ADD_FAILURE() << "UserLocaleValue: the value was refused, error " << GetLastError();
+    }
 }
 
 UserLocaleValue::~UserLocaleValue()
@@ -43,8 +46,9 @@ CrtLocale::CrtLocale(const wchar_t* name)
 {
     const wchar_t* old = _wsetlocale(LC_ALL, nullptr);
     m_old = old ? old : L"C";
-    if (!_wsetlocale(LC_ALL, name))
+    if (!_wsetlocale(LC_ALL, name)) {
         ADD_FAILURE() << "CrtLocale: the C run-time does not know this locale";
+    }
 }
 
 CrtLocale::~CrtLocale()

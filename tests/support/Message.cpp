@@ -1,11 +1,11 @@
 #include <tests/support/Message.h>
 
+#include <commctrl.h>
+
 #include <algorithm>
 #include <iomanip>
 #include <sstream>
 #include <utility>
-
-#include <commctrl.h>
 
 namespace ts
 {
@@ -146,8 +146,9 @@ constexpr UINT kFirstRegistered = 0xC000;
 std::string Number(ULONG_PTR value)
 {
     std::ostringstream text;
-    if (value > 0xFFFF)
+    if (value > 0xFFFF) {
         text << "0x" << std::hex;
+    }
     text << value;
     return text.str();
 }
@@ -167,21 +168,26 @@ bool Fits(const std::optional<T>& wanted, T value)
 std::string MessageName(UINT id)
 {
     for (const Name& name : kNames) {
-        if (name.id == id)
+        if (name.id == id) {
             return name.text;
+        }
     }
     if (id >= kFirstRegistered && id <= 0xFFFF) {
         char name[128] = {};
-        if (GetClipboardFormatNameA(id, name, sizeof(name)) > 0)
+        if (GetClipboardFormatNameA(id, name, sizeof(name)) > 0) {
             return std::string("registered '") + name + "'";
+        }
         return "registered " + Number(id);
     }
-    if (id >= WM_APP)
+    if (id >= WM_APP) {
         return "WM_APP+" + std::to_string(id - WM_APP);
-    if (id >= kOcmBase)
+    }
+    if (id >= kOcmBase) {
         return "reflected " + MessageName(id - kOcmBase);
-    if (id >= WM_USER)
+    }
+    if (id >= WM_USER) {
         return "WM_USER+" + std::to_string(id - WM_USER);
+    }
     return "message " + Number(id);
 }
 
@@ -207,8 +213,9 @@ Message Message::Make(HWND window, UINT id, WPARAM wParam, LPARAM lParam)
 
 std::string Message::Text() const
 {
-    if (id == WM_COMMAND || id == WM_NOTIFY)
+    if (id == WM_COMMAND || id == WM_NOTIFY) {
         return MessageName(id) + " control=" + Number(control) + " code=" + Code(code);
+    }
     return MessageName(id) + " wParam=" + Number(wParam) + " lParam=" + Number(static_cast<ULONG_PTR>(lParam));
 }
 
@@ -221,14 +228,18 @@ bool Expected::Matches(const Message& message) const
 std::string Expected::Text() const
 {
     std::string text = MessageName(id);
-    if (control)
+    if (control) {
         text += " control=" + Number(*control);
-    if (code)
+    }
+    if (code) {
         text += " code=" + Code(*code);
-    if (wParam)
+    }
+    if (wParam) {
         text += " wParam=" + Number(*wParam);
-    if (lParam)
+    }
+    if (lParam) {
         text += " lParam=" + Number(static_cast<ULONG_PTR>(*lParam));
+    }
     return text;
 }
 
@@ -263,10 +274,12 @@ testing::AssertionResult SameSequence(const std::vector<Message>& recorded, cons
 {
     const size_t lines = (std::max)(recorded.size(), expected.size());
     size_t first = 0;
-    while (first < recorded.size() && first < expected.size() && expected[first].Matches(recorded[first]))
+    while (first < recorded.size() && first < expected.size() && expected[first].Matches(recorded[first])) {
         ++first;
-    if (first == lines)
+    }
+    if (first == lines) {
         return testing::AssertionSuccess();
+    }
 
     std::ostringstream text;
     text << "the sequences differ from line " << first << " on:\n" << std::left;

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <gtest/gtest.h>
+
+#include <windows.h>
+
 #include <optional>
 #include <string>
 #include <vector>
-#include <windows.h>
 
 namespace ts
 {

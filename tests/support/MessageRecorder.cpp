@@ -1,9 +1,9 @@
 #include <tests/support/MessageRecorder.h>
 
+#include <commctrl.h>
+
 #include <algorithm>
 #include <utility>
-
-#include <commctrl.h>
 
 namespace ts
 {
@@ -46,8 +46,9 @@ bool MessageLog::Wanted(const Message& message) const
 
 void MessageLog::Add(const Message& message)
 {
-    if (Wanted(message))
+    if (Wanted(message)) {
         m_messages.push_back(message);
+    }
 }
 
 size_t MessageLog::Count(const Expected& expected) const
@@ -72,21 +73,24 @@ testing::AssertionResult MessageLog::IsAmong(const std::vector<Expected>& expect
 
 MessageRecorder::MessageRecorder(HWND window) : m_window(window)
 {
-    if (!SetWindowSubclass(window, Procedure, reinterpret_cast<UINT_PTR>(this), reinterpret_cast<DWORD_PTR>(this)))
+    if (!SetWindowSubclass(window, Procedure, reinterpret_cast<UINT_PTR>(this), reinterpret_cast<DWORD_PTR>(this))) {
         ADD_FAILURE() << "MessageRecorder: not a window of this thread";
+    }
 }
 
 MessageRecorder::~MessageRecorder()
 {
-    if (m_window)
+    if (m_window) {
         RemoveWindowSubclass(m_window, Procedure, reinterpret_cast<UINT_PTR>(this));
+    }
 }
 
 void MessageRecorder::Answer(UINT id, std::function<std::optional<LRESULT>(const Message&)> answer)
 {
     std::erase_if(m_answers, [id](const auto& one) { return one.first == id; });
-    if (answer)
+    if (answer) {
         m_answers.emplace_back(id, std::move(answer));
+    }
 }
 
 LRESULT CALLBACK MessageRecorder::Procedure(HWND window, UINT id, WPARAM wParam, LPARAM lParam, UINT_PTR key,
@@ -105,8 +109,9 @@ LRESULT CALLBACK MessageRecorder::Procedure(HWND window, UINT id, WPARAM wParam,
     if (found != recorder->m_answers.end()) {
         // The answer may take itself back.
         const auto answer = found->second;
-        if (const std::optional<LRESULT> result = answer(message))
+        if (const std::optional<LRESULT> result = answer(message)) {
             return *result;
+        }
     }
     return DefSubclassProc(window, id, wParam, lParam);
 }

@@ -1,9 +1,10 @@
 #pragma once
 
+#include <tests/support/Message.h>
+
 #include <functional>
 #include <initializer_list>
 #include <set>
-#include <tests/support/Message.h>
 #include <vector>
 
 namespace ts

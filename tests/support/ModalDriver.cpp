@@ -1,9 +1,9 @@
-#include <tests/support/ModalDriver.h>
-
-#include <gtest/gtest.h>
 #include <tests/support/CrashHandler.h>
 #include <tests/support/Input.h>
+#include <tests/support/ModalDriver.h>
 #include <tests/support/Pump.h>
+
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <map>
@@ -43,8 +43,9 @@ bool CanBeDialog(HWND window)
 
 BOOL CALLBACK Collect(HWND window, LPARAM list)
 {
-    if (IsWindowVisible(window))
+    if (IsWindowVisible(window)) {
         reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+    }
     return TRUE;
 }
 
@@ -68,8 +69,9 @@ ModalDriver::ModalDriver(DWORD limit)
       m_timer(SetTimer(nullptr, 0, kTick, OnTimer)),
       m_before(VisibleWindows())
 {
-    if (m_timer == 0)
+    if (m_timer == 0) {
         ADD_FAILURE() << "ModalDriver: no timer, error " << GetLastError();
+    }
     Drivers()[m_timer] = this;
 }
 
@@ -77,9 +79,10 @@ ModalDriver::~ModalDriver()
 {
     Drivers().erase(m_timer);
     KillTimer(nullptr, m_timer);
-    if (!m_steps.empty() && !m_forced)
+    if (!m_steps.empty() && !m_forced) {
         ADD_FAILURE() << "ModalDriver: step " << m_done << " (" << m_steps.front().what
                       << ") never ran: the modal loop had ended";
+    }
     ReleaseInput();
 }
 
@@ -121,8 +124,9 @@ HWND ModalDriver::FindDialog() const
     const std::vector<HWND> windows = NewWindows();
     const auto usable = [](HWND window) { return IsWindowEnabled(window) && CanBeDialog(window); };
     const HWND active = GetActiveWindow();
-    if (usable(active) && std::find(windows.begin(), windows.end(), active) != windows.end())
+    if (usable(active) && std::find(windows.begin(), windows.end(), active) != windows.end()) {
         return active;
+    }
     const auto found = std::find_if(windows.begin(), windows.end(), usable);
     return found == windows.end() ? nullptr : *found;
 }
@@ -130,8 +134,9 @@ HWND ModalDriver::FindDialog() const
 HWND ModalDriver::FindMenu()
 {
     for (const HWND window : VisibleWindows()) {
-        if (ClassOf(window) == kMenuClass)
+        if (ClassOf(window) == kMenuClass) {
             return window;
+        }
     }
     return nullptr;
 }
@@ -139,28 +144,34 @@ HWND ModalDriver::FindMenu()
 void CALLBACK ModalDriver::OnTimer(HWND, UINT, UINT_PTR id, DWORD)
 {
     const auto driver = Drivers().find(id);
-    if (driver != Drivers().end())
+    if (driver != Drivers().end()) {
         driver->second->Tick();
+    }
 }
 
 void ModalDriver::Tick()
 {
     // A step may open a modal loop of its own, in which the timer goes on: the next step belongs to that loop.
-    if (m_forced)
+    if (m_forced) {
         return Force();
+    }
     const bool waiting = GetTickCount64() < m_deadline;
     if (m_steps.empty()) {
         const bool stays = FindDialog() != nullptr || FindMenu() != nullptr;
-        if (stays && !waiting && !m_running)
+        if (stays && !waiting && !m_running) {
             GiveUp("the modal loop is still there after the last step");
+        }
         return;
     }
-    if (InputIsWaiting())
+    if (InputIsWaiting()) {
         return;
-    if (m_steps.front().ready())
+    }
+    if (m_steps.front().ready()) {
         return RunStep();
-    if (!waiting)
+    }
+    if (!waiting) {
         GiveUp("step " + std::to_string(m_done) + " waited in vain for " + m_steps.front().what);
+    }
 }
 
 void ModalDriver::RunStep()
@@ -189,27 +200,31 @@ void ModalDriver::GiveUp(const std::string& why)
 void ModalDriver::Force()
 {
     ++m_attempts;
-    if (FindMenu())
+    if (FindMenu()) {
         EndMenu();
-    if (GetCapture())
+    }
+    if (GetCapture()) {
         ReleaseCapture();
+    }
     // EndDialog hides a dialog with a loop of its own, and does not end the loop: such a dialog is still to be
     // destroyed.
     for (const HWND window : NewWindows()) {
-        if (CanBeDialog(window) && std::find(m_stuck.begin(), m_stuck.end(), window) == m_stuck.end())
+        if (CanBeDialog(window) && std::find(m_stuck.begin(), m_stuck.end(), window) == m_stuck.end()) {
             m_stuck.push_back(window);
+        }
     }
     std::erase_if(m_stuck, [](HWND window) { return !IsWindow(window); });
     for (const HWND window : m_stuck) {
         if (m_attempts <= kAttemptsByCommand) {
             PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
             PostMessageW(window, WM_CLOSE, 0, 0);
-        } else if (m_attempts <= kAttemptsByEndDialog && ClassOf(window) == kDialogClass)
+        } else if (m_attempts <= kAttemptsByEndDialog && ClassOf(window) == kDialogClass) {
             EndDialog(window, IDCANCEL);
-        else if (m_attempts <= kAttemptsByDestroy)
+        } else if (m_attempts <= kAttemptsByDestroy) {
             DestroyWindow(window);
-        else
+        } else {
             EndHungProgram("a modal loop could not be ended");
+        }
     }
 }
 

@@ -1,10 +1,11 @@
 #pragma once
 
+#include <windows.h>
+
 #include <deque>
 #include <functional>
 #include <string>
 #include <vector>
-#include <windows.h>
 
 namespace ts
 {

@@ -1,5 +1,4 @@
 #include <tests/support/Picture.h>
-
 #include <tests/support/PngFile.h>
 #include <tests/support/Pump.h>
 #include <tests/support/Surroundings.h>
@@ -30,8 +29,9 @@ class Canvas
         info.bmiHeader.biPlanes = 1;
         info.bmiHeader.biBitCount = 32;
         m_bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &m_bits, nullptr, 0);
-        if (!m_dc || !m_bitmap)
+        if (!m_dc || !m_bitmap) {
             ADD_FAILURE() << "no memory picture of " << cx << " x " << cy << ", error " << GetLastError();
+        }
         m_old = SelectObject(m_dc, m_bitmap);
     }
 
@@ -92,8 +92,9 @@ void PrintWithChildren(HWND window, const Canvas& canvas)
     const HWND top = GetWindow(window, GW_CHILD);
     for (HWND child = top ? GetWindow(top, GW_HWNDLAST) : nullptr; child; child = GetWindow(child, GW_HWNDPREV)) {
         const SIZE size = ClientSize(child);
-        if (!(GetWindowLongW(child, GWL_STYLE) & WS_VISIBLE) || size.cx <= 0 || size.cy <= 0)
+        if (!(GetWindowLongW(child, GWL_STYLE) & WS_VISIBLE) || size.cx <= 0 || size.cy <= 0) {
             continue;
+        }
         POINT at = {0, 0};
         MapWindowPoints(child, window, &at, 1);
         const Canvas part(size.cx, size.cy);
@@ -129,8 +130,9 @@ bool IsInside(const Picture& picture, int x, int y)
 
 Picture::Picture(int cx, int cy, std::vector<COLORREF> pixels) : m_cx(cx), m_cy(cy), m_pixels(std::move(pixels))
 {
-    if (m_pixels.size() != static_cast<size_t>(cx) * static_cast<size_t>(cy))
+    if (m_pixels.size() != static_cast<size_t>(cx) * static_cast<size_t>(cy)) {
         ADD_FAILURE() << "a picture of " << cx << " x " << cy << " cannot have " << m_pixels.size() << " pixels";
+    }
 }
 
 COLORREF Picture::At(int x, int y) const
@@ -146,12 +148,14 @@ Picture Picture::Crop(const RECT& part) const
 {
     const RECT all = {0, 0, m_cx, m_cy};
     RECT inside;
-    if (!IntersectRect(&inside, &all, &part))
+    if (!IntersectRect(&inside, &all, &part)) {
         return {};
+    }
     std::vector<COLORREF> pixels;
     for (int y = inside.top; y < inside.bottom; ++y) {
-        for (int x = inside.left; x < inside.right; ++x)
+        for (int x = inside.left; x < inside.right; ++x) {
             pixels.push_back(At(x, y));
+        }
     }
     return {inside.right - inside.left, inside.bottom - inside.top, std::move(pixels)};
 }
@@ -167,8 +171,9 @@ RECT Picture::Bounds(const std::function<bool(COLORREF)>& wanted) const
     for (int y = 0; y < m_cy; ++y) {
         for (int x = 0; x < m_cx; ++x) {
             const RECT pixel = {x, y, x + 1, y + 1};
-            if (wanted(At(x, y)))
+            if (wanted(At(x, y))) {
                 UnionRect(&bounds, &bounds, &pixel);
+            }
         }
     }
     return bounds;
@@ -196,15 +201,17 @@ std::string Picture::Text() const
         }
         text << '\n';
     }
-    for (const auto& [colour, letter] : legend)
+    for (const auto& [colour, letter] : legend) {
         text << letter << " = " << ColourText(colour) << '\n';
+    }
     return text.str();
 }
 
 void Picture::SavePng(const std::wstring& path) const
 {
-    if (!WritePng(path, m_cx, m_cy, m_pixels))
+    if (!WritePng(path, m_cx, m_cy, m_pixels)) {
         ADD_FAILURE() << "cannot write " << ToUtf8(path);
+    }
 }
 
 Picture CaptureWindow(HWND window)
@@ -269,8 +276,9 @@ Picture PictureOf(HBITMAP bitmap)
 
 std::string ColourText(COLORREF colour)
 {
-    if (colour == CLR_INVALID)
+    if (colour == CLR_INVALID) {
         return "(none)";
+    }
     std::ostringstream text;
     text << "(" << static_cast<int>(GetRValue(colour)) << ", " << static_cast<int>(GetGValue(colour)) << ", "
          << static_cast<int>(GetBValue(colour)) << ")";
@@ -279,26 +287,30 @@ std::string ColourText(COLORREF colour)
 
 testing::AssertionResult PixelIs(const Picture& picture, int x, int y, COLORREF colour, int tolerance)
 {
-    if (!IsInside(picture, x, y))
+    if (!IsInside(picture, x, y)) {
         return testing::AssertionFailure() << "(" << x << ", " << y << ") lies outside the picture of "
                                            << picture.Width() << " x " << picture.Height();
+    }
     const COLORREF found = picture.At(x, y);
-    if (Distance(found, colour) <= tolerance)
+    if (Distance(found, colour) <= tolerance) {
         return testing::AssertionSuccess() << "the pixel (" << x << ", " << y << ") is " << ColourText(found);
+    }
     return testing::AssertionFailure() << "the pixel (" << x << ", " << y << ") is " << ColourText(found)
                                        << " instead of " << ColourText(colour);
 }
 
 testing::AssertionResult AreaIs(const Picture& picture, const RECT& area, COLORREF colour, int tolerance)
 {
-    if (IsRectEmpty(&area))
+    if (IsRectEmpty(&area)) {
         return testing::AssertionFailure() << "the area is empty";
+    }
     for (int y = area.top; y < area.bottom; ++y) {
         for (int x = area.left; x < area.right; ++x) {
             const testing::AssertionResult pixel = PixelIs(picture, x, y, colour, tolerance);
-            if (!pixel)
+            if (!pixel) {
                 return testing::AssertionFailure() << pixel.message() << "; the area around:\n"
                                                    << picture.Crop({x - 8, y - 8, x + 24, y + 16}).Text();
+            }
         }
     }
     return testing::AssertionSuccess() << "the whole area is " << ColourText(colour);
@@ -311,8 +323,9 @@ testing::AssertionResult FrameIs(const Picture& picture, const RECT& frame, COLO
                           {frame.left, frame.top, frame.left + 1, frame.bottom},
                           {frame.right - 1, frame.top, frame.right, frame.bottom}};
     for (const RECT& side : sides) {
-        if (testing::AssertionResult result = AreaIs(picture, side, colour); !result)
+        if (testing::AssertionResult result = AreaIs(picture, side, colour); !result) {
             return result;
+        }
     }
     return testing::AssertionSuccess();
 }
@@ -321,8 +334,9 @@ std::optional<POINT> FirstDifference(const Picture& one, const Picture& other, i
 {
     for (int y = 0; y < (std::min)(one.Height(), other.Height()); ++y) {
         for (int x = 0; x < (std::min)(one.Width(), other.Width()); ++x) {
-            if (Distance(one.At(x, y), other.At(x, y)) > tolerance)
+            if (Distance(one.At(x, y), other.At(x, y)) > tolerance) {
                 return POINT{x, y};
+            }
         }
     }
     return std::nullopt;
@@ -330,12 +344,14 @@ std::optional<POINT> FirstDifference(const Picture& one, const Picture& other, i
 
 testing::AssertionResult SamePicture(const Picture& one, const Picture& other, int tolerance)
 {
-    if (one.Width() != other.Width() || one.Height() != other.Height())
+    if (one.Width() != other.Width() || one.Height() != other.Height()) {
         return testing::AssertionFailure() << "the pictures are " << one.Width() << " x " << one.Height() << " and "
                                            << other.Width() << " x " << other.Height();
+    }
     const std::optional<POINT> at = FirstDifference(one, other, tolerance);
-    if (!at)
+    if (!at) {
         return testing::AssertionSuccess() << "the pictures are the same";
+    }
     return testing::AssertionFailure() << "the pictures differ first at (" << at->x << ", " << at->y
                                        << "): " << ColourText(one.At(at->x, at->y)) << " and "
                                        << ColourText(other.At(at->x, at->y));

@@ -1,11 +1,13 @@
 #pragma once
 
-#include <functional>
 #include <gtest/gtest.h>
+
+#include <windows.h>
+
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
-#include <windows.h>
 
 namespace ts
 {

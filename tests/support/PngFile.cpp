@@ -21,15 +21,17 @@ uint32_t Crc(const std::string& bytes)
         std::array<uint32_t, 256> table = {};
         for (uint32_t i = 0; i < table.size(); ++i) {
             uint32_t value = i;
-            for (int bit = 0; bit < 8; ++bit)
+            for (int bit = 0; bit < 8; ++bit) {
                 value = (value & 1) ? (value >> 1) ^ kCrcPolynomial : value >> 1;
+            }
             table[i] = value;
         }
         return table;
     }();
     uint32_t crc = 0xFFFFFFFF;
-    for (const char byte : bytes)
+    for (const char byte : bytes) {
         crc = kTable[(crc ^ static_cast<unsigned char>(byte)) & 0xFF] ^ (crc >> 8);
+    }
     return ~crc;
 }
 
@@ -73,8 +75,9 @@ bool WritePng(const std::wstring& path, int cx, int cy, const std::vector<COLORR
     std::string rows;
     rows.reserve((static_cast<size_t>(cx) * 3 + 1) * static_cast<size_t>(cy));
     for (size_t i = 0; i < pixels.size(); ++i) {
-        if (i % static_cast<size_t>(cx) == 0)
+        if (i % static_cast<size_t>(cx) == 0) {
             rows += '\0';
+        }
         rows += static_cast<char>(GetRValue(pixels[i]));
         rows += static_cast<char>(GetGValue(pixels[i]));
         rows += static_cast<char>(GetBValue(pixels[i]));
@@ -85,8 +88,9 @@ bool WritePng(const std::wstring& path, int cx, int cy, const std::vector<COLORR
         "\x89PNG\r\n\x1a\n" + Chunk("IHDR", header) + Chunk("IDAT", Stored(rows)) + Chunk("IEND", "");
 
     FILE* out = _wfopen(path.c_str(), L"wb");
-    if (!out)
+    if (!out) {
         return false;
+    }
     const bool all = fwrite(file.data(), 1, file.size(), out) == file.size();
     return fclose(out) == 0 && all;
 }

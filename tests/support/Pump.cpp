@@ -21,8 +21,9 @@ std::function<bool(MSG&)>& PreTranslate()
 
 void Handle(MSG& message)
 {
-    if (PreTranslate() && PreTranslate()(message))
+    if (PreTranslate() && PreTranslate()(message)) {
         return;
+    }
     TranslateMessage(&message);
     DispatchMessageW(&message);
 }
@@ -31,8 +32,9 @@ void Handle(MSG& message)
 bool HandleOne(UINT filter = 0)
 {
     MSG message;
-    if (!PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE | (filter << 16)))
+    if (!PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE | (filter << 16))) {
         return false;
+    }
     if (message.message == WM_QUIT) {
         PostQuitMessage(static_cast<int>(message.wParam));
         return false;
@@ -46,31 +48,37 @@ bool PumpUntil(const std::function<bool()>& condition, DWORD limit)
 {
     const ULONGLONG end = GetTickCount64() + limit;
     for (;;) {
-        if (condition())
+        if (condition()) {
             return true;
-        if (GetTickCount64() >= end)
+        }
+        if (GetTickCount64() >= end) {
             return false;
-        if (!HandleOne())
+        }
+        if (!HandleOne()) {
             MsgWaitForMultipleObjectsEx(0, nullptr, kPollInterval, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+        }
     }
 }
 
 void PumpPending()
 {
     Settle();
-    for (int i = 0; i < kTimerRounds && HandleOne(QS_TIMER); ++i)
+    for (int i = 0; i < kTimerRounds && HandleOne(QS_TIMER); ++i) {
         Settle();
+    }
 }
 
 void Settle()
 {
-    if (g_noPump > 0)
+    if (g_noPump > 0) {
         return;
+    }
     constexpr UINT everythingButTimers = QS_INPUT | QS_POSTMESSAGE | QS_SENDMESSAGE | QS_PAINT | QS_HOTKEY;
     const ULONGLONG end = GetTickCount64() + kSettleLimit;
     for (int i = 0; i < kPendingLimit && GetTickCount64() < end; ++i) {
-        if (!HandleOne(everythingButTimers))
+        if (!HandleOne(everythingButTimers)) {
             return;
+        }
     }
 }
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <functional>
 #include <windows.h>
+
+#include <functional>
 
 namespace ts
 {

@@ -12,8 +12,9 @@ struct Counting
 {
     static Result WINAPI Draw(HDC dc, Rest... rest)
     {
-        if (GetObjectType(dc) == OBJ_DC)
+        if (GetObjectType(dc) == OBJ_DC) {
             ++g_count;
+        }
         return s_original(dc, rest...);
     }
 

@@ -1,9 +1,10 @@
 #include <tests/support/Surroundings.h>
 
+#include <gtest/gtest.h>
+
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <gtest/gtest.h>
 #include <system_error>
 #include <utility>
 
@@ -25,8 +26,9 @@ class Handle
 
     void Close()
     {
-        if (m_handle && m_handle != INVALID_HANDLE_VALUE)
+        if (m_handle && m_handle != INVALID_HANDLE_VALUE) {
             CloseHandle(m_handle);
+        }
         m_handle = nullptr;
     }
     HANDLE Get() const { return m_handle; }
@@ -51,8 +53,9 @@ void DrainPipe(HANDLE pipe, std::string& output)
     while (PeekNamedPipe(pipe, nullptr, 0, nullptr, &available, nullptr) && available > 0) {
         DWORD got = 0;
         if (!ReadFile(pipe, buffer, (std::min)(available, static_cast<DWORD>(sizeof(buffer))), &got, nullptr) ||
-            got == 0)
+            got == 0) {
             return;
+        }
         output.append(buffer, got);
     }
 }
@@ -89,8 +92,9 @@ TempFolder::TempFolder()
     std::error_code error;
     std::filesystem::remove_all(m_path, error);
     std::filesystem::create_directories(m_path, error);
-    if (error)
+    if (error) {
         ADD_FAILURE() << "TempFolder: " << error.message();
+    }
 }
 
 TempFolder::~TempFolder()
@@ -103,8 +107,9 @@ std::wstring TempFolder::MakeFolder(std::wstring_view name) const
 {
     std::error_code error;
     std::filesystem::create_directories(File(name), error);
-    if (error)
+    if (error) {
         ADD_FAILURE() << "TempFolder: " << error.message();
+    }
     return File(name);
 }
 
@@ -129,8 +134,9 @@ std::string ReadBytes(const std::wstring& path)
     }
     char buffer[4096];
     size_t got;
-    while ((got = fread(buffer, 1, sizeof(buffer), file)) > 0)
+    while ((got = fread(buffer, 1, sizeof(buffer), file)) > 0) {
         bytes.append(buffer, got);
+    }
     fclose(file);
     return bytes;
 }
@@ -143,8 +149,9 @@ void WriteBytes(const std::wstring& path, std::string_view bytes)
         return;
     }
     const bool all = fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
-    if (fclose(file) != 0 || !all)
+    if (fclose(file) != 0 || !all) {
         ADD_FAILURE() << "cannot write all of " << ToUtf8(path);
+    }
 }
 
 bool FileExists(const std::wstring& path)
@@ -189,8 +196,9 @@ ProcessResult RunProcess(std::wstring commandLine, DWORD limit)
     Handle read;
     Handle write;
     SECURITY_ATTRIBUTES inherit = {sizeof(inherit), nullptr, TRUE};
-    if (!CreatePipe(read.Out(), write.Out(), &inherit, 0))
+    if (!CreatePipe(read.Out(), write.Out(), &inherit, 0)) {
         return result;
+    }
     SetHandleInformation(read.Get(), HANDLE_FLAG_INHERIT, 0);
 
     STARTUPINFOW startup = {};
@@ -199,8 +207,9 @@ ProcessResult RunProcess(std::wstring commandLine, DWORD limit)
     startup.hStdOutput = write.Get();
     startup.hStdError = write.Get();
     PROCESS_INFORMATION info = {};
-    if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &info))
+    if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &info)) {
         return result;
+    }
     const Handle process(info.hProcess);
     const Handle thread(info.hThread);
     write.Close();

@@ -1,9 +1,10 @@
 #pragma once
 
+#include <windows.h>
+
 #include <string>
 #include <string_view>
 #include <vector>
-#include <windows.h>
 
 /** @file Folders, files, environment variables and other processes around a test. */
 

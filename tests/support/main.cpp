@@ -2,8 +2,9 @@
 #include <tests/support/Input.h>
 #include <tests/support/Pump.h>
 
-#include <commctrl.h>
 #include <gtest/gtest.h>
+
+#include <commctrl.h>
 #include <ole2.h>
 
 namespace
@@ -19,8 +20,9 @@ class Tidy : public testing::EmptyTestEventListener
         ts::ReleaseInput();
         ts::ParkMouse();
         MSG message;
-        while (PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE))
+        while (PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) {
             continue;
+        }
         ts::Settle();
     }
 };
@@ -38,8 +40,9 @@ int wmain(int argc, wchar_t** argv)
 {
     testing::InitGoogleTest(&argc, argv);
     ts::InstallCrashHandler();
-    if (FAILED(OleInitialize(nullptr)))
+    if (FAILED(OleInitialize(nullptr))) {
         return EXIT_FAILURE;
+    }
     InitialiseControls();
     ts::SetHoverTime(kHoverTime);
     ts::KeepClicksApart();

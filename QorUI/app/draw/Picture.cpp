@@ -1,10 +1,11 @@
 #include "Picture.h"
 
 #include "GdiPlusFlat.h"
+
+#include <QorPub/QorPub.h>
 #include <QorUI/app/base/Handles.h>
 
 #include <new>
-#include <QorPub/QorPub.h>
 
 const void* QorImageFromResource(HINSTANCE inst, LPCWSTR name, LPCWSTR type)
 {

@@ -1,9 +1,9 @@
 #include "QorBmp.h"
 
+#include <QorPub/QorPub.h>
 #include <QorUI/app/base/Handles.h>
 
 #include <olectl.h>
-#include <QorPub/QorPub.h>
 
 CQorBmp::CQorBmp() : m_pPicture(nullptr) {}
 

@@ -1,8 +1,8 @@
 #include "QorUIApp.h"
 
 #include "GdiplusCalls.h"
-#include <QorUI/app/look/Palette.h>
 
+#include <QorUI/app/look/Palette.h>
 #include <QorUI/res/resource.h>
 
 std::array<QorBtnStyle, QOR_BTN_STATES> g_BtnStyles;

@@ -7,9 +7,8 @@
  * into a program; everybody else imports.
  */
 
-#include <afxwin.h>
-
 #include <afxcmn.h>
+#include <afxwin.h>
 
 /** Marks what the library offers. */
 #if defined(QORUI_EXPORTS)

@@ -117,8 +117,9 @@ class CMapStringTo : public CMap<CString, LPCTSTR, VALUE, ARG_VALUE>
     BOOL LookupKey(LPCTSTR key, LPCTSTR& rKey) const
     {
         const auto* const pPair = this->PLookup(key);
-        if (pPair)
+        if (pPair) {
             rKey = pPair->key;
+        }
         return pPair != nullptr;
     }
 };

@@ -129,8 +129,9 @@ class AFX_EXCEPTION_LINK
     AFX_EXCEPTION_LINK& operator=(const AFX_EXCEPTION_LINK&) = delete;
     ~AFX_EXCEPTION_LINK()
     {
-        if (m_pException)
+        if (m_pException) {
             m_pException->Delete();
+        }
     }
     /** Gives the exception away, because it is thrown on. */
     void Release() { m_pException = nullptr; }

@@ -188,8 +188,9 @@ class CRect : public tagRECT
     /** Swaps sides until left <= right and top <= bottom. */
     void NormalizeRect() noexcept
     {
-        if (left > right)
+        if (left > right) {
             SwapLeftRight(this);
+        }
         if (top > bottom) {
             const LONG old = top;
             top = bottom;

@@ -4,7 +4,6 @@
  *  Collection templates: CArray, CList, CMap and the typed wrappers of the pointer collections. */
 
 #include <afx/except.h>
-
 #include <afx/str.h>
 
 #include <cmath>
@@ -25,8 +24,9 @@ BOOL AFXAPI CompareElements(const TYPE* pElement1, const ARG_TYPE* pElement2)
 template <class TYPE>
 void AFXAPI CopyElements(TYPE* pDest, const TYPE* pSrc, INT_PTR nCount)
 {
-    for (INT_PTR i = 0; i < nCount; ++i)
+    for (INT_PTR i = 0; i < nCount; ++i) {
         pDest[i] = pSrc[i];
+    }
 }
 
 /** Hash of a string's characters. */
@@ -34,11 +34,12 @@ template <typename XCHAR>
 UINT AfxHashString(const XCHAR* psz)
 {
     UINT nHash = 2166136261U;
-    for (; psz && *psz; ++psz)
+    for (; psz && *psz; ++psz) {
         nHash = (nHash ^
                  static_cast<UINT>(
                      static_cast<std::make_unsigned_t<std::conditional_t<sizeof(XCHAR) == 1, char, short>>>(*psz))) *
                 16777619U;
+    }
     return nHash;
 }
 
@@ -47,11 +48,11 @@ template <class ARG_KEY>
 UINT AFXAPI HashKey(ARG_KEY key)
 {
     typedef std::remove_cv_t<std::remove_reference_t<ARG_KEY>> KEY_TYPE;
-    if constexpr (std::is_convertible_v<ARG_KEY, LPCWSTR> && !std::is_null_pointer_v<KEY_TYPE>)
+    if constexpr (std::is_convertible_v<ARG_KEY, LPCWSTR> && !std::is_null_pointer_v<KEY_TYPE>) {
         return AfxHashString<wchar_t>(key);
-    else if constexpr (std::is_convertible_v<ARG_KEY, LPCSTR> && !std::is_null_pointer_v<KEY_TYPE>)
+    } else if constexpr (std::is_convertible_v<ARG_KEY, LPCSTR> && !std::is_null_pointer_v<KEY_TYPE>) {
         return AfxHashString<char>(key);
-    else {
+    } else {
         const ULONGLONG n = (ULONGLONG)(key); // pointers, numbers and enumerations alike
         return static_cast<UINT>((n ^ (n >> 32)) * 2654435761U >> 4);
     }
@@ -61,8 +62,9 @@ template <>
 inline UINT AFXAPI HashKey<const GUID&>(const GUID& key)
 {
     UINT nHash = static_cast<UINT>(key.Data1) ^ key.Data2 ^ (static_cast<UINT>(key.Data3) << 16);
-    for (const BYTE by : key.Data4)
+    for (const BYTE by : key.Data4) {
         nHash = nHash * 31 + by;
+    }
     return nHash;
 }
 
@@ -85,8 +87,9 @@ class CArray : public CObject
     /** Gives back room that no element uses. */
     void FreeExtra()
     {
-        if (m_nMaxSize != m_nSize)
+        if (m_nMaxSize != m_nSize) {
             Reallocate(m_nSize);
+        }
     }
     void RemoveAll() { SetSize(0); }
 
@@ -133,14 +136,16 @@ class CArray : public CObject
 
     INT_PTR Checked(INT_PTR nIndex) const
     {
-        if (nIndex < 0 || nIndex >= m_nSize)
+        if (nIndex < 0 || nIndex >= m_nSize) {
             AfxThrowInvalidArgException();
+        }
         return nIndex;
     }
     static void CheckArgument(bool bValid)
     {
-        if (!bValid)
+        if (!bValid) {
             AfxThrowInvalidArgException();
+        }
     }
     /** An argument that is one of the array's own elements would not survive a growth. */
     bool IsOwnElement(const void* p) const
@@ -159,11 +164,13 @@ void CArray<TYPE, ARG_TYPE>::Reallocate(INT_PTR nMaxSize)
 {
     TYPE* pNew = nullptr;
     if (nMaxSize > 0) {
-        if (static_cast<size_t>(nMaxSize) > static_cast<size_t>((std::numeric_limits<INT_PTR>::max)()) / ELEMENT_SIZE)
+        if (static_cast<size_t>(nMaxSize) > static_cast<size_t>((std::numeric_limits<INT_PTR>::max)()) / ELEMENT_SIZE) {
             AfxThrowMemoryException();
+        }
         pNew = static_cast<TYPE*>(::operator new(static_cast<size_t>(nMaxSize) * ELEMENT_SIZE, std::nothrow));
-        if (!pNew)
+        if (!pNew) {
             AfxThrowMemoryException();
+        }
         std::uninitialized_move_n(m_pData, m_nSize, pNew);
     }
     std::destroy_n(m_pData, m_nSize);
@@ -184,8 +191,9 @@ void CArray<TYPE, ARG_TYPE>::Free()
 template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::Grow(INT_PTR nNeeded)
 {
-    if (nNeeded <= m_nMaxSize)
+    if (nNeeded <= m_nMaxSize) {
         return;
+    }
     const INT_PTR nGrowBy = m_nGrowBy > 0 ? m_nGrowBy : (std::max)(m_nSize / 2, static_cast<INT_PTR>(4));
     Reallocate(m_nMaxSize == 0 && m_nGrowBy == 0 ? nNeeded : (std::max)(nNeeded, m_nMaxSize + nGrowBy));
 }
@@ -194,17 +202,19 @@ template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::SetSize(INT_PTR nNewSize, INT_PTR nGrowBy)
 {
     CheckArgument(nNewSize >= 0);
-    if (nGrowBy >= 0)
+    if (nGrowBy >= 0) {
         m_nGrowBy = nGrowBy;
+    }
     if (nNewSize == 0) {
         Free();
         return;
     }
     Grow(nNewSize);
-    if (nNewSize > m_nSize)
+    if (nNewSize > m_nSize) {
         std::uninitialized_value_construct_n(m_pData + m_nSize, nNewSize - m_nSize);
-    else
+    } else {
         std::destroy_n(m_pData + nNewSize, m_nSize - nNewSize);
+    }
     m_nSize = nNewSize;
 }
 
@@ -212,15 +222,17 @@ template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::SetAtGrow(INT_PTR nIndex, ARG_TYPE newElement)
 {
     CheckArgument(nIndex >= 0);
-    if constexpr (std::is_reference_v<ARG_TYPE> && std::is_copy_constructible_v<TYPE>)
+    if constexpr (std::is_reference_v<ARG_TYPE> && std::is_copy_constructible_v<TYPE>) {
         if (nIndex >= m_nMaxSize && IsOwnElement(std::addressof(newElement))) {
             TYPE copy(newElement);
             SetSize(nIndex + 1);
             m_pData[nIndex] = std::move(copy);
             return;
         }
-    if (nIndex >= m_nSize)
+    }
+    if (nIndex >= m_nSize) {
         SetSize(nIndex + 1);
+    }
     m_pData[nIndex] = newElement;
 }
 
@@ -239,11 +251,13 @@ INT_PTR CArray<TYPE, ARG_TYPE>::Append(const CArray& src)
 template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::Copy(const CArray& src)
 {
-    if (this == &src)
+    if (this == &src) {
         return;
+    }
     SetSize(src.m_nSize);
-    if (m_nSize > 0)
+    if (m_nSize > 0) {
         CopyElements<TYPE>(m_pData, src.m_pData, m_nSize);
+    }
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -251,28 +265,33 @@ void CArray<TYPE, ARG_TYPE>::OpenGap(INT_PTR nIndex, INT_PTR nCount)
 {
     const INT_PTR nOldSize = m_nSize;
     SetSize((std::max)(nOldSize, nIndex) + nCount);
-    if (nIndex >= nOldSize)
+    if (nIndex >= nOldSize) {
         return;
+    }
     std::move_backward(m_pData + nIndex, m_pData + nOldSize, m_pData + m_nSize);
-    for (INT_PTR i = 0; i < nCount; ++i)
+    for (INT_PTR i = 0; i < nCount; ++i) {
         m_pData[nIndex + i] = TYPE();
+    }
 }
 
 template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::InsertAt(INT_PTR nIndex, ARG_TYPE newElement, INT_PTR nCount)
 {
     CheckArgument(nIndex >= 0 && nCount > 0);
-    if constexpr (std::is_reference_v<ARG_TYPE> && std::is_copy_constructible_v<TYPE>)
+    if constexpr (std::is_reference_v<ARG_TYPE> && std::is_copy_constructible_v<TYPE>) {
         if (IsOwnElement(std::addressof(newElement))) {
             TYPE copy(newElement);
             OpenGap(nIndex, nCount);
-            for (INT_PTR i = 0; i < nCount; ++i)
+            for (INT_PTR i = 0; i < nCount; ++i) {
                 m_pData[nIndex + i] = copy;
+            }
             return;
         }
+    }
     OpenGap(nIndex, nCount);
-    for (INT_PTR i = 0; i < nCount; ++i)
+    for (INT_PTR i = 0; i < nCount; ++i) {
         m_pData[nIndex + i] = newElement;
+    }
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -286,8 +305,9 @@ void CArray<TYPE, ARG_TYPE>::InsertAt(INT_PTR nStartIndex, const CArray* pNewArr
         return;
     }
     const INT_PTR nCount = pNewArray->m_nSize;
-    if (nCount == 0)
+    if (nCount == 0) {
         return;
+    }
     OpenGap(nStartIndex, nCount);
     CopyElements<TYPE>(m_pData + nStartIndex, pNewArray->m_pData, nCount);
 }
@@ -296,8 +316,9 @@ template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::RemoveAt(INT_PTR nIndex, INT_PTR nCount)
 {
     CheckArgument(nIndex >= 0 && nCount >= 0 && nIndex <= m_nSize && nCount <= m_nSize - nIndex);
-    if (nCount == 0)
+    if (nCount == 0) {
         return;
+    }
     std::move(m_pData + nIndex + nCount, m_pData + m_nSize, m_pData + nIndex);
     std::destroy_n(m_pData + m_nSize - nCount, nCount);
     m_nSize -= nCount;
@@ -371,8 +392,9 @@ class CList : public CObject
   private:
     static CNode* Node(POSITION position)
     {
-        if (!position)
+        if (!position) {
             AfxThrowInvalidArgException();
+        }
         return static_cast<CNode*>(position);
     }
     static CNode* Step(POSITION& rPosition, CNode* CNode::*pLink)
@@ -384,14 +406,16 @@ class CList : public CObject
     /** Makes two nodes neighbours; null stands for the end of the list. */
     void Connect(CNode* pPrev, CNode* pNext)
     {
-        if (pPrev)
+        if (pPrev) {
             pPrev->pNext = pNext;
-        else
+        } else {
             m_pNodeHead = pNext;
-        if (pNext)
+        }
+        if (pNext) {
             pNext->pPrev = pPrev;
-        else
+        } else {
             m_pNodeTail = pPrev;
+        }
     }
     POSITION Link(CNode* pNode, CNode* pPrev, CNode* pNext)
     {
@@ -418,16 +442,18 @@ template <class TYPE, class ARG_TYPE>
 void CList<TYPE, ARG_TYPE>::AddHead(CList* pNewList)
 {
     POSITION pos = pNewList->GetTailPosition();
-    for (INT_PTR n = pNewList->GetCount(); n > 0; --n)
+    for (INT_PTR n = pNewList->GetCount(); n > 0; --n) {
         AddHead(pNewList->GetPrev(pos));
+    }
 }
 
 template <class TYPE, class ARG_TYPE>
 void CList<TYPE, ARG_TYPE>::AddTail(CList* pNewList)
 {
     POSITION pos = pNewList->GetHeadPosition();
-    for (INT_PTR n = pNewList->GetCount(); n > 0; --n)
+    for (INT_PTR n = pNewList->GetCount(); n > 0; --n) {
         AddTail(pNewList->GetNext(pos));
+    }
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -447,8 +473,9 @@ void CList<TYPE, ARG_TYPE>::RemoveAll()
 template <class TYPE, class ARG_TYPE>
 POSITION CList<TYPE, ARG_TYPE>::InsertBefore(POSITION position, ARG_TYPE newElement)
 {
-    if (!position)
+    if (!position) {
         return AddHead(newElement);
+    }
     CNode* const pAt = Node(position);
     return Link(new CNode(newElement), pAt->pPrev, pAt);
 }
@@ -456,8 +483,9 @@ POSITION CList<TYPE, ARG_TYPE>::InsertBefore(POSITION position, ARG_TYPE newElem
 template <class TYPE, class ARG_TYPE>
 POSITION CList<TYPE, ARG_TYPE>::InsertAfter(POSITION position, ARG_TYPE newElement)
 {
-    if (!position)
+    if (!position) {
         return AddTail(newElement);
+    }
     CNode* const pAt = Node(position);
     return Link(new CNode(newElement), pAt, pAt->pNext);
 }
@@ -466,19 +494,22 @@ template <class TYPE, class ARG_TYPE>
 POSITION CList<TYPE, ARG_TYPE>::Find(ARG_TYPE searchValue, POSITION startAfter) const
 {
     CNode* pNode = startAfter ? Node(startAfter)->pNext : m_pNodeHead;
-    while (pNode && !CompareElements<TYPE, std::remove_reference_t<ARG_TYPE>>(&pNode->data, &searchValue))
+    while (pNode && !CompareElements<TYPE, std::remove_reference_t<ARG_TYPE>>(&pNode->data, &searchValue)) {
         pNode = pNode->pNext;
+    }
     return pNode;
 }
 
 template <class TYPE, class ARG_TYPE>
 POSITION CList<TYPE, ARG_TYPE>::FindIndex(INT_PTR nIndex) const
 {
-    if (nIndex < 0 || nIndex >= m_nCount)
+    if (nIndex < 0 || nIndex >= m_nCount) {
         return nullptr;
+    }
     CNode* pNode = m_pNodeHead;
-    while (nIndex-- > 0)
+    while (nIndex-- > 0) {
         pNode = pNode->pNext;
+    }
     return pNode;
 }
 
@@ -549,8 +580,9 @@ class CMap : public CObject
     CAssoc* FirstFrom(UINT nBucket) const;
     CAssoc* NextOf(const CPair* pAssoc) const
     {
-        if (!pAssoc)
+        if (!pAssoc) {
             AfxThrowInvalidArgException();
+        }
         const auto* const p = static_cast<const CAssoc*>(pAssoc);
         return p->pNext ? p->pNext : FirstFrom(p->nHashValue % m_nHashTableSize + 1);
     }
@@ -561,12 +593,14 @@ template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 typename CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::CAssoc* CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::FindAssoc(ARG_KEY key,
                                                                                                        UINT nHash) const
 {
-    if (!m_pHashTable)
+    if (!m_pHashTable) {
         return nullptr;
+    }
     CAssoc* pAssoc = m_pHashTable[nHash % m_nHashTableSize];
-    while (pAssoc &&
-           !(pAssoc->nHashValue == nHash && CompareElements<KEY, std::remove_reference_t<ARG_KEY>>(&pAssoc->key, &key)))
+    while (pAssoc && !(pAssoc->nHashValue == nHash &&
+                       CompareElements<KEY, std::remove_reference_t<ARG_KEY>>(&pAssoc->key, &key))) {
         pAssoc = pAssoc->pNext;
+    }
     return pAssoc;
 }
 
@@ -574,10 +608,13 @@ template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 typename CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::CAssoc*
 CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::FirstFrom(UINT nBucket) const
 {
-    if (m_pHashTable)
-        for (; nBucket < m_nHashTableSize; ++nBucket)
-            if (m_pHashTable[nBucket])
+    if (m_pHashTable) {
+        for (; nBucket < m_nHashTableSize; ++nBucket) {
+            if (m_pHashTable[nBucket]) {
                 return m_pHashTable[nBucket];
+            }
+        }
+    }
     return nullptr;
 }
 
@@ -585,8 +622,9 @@ template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 BOOL CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::Lookup(ARG_KEY key, VALUE& rValue) const
 {
     const CAssoc* const pAssoc = FindAssoc(key, HashKey<ARG_KEY>(key));
-    if (!pAssoc)
+    if (!pAssoc) {
         return FALSE;
+    }
     rValue = pAssoc->value;
     return TRUE;
 }
@@ -597,8 +635,9 @@ VALUE& CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::operator[](ARG_KEY key)
     const UINT nHash = HashKey<ARG_KEY>(key);
     CAssoc* pAssoc = FindAssoc(key, nHash);
     if (!pAssoc) {
-        if (!m_pHashTable)
+        if (!m_pHashTable) {
             AllocateTable();
+        }
         pAssoc = new CAssoc(key, nHash);
         CAssoc*& rpHead = m_pHashTable[nHash % m_nHashTableSize];
         pAssoc->pNext = rpHead;
@@ -612,11 +651,13 @@ template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 BOOL CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::RemoveKey(ARG_KEY key)
 {
     CAssoc* const pAssoc = FindAssoc(key, HashKey<ARG_KEY>(key));
-    if (!pAssoc)
+    if (!pAssoc) {
         return FALSE;
+    }
     CAssoc** ppLink = &m_pHashTable[pAssoc->nHashValue % m_nHashTableSize];
-    while (*ppLink != pAssoc)
+    while (*ppLink != pAssoc) {
         ppLink = &(*ppLink)->pNext;
+    }
     *ppLink = pAssoc->pNext;
     --m_nCount;
     delete pAssoc;
@@ -628,19 +669,21 @@ void CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::RemoveAll()
 {
     const auto pTable = std::move(m_pHashTable);
     m_nCount = 0;
-    for (UINT i = 0; pTable && i < m_nHashTableSize; ++i)
+    for (UINT i = 0; pTable && i < m_nHashTableSize; ++i) {
         for (CAssoc* pAssoc = pTable[i]; pAssoc;) {
             CAssoc* const pNext = pAssoc->pNext;
             delete pAssoc;
             pAssoc = pNext;
         }
+    }
 }
 
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 void CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::GetNextAssoc(POSITION& rNextPosition, KEY& rKey, VALUE& rValue) const
 {
-    if (!rNextPosition)
+    if (!rNextPosition) {
         AfxThrowInvalidArgException();
+    }
     CAssoc* const pAssoc = static_cast<CAssoc*>(rNextPosition);
     rNextPosition = NextOf(pAssoc);
     rKey = pAssoc->key;
@@ -650,20 +693,23 @@ void CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::GetNextAssoc(POSITION& rNextPosition,
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 void CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::InitHashTable(UINT hashSize, BOOL bAllocNow)
 {
-    if (hashSize == 0)
+    if (hashSize == 0) {
         AfxThrowInvalidArgException();
+    }
     const auto pOld = std::move(m_pHashTable);
     const UINT nOldSize = m_nHashTableSize;
     m_nHashTableSize = hashSize;
-    if (bAllocNow || m_nCount > 0)
+    if (bAllocNow || m_nCount > 0) {
         AllocateTable();
-    for (UINT i = 0; pOld && i < nOldSize; ++i)
+    }
+    for (UINT i = 0; pOld && i < nOldSize; ++i) {
         while (CAssoc* const pAssoc = pOld[i]) {
             pOld[i] = pAssoc->pNext;
             CAssoc*& rpHead = m_pHashTable[pAssoc->nHashValue % hashSize];
             pAssoc->pNext = rpHead;
             rpHead = pAssoc;
         }
+    }
 }
 
 /** CPtrArray or CObArray whose elements are pointers of one type. */
@@ -727,8 +773,9 @@ class CTypedPtrMap : public BASE_CLASS
     {
         typename BASE_CLASS::BASE_VALUE value;
         const BOOL bFound = BASE_CLASS::Lookup(key, value);
-        if (bFound)
+        if (bFound) {
             rValue = (VALUE)value;
+        }
         return bFound;
     }
     VALUE& operator[](typename BASE_CLASS::BASE_ARG_KEY key) { return (VALUE&)BASE_CLASS::operator[](key); }

@@ -95,12 +95,14 @@ BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO*
     const bool wholeCode = IsUpdateCode(nCode) || static_cast<UINT>(nCode) == CN_EVENT;
     const UINT nMessage = wholeCode || HIWORD(nCode) == 0 ? WM_COMMAND : HIWORD(nCode);
     const WORD nShortCode = LOWORD(nCode);
-    if (nShortCode == kUpdateCode && nMessage != WM_NOTIFY && nMessage != WM_NOTIFY + WM_REFLECT_BASE && !pExtra)
+    if (nShortCode == kUpdateCode && nMessage != WM_NOTIFY && nMessage != WM_NOTIFY + WM_REFLECT_BASE && !pExtra) {
         return FALSE; // an update without its CCmdUI
+    }
     for (const AFX_MSGMAP* pMap = GetMessageMap(); pMap; pMap = pMap->pfnGetBaseMap ? pMap->pfnGetBaseMap() : nullptr) {
         for (const AFX_MSGMAP_ENTRY* pEntry = pMap->lpEntries; pEntry->nSig != AfxSig_end; ++pEntry) {
-            if (!Matches(*pEntry, nMessage, nShortCode, nID))
+            if (!Matches(*pEntry, nMessage, nShortCode, nID)) {
                 continue;
+            }
             if (pHandlerInfo) {
                 *pHandlerInfo = {this, pEntry->pfn};
                 return TRUE;
@@ -159,13 +161,15 @@ CCmdUI::~CCmdUI() = default;
 void CCmdUI::Enable(BOOL bOn)
 {
     if (m_pMenu) {
-        if (m_pSubMenu)
+        if (m_pSubMenu) {
             return; // the pop-up's own items are updated, not the item that opens it
+        }
         m_pMenu->EnableMenuItem(m_nIndex, MF_BYPOSITION | (bOn ? MF_ENABLED : MF_DISABLED | MF_GRAYED));
     } else if (m_pOther) {
         const HWND hWnd = m_pOther->m_hWnd;
-        if (!bOn && ::GetFocus() == hWnd)
+        if (!bOn && ::GetFocus() == hWnd) {
             ::SendMessage(::GetParent(hWnd), WM_NEXTDLGCTL, 0, FALSE);
+        }
         m_pOther->EnableWindow(bOn);
     }
     m_bEnableChanged = TRUE;
@@ -174,40 +178,47 @@ void CCmdUI::Enable(BOOL bOn)
 void CCmdUI::SetCheck(int nCheck)
 {
     if (m_pMenu) {
-        if (!m_pSubMenu)
+        if (!m_pSubMenu) {
             m_pMenu->CheckMenuItem(m_nIndex, MF_BYPOSITION | (nCheck ? MF_CHECKED : MF_UNCHECKED));
-    } else if (m_pOther && (m_pOther->SendMessage(WM_GETDLGCODE) & DLGC_BUTTON))
+        }
+    } else if (m_pOther && (m_pOther->SendMessage(WM_GETDLGCODE) & DLGC_BUTTON)) {
         m_pOther->SendMessage(BM_SETCHECK, static_cast<WPARAM>(nCheck));
+    }
 }
 
 void CCmdUI::SetRadio(BOOL bOn)
 {
     SetCheck(bOn ? 1 : 0);
-    if (!m_pMenu || m_pSubMenu)
+    if (!m_pMenu || m_pSubMenu) {
         return;
+    }
     MENUITEMINFO info = {};
     info.cbSize = sizeof info;
     info.fMask = MIIM_FTYPE;
-    if (!::GetMenuItemInfo(m_pMenu->m_hMenu, m_nIndex, TRUE, &info))
+    if (!::GetMenuItemInfo(m_pMenu->m_hMenu, m_nIndex, TRUE, &info)) {
         return;
+    }
     info.fType |= kBulletCheck;
     ::SetMenuItemInfo(m_pMenu->m_hMenu, m_nIndex, TRUE, &info);
 }
 
 void CCmdUI::SetText(LPCTSTR lpszText)
 {
-    if (!lpszText)
+    if (!lpszText) {
         return;
+    }
     if (m_pMenu) {
-        if (m_pSubMenu)
+        if (m_pSubMenu) {
             return;
+        }
         MENUITEMINFO info = {};
         info.cbSize = sizeof info;
         info.fMask = MIIM_STRING;
         info.dwTypeData = const_cast<LPTSTR>(lpszText);
         ::SetMenuItemInfo(m_pMenu->m_hMenu, m_nIndex, TRUE, &info);
-    } else if (m_pOther)
+    } else if (m_pOther) {
         AfxSetWindowText(m_pOther->m_hWnd, lpszText);
+    }
 }
 
 void CCmdUI::ContinueRouting()
@@ -217,8 +228,9 @@ void CCmdUI::ContinueRouting()
 
 BOOL CCmdUI::DoUpdate(CCmdTarget* pTarget, BOOL bDisableIfNoHndler)
 {
-    if (!pTarget || m_nID == 0 || LOWORD(m_nID) == 0xFFFF)
+    if (!pTarget || m_nID == 0 || LOWORD(m_nID) == 0xFFFF) {
         return TRUE; // separators and static texts
+    }
     m_bEnableChanged = FALSE;
     const BOOL bResult = pTarget->OnCmdMsg(m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), this, nullptr);
     if (bDisableIfNoHndler && !m_bEnableChanged) {

@@ -21,8 +21,9 @@ struct ThreadStart
 
 int RunThread(CWinThread* pThread)
 {
-    if (pThread->m_pfnThreadProc)
+    if (pThread->m_pfnThreadProc) {
         return static_cast<int>(pThread->m_pfnThreadProc(pThread->m_pThreadParams));
+    }
     return pThread->InitInstance() ? pThread->Run() : pThread->ExitInstance();
 }
 
@@ -54,8 +55,9 @@ CWinThread* Start(CWinThread* pThread, int nPriority, UINT nStackSize, DWORD dwC
         return nullptr;
     }
     pThread->SetThreadPriority(nPriority);
-    if (!(dwCreateFlags & CREATE_SUSPENDED))
+    if (!(dwCreateFlags & CREATE_SUSPENDED)) {
         pThread->ResumeThread();
+    }
     return pThread;
 }
 } // namespace
@@ -75,11 +77,13 @@ CWinThread::CWinThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam)
 
 CWinThread::~CWinThread()
 {
-    if (m_hThread)
+    if (m_hThread) {
         ::CloseHandle(m_hThread);
+    }
     AFX_MODULE_THREAD_STATE* pState = AfxGetModuleThreadState();
-    if (pState->m_pCurrentWinThread == this)
+    if (pState->m_pCurrentWinThread == this) {
         pState->m_pCurrentWinThread = nullptr;
+    }
 }
 
 CWinThread::operator HANDLE() const
@@ -90,8 +94,9 @@ CWinThread::operator HANDLE() const
 BOOL CWinThread::CreateThread(DWORD dwCreateFlags, UINT nStackSize, LPSECURITY_ATTRIBUTES lpSecurityAttrs)
 {
     ASSERT(!m_hThread);
-    if (m_hThread)
+    if (m_hThread) {
         return FALSE;
+    }
     auto* pStart = new ThreadStart{this, AfxGetModuleState(), AfxGetMainWnd()->GetSafeHwnd()};
     unsigned nThreadID = 0;
     m_hThread = reinterpret_cast<HANDLE>(::_beginthreadex(lpSecurityAttrs, nStackSize, ThreadEntry, pStart,
@@ -101,8 +106,9 @@ BOOL CWinThread::CreateThread(DWORD dwCreateFlags, UINT nStackSize, LPSECURITY_A
         return FALSE;
     }
     m_nThreadID = nThreadID;
-    if (!(dwCreateFlags & CREATE_SUSPENDED))
+    if (!(dwCreateFlags & CREATE_SUSPENDED)) {
         ::ResumeThread(m_hThread);
+    }
     return TRUE;
 }
 
@@ -144,14 +150,16 @@ int CWinThread::ExitInstance()
 
 void CWinThread::Delete()
 {
-    if (m_bAutoDelete)
+    if (m_bAutoDelete) {
         delete this;
+    }
 }
 
 CWnd* CWinThread::GetMainWnd()
 {
-    if (m_pActiveWnd)
+    if (m_pActiveWnd) {
         return m_pActiveWnd;
+    }
     return m_pMainWnd ? m_pMainWnd : CWnd::GetActiveWindow();
 }
 
@@ -161,11 +169,13 @@ int CWinThread::Run()
     bool idle = true;
     LONG lIdleCount = 0;
     for (;;) {
-        while (idle && !::PeekMessage(pMsg, nullptr, 0, 0, PM_NOREMOVE))
+        while (idle && !::PeekMessage(pMsg, nullptr, 0, 0, PM_NOREMOVE)) {
             idle = OnIdle(lIdleCount++);
+        }
         do {
-            if (!PumpMessage())
+            if (!PumpMessage()) {
                 return ExitInstance();
+            }
             if (IsIdleMessage(pMsg)) {
                 idle = true;
                 lIdleCount = 0;
@@ -193,8 +203,9 @@ BOOL CWinThread::IsIdleMessage(MSG* pMsg)
         // The system repeats the last mouse message now and then although nothing moved.
         _AFX_THREAD_STATE* pState = AfxGetThreadState();
         if (pState->m_ptCursorLast.x == pMsg->pt.x && pState->m_ptCursorLast.y == pMsg->pt.y &&
-            pState->m_nMsgLast == pMsg->message)
+            pState->m_nMsgLast == pMsg->message) {
             return FALSE;
+        }
         pState->m_ptCursorLast = pMsg->pt;
         pState->m_nMsgLast = pMsg->message;
         return TRUE;
@@ -204,13 +215,16 @@ BOOL CWinThread::IsIdleMessage(MSG* pMsg)
 
 BOOL CWinThread::PreTranslateMessage(MSG* pMsg)
 {
-    if (!pMsg->hwnd && DispatchThreadMessageEx(pMsg))
+    if (!pMsg->hwnd && DispatchThreadMessageEx(pMsg)) {
         return TRUE;
+    }
     CWnd* pMainWnd = AfxGetMainWnd();
-    if (CWnd::WalkPreTranslateTree(pMainWnd->GetSafeHwnd(), pMsg))
+    if (CWnd::WalkPreTranslateTree(pMainWnd->GetSafeHwnd(), pMsg)) {
         return TRUE;
-    if (!pMainWnd || !pMsg->hwnd || !::IsWindow(pMsg->hwnd))
+    }
+    if (!pMainWnd || !pMsg->hwnd || !::IsWindow(pMsg->hwnd)) {
         return FALSE;
+    }
     // Windows that do not stand below the main window still offer it their keys.
     CWnd* pWnd = CWnd::FromHandle(pMsg->hwnd);
     CWnd* pTop = pWnd ? pWnd->GetTopLevelParent() : nullptr;
@@ -220,8 +234,9 @@ BOOL CWinThread::PreTranslateMessage(MSG* pMsg)
 BOOL CWinThread::PumpMessage()
 {
     MSG* pMsg = &AfxGetThreadState()->m_msgCur;
-    if (!::GetMessage(pMsg, nullptr, 0, 0))
+    if (!::GetMessage(pMsg, nullptr, 0, 0)) {
         return FALSE;
+    }
     if (pMsg->message != WM_KICKIDLE && !AfxPreTranslateMessage(pMsg)) {
         ::TranslateMessage(pMsg);
         ::DispatchMessage(pMsg);
@@ -232,10 +247,12 @@ BOOL CWinThread::PumpMessage()
 LRESULT CWinThread::ProcessWndProcException(CException* e, const MSG* pMsg)
 {
     UNUSED_ALWAYS(e);
-    if (pMsg->message == WM_CREATE)
+    if (pMsg->message == WM_CREATE) {
         return -1; // no half-made windows
-    if (pMsg->message == WM_PAINT)
+    }
+    if (pMsg->message == WM_PAINT) {
         ::ValidateRect(pMsg->hwnd, nullptr); // or the same painting would fail for ever
+    }
     return 0;
 }
 
@@ -247,8 +264,9 @@ void CWinThread::DispatchThreadMessage(MSG* pMsg)
 BOOL CWinThread::DispatchThreadMessageEx(MSG* pMsg)
 {
     const AFX_MSGMAP_ENTRY* pEntry = AfxFindHandler(GetMessageMap(), pMsg->message);
-    if (!pEntry)
+    if (!pEntry) {
         return FALSE;
+    }
     (this->*AfxUnpackHandler<AfxSig_ThreadMessage>(pEntry->pfn))(pMsg->wParam, pMsg->lParam);
     return TRUE;
 }
@@ -267,16 +285,18 @@ CWnd* AfxGetMainWnd()
 CWinThread* AfxBeginThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam, int nPriority, UINT nStackSize,
                            DWORD dwCreateFlags, LPSECURITY_ATTRIBUTES lpSecurityAttrs)
 {
-    if (!pfnThreadProc)
+    if (!pfnThreadProc) {
         return nullptr;
+    }
     return Start(new CWinThread(pfnThreadProc, pParam), nPriority, nStackSize, dwCreateFlags, lpSecurityAttrs);
 }
 
 CWinThread* AfxBeginThread(CRuntimeClass* pThreadClass, int nPriority, UINT nStackSize, DWORD dwCreateFlags,
                            LPSECURITY_ATTRIBUTES lpSecurityAttrs)
 {
-    if (!pThreadClass || !pThreadClass->IsDerivedFrom(RUNTIME_CLASS(CWinThread)))
+    if (!pThreadClass || !pThreadClass->IsDerivedFrom(RUNTIME_CLASS(CWinThread))) {
         return nullptr;
+    }
     auto* pThread = static_cast<CWinThread*>(pThreadClass->CreateObject());
     return pThread ? Start(pThread, nPriority, nStackSize, dwCreateFlags, lpSecurityAttrs) : nullptr;
 }
@@ -286,8 +306,9 @@ void AfxEndThread(UINT nExitCode, BOOL bDelete)
     AFX_MODULE_THREAD_STATE* pState = AfxGetModuleThreadState();
     CWinThread* pThread = pState->m_pCurrentWinThread;
     pState->m_pCurrentWinThread = nullptr;
-    if (pThread && bDelete)
+    if (pThread && bDelete) {
         pThread->Delete();
+    }
     AfxTermThread();
     ::_endthreadex(nExitCode);
 }

@@ -22,8 +22,9 @@ struct WaitCursor
             return;
         }
         const HCURSOR hPrevious = ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
-        if (nCode > 0 && nCount == 1)
+        if (nCode > 0 && nCount == 1) {
             hRestore = hPrevious;
+        }
     }
 };
 
@@ -39,8 +40,9 @@ CString ModuleBaseName(HINSTANCE hInstance)
 
 UINT WithIcon(UINT nType)
 {
-    if (nType & MB_ICONMASK)
+    if (nType & MB_ICONMASK) {
         return nType;
+    }
     switch (nType & MB_TYPEMASK) {
     case MB_OK:
     case MB_OKCANCEL:
@@ -58,8 +60,9 @@ int ShowMessageBox(LPCTSTR lpszPrompt, UINT nType)
     CWnd* pOwner = CWnd::GetSafeOwner(nullptr, &hWndTop);
     const HWND hWndOwner = pOwner->GetSafeHwnd();
     const int nResult = ::MessageBox(hWndOwner, lpszPrompt, AfxGetAppName(), WithIcon(nType));
-    if (hWndTop)
+    if (hWndTop) {
         ::EnableWindow(hWndTop, TRUE);
+    }
     return nResult;
 }
 } // namespace
@@ -74,17 +77,20 @@ CWinApp::CWinApp(LPCTSTR lpszAppName)
       m_hcurWaitCursorRestore(nullptr),
       m_strAppName(lpszAppName)
 {
-    if (lpszAppName)
+    if (lpszAppName) {
         m_pszAppName = m_strAppName;
+    }
     m_bAutoDelete = FALSE;
     AFX_MODULE_STATE* pState = AfxGetModuleState();
     ASSERT(!pState->m_pCurrentWinApp);
-    if (pState->m_pCurrentWinApp)
+    if (pState->m_pCurrentWinApp) {
         return; // a module has one application; the first one stays
+    }
     pState->m_pCurrentWinApp = this;
     AFX_MODULE_THREAD_STATE* pThreadState = AfxGetModuleThreadState();
-    if (!pThreadState->m_pCurrentWinThread)
+    if (!pThreadState->m_pCurrentWinThread) {
         pThreadState->m_pCurrentWinThread = this;
+    }
     m_hThread = ::GetCurrentThread();
     m_nThreadID = ::GetCurrentThreadId();
 }
@@ -123,8 +129,9 @@ BOOL CWinApp::InitInstance()
 
 int CWinApp::Run()
 {
-    if (!m_pMainWnd)
+    if (!m_pMainWnd) {
         AfxPostQuitMessage(0); // without a main window nobody would ever end the loop
+    }
     return CWinThread::Run();
 }
 
@@ -145,10 +152,12 @@ BOOL CWinApp::OnIdle(LONG lCount)
 
 LRESULT CWinApp::ProcessWndProcException(CException* e, const MSG* pMsg)
 {
-    if (pMsg->message == WM_CREATE || pMsg->message == WM_PAINT)
+    if (pMsg->message == WM_CREATE || pMsg->message == WM_PAINT) {
         return CWinThread::ProcessWndProcException(e, pMsg);
-    if (!e->IsKindOf(RUNTIME_CLASS(CUserException))) // that one has been shown to the user
+    }
+    if (!e->IsKindOf(RUNTIME_CLASS(CUserException))) { // that one has been shown to the user
         e->ReportError(MB_ICONEXCLAMATION | MB_SYSTEMMODAL);
+    }
     return pMsg->message == WM_COMMAND ? TRUE : 0;
 }
 
@@ -168,14 +177,16 @@ void CWinApp::DoWaitCursor(int nCode)
 
 void CWinApp::EnableModeless(BOOL bEnable)
 {
-    if (m_pMainWnd)
+    if (m_pMainWnd) {
         m_pMainWnd->EnableWindow(bEnable);
+    }
 }
 
 void CWinApp::HideApplication()
 {
-    if (!m_pMainWnd)
+    if (!m_pMainWnd) {
         return;
+    }
     m_pMainWnd->ShowWindow(SW_HIDE);
     m_pMainWnd->ShowOwnedPopups(FALSE);
 }
@@ -222,8 +233,9 @@ HICON CWinApp::LoadOEMIcon(UINT nIDIcon) const
 
 void CWinApp::OnAppExit()
 {
-    if (m_pMainWnd)
+    if (m_pMainWnd) {
         m_pMainWnd->SendMessage(WM_CLOSE);
+    }
 }
 
 CWinApp* AfxGetApp()
@@ -234,8 +246,9 @@ CWinApp* AfxGetApp()
 LPCTSTR AfxGetAppName()
 {
     const AFX_MODULE_STATE* pState = AfxGetModuleState();
-    if (pState->m_lpszCurrentAppName)
+    if (pState->m_lpszCurrentAppName) {
         return pState->m_lpszCurrentAppName;
+    }
     static const CString strProgram = ModuleBaseName(nullptr);
     return strProgram;
 }
@@ -243,10 +256,11 @@ LPCTSTR AfxGetAppName()
 void AfxDoWaitCursor(int nCode)
 {
     static thread_local WaitCursor cursor;
-    if (CWinApp* pApp = AfxGetApp())
+    if (CWinApp* pApp = AfxGetApp()) {
         pApp->DoWaitCursor(nCode);
-    else
+    } else {
         cursor.Do(nCode);
+    }
 }
 
 int AfxMessageBox(LPCTSTR lpszText, UINT nType, UINT nIDHelp)
@@ -258,8 +272,9 @@ int AfxMessageBox(LPCTSTR lpszText, UINT nType, UINT nIDHelp)
 int AfxMessageBox(UINT nIDPrompt, UINT nType, UINT nIDHelp)
 {
     CString strText;
-    if (!strText.LoadString(nIDPrompt))
+    if (!strText.LoadString(nIDPrompt)) {
         TRACE(_T("AfxMessageBox: no string %u.\n"), nIDPrompt);
+    }
     return AfxMessageBox(strText.GetString(), nType, nIDHelp == static_cast<UINT>(-1) ? nIDPrompt : nIDHelp);
 }
 
@@ -286,13 +301,15 @@ BOOL AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCmdShow)
 void AfxWinTerm()
 {
     AFX_MODULE_STATE* pState = AfxGetModuleState();
-    if (!pState->m_bWinInitDone)
+    if (!pState->m_bWinInitDone) {
         return;
+    }
     pState->m_bWinInitDone = FALSE;
-    if (pState->m_bDLL)
+    if (pState->m_bDLL) {
         AfxUnregisterWndClasses(pState->m_hCurrentInstanceHandle); // the system keeps a DLL's classes otherwise
-    else
+    } else {
         AfxDestroyToolTip();
+    }
     AfxLockTempMaps();
     AfxUnlockTempMaps();
 }
@@ -302,14 +319,16 @@ int AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, i
     CWinThread* pThread = AfxGetThread();
     CWinApp* pApp = AfxGetApp();
     int nResult = -1;
-    if (!pThread)
+    if (!pThread) {
         pThread = pApp;
+    }
     if (AfxWinInit(hInstance, hPrevInstance, lpCmdLine, nCmdShow) && pThread && (!pApp || pApp->InitApplication())) {
-        if (pThread->InitInstance())
+        if (pThread->InitInstance()) {
             nResult = pThread->Run();
-        else {
-            if (pThread->m_pMainWnd)
+        } else {
+            if (pThread->m_pMainWnd) {
                 pThread->m_pMainWnd->DestroyWindow();
+            }
             nResult = pThread->ExitInstance();
         }
     }

@@ -1,6 +1,5 @@
-#include <afxwin.h>
-
 #include <afx/checklist.h>
+#include <afxwin.h>
 
 #include <algorithm>
 
@@ -72,8 +71,9 @@ CCheckListBox::CCheckListBox() : m_nCheckStyle(BS_AUTOCHECKBOX) {}
 
 BOOL CCheckListBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    if ((dwStyle & kOwnerDrawn) == 0)
+    if ((dwStyle & kOwnerDrawn) == 0) {
         dwStyle |= LBS_OWNERDRAWFIXED | LBS_HASSTRINGS;
+    }
     return CListBox::Create(dwStyle, rect, pParentWnd, nID);
 }
 
@@ -86,16 +86,18 @@ void CCheckListBox::PreSubclassWindow()
 
 int CCheckListBox::OnCreate(LPCREATESTRUCT lpCreateStruct)
 {
-    if (CListBox::OnCreate(lpCreateStruct) == -1)
+    if (CListBox::OnCreate(lpCreateStruct) == -1) {
         return -1;
+    }
     ApplyItemHeight();
     return 0;
 }
 
 void CCheckListBox::ApplyItemHeight()
 {
-    if (GetStyle() & LBS_OWNERDRAWFIXED)
+    if (GetStyle() & LBS_OWNERDRAWFIXED) {
         SetItemHeight(0, static_cast<UINT>(CalcMinimumItemHeight()));
+    }
 }
 
 int CCheckListBox::CalcMinimumItemHeight()
@@ -104,8 +106,9 @@ int CCheckListBox::CalcMinimumItemHeight()
     CFont* pOld = dc.SelectObject(GetFont());
     TEXTMETRIC metric = {};
     dc.GetTextMetrics(&metric);
-    if (pOld)
+    if (pOld) {
         dc.SelectObject(pOld);
+    }
     return (std::max)(static_cast<int>(metric.tmHeight), kBoxSize + 1);
 }
 
@@ -142,16 +145,18 @@ CCheckListBox::Box CCheckListBox::BoxOf(int nIndex) const
 CCheckListBox::Box& CCheckListBox::ChangeBoxOf(int nIndex)
 {
     const auto nPos = static_cast<size_t>(nIndex);
-    if (nPos >= m_boxes.size())
+    if (nPos >= m_boxes.size()) {
         m_boxes.resize(nPos + 1);
+    }
     return m_boxes[nPos];
 }
 
 void CCheckListBox::SetCheck(int nIndex, int nCheck)
 {
     const int nGreatest = HasThreeStates(m_nCheckStyle) ? BST_INDETERMINATE : BST_CHECKED;
-    if (!IsItem(nIndex) || nCheck < BST_UNCHECKED || nCheck > nGreatest)
+    if (!IsItem(nIndex) || nCheck < BST_UNCHECKED || nCheck > nGreatest) {
         return;
+    }
     ChangeBoxOf(nIndex).nCheck = nCheck;
     InvalidateItem(nIndex);
 }
@@ -165,15 +170,17 @@ void CCheckListBox::SetSelectionCheck(int nCheck)
 {
     const int nCount = m_hWnd ? GetCount() : 0;
     for (int i = 0; i < nCount; ++i) {
-        if (IsSelected(i) && BoxOf(i).bEnabled)
+        if (IsSelected(i) && BoxOf(i).bEnabled) {
             SetCheck(i, nCheck);
+        }
     }
 }
 
 void CCheckListBox::Enable(int nIndex, BOOL bEnabled)
 {
-    if (!IsItem(nIndex))
+    if (!IsItem(nIndex)) {
         return;
+    }
     ChangeBoxOf(nIndex).bEnabled = bEnabled != FALSE;
     InvalidateItem(nIndex);
 }
@@ -186,8 +193,9 @@ BOOL CCheckListBox::IsEnabled(int nIndex) const
 void CCheckListBox::InvalidateItem(int nIndex)
 {
     CRect rect;
-    if (GetItemRect(nIndex, &rect) != LB_ERR)
+    if (GetItemRect(nIndex, &rect) != LB_ERR) {
         InvalidateRect(&rect, FALSE);
+    }
 }
 
 LRESULT CCheckListBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
@@ -197,8 +205,9 @@ LRESULT CCheckListBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         ApplyItemHeight();
         return lResult;
     }
-    if (!ChangesItems(message))
+    if (!ChangesItems(message)) {
         return CListBox::WindowProc(message, wParam, lParam);
+    }
     const int nCountBefore = GetCount();
     const LRESULT lResult = CListBox::WindowProc(message, wParam, lParam);
     FollowChange(message, wParam, lResult, nCountBefore);
@@ -212,20 +221,23 @@ void CCheckListBox::FollowChange(UINT message, WPARAM wParam, LRESULT lResult, i
     case LB_ADDSTRING:
     case LB_INSERTSTRING:
     case LB_ADDFILE:
-        if (lResult >= 0 && nResult < m_boxes.size())
+        if (lResult >= 0 && nResult < m_boxes.size()) {
             m_boxes.insert(m_boxes.begin() + static_cast<ptrdiff_t>(nResult), Box());
+        }
         break;
     case LB_DELETESTRING:
-        if (lResult != LB_ERR && wParam < m_boxes.size())
+        if (lResult != LB_ERR && wParam < m_boxes.size()) {
             m_boxes.erase(m_boxes.begin() + static_cast<ptrdiff_t>(wParam));
+        }
         break;
     case LB_RESETCONTENT:
         m_boxes.clear();
         break;
     default:
         // File names go in by order; what was set before the call would land on other items.
-        if (GetCount() != nCountBefore && (GetStyle() & LBS_SORT))
+        if (GetCount() != nCountBefore && (GetStyle() & LBS_SORT)) {
             m_boxes.clear();
+        }
         break;
     }
 }
@@ -267,13 +279,15 @@ void CCheckListBox::NotifyChange()
 
 void CCheckListBox::Toggle(int nIndex)
 {
-    if (!IsEnabled(nIndex))
+    if (!IsEnabled(nIndex)) {
         return;
+    }
     if (ChangesItself(m_nCheckStyle)) {
         const int nCheck = NextCheck(GetCheck(nIndex));
         SetCheck(nIndex, nCheck);
-        if (HasManySelections() && IsSelected(nIndex))
+        if (HasManySelections() && IsSelected(nIndex)) {
             SetSelectionCheck(nCheck);
+        }
     }
     NotifyChange();
 }
@@ -285,29 +299,33 @@ void CCheckListBox::ClickBox(int nIndex)
     if (bKeepSelection) {
         SetFocus();
         SetCaretIndex(nIndex);
-    } else
+    } else {
         Default();
-    if (IsItem(nIndex)) // a notification of the click may have changed the list
+    }
+    if (IsItem(nIndex)) { // a notification of the click may have changed the list
         Toggle(nIndex);
+    }
 }
 
 void CCheckListBox::OnLButtonDown(UINT, CPoint point)
 {
     const int nIndex = BoxFromPoint(point);
-    if (nIndex == -1)
+    if (nIndex == -1) {
         Default();
-    else
+    } else {
         ClickBox(nIndex);
+    }
 }
 
 void CCheckListBox::OnLButtonDblClk(UINT, CPoint point)
 {
     // A quick second click on a box is a click; anywhere else it opens the item.
     const int nIndex = BoxFromPoint(point);
-    if (nIndex == -1)
+    if (nIndex == -1) {
         Default();
-    else
+    } else {
         Toggle(nIndex);
+    }
 }
 
 void CCheckListBox::OnKeyDown(UINT nChar, UINT, UINT)
@@ -318,17 +336,20 @@ void CCheckListBox::OnKeyDown(UINT nChar, UINT, UINT)
         return;
     }
     const int nIndex = GetCaretIndex();
-    if (!IsItem(nIndex))
+    if (!IsItem(nIndex)) {
         return;
-    if (!HasManySelections() && GetCurSel() != nIndex)
+    }
+    if (!HasManySelections() && GetCurSel() != nIndex) {
         SetCurSel(nIndex);
+    }
     Toggle(nIndex);
 }
 
 void CCheckListBox::OnChar(UINT nChar, UINT, UINT)
 {
-    if (nChar != ' ') // the list would go to an item that begins with it
+    if (nChar != ' ') { // the list would go to an item that begins with it
         Default();
+    }
 }
 
 void CCheckListBox::OnEnable(BOOL bEnable)
@@ -339,11 +360,13 @@ void CCheckListBox::OnEnable(BOOL bEnable)
 
 BOOL CCheckListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    if (message != WM_DRAWITEM)
+    if (message != WM_DRAWITEM) {
         return CListBox::OnChildNotify(message, wParam, lParam, pResult);
+    }
     PreDrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-    if (pResult)
+    if (pResult) {
         *pResult = TRUE;
+    }
     return TRUE;
 }
 
@@ -354,10 +377,11 @@ void CCheckListBox::PreDrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
     if (nIndex >= 0) {
         const CRect rectItem(item.rcItem);
         const CRect rectBox = BoxRect(rectItem);
-        if (rectBox.left <= rectItem.CenterPoint().x)
+        if (rectBox.left <= rectItem.CenterPoint().x) {
             item.rcItem.left = rectBox.right + kTextIndent;
-        else
+        } else {
             item.rcItem.right = rectBox.left - kTextIndent;
+        }
         CDC* pDC = CDC::FromHandle(item.hDC);
         pDC->FillSolidRect(&rectItem, ::GetSysColor(COLOR_WINDOW));
         DrawBox(*pDC, rectBox, BoxOf(nIndex));
@@ -371,9 +395,9 @@ void CCheckListBox::DrawBox(CDC& dc, const CRect& rect, const Box& box) const
     const COLORREF frame = ::GetSysColor(bGrey ? COLOR_GRAYTEXT : COLOR_WINDOWTEXT);
     dc.FillSolidRect(&rect, ::GetSysColor(bGrey ? COLOR_BTNFACE : COLOR_WINDOW));
     dc.Draw3dRect(&rect, frame, frame);
-    if (box.nCheck == BST_CHECKED)
+    if (box.nCheck == BST_CHECKED) {
         DrawTick(dc, rect, frame);
-    else if (box.nCheck == BST_INDETERMINATE) {
+    } else if (box.nCheck == BST_INDETERMINATE) {
         CRect block(rect);
         block.DeflateRect(kBlockMargin, kBlockMargin);
         dc.FillSolidRect(&block, frame);
@@ -399,8 +423,9 @@ void CCheckListBox::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
         rectText.left += kTextMargin;
         pDC->DrawText(strText, &rectText, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
     }
-    if ((item.itemState & ODS_FOCUS) && !(item.itemState & ODS_NOFOCUSRECT))
+    if ((item.itemState & ODS_FOCUS) && !(item.itemState & ODS_NOFOCUSRECT)) {
         pDC->DrawFocusRect(&rect);
+    }
 }
 
 void CCheckListBox::MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct)

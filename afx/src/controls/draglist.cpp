@@ -27,8 +27,9 @@ void CDragListBox::DrawInsert(int nItem)
 
 void CDragListBox::ShowInsert(int nItem)
 {
-    if (nItem == m_nInsert)
+    if (nItem == m_nInsert) {
         return;
+    }
     m_nInsert = nItem;
     DrawInsert(nItem);
 }
@@ -48,8 +49,9 @@ void CDragListBox::CancelDrag(CPoint)
 UINT CDragListBox::Dragging(CPoint pt)
 {
     const int nItem = ItemFromPt(pt, FALSE); // the mark must be gone before the list scrolls under it
-    if (nItem == -1)
+    if (nItem == -1) {
         ShowInsert(-1);
+    }
     ShowInsert(ItemFromPt(pt));
     return m_nInsert == -1 ? DL_STOPCURSOR : DL_MOVECURSOR;
 }
@@ -58,11 +60,13 @@ void CDragListBox::Dropped(int nSrcIndex, CPoint pt)
 {
     ShowInsert(-1);
     const int nBefore = ItemFromPt(pt);
-    if (nSrcIndex < 0 || nSrcIndex >= GetCount() || nBefore == -1)
+    if (nSrcIndex < 0 || nSrcIndex >= GetCount() || nBefore == -1) {
         return;
+    }
     const int nDest = nBefore > nSrcIndex ? nBefore - 1 : nBefore; // where it stands when its old place is gone
-    if (nDest == nSrcIndex)
+    if (nDest == nSrcIndex) {
         return;
+    }
     CString strText;
     GetText(nSrcIndex, strText);
     const DWORD_PTR dwData = GetItemData(nSrcIndex);
@@ -74,8 +78,9 @@ void CDragListBox::Dropped(int nSrcIndex, CPoint pt)
 
 BOOL CDragListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    if (message != g_nDragListMessage)
+    if (message != g_nDragListMessage) {
         return CListBox::OnChildNotify(message, wParam, lParam, pResult);
+    }
     const auto* pInfo = reinterpret_cast<const DRAGLISTINFO*>(lParam);
     LRESULT lResult = 0;
     switch (pInfo->uNotification) {
@@ -94,7 +99,8 @@ BOOL CDragListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRE
     default:
         return FALSE;
     }
-    if (pResult)
+    if (pResult) {
         *pResult = lResult;
+    }
     return TRUE;
 }

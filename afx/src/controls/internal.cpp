@@ -1,8 +1,7 @@
-#include <afxwin.h>
+#include "internal.h"
 
 #include <afxcmn.h>
-
-#include "internal.h"
+#include <afxwin.h>
 
 #include <memory>
 

@@ -1,8 +1,7 @@
-#include <afxwin.h>
+#include "internal.h"
 
 #include <afxcmn.h>
-
-#include "internal.h"
+#include <afxwin.h>
 
 #include <vector>
 
@@ -174,8 +173,9 @@ BOOL CListCtrl::SetItem(int nItem, int nSubItem, UINT nMask, LPCTSTR lpszItem, i
 
 int CListCtrl::InsertItem(const LVITEM* pItem)
 {
-    if (m_hWnd == nullptr || pItem == nullptr)
+    if (m_hWnd == nullptr || pItem == nullptr) {
         return -1;
+    }
     return ListView_InsertItem(m_hWnd, pItem);
 }
 
@@ -353,15 +353,17 @@ CString CListCtrl::GetISearchString() const
 {
     TCHAR text[256] = {};
     const int nLength = static_cast<int>(::SendMessage(m_hWnd, LVM_GETISEARCHSTRING, 0, 0));
-    if (nLength > 0 && nLength < static_cast<int>(_countof(text)))
+    if (nLength > 0 && nLength < static_cast<int>(_countof(text))) {
         ::SendMessage(m_hWnd, LVM_GETISEARCHSTRING, 0, reinterpret_cast<LPARAM>(text));
+    }
     return text;
 }
 
 BOOL CListCtrl::GetItemRect(int nItem, LPRECT lpRect, UINT nCode) const
 {
-    if (m_hWnd == nullptr || lpRect == nullptr)
+    if (m_hWnd == nullptr || lpRect == nullptr) {
         return FALSE;
+    }
     lpRect->left = static_cast<LONG>(nCode);
     return static_cast<BOOL>(
         ::SendMessage(m_hWnd, LVM_GETITEMRECT, static_cast<WPARAM>(nItem), reinterpret_cast<LPARAM>(lpRect)));
@@ -372,8 +374,9 @@ BOOL CListCtrl::GetSubItemRect(int iItem, int iSubItem, int nArea, CRect& ref) c
     RECT rect = {nArea, iSubItem, 0, 0};
     const BOOL bOk = static_cast<BOOL>(
         ::SendMessage(m_hWnd, LVM_GETSUBITEMRECT, static_cast<WPARAM>(iItem), reinterpret_cast<LPARAM>(&rect)));
-    if (bOk)
+    if (bOk) {
         ref = rect;
+    }
     return bOk;
 }
 
@@ -401,8 +404,9 @@ BOOL CListCtrl::GetViewRect(LPRECT lpRect) const
 
 BOOL CListCtrl::GetItemSpacing(BOOL fSmall, int* pnHorzSpacing, int* pnVertSpacing) const
 {
-    if (m_hWnd == nullptr || pnHorzSpacing == nullptr || pnVertSpacing == nullptr)
+    if (m_hWnd == nullptr || pnHorzSpacing == nullptr || pnVertSpacing == nullptr) {
         return FALSE;
+    }
     const DWORD dwSpacing = static_cast<DWORD>(::SendMessage(m_hWnd, LVM_GETITEMSPACING, fSmall, 0));
     *pnHorzSpacing = LOWORD(dwSpacing);
     *pnVertSpacing = HIWORD(dwSpacing);
@@ -439,8 +443,9 @@ int CListCtrl::HitTest(CPoint pt, UINT* pFlags) const
     LVHITTESTINFO info = {};
     info.pt = pt;
     const int nItem = HitTest(&info);
-    if (pFlags != nullptr)
+    if (pFlags != nullptr) {
         *pFlags = info.flags;
+    }
     return nItem;
 }
 
@@ -564,8 +569,9 @@ BOOL CListCtrl::SetColumn(int nCol, const LVCOLUMN* pColumn)
 
 int CListCtrl::InsertColumn(int nCol, const LVCOLUMN* pColumn)
 {
-    if (m_hWnd == nullptr || pColumn == nullptr)
+    if (m_hWnd == nullptr || pColumn == nullptr) {
         return -1;
+    }
     return ListView_InsertColumn(m_hWnd, nCol, pColumn);
 }
 
@@ -759,8 +765,9 @@ void CListCtrl::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
 
 BOOL CListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    if (message != WM_DRAWITEM)
+    if (message != WM_DRAWITEM) {
         return CWnd::OnChildNotify(message, wParam, lParam, pResult);
+    }
     DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
     return TRUE;
 }
@@ -922,8 +929,9 @@ void CHeaderCtrl::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
 
 BOOL CHeaderCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    if (message != WM_DRAWITEM)
+    if (message != WM_DRAWITEM) {
         return CWnd::OnChildNotify(message, wParam, lParam, pResult);
+    }
     DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
     return TRUE;
 }

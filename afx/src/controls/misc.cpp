@@ -1,8 +1,7 @@
-#include <afxwin.h>
+#include "internal.h"
 
 #include <afxcmn.h>
-
-#include "internal.h"
+#include <afxwin.h>
 
 IMPLEMENT_DYNAMIC(CAnimateCtrl, CWnd)
 IMPLEMENT_DYNAMIC(CDateTimeCtrl, CWnd)
@@ -13,18 +12,21 @@ namespace
 {
 void GiveEnd(COleDateTime* pTime, bool bSet, const SYSTEMTIME& time)
 {
-    if (pTime == nullptr)
+    if (pTime == nullptr) {
         return;
-    if (bSet)
+    }
+    if (bSet) {
         *pTime = COleDateTime(time);
-    else
+    } else {
         pTime->SetStatus(COleDateTime::null);
+    }
 }
 
 bool TakeEnd(const COleDateTime* pTime, DWORD dwFlag, SYSTEMTIME& time, DWORD& dwFlags)
 {
-    if (pTime == nullptr || pTime->GetStatus() == COleDateTime::null)
+    if (pTime == nullptr || pTime->GetStatus() == COleDateTime::null) {
         return true;
+    }
     dwFlags |= dwFlag;
     return pTime->GetAsSystemTime(time);
 }
@@ -107,17 +109,19 @@ BOOL CDateTimeCtrl::GetTime(COleDateTime& timeDest) const
 {
     SYSTEMTIME time = {};
     const DWORD dwResult = GetTime(&time);
-    if (dwResult == GDT_VALID)
+    if (dwResult == GDT_VALID) {
         timeDest = COleDateTime(time);
-    else
+    } else {
         timeDest.SetStatus(dwResult == GDT_NONE ? COleDateTime::null : COleDateTime::invalid);
+    }
     return dwResult == GDT_VALID || dwResult == GDT_NONE;
 }
 
 BOOL CDateTimeCtrl::SetTime(const COleDateTime& timeNew)
 {
-    if (timeNew.GetStatus() == COleDateTime::null)
+    if (timeNew.GetStatus() == COleDateTime::null) {
         return SetTime(static_cast<LPSYSTEMTIME>(nullptr));
+    }
     SYSTEMTIME time = {};
     return timeNew.GetAsSystemTime(time) && SetTime(&time);
 }
@@ -170,8 +174,9 @@ BOOL CDateTimeCtrl::SetRange(const COleDateTime* pMinTime, const COleDateTime* p
 {
     SYSTEMTIME range[2] = {};
     DWORD dwFlags = 0;
-    if (!TakeEnd(pMinTime, GDTR_MIN, range[0], dwFlags) || !TakeEnd(pMaxTime, GDTR_MAX, range[1], dwFlags))
+    if (!TakeEnd(pMinTime, GDTR_MIN, range[0], dwFlags) || !TakeEnd(pMaxTime, GDTR_MAX, range[1], dwFlags)) {
         return FALSE;
+    }
     return SetRange(dwFlags, range);
 }
 
@@ -228,9 +233,11 @@ CString CHotKeyCtrl::GetHotKeyName() const
         WORD wFlag;
         UINT nKey;
     } modifiers[] = {{HOTKEYF_CONTROL, VK_CONTROL}, {HOTKEYF_SHIFT, VK_SHIFT}, {HOTKEYF_ALT, VK_MENU}};
-    for (const auto& modifier : modifiers)
-        if (wModifiers & modifier.wFlag)
+    for (const auto& modifier : modifiers) {
+        if (wModifiers & modifier.wFlag) {
             strName += GetKeyName(modifier.nKey, FALSE) + TEXT(" + ");
+        }
+    }
     return wKey != 0 ? strName + GetKeyName(wKey, (wModifiers & HOTKEYF_EXT) != 0) : CString();
 }
 
@@ -238,8 +245,9 @@ CString PASCAL CHotKeyCtrl::GetKeyName(UINT vk, BOOL fExtended)
 {
     constexpr LONG EXTENDED_KEY = 0x01000000;
     LONG lScan = static_cast<LONG>(::MapVirtualKey(vk, MAPVK_VK_TO_VSC)) << 16;
-    if (fExtended)
+    if (fExtended) {
         lScan |= EXTENDED_KEY;
+    }
     TCHAR name[64] = {};
     ::GetKeyNameText(lScan, name, _countof(name));
     return name;

@@ -1,8 +1,7 @@
-#include <afxwin.h>
+#include "ask.h"
 
 #include <afxcmn.h>
-
-#include "ask.h"
+#include <afxwin.h>
 
 #include <algorithm>
 
@@ -257,8 +256,9 @@ int CRichEditCtrl::GetLine(int nIndex, LPTSTR lpszBuffer) const
 
 int CRichEditCtrl::GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const
 {
-    if (!lpszBuffer || nMaxLength <= 0)
+    if (!lpszBuffer || nMaxLength <= 0) {
         return 0;
+    }
     *reinterpret_cast<WORD*>(lpszBuffer) = static_cast<WORD>((std::min)(nMaxLength, 0xFFFF));
     return GetLine(nIndex, lpszBuffer);
 }

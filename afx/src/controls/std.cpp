@@ -1,8 +1,7 @@
-#include <afxwin.h>
+#include "ask.h"
 
 #include <afxcmn.h>
-
-#include "ask.h"
+#include <afxwin.h>
 
 IMPLEMENT_DYNAMIC(CStatic, CWnd)
 IMPLEMENT_DYNAMIC(CButton, CWnd)
@@ -88,8 +87,9 @@ void CStatic::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
 
 BOOL CStatic::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    if (message != WM_DRAWITEM)
+    if (message != WM_DRAWITEM) {
         return CWnd::OnChildNotify(message, wParam, lParam, pResult);
+    }
     DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
     return TRUE;
 }
@@ -230,8 +230,9 @@ void CButton::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
 
 BOOL CButton::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    if (message != WM_DRAWITEM)
+    if (message != WM_DRAWITEM) {
         return CWnd::OnChildNotify(message, wParam, lParam, pResult);
+    }
     DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
     return TRUE;
 }
@@ -326,8 +327,9 @@ int CListBox::GetSelItems(int nMaxItems, LPINT rgIndex) const
 int CListBox::SelItemRange(BOOL bSelect, int nFirstItem, int nLastItem)
 {
     // The range in the message is 16 bits wide; the extended one takes first and last instead of a flag.
-    if (bSelect)
+    if (bSelect) {
         return Ask<int>(*this, LB_SELITEMRANGEEX, nFirstItem, nLastItem);
+    }
     return Ask<int>(*this, LB_SELITEMRANGEEX, nLastItem, nFirstItem);
 }
 
@@ -385,8 +387,9 @@ void CListBox::GetText(int nIndex, CString& rString) const
 {
     rString.Empty();
     const int nLength = GetTextLen(nIndex);
-    if (nLength <= 0)
+    if (nLength <= 0) {
         return;
+    }
     GetText(nIndex, rString.GetBuffer(nLength));
     rString.ReleaseBuffer();
 }
@@ -504,14 +507,16 @@ int CListBox::CharToItem(UINT nKey, UINT nIndex)
 BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
     LRESULT lResult = TRUE;
-    if (message == WM_VKEYTOITEM)
+    if (message == WM_VKEYTOITEM) {
         lResult = VKeyToItem(LOWORD(wParam), HIWORD(wParam));
-    else if (message == WM_CHARTOITEM)
+    } else if (message == WM_CHARTOITEM) {
         lResult = CharToItem(LOWORD(wParam), HIWORD(wParam));
-    else if (!AnswerItemMessage(*this, message, lParam, lResult))
+    } else if (!AnswerItemMessage(*this, message, lParam, lResult)) {
         return CWnd::OnChildNotify(message, wParam, lParam, pResult);
-    if (pResult != nullptr)
+    }
+    if (pResult != nullptr) {
         *pResult = lResult;
+    }
     return TRUE;
 }
 
@@ -651,8 +656,9 @@ void CComboBox::GetLBText(int nIndex, CString& rString) const
 {
     rString.Empty();
     const int nLength = GetLBTextLen(nIndex);
-    if (nLength <= 0)
+    if (nLength <= 0) {
         return;
+    }
     GetLBText(nIndex, rString.GetBuffer(nLength));
     rString.ReleaseBuffer();
 }
@@ -781,10 +787,12 @@ void CComboBox::DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct)
 BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
     LRESULT lResult = TRUE;
-    if (!AnswerItemMessage(*this, message, lParam, lResult))
+    if (!AnswerItemMessage(*this, message, lParam, lResult)) {
         return CWnd::OnChildNotify(message, wParam, lParam, pResult);
-    if (pResult != nullptr)
+    }
+    if (pResult != nullptr) {
         *pResult = lResult;
+    }
     return TRUE;
 }
 
@@ -850,8 +858,9 @@ void CEdit::SetSel(DWORD dwSelection, BOOL bNoScroll)
 void CEdit::SetSel(int nStartChar, int nEndChar, BOOL bNoScroll)
 {
     Ask(*this, EM_SETSEL, nStartChar, nEndChar);
-    if (!bNoScroll)
+    if (!bNoScroll) {
         Ask(*this, EM_SCROLLCARET);
+    }
 }
 
 void CEdit::ReplaceSel(LPCTSTR lpszNewText, BOOL bCanUndo)
@@ -912,8 +921,9 @@ int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer) const
 
 int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const
 {
-    if (lpszBuffer == nullptr || nMaxLength <= 0)
+    if (lpszBuffer == nullptr || nMaxLength <= 0) {
         return 0;
+    }
     // The control reads the buffer's size from its first word.
     *reinterpret_cast<LPWORD>(lpszBuffer) = static_cast<WORD>(nMaxLength);
     return GetLine(nIndex, lpszBuffer);
@@ -1076,8 +1086,9 @@ BOOL CScrollBar::EnableScrollBar(UINT nArrowFlags)
 
 BOOL CScrollBar::SetScrollInfo(LPSCROLLINFO lpScrollInfo, BOOL bRedraw)
 {
-    if (m_hWnd == nullptr || lpScrollInfo == nullptr)
+    if (m_hWnd == nullptr || lpScrollInfo == nullptr) {
         return FALSE;
+    }
     lpScrollInfo->cbSize = sizeof(SCROLLINFO);
     ::SetScrollInfo(m_hWnd, SB_CTL, lpScrollInfo, bRedraw);
     return TRUE;
@@ -1085,8 +1096,9 @@ BOOL CScrollBar::SetScrollInfo(LPSCROLLINFO lpScrollInfo, BOOL bRedraw)
 
 BOOL CScrollBar::GetScrollInfo(LPSCROLLINFO lpScrollInfo, UINT nMask)
 {
-    if (lpScrollInfo == nullptr)
+    if (lpScrollInfo == nullptr) {
         return FALSE;
+    }
     lpScrollInfo->cbSize = sizeof(SCROLLINFO);
     lpScrollInfo->fMask = nMask;
     return ::GetScrollInfo(m_hWnd, SB_CTL, lpScrollInfo);
@@ -1095,15 +1107,17 @@ BOOL CScrollBar::GetScrollInfo(LPSCROLLINFO lpScrollInfo, UINT nMask)
 int CScrollBar::GetScrollLimit()
 {
     SCROLLINFO info = {};
-    if (!GetScrollInfo(&info, SIF_RANGE | SIF_PAGE))
+    if (!GetScrollInfo(&info, SIF_RANGE | SIF_PAGE)) {
         return 0;
+    }
     return info.nMax - (std::max)(static_cast<int>(info.nPage) - 1, 0);
 }
 
 BOOL CScrollBar::GetScrollBarInfo(PSCROLLBARINFO pScrollInfo) const
 {
-    if (pScrollInfo == nullptr)
+    if (pScrollInfo == nullptr) {
         return FALSE;
+    }
     pScrollInfo->cbSize = sizeof(SCROLLBARINFO);
     return ::GetScrollBarInfo(m_hWnd, OBJID_CLIENT, pScrollInfo);
 }

@@ -1,8 +1,7 @@
-#include <afxwin.h>
+#include "internal.h"
 
 #include <afxcmn.h>
-
-#include "internal.h"
+#include <afxwin.h>
 
 #include <vector>
 
@@ -41,38 +40,44 @@ void CToolTipCtrl::Activate(BOOL bActivate)
 BOOL CToolTipCtrl::AddTool(CWnd* pWnd, UINT nIDText, LPCRECT lpRectTool, UINT_PTR nIDTool)
 {
     TOOLINFO info;
-    if (!FillInToolInfo(info, pWnd, nIDTool))
+    if (!FillInToolInfo(info, pWnd, nIDTool)) {
         return FALSE;
+    }
     info.hinst = StringModule(nIDText);
     info.lpszText = MAKEINTRESOURCE(nIDText);
-    if (lpRectTool != nullptr)
+    if (lpRectTool != nullptr) {
         info.rect = *lpRectTool;
+    }
     return static_cast<BOOL>(::SendMessage(m_hWnd, TTM_ADDTOOL, 0, reinterpret_cast<LPARAM>(&info)));
 }
 
 BOOL CToolTipCtrl::AddTool(CWnd* pWnd, LPCTSTR lpszText, LPCRECT lpRectTool, UINT_PTR nIDTool)
 {
     TOOLINFO info;
-    if (!FillInToolInfo(info, pWnd, nIDTool))
+    if (!FillInToolInfo(info, pWnd, nIDTool)) {
         return FALSE;
+    }
     info.lpszText = const_cast<LPTSTR>(lpszText);
-    if (lpRectTool != nullptr)
+    if (lpRectTool != nullptr) {
         info.rect = *lpRectTool;
+    }
     return static_cast<BOOL>(::SendMessage(m_hWnd, TTM_ADDTOOL, 0, reinterpret_cast<LPARAM>(&info)));
 }
 
 void CToolTipCtrl::DelTool(CWnd* pWnd, UINT_PTR nIDTool)
 {
     TOOLINFO info;
-    if (FillInToolInfo(info, pWnd, nIDTool))
+    if (FillInToolInfo(info, pWnd, nIDTool)) {
         ::SendMessage(m_hWnd, TTM_DELTOOL, 0, reinterpret_cast<LPARAM>(&info));
+    }
 }
 
 void CToolTipCtrl::UpdateTipText(LPCTSTR lpszText, CWnd* pWnd, UINT_PTR nIDTool)
 {
     TOOLINFO info;
-    if (!FillInToolInfo(info, pWnd, nIDTool))
+    if (!FillInToolInfo(info, pWnd, nIDTool)) {
         return;
+    }
     info.lpszText = const_cast<LPTSTR>(lpszText);
     ::SendMessage(m_hWnd, TTM_UPDATETIPTEXT, 0, reinterpret_cast<LPARAM>(&info));
 }
@@ -80,8 +85,9 @@ void CToolTipCtrl::UpdateTipText(LPCTSTR lpszText, CWnd* pWnd, UINT_PTR nIDTool)
 void CToolTipCtrl::UpdateTipText(UINT nIDText, CWnd* pWnd, UINT_PTR nIDTool)
 {
     TOOLINFO info;
-    if (!FillInToolInfo(info, pWnd, nIDTool))
+    if (!FillInToolInfo(info, pWnd, nIDTool)) {
         return;
+    }
     info.hinst = StringModule(nIDText);
     info.lpszText = MAKEINTRESOURCE(nIDText);
     ::SendMessage(m_hWnd, TTM_UPDATETIPTEXT, 0, reinterpret_cast<LPARAM>(&info));
@@ -91,8 +97,9 @@ void CToolTipCtrl::GetText(CString& str, CWnd* pWnd, UINT_PTR nIDTool) const
 {
     str.Empty();
     TOOLINFO info;
-    if (!FillInToolInfo(info, pWnd, nIDTool))
+    if (!FillInToolInfo(info, pWnd, nIDTool)) {
         return;
+    }
     std::vector<TCHAR> buffer(TIP_TEXT_MAX + 1);
     info.lpszText = buffer.data();
     ::SendMessage(m_hWnd, TTM_GETTEXT, TIP_TEXT_MAX, reinterpret_cast<LPARAM>(&info));
@@ -101,8 +108,9 @@ void CToolTipCtrl::GetText(CString& str, CWnd* pWnd, UINT_PTR nIDTool) const
 
 BOOL CToolTipCtrl::GetToolInfo(CToolInfo& ToolInfo, CWnd* pWnd, UINT_PTR nIDTool) const
 {
-    if (!FillInToolInfo(ToolInfo, pWnd, nIDTool))
+    if (!FillInToolInfo(ToolInfo, pWnd, nIDTool)) {
         return FALSE;
+    }
     // The message does not know how much space there is.
     std::vector<TCHAR> buffer(TIP_TEXT_MAX + 1);
     ToolInfo.lpszText = buffer.data();
@@ -123,8 +131,9 @@ void CToolTipCtrl::SetToolInfo(LPTOOLINFO lpToolInfo)
 void CToolTipCtrl::SetToolRect(CWnd* pWnd, UINT_PTR nIDTool, LPCRECT lpRect)
 {
     TOOLINFO info;
-    if (lpRect == nullptr || !FillInToolInfo(info, pWnd, nIDTool))
+    if (lpRect == nullptr || !FillInToolInfo(info, pWnd, nIDTool)) {
         return;
+    }
     info.rect = *lpRect;
     ::SendMessage(m_hWnd, TTM_NEWTOOLRECT, 0, reinterpret_cast<LPARAM>(&info));
 }
@@ -141,14 +150,16 @@ BOOL CToolTipCtrl::GetCurrentTool(LPTOOLINFO lpToolInfo) const
 
 BOOL CToolTipCtrl::HitTest(CWnd* pWnd, CPoint pt, LPTOOLINFO lpToolInfo) const
 {
-    if (pWnd == nullptr || lpToolInfo == nullptr)
+    if (pWnd == nullptr || lpToolInfo == nullptr) {
         return FALSE;
+    }
     TTHITTESTINFO info = {};
     info.hwnd = pWnd->m_hWnd;
     info.pt = pt;
     info.ti.cbSize = TTTOOLINFOW_V2_SIZE;
-    if (!::SendMessage(m_hWnd, TTM_HITTEST, 0, reinterpret_cast<LPARAM>(&info)))
+    if (!::SendMessage(m_hWnd, TTM_HITTEST, 0, reinterpret_cast<LPARAM>(&info))) {
         return FALSE;
+    }
     *lpToolInfo = info.ti;
     return TRUE;
 }
@@ -262,8 +273,9 @@ void CToolTipCtrl::Update()
 
 BOOL CToolTipCtrl::FillInToolInfo(TOOLINFO& ti, CWnd* pWnd, UINT_PTR nIDTool)
 {
-    if (pWnd == nullptr || pWnd->m_hWnd == nullptr)
+    if (pWnd == nullptr || pWnd->m_hWnd == nullptr) {
         return FALSE;
+    }
     ti = {};
     // The size without the last member is the one that every version of the
     // common controls takes.

@@ -1,8 +1,7 @@
-#include <afxwin.h>
+#include "internal.h"
 
 #include <afxcmn.h>
-
-#include "internal.h"
+#include <afxwin.h>
 
 #include <vector>
 
@@ -223,11 +222,13 @@ CString CTreeCtrl::GetItemText(HTREEITEM hItem) const
         item.hItem = hItem;
         item.pszText = buffer.data();
         item.cchTextMax = static_cast<int>(buffer.size());
-        if (hItem == nullptr || !GetItem(&item))
+        if (hItem == nullptr || !GetItem(&item)) {
             return CString();
+        }
         // A callback may have put its own pointer there.
-        if (item.pszText != buffer.data() || lstrlen(buffer.data()) < item.cchTextMax - 1)
+        if (item.pszText != buffer.data() || lstrlen(buffer.data()) < item.cchTextMax - 1) {
             return item.pszText;
+        }
     }
 }
 
@@ -241,8 +242,9 @@ BOOL CTreeCtrl::GetItemImage(HTREEITEM hItem, int& nImage, int& nSelectedImage) 
     TVITEM item = {};
     item.mask = TVIF_IMAGE | TVIF_SELECTEDIMAGE;
     item.hItem = hItem;
-    if (hItem == nullptr || !GetItem(&item))
+    if (hItem == nullptr || !GetItem(&item)) {
         return FALSE;
+    }
     nImage = item.iImage;
     nSelectedImage = item.iSelectedImage;
     return TRUE;
@@ -259,8 +261,9 @@ UINT CTreeCtrl::GetItemState(HTREEITEM hItem, UINT nStateMask) const
     item.mask = TVIF_STATE;
     item.hItem = hItem;
     item.stateMask = nStateMask;
-    if (hItem == nullptr || !GetItem(&item))
+    if (hItem == nullptr || !GetItem(&item)) {
         return 0;
+    }
     return item.state & nStateMask;
 }
 
@@ -274,8 +277,9 @@ DWORD_PTR CTreeCtrl::GetItemData(HTREEITEM hItem) const
     TVITEM item = {};
     item.mask = TVIF_PARAM;
     item.hItem = hItem;
-    if (hItem == nullptr || !GetItem(&item))
+    if (hItem == nullptr || !GetItem(&item)) {
         return 0;
+    }
     return static_cast<DWORD_PTR>(item.lParam);
 }
 
@@ -304,8 +308,9 @@ BOOL CTreeCtrl::SetCheck(HTREEITEM hItem, BOOL fCheck)
 
 BOOL CTreeCtrl::GetItemRect(HTREEITEM hItem, LPRECT lpRect, BOOL bTextOnly) const
 {
-    if (m_hWnd == nullptr || hItem == nullptr || lpRect == nullptr)
+    if (m_hWnd == nullptr || hItem == nullptr || lpRect == nullptr) {
         return FALSE;
+    }
     // The item travels in the rectangle that comes back.
     *reinterpret_cast<HTREEITEM*>(lpRect) = hItem;
     return static_cast<BOOL>(::SendMessage(m_hWnd, TVM_GETITEMRECT, bTextOnly, reinterpret_cast<LPARAM>(lpRect)));
@@ -400,8 +405,9 @@ HTREEITEM CTreeCtrl::HitTest(CPoint pt, UINT* pFlags) const
     TVHITTESTINFO info = {};
     info.pt = pt;
     HTREEITEM hItem = HitTest(&info);
-    if (pFlags != nullptr)
+    if (pFlags != nullptr) {
         *pFlags = info.flags;
+    }
     return hItem;
 }
 
@@ -522,8 +528,9 @@ BOOL CTabCtrl::SetItemState(int nItem, DWORD dwMask, DWORD dwState)
 
 LONG CTabCtrl::InsertItem(int nItem, TCITEM* pTabCtrlItem)
 {
-    if (m_hWnd == nullptr || pTabCtrlItem == nullptr)
+    if (m_hWnd == nullptr || pTabCtrlItem == nullptr) {
         return -1;
+    }
     return TabCtrl_InsertItem(m_hWnd, nItem, pTabCtrlItem);
 }
 
@@ -661,8 +668,9 @@ void CTabCtrl::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
 
 BOOL CTabCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    if (message != WM_DRAWITEM)
+    if (message != WM_DRAWITEM) {
         return CWnd::OnChildNotify(message, wParam, lParam, pResult);
+    }
     DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
     return TRUE;
 }

@@ -8,31 +8,35 @@
 inline BOOL AfxAdopt(CGdiObject& owner, HGDIOBJ hNew)
 {
     const BOOL bTaken = owner.Attach(hNew);
-    if (!bTaken && hNew)
+    if (!bTaken && hNew) {
         ::DeleteObject(hNew);
+    }
     return bTaken;
 }
 
 inline BOOL AfxAdopt(CDC& owner, HDC hNew)
 {
     const BOOL bTaken = owner.Attach(hNew);
-    if (!bTaken && hNew)
+    if (!bTaken && hNew) {
         ::DeleteDC(hNew);
+    }
     return bTaken;
 }
 
 inline BOOL AfxAdopt(CMenu& owner, HMENU hNew)
 {
     const BOOL bTaken = owner.Attach(hNew);
-    if (!bTaken && hNew)
+    if (!bTaken && hNew) {
         ::DestroyMenu(hNew);
+    }
     return bTaken;
 }
 
 inline BOOL AfxAdopt(CImageList& owner, HIMAGELIST hNew)
 {
     const BOOL bTaken = owner.Attach(hNew);
-    if (!bTaken && hNew)
+    if (!bTaken && hNew) {
         ::ImageList_Destroy(hNew);
+    }
     return bTaken;
 }

@@ -2,8 +2,9 @@
 
 #include "private.h"
 
-#include <cwchar>
 #include <mbstring.h>
+
+#include <cwchar>
 
 /** The run-time library's string functions by character width. The narrow ones know multi-byte characters. */
 template <typename XCHAR>
@@ -30,11 +31,12 @@ struct CCharFunctions<wchar_t>
     static void Reverse(wchar_t* psz, int nLength)
     {
         std::reverse(psz, psz + nLength);
-        for (int i = 0; i + 1 < nLength; ++i)
+        for (int i = 0; i + 1 < nLength; ++i) {
             if (IS_LOW_SURROGATE(psz[i]) && IS_HIGH_SURROGATE(psz[i + 1])) {
                 std::swap(psz[i], psz[i + 1]);
                 ++i;
             }
+        }
     }
     static int FormattedLength(const wchar_t* pszFormat, va_list args) { return _vscwprintf(pszFormat, args); }
     static void Format(wchar_t* psz, int nLength, const wchar_t* pszFormat, va_list args)

@@ -9,8 +9,9 @@ AFX_TRACE_HOOK g_pfnTraceHook = nullptr;
 
 bool IsAccessible(DWORD dwProtect, bool bWrite)
 {
-    if (dwProtect & (PAGE_GUARD | PAGE_NOACCESS))
+    if (dwProtect & (PAGE_GUARD | PAGE_NOACCESS)) {
         return false;
+    }
     const DWORD dwWritable = PAGE_READWRITE | PAGE_WRITECOPY | PAGE_EXECUTE_READWRITE | PAGE_EXECUTE_WRITECOPY;
     const DWORD dwReadable = dwWritable | PAGE_READONLY | PAGE_EXECUTE_READ;
     return (dwProtect & (bWrite ? dwWritable : dwReadable)) != 0;
@@ -19,17 +20,21 @@ bool IsAccessible(DWORD dwProtect, bool bWrite)
 template <typename XCHAR>
 BOOL IsValidStringOf(const XCHAR* psz, INT_PTR nLength)
 {
-    if (!psz)
+    if (!psz) {
         return FALSE;
-    if (nLength >= 0)
+    }
+    if (nLength >= 0) {
         return nLength == 0 || AfxIsValidAddress(psz, static_cast<UINT_PTR>(nLength) * sizeof(XCHAR), FALSE);
+    }
     const UINT_PTR nPageMask = 0xFFF;
     for (const XCHAR* p = psz;; ++p) {
         const bool bNewPage = p == psz || (reinterpret_cast<UINT_PTR>(p) & nPageMask) < sizeof(XCHAR);
-        if (bNewPage && !AfxIsValidAddress(p, sizeof(XCHAR), FALSE))
+        if (bNewPage && !AfxIsValidAddress(p, sizeof(XCHAR), FALSE)) {
             return FALSE;
-        if (*p == 0)
+        }
+        if (*p == 0) {
             return TRUE;
+        }
     }
 }
 
@@ -110,10 +115,11 @@ void AFXAPI AfxAssertValidObject(const CObject* pOb, LPCSTR lpszFileName, int nL
     const bool bPlausible = pOb && AfxIsValidAddress(pOb, sizeof(CObject), TRUE) &&
                             AfxIsValidAddress(*reinterpret_cast<void* const*>(pOb), sizeof(void*), FALSE) &&
                             AfxIsValidAddress(pOb, static_cast<UINT_PTR>(pOb->GetRuntimeClass()->m_nObjectSize), TRUE);
-    if (bPlausible)
+    if (bPlausible) {
         pOb->AssertValid();
-    else if (AfxAssertFailedLine(lpszFileName, nLine))
+    } else if (AfxAssertFailedLine(lpszFileName, nLine)) {
         AfxDebugBreak();
+    }
 }
 
 void AFXAPI AfxDump(const CObject* pOb)
@@ -123,17 +129,20 @@ void AFXAPI AfxDump(const CObject* pOb)
 
 BOOL AFXAPI AfxIsValidAddress(const void* lp, UINT_PTR nBytes, BOOL bReadWrite)
 {
-    if (!lp)
+    if (!lp) {
         return FALSE;
+    }
     auto* p = static_cast<const BYTE*>(lp);
     const BYTE* const pEnd = p + nBytes;
-    if (pEnd < p)
+    if (pEnd < p) {
         return FALSE;
+    }
     do {
         MEMORY_BASIC_INFORMATION info;
         if (!VirtualQuery(p, &info, sizeof(info)) || info.State != MEM_COMMIT ||
-            !IsAccessible(info.Protect, bReadWrite != FALSE))
+            !IsAccessible(info.Protect, bReadWrite != FALSE)) {
             return FALSE;
+        }
         p = static_cast<const BYTE*>(info.BaseAddress) + info.RegionSize;
     } while (p < pEnd);
     return TRUE;
@@ -167,8 +176,9 @@ CDumpContext& CDumpContext::operator<<(const void* lp)
 
 CDumpContext& CDumpContext::operator<<(const CObject* pOb)
 {
-    if (!pOb)
+    if (!pOb) {
         return *this << L"(null)";
+    }
     pOb->Dump(*this);
     return *this;
 }

@@ -25,16 +25,19 @@ CException::CException(BOOL bAutoDelete) : m_bAutoDelete(bAutoDelete) {}
 
 void CException::Delete()
 {
-    if (m_bAutoDelete)
+    if (m_bAutoDelete) {
         delete this;
+    }
 }
 
 BOOL CException::GetErrorMessage(LPWSTR lpszError, UINT nMaxError, UINT* pnHelpContext) const
 {
-    if (pnHelpContext)
+    if (pnHelpContext) {
         *pnHelpContext = 0;
-    if (lpszError && nMaxError > 0)
+    }
+    if (lpszError && nMaxError > 0) {
         *lpszError = 0;
+    }
     return FALSE;
 }
 
@@ -42,8 +45,9 @@ int CException::ReportError(UINT nType, UINT nMessageID)
 {
     wchar_t szText[MAX_ERROR_TEXT];
     if (!GetErrorMessage(szText, MAX_ERROR_TEXT) &&
-        (nMessageID == 0 || AfxLoadString(nMessageID, szText, MAX_ERROR_TEXT) == 0))
+        (nMessageID == 0 || AfxLoadString(nMessageID, szText, MAX_ERROR_TEXT) == 0)) {
         lstrcpynW(szText, TEXT_UNKNOWN, MAX_ERROR_TEXT);
+    }
     const LPCWSTR lpszAppName = AfxGetModuleState()->m_lpszCurrentAppName;
     return ::MessageBoxW(GetActiveWindow(), szText, lpszAppName, nType);
 }
@@ -64,15 +68,19 @@ CSimpleException::CSimpleException(BOOL bAutoDelete, UINT nResourceID, LPCWSTR l
 
 BOOL CSimpleException::GetErrorMessage(LPWSTR lpszError, UINT nMaxError, UINT* pnHelpContext) const
 {
-    if (pnHelpContext)
+    if (pnHelpContext) {
         *pnHelpContext = 0;
-    if (!lpszError || nMaxError == 0)
+    }
+    if (!lpszError || nMaxError == 0) {
         return FALSE;
+    }
     *lpszError = 0;
-    if (m_nResourceID != 0 && AfxLoadString(m_nResourceID, lpszError, nMaxError) > 0)
+    if (m_nResourceID != 0 && AfxLoadString(m_nResourceID, lpszError, nMaxError) > 0) {
         return TRUE;
-    if (!m_lpszDefault)
+    }
+    if (!m_lpszDefault) {
         return FALSE;
+    }
     lstrcpynW(lpszError, m_lpszDefault, static_cast<int>(nMaxError));
     return TRUE;
 }

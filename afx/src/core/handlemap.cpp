@@ -9,10 +9,12 @@ CHandleMap::~CHandleMap()
 
 CObject* CHandleMap::FromHandle(HANDLE h)
 {
-    if (!h)
+    if (!h) {
         return nullptr;
-    if (CObject* const pPermanent = LookupPermanent(h))
+    }
+    if (CObject* const pPermanent = LookupPermanent(h)) {
         return pPermanent;
+    }
     CObject*& rpTemporary = m_temporaryMap[h];
     if (!rpTemporary) {
         try {
@@ -50,8 +52,9 @@ void CHandleMap::RemoveHandle(HANDLE h)
 
 void CHandleMap::DumpPermanent(LPCWSTR lpszKind) const
 {
-    for (const auto& [h, pObject] : m_permanentMap)
+    for (const auto& [h, pObject] : m_permanentMap) {
         AfxTrace(L"%s $%p is owned by the object at $%p\n", lpszKind, h, pObject);
+    }
 }
 
 void CHandleMap::DeleteTemp()
@@ -60,7 +63,8 @@ void CHandleMap::DeleteTemp()
     while (!m_temporaryMap.empty()) {
         const auto temporary = std::move(m_temporaryMap);
         m_temporaryMap.clear();
-        for (const auto& [h, pObject] : temporary)
+        for (const auto& [h, pObject] : temporary) {
             m_factory.pfnRelease(pObject);
+        }
     }
 }

@@ -44,8 +44,9 @@ struct TableEnd
 {
     ~TableEnd()
     {
-        if (g_bTrack && !g_bOmitReport)
+        if (g_bTrack && !g_bOmitReport) {
             ReportLeftBlocks();
+        }
         CExclusiveLock lock(g_lockHeap);
         g_bTrack = FALSE;
         g_nTracked = 0;
@@ -57,9 +58,11 @@ TableEnd g_tableEnd __attribute__((init_priority(101)));
 bool IsGuardIntact(const void* p, size_t nBytes)
 {
     const BYTE* const pGuard = static_cast<const BYTE*>(p) + nBytes;
-    for (size_t i = 0; i < GUARD_SIZE; ++i)
-        if (pGuard[i] != GUARD_BYTE)
+    for (size_t i = 0; i < GUARD_SIZE; ++i) {
+        if (pGuard[i] != GUARD_BYTE) {
             return false;
+        }
+    }
     return true;
 }
 
@@ -67,8 +70,9 @@ bool IsGuardIntact(const void* p, size_t nBytes)
 std::vector<std::pair<const void*, TrackedBlock>> CopyBlocks()
 {
     CExclusiveLock lock(g_lockHeap);
-    if (!g_pTable)
+    if (!g_pTable) {
         return {};
+    }
     return {g_pTable->blocks.begin(), g_pTable->blocks.end()};
 }
 
@@ -77,8 +81,9 @@ void ReportLeftBlocks()
     const CMemoryState none;
     CMemoryState left;
     left.Checkpoint();
-    if (left.m_lCounts[CMemoryState::objectBlock] == 0 && left.m_lCounts[CMemoryState::bitBlock] == 0)
+    if (left.m_lCounts[CMemoryState::objectBlock] == 0 && left.m_lCounts[CMemoryState::bitBlock] == 0) {
         return;
+    }
     AfxTrace(L"blocks are left when the framework ends:\n");
     left.DumpStatistics();
     none.DumpAllObjectsSince();
@@ -88,8 +93,9 @@ bool Enter(const void* p, const TrackedBlock& block)
 {
     CExclusiveLock lock(g_lockHeap);
     try {
-        if (!g_pTable)
+        if (!g_pTable) {
             g_pTable = new BlockTable;
+        }
         TrackedBlock& entry = g_pTable->blocks[p] = block;
         entry.lRequestNumber = ++g_lRequestNumber;
     } catch (const std::bad_alloc&) {
@@ -103,8 +109,9 @@ bool Enter(const void* p, const TrackedBlock& block)
 void* AfxAllocTracked(size_t nBytes, bool bObject, LPCSTR lpszFileName, int nLine) noexcept
 {
     const bool bTrack = g_bTrack != FALSE;
-    if (nBytes > static_cast<size_t>(PTRDIFF_MAX) - GUARD_SIZE)
+    if (nBytes > static_cast<size_t>(PTRDIFF_MAX) - GUARD_SIZE) {
         return nullptr;
+    }
     void* const p = malloc(nBytes + (bTrack ? GUARD_SIZE : 0));
     if (p && bTrack) {
         memset(static_cast<BYTE*>(p) + nBytes, GUARD_BYTE, GUARD_SIZE);
@@ -117,8 +124,9 @@ void AfxFreeTracked(void* p) noexcept
 {
     if (p && g_nTracked > 0) {
         CExclusiveLock lock(g_lockHeap);
-        if (g_pTable && g_pTable->blocks.erase(p))
+        if (g_pTable && g_pTable->blocks.erase(p)) {
             InterlockedDecrement(&g_nTracked);
+        }
     }
     free(p);
 }
@@ -143,27 +151,34 @@ BOOL AFXAPI AfxCheckMemory()
     std::vector<std::pair<const void*, TrackedBlock>> damaged;
     {
         CExclusiveLock lock(g_lockHeap);
-        if (g_pTable)
-            for (const auto& entry : g_pTable->blocks)
-                if (!IsGuardIntact(entry.first, entry.second.nBytes))
+        if (g_pTable) {
+            for (const auto& entry : g_pTable->blocks) {
+                if (!IsGuardIntact(entry.first, entry.second.nBytes)) {
                     damaged.push_back(entry);
+                }
+            }
+        }
     }
-    for (const auto& [p, block] : damaged)
+    for (const auto& [p, block] : damaged) {
         AfxTrace(L"memory damaged after block %ld at $%p, %u bytes long\n", block.lRequestNumber, p,
                  static_cast<UINT>(block.nBytes));
+    }
     return damaged.empty();
 }
 
 BOOL AFXAPI AfxIsMemoryBlock(const void* p, UINT nBytes, LONG* plRequestNumber)
 {
     CExclusiveLock lock(g_lockHeap);
-    if (!g_pTable)
+    if (!g_pTable) {
         return FALSE;
+    }
     const auto it = g_pTable->blocks.find(p);
-    if (it == g_pTable->blocks.end() || it->second.nBytes != nBytes)
+    if (it == g_pTable->blocks.end() || it->second.nBytes != nBytes) {
         return FALSE;
-    if (plRequestNumber)
+    }
+    if (plRequestNumber) {
         *plRequestNumber = it->second.lRequestNumber;
+    }
     return TRUE;
 }
 
@@ -172,8 +187,9 @@ void CMemoryState::Checkpoint()
     *this = CMemoryState();
     CExclusiveLock lock(g_lockHeap);
     m_lRequestNumber = g_lRequestNumber;
-    if (!g_pTable)
+    if (!g_pTable) {
         return;
+    }
     for (const auto& [p, block] : g_pTable->blocks) {
         const blockUsage use = block.bObject ? objectBlock : bitBlock;
         ++m_lCounts[use];
@@ -187,8 +203,9 @@ BOOL CMemoryState::Difference(const CMemoryState& oldState, const CMemoryState& 
     for (int use = 0; use < nBlockUseMax; ++use) {
         m_lCounts[use] = newState.m_lCounts[use] - oldState.m_lCounts[use];
         m_lSizes[use] = newState.m_lSizes[use] - oldState.m_lSizes[use];
-        if (m_lCounts[use] != 0 || m_lSizes[use] != 0)
+        if (m_lCounts[use] != 0 || m_lSizes[use] != 0) {
             bDifferent = TRUE;
+        }
     }
     m_lRequestNumber = newState.m_lRequestNumber - oldState.m_lRequestNumber;
     return bDifferent;
@@ -203,10 +220,12 @@ void CMemoryState::DumpStatistics() const
 
 void CMemoryState::DumpAllObjectsSince() const
 {
-    for (const auto& [p, block] : CopyBlocks())
-        if (block.bObject && block.lRequestNumber > m_lRequestNumber)
+    for (const auto& [p, block] : CopyBlocks()) {
+        if (block.bObject && block.lRequestNumber > m_lRequestNumber) {
             AfxTrace(L"%hs(%d): {%ld} object at $%p, %u bytes long\n", block.lpszFileName ? block.lpszFileName : "",
                      block.nLine, block.lRequestNumber, p, static_cast<UINT>(block.nBytes));
+        }
+    }
 }
 
 void* AFX_CDECL operator new(std::size_t nSize, LPCSTR, int)

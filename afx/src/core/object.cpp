@@ -45,8 +45,9 @@ void* CObject::operator new(std::size_t nSize)
 void* CObject::operator new(std::size_t nSize, LPCSTR lpszFileName, int nLine)
 {
     void* const p = AfxAllocTracked(nSize, true, lpszFileName, nLine);
-    if (!p)
+    if (!p) {
         AfxThrowMemoryException();
+    }
     return p;
 }
 
@@ -76,11 +77,13 @@ CObject* CRuntimeClass::CreateObject()
 
 BOOL CRuntimeClass::IsDerivedFrom(const CRuntimeClass* pBaseClass) const
 {
-    if (!pBaseClass)
+    if (!pBaseClass) {
         return FALSE;
+    }
     const CRuntimeClass* pClass = this;
-    while (pClass && pClass != pBaseClass)
+    while (pClass && pClass != pBaseClass) {
         pClass = pClass->m_pfnGetBaseClass ? pClass->m_pfnGetBaseClass() : nullptr;
+    }
     return pClass != nullptr;
 }
 

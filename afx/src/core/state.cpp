@@ -19,8 +19,9 @@ constexpr UINT STRINGS_PER_BLOCK = 16;
 /** Keeps the error code, which TlsGetValue resets: the state is asked for between a call and its GetLastError. */
 _AFX_THREAD_STATE* PeekThreadState(DWORD dwTlsIndex)
 {
-    if (dwTlsIndex == TLS_OUT_OF_INDEXES)
+    if (dwTlsIndex == TLS_OUT_OF_INDEXES) {
         return nullptr;
+    }
     const DWORD dwLastError = GetLastError();
     auto* const pState = static_cast<_AFX_THREAD_STATE*>(TlsGetValue(dwTlsIndex));
     SetLastError(dwLastError);
@@ -76,10 +77,12 @@ struct StateRoot
 
     ~StateRoot()
     {
-        if (AfxIsMemoryTracked())
+        if (AfxIsMemoryTracked()) {
             AfxStateAccess::ReportLeftHandles();
-        if (g_bProcessTerminating)
+        }
+        if (g_bProcessTerminating) {
             return;
+        }
         AfxStateAccess::FreeAllThreads();
         TlsFree(std::exchange(dwTlsIndex, TLS_OUT_OF_INDEXES));
     }
@@ -118,26 +121,32 @@ void AfxStateAccess::LeaveClass(AFX_CLASSINIT* pInit)
 {
     CExclusiveLock lock(g_lockState);
     AFX_CLASSINIT** ppLink = &g_pFirstClass;
-    while (*ppLink && *ppLink != pInit)
+    while (*ppLink && *ppLink != pInit) {
         ppLink = &(*ppLink)->m_pNextInit;
-    if (*ppLink)
+    }
+    if (*ppLink) {
         *ppLink = pInit->m_pNextInit;
+    }
 }
 
 CRuntimeClass* AfxStateAccess::FindInState(const AFX_MODULE_STATE* pState, LPCSTR lpszName)
 {
-    for (const AFX_CLASSINIT* p = g_pFirstClass; p; p = p->m_pNextInit)
+    for (const AFX_CLASSINIT* p = g_pFirstClass; p; p = p->m_pNextInit) {
         if (p->m_pOwnerState == pState && p->m_hModule != AfxFrameworkInstance() &&
-            strcmp(p->m_pClass->m_lpszClassName, lpszName) == 0)
+            strcmp(p->m_pClass->m_lpszClassName, lpszName) == 0) {
             return p->m_pClass;
+        }
+    }
     return nullptr;
 }
 
 CRuntimeClass* AfxStateAccess::FindInModule(HMODULE hModule, LPCSTR lpszName)
 {
-    for (const AFX_CLASSINIT* p = g_pFirstClass; p; p = p->m_pNextInit)
-        if (p->m_hModule == hModule && strcmp(p->m_pClass->m_lpszClassName, lpszName) == 0)
+    for (const AFX_CLASSINIT* p = g_pFirstClass; p; p = p->m_pNextInit) {
+        if (p->m_hModule == hModule && strcmp(p->m_pClass->m_lpszClassName, lpszName) == 0) {
             return p->m_pClass;
+        }
+    }
     return nullptr;
 }
 
@@ -145,8 +154,9 @@ CRuntimeClass* AfxStateAccess::FindClass(const AFX_MODULE_STATE* pState, LPCSTR 
 {
     CExclusiveLock lock(g_lockState);
     CRuntimeClass* pClass = FindInState(pState, lpszName);
-    for (const CDynLinkLibrary* p = pState->m_pFirstLibrary; p && !pClass; p = p->m_pNextDLL)
+    for (const CDynLinkLibrary* p = pState->m_pFirstLibrary; p && !pClass; p = p->m_pNextDLL) {
         pClass = FindInModule(p->m_hModule, lpszName);
+    }
     return pClass ? pClass : FindInModule(AfxFrameworkInstance(), lpszName);
 }
 
@@ -179,14 +189,17 @@ void AfxStateAccess::LeaveState(AFX_MODULE_STATE* pState)
 {
     CExclusiveLock lock(g_lockState);
     AFX_MODULE_STATE** ppLink = &g_pFirstState;
-    while (*ppLink && *ppLink != pState)
+    while (*ppLink && *ppLink != pState) {
         ppLink = &(*ppLink)->m_pNextState;
-    if (*ppLink)
+    }
+    if (*ppLink) {
         *ppLink = pState->m_pNextState;
+    }
     for (_AFX_THREAD_STATE* pThread = g_pFirstThread; pThread; pThread = pThread->m_pNextThread) {
         pThread->m_mapModules.erase(pState);
-        if (pThread->m_pModuleState == pState)
+        if (pThread->m_pModuleState == pState) {
             pThread->m_pModuleState = nullptr;
+        }
     }
 }
 
@@ -202,23 +215,29 @@ void AfxStateAccess::EnterLibrary(CDynLinkLibrary* pLibrary)
 void AfxStateAccess::LeaveLibrary(CDynLinkLibrary* pLibrary)
 {
     CExclusiveLock lock(g_lockState);
-    if (!pLibrary->m_pOwnerState)
+    if (!pLibrary->m_pOwnerState) {
         return;
+    }
     CDynLinkLibrary** ppLink = &pLibrary->m_pOwnerState->m_pFirstLibrary;
-    while (*ppLink && *ppLink != pLibrary)
+    while (*ppLink && *ppLink != pLibrary) {
         ppLink = &(*ppLink)->m_pNextDLL;
-    if (*ppLink)
+    }
+    if (*ppLink) {
         *ppLink = pLibrary->m_pNextDLL;
+    }
     pLibrary->m_pOwnerState = nullptr;
 }
 
 CDynLinkLibrary* AfxStateAccess::TakeLibrary(HMODULE hModule)
 {
     CExclusiveLock lock(g_lockState);
-    for (AFX_MODULE_STATE* pState = g_pFirstState; pState; pState = pState->m_pNextState)
-        for (CDynLinkLibrary* p = pState->m_pFirstLibrary; p; p = p->m_pNextDLL)
-            if (p->m_hModule == hModule)
+    for (AFX_MODULE_STATE* pState = g_pFirstState; pState; pState = pState->m_pNextState) {
+        for (CDynLinkLibrary* p = pState->m_pFirstLibrary; p; p = p->m_pNextDLL) {
+            if (p->m_hModule == hModule) {
                 return p;
+            }
+        }
+    }
     return nullptr;
 }
 
@@ -230,8 +249,9 @@ AFX_MODULE_STATE::AFX_MODULE_STATE(BOOL bDLL, HINSTANCE hInstance)
 
 AFX_MODULE_STATE::~AFX_MODULE_STATE()
 {
-    while (m_pFirstLibrary)
+    while (m_pFirstLibrary) {
         delete m_pFirstLibrary;
+    }
     AfxStateAccess::LeaveState(this);
 }
 
@@ -262,14 +282,16 @@ void CDynLinkLibrary::Dump(CDumpContext& dc) const
 
 AFX_EXTENSION_MODULE::~AFX_EXTENSION_MODULE()
 {
-    if (bInitialized)
+    if (bInitialized) {
         AfxTermExtensionModule(*this);
+    }
 }
 
 BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule)
 {
-    if (!hModule)
+    if (!hModule) {
         return FALSE;
+    }
     state.hModule = hModule;
     state.hResource = hModule;
     state.bInitialized = TRUE;
@@ -278,10 +300,12 @@ BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule)
 
 void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL)
 {
-    if (!state.bInitialized)
+    if (!state.bInitialized) {
         return;
-    while (CDynLinkLibrary* const pLibrary = AfxStateAccess::TakeLibrary(state.hModule))
+    }
+    while (CDynLinkLibrary* const pLibrary = AfxStateAccess::TakeLibrary(state.hModule)) {
         delete pLibrary;
+    }
     state.bInitialized = FALSE;
     state.hModule = state.hResource = nullptr;
 }
@@ -317,8 +341,9 @@ _AFX_THREAD_STATE::~_AFX_THREAD_STATE() = default;
 _AFX_THREAD_STATE* AfxStateAccess::MakeThread()
 {
     auto* const pThread = new (std::nothrow) _AFX_THREAD_STATE;
-    if (!pThread)
+    if (!pThread) {
         AfxThrowMemoryException();
+    }
     TlsSetValue(g_root.dwTlsIndex, pThread);
     CExclusiveLock lock(g_lockState);
     pThread->m_pNextThread = g_pFirstThread;
@@ -331,18 +356,21 @@ void AfxStateAccess::FreeThread(_AFX_THREAD_STATE* pThread)
     {
         CExclusiveLock lock(g_lockState);
         _AFX_THREAD_STATE** ppLink = &g_pFirstThread;
-        while (*ppLink && *ppLink != pThread)
+        while (*ppLink && *ppLink != pThread) {
             ppLink = &(*ppLink)->m_pNextThread;
-        if (*ppLink)
+        }
+        if (*ppLink) {
             *ppLink = pThread->m_pNextThread;
+        }
     }
     delete pThread;
 }
 
 void AfxStateAccess::FreeAllThreads()
 {
-    while (g_pFirstThread)
+    while (g_pFirstThread) {
         FreeThread(g_pFirstThread);
+    }
 }
 
 UINT AfxStateAccess::DumpHandles(const _AFX_THREAD_STATE* pThread)
@@ -352,8 +380,9 @@ UINT AfxStateAccess::DumpHandles(const _AFX_THREAD_STATE* pThread)
     size_t nCount = 0;
     for (int nKind = 0; nKind < AFX_HANDLE_KINDS; ++nKind) {
         const CHandleMap* const pMap = pThread->m_rgpHandleMap[nKind].get();
-        if (!pMap)
+        if (!pMap) {
             continue;
+        }
         pMap->DumpPermanent(KIND_NAMES[nKind]);
         nCount += pMap->GetPermanentCount();
     }
@@ -364,19 +393,23 @@ void AfxStateAccess::ReportLeftHandles()
 {
     AfxSetTraceHook(nullptr);
     UINT nCount = 0;
-    for (const _AFX_THREAD_STATE* pThread = g_pFirstThread; pThread; pThread = pThread->m_pNextThread)
+    for (const _AFX_THREAD_STATE* pThread = g_pFirstThread; pThread; pThread = pThread->m_pNextThread) {
         nCount += DumpHandles(pThread);
-    if (nCount > 0)
+    }
+    if (nCount > 0) {
         AfxTrace(L"%u handles are left when the framework ends\n", nCount);
-    if (g_bProcessTerminating)
+    }
+    if (g_bProcessTerminating) {
         FreeLastThread();
+    }
 }
 
 void AfxStateAccess::FreeLastThread()
 {
     AfxFreeThreadState();
-    if (g_pFirstThread)
+    if (g_pFirstThread) {
         AfxOmitBlockReport();
+    }
 }
 
 UINT AFXAPI AfxDumpHandles()
@@ -399,8 +432,9 @@ BOOL CHandleState::Difference(const CHandleState& oldState, const CHandleState& 
     BOOL bDifferent = FALSE;
     for (int nKind = 0; nKind < nHandleKinds; ++nKind) {
         m_lCounts[nKind] = newState.m_lCounts[nKind] - oldState.m_lCounts[nKind];
-        if (m_lCounts[nKind] != 0)
+        if (m_lCounts[nKind] != 0) {
             bDifferent = TRUE;
+        }
     }
     return bDifferent;
 }
@@ -415,8 +449,9 @@ AFX_MODULE_THREAD_STATE* AfxStateAccess::ModuleThread(_AFX_THREAD_STATE* pThread
 {
     CExclusiveLock lock(g_lockState);
     auto& rpState = pThread->m_mapModules[pModule];
-    if (!rpState)
+    if (!rpState) {
         rpState = std::make_unique<AFX_MODULE_THREAD_STATE>();
+    }
     return rpState.get();
 }
 
@@ -434,11 +469,13 @@ AFX_MODULE_THREAD_STATE* AFXAPI AfxGetModuleThreadState()
 void AFXAPI AfxFreeThreadState()
 {
     _AFX_THREAD_STATE* const pThread = PeekThreadState(g_root.dwTlsIndex);
-    if (!pThread)
+    if (!pThread) {
         return;
+    }
     /* The wrappers' destructors still ask for the state of the thread, so the maps go first. */
-    for (int nKind = 0; nKind < AFX_HANDLE_KINDS; ++nKind)
+    for (int nKind = 0; nKind < AFX_HANDLE_KINDS; ++nKind) {
         AfxStateAccess::HandleMap(pThread, static_cast<AFX_HANDLE_KIND>(nKind)).reset();
+    }
     TlsSetValue(g_root.dwTlsIndex, nullptr);
     AfxStateAccess::FreeThread(pThread);
 }
@@ -446,11 +483,13 @@ void AFXAPI AfxFreeThreadState()
 CHandleMap* AFXAPI AfxGetHandleMap(AFX_HANDLE_KIND nKind, const AFX_HANDLE_FACTORY* pFactory)
 {
     _AFX_THREAD_STATE* const pThread = pFactory ? AfxGetThreadState() : PeekThreadState(g_root.dwTlsIndex);
-    if (!pThread)
+    if (!pThread) {
         return nullptr;
+    }
     auto& rpMap = AfxStateAccess::HandleMap(pThread, nKind);
-    if (!rpMap && pFactory)
+    if (!rpMap && pFactory) {
         rpMap = std::make_unique<CHandleMap>(*pFactory);
+    }
     return rpMap.get();
 }
 
@@ -462,10 +501,13 @@ void AFXAPI AfxLockTempMaps()
 BOOL AFXAPI AfxUnlockTempMaps(BOOL bDeleteTemps)
 {
     _AFX_THREAD_STATE* const pThread = AfxGetThreadState();
-    if (pThread->m_nTempMapLock > 0 && --pThread->m_nTempMapLock == 0 && bDeleteTemps)
-        for (int nKind = 0; nKind < AFX_HANDLE_KINDS; ++nKind)
-            if (auto& rpMap = AfxStateAccess::HandleMap(pThread, static_cast<AFX_HANDLE_KIND>(nKind)))
+    if (pThread->m_nTempMapLock > 0 && --pThread->m_nTempMapLock == 0 && bDeleteTemps) {
+        for (int nKind = 0; nKind < AFX_HANDLE_KINDS; ++nKind) {
+            if (auto& rpMap = AfxStateAccess::HandleMap(pThread, static_cast<AFX_HANDLE_KIND>(nKind))) {
                 rpMap->DeleteTemp();
+            }
+        }
+    }
     return pThread->m_nTempMapLock != 0;
 }
 
@@ -492,10 +534,13 @@ std::vector<HINSTANCE> AfxStateAccess::LibraryResources(const AFX_MODULE_STATE* 
 {
     std::vector<HINSTANCE> handles;
     CExclusiveLock lock(g_lockState);
-    for (const bool bSystem : {false, true})
-        for (const CDynLinkLibrary* p = pState->m_pFirstLibrary; p; p = p->m_pNextDLL)
-            if (p->m_hResource && (p->m_bSystem != FALSE) == bSystem)
+    for (const bool bSystem : {false, true}) {
+        for (const CDynLinkLibrary* p = pState->m_pFirstLibrary; p; p = p->m_pNextDLL) {
+            if (p->m_hResource && (p->m_bSystem != FALSE) == bSystem) {
                 handles.push_back(p->m_hResource);
+            }
+        }
+    }
     return handles;
 }
 
@@ -503,11 +548,14 @@ template <typename Test>
 HINSTANCE AfxStateAccess::SearchModules(Test test)
 {
     const HINSTANCE hFirst = AfxGetResourceHandle();
-    if (test(hFirst))
+    if (test(hFirst)) {
         return hFirst;
-    for (const HINSTANCE hLibrary : LibraryResources(AfxGetModuleState()))
-        if (test(hLibrary))
+    }
+    for (const HINSTANCE hLibrary : LibraryResources(AfxGetModuleState())) {
+        if (test(hLibrary)) {
             return hLibrary;
+        }
+    }
     return test(AfxFrameworkInstance()) ? AfxFrameworkInstance() : nullptr;
 }
 
@@ -527,21 +575,25 @@ HINSTANCE AFXAPI AfxFindStringResourceHandle(UINT nID)
 
 AfxStringResource AfxLocateString(HINSTANCE hInstance, UINT nID, WORD wLanguageID)
 {
-    if (nID > 0xFFFF)
+    if (nID > 0xFFFF) {
         return {};
+    }
     const HRSRC hResource = FindResourceExW(hInstance, reinterpret_cast<LPCWSTR>(RT_STRING),
                                             MAKEINTRESOURCEW(nID / STRINGS_PER_BLOCK + 1), wLanguageID);
     const HGLOBAL hGlobal = hResource ? LoadResource(hInstance, hResource) : nullptr;
     const auto* p = hGlobal ? static_cast<const wchar_t*>(LockResource(hGlobal)) : nullptr;
-    if (!p)
+    if (!p) {
         return {};
+    }
     const wchar_t* const pEnd = p + SizeofResource(hInstance, hResource) / sizeof(wchar_t);
     for (UINT i = 0; p < pEnd; ++i) {
         const int nLength = static_cast<WORD>(*p++);
-        if (nLength > pEnd - p)
+        if (nLength > pEnd - p) {
             break;
-        if (i == nID % STRINGS_PER_BLOCK)
+        }
+        if (i == nID % STRINGS_PER_BLOCK) {
             return nLength > 0 ? AfxStringResource{p, nLength} : AfxStringResource{};
+        }
         p += nLength;
     }
     return {};

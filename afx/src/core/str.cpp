@@ -27,8 +27,9 @@ EmptyBuffer<wchar_t>& EmptyOf(wchar_t)
 
 void CheckArgument(bool bValid)
 {
-    if (!bValid)
+    if (!bValid) {
         AfxThrowInvalidArgException();
+    }
 }
 
 template <typename XCHAR>
@@ -71,8 +72,9 @@ typename CStringT<T>::PXSTR CStringT<T>::AllocBuffer(int nLength)
     const size_t nBytes = sizeof(CStringData) + (static_cast<size_t>(nLength) + 1) * sizeof(T);
     auto* const pData =
         nLength >= 0 && nLength < INT_MAX / 4 ? static_cast<CStringData*>(AfxAllocTracked(nBytes, false)) : nullptr;
-    if (!pData)
+    if (!pData) {
         AfxThrowMemoryException();
+    }
     *pData = {1, 0, nLength, 0};
     PXSTR const psz = reinterpret_cast<PXSTR>(pData + 1);
     psz[0] = 0;
@@ -89,19 +91,22 @@ typename CStringT<T>::PXSTR CStringT<T>::ShareBuffer(const CStringT& strSrc)
         (reinterpret_cast<CStringData*>(psz) - 1)->nDataLength = pData->nDataLength;
         return psz;
     }
-    if (strSrc.m_pszData != NilBuffer())
+    if (strSrc.m_pszData != NilBuffer()) {
         InterlockedIncrement(&pData->nRefs);
+    }
     return strSrc.m_pszData;
 }
 
 template <typename T>
 void CStringT<T>::ReleaseRef(PXSTR pszData) noexcept
 {
-    if (pszData == NilBuffer())
+    if (pszData == NilBuffer()) {
         return;
+    }
     auto* const pData = reinterpret_cast<CStringData*>(pszData) - 1;
-    if (pData->IsLocked() || InterlockedDecrement(&pData->nRefs) <= 0)
+    if (pData->IsLocked() || InterlockedDecrement(&pData->nRefs) <= 0) {
         AfxFreeTracked(pData);
+    }
 }
 
 template <typename T>
@@ -123,8 +128,9 @@ void CStringT<T>::MakeOwn(int nMinAlloc)
 {
     const CStringData* const pData = GetData();
     const int nLength = pData->nDataLength;
-    if (!pData->IsShared() && m_pszData != NilBuffer() && pData->nAllocLength >= nMinAlloc)
+    if (!pData->IsShared() && m_pszData != NilBuffer() && pData->nAllocLength >= nMinAlloc) {
         return;
+    }
     const bool bGrowing = nMinAlloc > pData->nAllocLength && nLength > 0 && !pData->IsShared();
     const int nRoom = bGrowing && nMinAlloc < INT_MAX / 8 ? nMinAlloc + nMinAlloc / 2 : nMinAlloc;
     const LONG nRefs = pData->IsLocked() ? -1 : 1;
@@ -165,8 +171,9 @@ void CStringT<T>::AssignVariant(const VARIANT& var)
 template <typename T>
 bool CStringT<T>::LoadIfResource(const void* psz)
 {
-    if (!psz || !IS_INTRESOURCE(psz))
+    if (!psz || !IS_INTRESOURCE(psz)) {
         return false;
+    }
     LoadString(static_cast<UINT>(reinterpret_cast<UINT_PTR>(psz)));
     return true;
 }
@@ -198,15 +205,17 @@ CStringT<T>::CStringT(const CStringT<YCHAR>& strSrc) : CStringT()
 template <typename T>
 CStringT<T>::CStringT(PCXSTR pszSrc) : CStringT()
 {
-    if (!LoadIfResource(pszSrc))
+    if (!LoadIfResource(pszSrc)) {
         SetString(pszSrc);
+    }
 }
 
 template <typename T>
 CStringT<T>::CStringT(PCYSTR pszSrc) : CStringT()
 {
-    if (!LoadIfResource(pszSrc))
+    if (!LoadIfResource(pszSrc)) {
         *this = pszSrc;
+    }
 }
 
 template <typename T>
@@ -225,10 +234,12 @@ CStringT<T>::CStringT(char ch, int nLength) : CStringT()
 {
     CheckArgument(nLength >= 0);
     if constexpr (std::is_same_v<T, char>) {
-        if (nLength > 0)
+        if (nLength > 0) {
             memset(GetBufferSetLength(nLength), ch, static_cast<size_t>(nLength));
-    } else
+        }
+    } else {
         *this = CStringT(CStringT<char>(ch, nLength));
+    }
 }
 
 template <typename T>
@@ -236,10 +247,12 @@ CStringT<T>::CStringT(wchar_t ch, int nLength) : CStringT()
 {
     CheckArgument(nLength >= 0);
     if constexpr (std::is_same_v<T, wchar_t>) {
-        if (nLength > 0)
+        if (nLength > 0) {
             std::fill_n(GetBufferSetLength(nLength), nLength, ch);
-    } else
+        }
+    } else {
         *this = CStringT(CStringT<wchar_t>(ch, nLength));
+    }
 }
 
 template <typename T>
@@ -265,20 +278,23 @@ CStringT<T>::~CStringT() noexcept
 template <typename T>
 CStringT<T>& CStringT<T>::operator=(const CStringT& strSrc)
 {
-    if (m_pszData == strSrc.m_pszData)
+    if (m_pszData == strSrc.m_pszData) {
         return *this;
-    if (GetData()->IsLocked())
+    }
+    if (GetData()->IsLocked()) {
         SetString(strSrc, strSrc.GetLength());
-    else
+    } else {
         Attach(ShareBuffer(strSrc));
+    }
     return *this;
 }
 
 template <typename T>
 CStringT<T>& CStringT<T>::operator=(CStringT&& strSrc) noexcept
 {
-    if (this == &strSrc)
+    if (this == &strSrc) {
         return *this;
+    }
     Attach(std::exchange(strSrc.m_pszData, NilBuffer()));
     return *this;
 }
@@ -362,10 +378,11 @@ CStringT<T>& CStringT<T>::operator+=(PCYSTR pszSrc)
 template <typename T>
 CStringT<T>& CStringT<T>::operator+=(char ch)
 {
-    if constexpr (std::is_same_v<T, char>)
+    if constexpr (std::is_same_v<T, char>) {
         AppendChar(ch);
-    else
+    } else {
         Append(CStringT(ch));
+    }
     return *this;
 }
 
@@ -378,10 +395,11 @@ CStringT<T>& CStringT<T>::operator+=(unsigned char ch)
 template <typename T>
 CStringT<T>& CStringT<T>::operator+=(wchar_t ch)
 {
-    if constexpr (std::is_same_v<T, wchar_t>)
+    if constexpr (std::is_same_v<T, wchar_t>) {
         AppendChar(ch);
-    else
+    } else {
         Append(CStringT(ch));
+    }
     return *this;
 }
 
@@ -396,10 +414,12 @@ template <typename T>
 CStringT<T> CStringT<T>::Concatenate(PCXSTR psz1, int nLength1, PCXSTR psz2, int nLength2)
 {
     CStringT str;
-    if (nLength1 == 0 && nLength2 == 0)
+    if (nLength1 == 0 && nLength2 == 0) {
         return str;
-    if (nLength1 > INT_MAX - nLength2)
+    }
+    if (nLength1 > INT_MAX - nLength2) {
         AfxThrowMemoryException();
+    }
     str.m_pszData = AllocBuffer(nLength1 + nLength2);
     CopyChars(str.m_pszData, OrEmpty(psz1), nLength1);
     CopyChars(str.m_pszData + nLength1, OrEmpty(psz2), nLength2);
@@ -412,10 +432,11 @@ CStringT<T> CStringT<T>::Concatenate(PCXSTR psz1, int nLength1, PCXSTR psz2, int
 template <typename T>
 void CStringT<T>::Empty() noexcept
 {
-    if (GetData()->IsLocked())
+    if (GetData()->IsLocked()) {
         SetDataLength(0);
-    else
+    } else {
         Attach(NilBuffer());
+    }
 }
 
 template <typename T>
@@ -454,8 +475,9 @@ void CStringT<T>::SetString(PCXSTR pszSrc, int nLength)
         CopyChars(psz, pszSrc, nLength);
         Attach(psz);
         GetData()->nRefs = nRefs;
-    } else
+    } else {
         CopyCharsOverlapped(m_pszData, pszSrc, nLength);
+    }
     SetDataLength(nLength);
 }
 
@@ -469,11 +491,13 @@ template <typename T>
 void CStringT<T>::Append(PCXSTR pszSrc, int nLength)
 {
     CheckArgument(nLength >= 0 && (pszSrc || nLength == 0));
-    if (nLength == 0)
+    if (nLength == 0) {
         return;
+    }
     const int nOldLength = GetLength();
-    if (nLength > INT_MAX - nOldLength)
+    if (nLength > INT_MAX - nOldLength) {
         AfxThrowMemoryException();
+    }
     const bool bInside = pszSrc >= m_pszData && pszSrc <= m_pszData + nOldLength;
     const INT_PTR nOffset = bInside ? pszSrc - m_pszData : 0;
     MakeOwn(nOldLength + nLength);
@@ -484,10 +508,11 @@ void CStringT<T>::Append(PCXSTR pszSrc, int nLength)
 template <typename T>
 void CStringT<T>::Append(const CStringT& strSrc)
 {
-    if (IsEmpty() && !GetData()->IsLocked())
+    if (IsEmpty() && !GetData()->IsLocked()) {
         *this = strSrc;
-    else
+    } else {
         Append(strSrc.m_pszData, strSrc.GetLength());
+    }
 }
 
 template <typename T>
@@ -541,9 +566,9 @@ template <typename T>
 void CStringT<T>::ReleaseBufferSetLength(int nNewLength)
 {
     CheckArgument(nNewLength >= 0 && nNewLength <= GetData()->nAllocLength);
-    if (nNewLength == 0)
+    if (nNewLength == 0) {
         Empty();
-    else {
+    } else {
         MakeOwn(nNewLength);
         SetDataLength(nNewLength);
     }
@@ -560,22 +585,25 @@ typename CStringT<T>::PXSTR CStringT<T>::LockBuffer()
 template <typename T>
 void CStringT<T>::UnlockBuffer() noexcept
 {
-    if (GetData()->IsLocked())
+    if (GetData()->IsLocked()) {
         GetData()->nRefs = 1;
+    }
 }
 
 template <typename T>
 void CStringT<T>::FreeExtra()
 {
     const CStringData* const pData = GetData();
-    if (pData->IsLocked() || pData->nAllocLength == pData->nDataLength)
+    if (pData->IsLocked() || pData->nAllocLength == pData->nDataLength) {
         return;
+    }
     const int nLength = pData->nDataLength;
     PXSTR const psz = nLength > 0 ? AllocBuffer(nLength) : NilBuffer();
     CopyChars(psz, m_pszData, nLength);
     Attach(psz);
-    if (nLength > 0)
+    if (nLength > 0) {
         SetDataLength(nLength);
+    }
 }
 
 template <typename T>
@@ -588,8 +616,9 @@ template <typename T>
 void CStringT<T>::Truncate(int nNewLength)
 {
     CheckArgument(nNewLength >= 0);
-    if (nNewLength < GetLength())
+    if (nNewLength < GetLength()) {
         GetBufferSetLength(nNewLength);
+    }
 }
 
 /* Comparison */
@@ -673,8 +702,9 @@ CStringT<T> CStringT<T>::Tokenize(PCXSTR pszTokens, int& iStart) const
 {
     CheckArgument(iStart >= 0);
     const int nLength = GetLength();
-    if (iStart < nLength && !*OrEmpty(pszTokens))
+    if (iStart < nLength && !*OrEmpty(pszTokens)) {
         return Mid(std::exchange(iStart, nLength));
+    }
     if (iStart < nLength) {
         const int iFirst = iStart + Chars<T>::SpanOf(m_pszData + iStart, pszTokens);
         if (iFirst < nLength) {
@@ -692,8 +722,9 @@ CStringT<T> CStringT<T>::Tokenize(PCXSTR pszTokens, int& iStart) const
 template <typename T>
 int CStringT<T>::Find(XCHAR ch, int iStart) const noexcept
 {
-    if (iStart < 0 || iStart >= GetLength())
+    if (iStart < 0 || iStart >= GetLength()) {
         return -1;
+    }
     const PCXSTR psz = Chars<T>::FindChar(m_pszData + iStart, ch);
     return psz ? static_cast<int>(psz - m_pszData) : -1;
 }
@@ -701,8 +732,9 @@ int CStringT<T>::Find(XCHAR ch, int iStart) const noexcept
 template <typename T>
 int CStringT<T>::Find(PCXSTR pszSub, int iStart) const noexcept
 {
-    if (!pszSub || iStart < 0 || iStart > GetLength())
+    if (!pszSub || iStart < 0 || iStart > GetLength()) {
         return -1;
+    }
     const PCXSTR psz = Chars<T>::FindString(m_pszData + iStart, pszSub);
     return psz ? static_cast<int>(psz - m_pszData) : -1;
 }

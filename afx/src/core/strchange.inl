@@ -17,8 +17,9 @@ CStringT<T>& CStringT<T>::MakeLower()
 template <typename T>
 CStringT<T>& CStringT<T>::MakeReverse()
 {
-    if (GetLength() > 1)
+    if (GetLength() > 1) {
         Chars<T>::Reverse(GetBuffer(), GetLength());
+    }
     return *this;
 }
 
@@ -26,8 +27,9 @@ template <typename T>
 int CStringT<T>::Replace(XCHAR chOld, XCHAR chNew)
 {
     int nCount = 0;
-    if (chOld == chNew)
+    if (chOld == chNew) {
         return 0;
+    }
     for (int i = Find(chOld); i >= 0; i = Find(chOld, i + 1)) {
         SetAt(i, chNew);
         ++nCount;
@@ -39,8 +41,9 @@ template <typename T>
 int CStringT<T>::Replace(PCXSTR pszOld, PCXSTR pszNew)
 {
     const int nOld = StringLength(pszOld);
-    if (nOld == 0 || Find(pszOld) < 0)
+    if (nOld == 0 || Find(pszOld) < 0) {
         return 0;
+    }
     /* The result is built apart, so both arguments may point into this string. */
     CStringT strResult;
     int nCount = 0;
@@ -60,14 +63,16 @@ template <typename T>
 int CStringT<T>::Remove(XCHAR chRemove)
 {
     const int nLength = GetLength();
-    if (Find(chRemove) < 0)
+    if (Find(chRemove) < 0) {
         return 0;
+    }
     PXSTR const psz = GetBuffer();
     PXSTR pDest = psz;
     for (PCXSTR p = psz; p < psz + nLength;) {
         const PCXSTR pNext = (std::min)(Chars<T>::Next(p), static_cast<PCXSTR>(psz + nLength));
-        if (*p != chRemove)
+        if (*p != chRemove) {
             pDest = std::copy(p, pNext, pDest);
+        }
         p = pNext;
     }
     const int nNewLength = static_cast<int>(pDest - psz);
@@ -79,8 +84,9 @@ template <typename T>
 int CStringT<T>::Insert(int iIndex, XCHAR ch)
 {
     const XCHAR szText[2] = {ch, 0};
-    if (ch != 0)
+    if (ch != 0) {
         return Insert(iIndex, szText);
+    }
     iIndex = (std::min)((std::max)(iIndex, 0), GetLength());
     const CStringT strTail(Mid(iIndex));
     GetBufferSetLength(iIndex);
@@ -94,10 +100,12 @@ int CStringT<T>::Insert(int iIndex, PCXSTR psz)
 {
     const int nInsert = StringLength(psz);
     const int nLength = GetLength();
-    if (nInsert == 0)
+    if (nInsert == 0) {
         return nLength;
-    if (nInsert > INT_MAX - nLength)
+    }
+    if (nInsert > INT_MAX - nLength) {
         AfxThrowMemoryException();
+    }
     iIndex = (std::min)((std::max)(iIndex, 0), nLength);
     const bool bInside = psz >= m_pszData && psz <= m_pszData + nLength;
     const CStringT strInsert(bInside ? CStringT(psz, nInsert) : CStringT());
@@ -113,8 +121,9 @@ int CStringT<T>::Delete(int iIndex, int nCount)
 {
     const int nLength = GetLength();
     iIndex = (std::max)(iIndex, 0);
-    if (iIndex >= nLength || nCount <= 0)
+    if (iIndex >= nLength || nCount <= 0) {
         return nLength;
+    }
     nCount = (std::min)(nCount, nLength - iIndex);
     PXSTR const psz = GetBuffer();
     CopyCharsOverlapped(psz + iIndex, psz + iIndex + nCount, nLength - iIndex - nCount);
@@ -131,14 +140,18 @@ void CStringT<T>::TrimEnds(PCXSTR pszTargets, bool bLeft, bool bRight)
         return pszTargets ? *p != 0 && Chars<T>::FindChar(pszTargets, *p) != nullptr : Chars<T>::IsSpace(p);
     };
     PCXSTR pszFirst = m_pszData;
-    while (bLeft && pszFirst < pszEnd && IsTarget(pszFirst))
+    while (bLeft && pszFirst < pszEnd && IsTarget(pszFirst)) {
         pszFirst = Chars<T>::Next(pszFirst);
+    }
     PCXSTR pszLast = bRight ? pszFirst : pszEnd;
-    for (PCXSTR p = pszFirst; bRight && p < pszEnd; p = Chars<T>::Next(p))
-        if (!IsTarget(p))
+    for (PCXSTR p = pszFirst; bRight && p < pszEnd; p = Chars<T>::Next(p)) {
+        if (!IsTarget(p)) {
             pszLast = (std::min)(Chars<T>::Next(p), pszEnd);
-    if (pszFirst != m_pszData || pszLast != pszEnd)
+        }
+    }
+    if (pszFirst != m_pszData || pszLast != pszEnd) {
         SetString(pszFirst, static_cast<int>(pszLast - pszFirst));
+    }
 }
 
 template <typename T>
@@ -213,9 +226,10 @@ void CStringT<T>::ConvertCodePage(bool bToOem)
     if constexpr (std::is_same_v<T, char>) {
         const DWORD nLength = static_cast<DWORD>(GetLength());
         PXSTR const psz = GetBuffer();
-        if (bToOem)
+        if (bToOem) {
             CharToOemBuffA(psz, psz, nLength);
-        else
+        } else {
             OemToCharBuffA(psz, psz, nLength);
+        }
     }
 }

@@ -85,8 +85,9 @@ void CStringT<T>::FormatMessageV(PCXSTR pszFormat, va_list* pArgList)
     CLocalText<T> text;
     SetLastError(ERROR_SUCCESS);
     const DWORD nLength = Chars<T>::FormatSystem(pszFormat, &text.psz, pArgList);
-    if (nLength == 0 && GetLastError() != ERROR_SUCCESS)
+    if (nLength == 0 && GetLastError() != ERROR_SUCCESS) {
         AfxThrowMemoryException();
+    }
     SetString(text.psz, static_cast<int>(nLength));
 }
 
@@ -127,8 +128,9 @@ template <typename T>
 BOOL CStringT<T>::LoadString(HINSTANCE hInstance, UINT nID, WORD wLanguageID)
 {
     const AfxStringResource resource = AfxLocateString(hInstance, nID, wLanguageID);
-    if (!resource.lpsz)
+    if (!resource.lpsz) {
         return FALSE;
+    }
     *this = CStringT(resource.lpsz, resource.nLength);
     return TRUE;
 }
@@ -138,8 +140,9 @@ BSTR CStringT<T>::AllocSysString() const
 {
     const CStringT<wchar_t> strWide(*this);
     BSTR const bstr = SysAllocStringLen(strWide.GetString(), static_cast<UINT>(strWide.GetLength()));
-    if (!bstr)
+    if (!bstr) {
         AfxThrowMemoryException();
+    }
     return bstr;
 }
 
@@ -148,8 +151,9 @@ BSTR CStringT<T>::SetSysString(BSTR* pbstr) const
 {
     CheckArgument(pbstr != nullptr);
     const CStringT<wchar_t> strWide(*this);
-    if (!SysReAllocStringLen(pbstr, strWide.GetString(), static_cast<UINT>(strWide.GetLength())))
+    if (!SysReAllocStringLen(pbstr, strWide.GetString(), static_cast<UINT>(strWide.GetLength()))) {
         AfxThrowMemoryException();
+    }
     return *pbstr;
 }
 
@@ -164,8 +168,9 @@ BOOL CStringT<T>::GetEnvironmentVariable(PCXSTR pszVar)
         PXSTR const psz = strValue.GetBuffer(static_cast<int>(nSize));
         const DWORD nLength = Chars<T>::Environment(pszVar, psz, nSize);
         strValue.ReleaseBufferSetLength(nLength < nSize ? static_cast<int>(nLength) : 0);
-        if (nLength < nSize)
+        if (nLength < nSize) {
             break;
+        }
         nSize = nLength;
     }
     const BOOL bFound = !strValue.IsEmpty() || (nSize > 0 && GetLastError() == ERROR_SUCCESS);

@@ -5,22 +5,26 @@ namespace
 /** Value of a placeholder character: 1 to 9, then A to Z; 0 for none. */
 int PlaceholderNumber(TCHAR ch)
 {
-    if (ch >= L'1' && ch <= L'9')
+    if (ch >= L'1' && ch <= L'9') {
         return ch - L'0';
-    if (ch >= L'A' && ch <= L'Z')
+    }
+    if (ch >= L'A' && ch <= L'Z') {
         return ch - L'A' + 10;
+    }
     return 0;
 }
 } // namespace
 
 int AFXAPI AfxLoadString(UINT nID, LPWSTR lpszBuf, UINT nMaxBuf)
 {
-    if (!lpszBuf || nMaxBuf == 0)
+    if (!lpszBuf || nMaxBuf == 0) {
         return 0;
+    }
     *lpszBuf = 0;
     CString strText;
-    if (!strText.LoadString(nID))
+    if (!strText.LoadString(nID)) {
         return 0;
+    }
     lstrcpynW(lpszBuf, strText, static_cast<int>(nMaxBuf));
     return lstrlenW(lpszBuf);
 }
@@ -30,8 +34,9 @@ BOOL AFXAPI AfxExtractSubString(CString& rString, LPCTSTR lpszFullString, int iS
     const TCHAR* p = lpszFullString;
     for (; p && iSubString > 0; --iSubString) {
         p = wcschr(p, chSep);
-        if (p)
+        if (p) {
             ++p;
+        }
     }
     if (!p || iSubString < 0) {
         rString.Empty();
@@ -52,10 +57,11 @@ void AFXAPI AfxFormatStrings(CString& rString, LPCTSTR lpszFormat, LPCTSTR const
             continue;
         }
         ++p;
-        if (nNumber > nString)
+        if (nNumber > nString) {
             strResult.AppendChar(L'?');
-        else
+        } else {
             strResult.Append(rglpsz[nNumber - 1]);
+        }
     }
     rString = strResult;
 }

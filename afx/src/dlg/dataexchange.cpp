@@ -28,8 +28,9 @@ void Refuse(CDataExchange* pDX, LPCTSTR lpszMessage)
 
 bool OnlyBlanksFollow(const wchar_t* p)
 {
-    while (::iswspace(*p))
+    while (::iswspace(*p)) {
         ++p;
+    }
     return *p == 0;
 }
 
@@ -39,20 +40,24 @@ bool ParseInteger(const CString& strText, T& value)
 {
     const wchar_t* p = strText;
     wchar_t* pEnd = nullptr;
-    while (::iswspace(*p))
+    while (::iswspace(*p)) {
         ++p;
+    }
     errno = 0;
     if constexpr (std::is_signed_v<T>) {
         const long long n = ::wcstoll(p, &pEnd, 10);
-        if (n < (std::numeric_limits<T>::min)() || n > (std::numeric_limits<T>::max)())
+        if (n < (std::numeric_limits<T>::min)() || n > (std::numeric_limits<T>::max)()) {
             return false;
+        }
         value = static_cast<T>(n);
     } else {
-        if (*p == L'-')
+        if (*p == L'-') {
             return false;
+        }
         const unsigned long long n = ::wcstoull(p, &pEnd, 10);
-        if (n > (std::numeric_limits<T>::max)())
+        if (n > (std::numeric_limits<T>::max)()) {
             return false;
+        }
         value = static_cast<T>(n);
     }
     return pEnd != p && errno == 0 && OnlyBlanksFollow(pEnd);
@@ -67,8 +72,9 @@ void ExchangeInteger(CDataExchange* pDX, int nIDC, T& value)
         return;
     }
     T parsed = 0;
-    if (!ParseInteger(ControlText(hWnd), parsed))
+    if (!ParseInteger(ControlText(hWnd), parsed)) {
         Refuse(pDX, std::is_signed_v<T> ? kAskWholeNumber : kAskUnsigned);
+    }
     value = parsed;
 }
 
@@ -85,16 +91,18 @@ void ExchangeReal(CDataExchange* pDX, int nIDC, T& value)
     const CString strText = ControlText(hWnd);
     wchar_t* pEnd = nullptr;
     const double parsed = ::wcstod(strText, &pEnd);
-    if (pEnd == strText.GetString() || !OnlyBlanksFollow(pEnd))
+    if (pEnd == strText.GetString() || !OnlyBlanksFollow(pEnd)) {
         Refuse(pDX, kAskNumber);
+    }
     value = static_cast<T>(parsed);
 }
 
 template <class T>
 void CheckRange(CDataExchange* pDX, T value, T minVal, T maxVal, LPCTSTR lpszFormat)
 {
-    if (value >= minVal && value <= maxVal)
+    if (value >= minVal && value <= maxVal) {
         return;
+    }
     if (!pDX->m_bSaveAndValidate) {
         TRACE(_T("Initial value of a dialog is out of range.\n"));
         return;
@@ -107,10 +115,11 @@ void CheckRange(CDataExchange* pDX, T value, T minVal, T maxVal, LPCTSTR lpszFor
 void ExchangeIndex(CDataExchange* pDX, int nIDC, int& index, UINT getMessage, UINT setMessage)
 {
     const HWND hWnd = pDX->PrepareCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
+    if (pDX->m_bSaveAndValidate) {
         index = static_cast<int>(::SendMessage(hWnd, getMessage, 0, 0));
-    else
+    } else {
         ::SendMessage(hWnd, setMessage, static_cast<WPARAM>(index), 0);
+    }
 }
 
 CString ListBoxText(HWND hWnd)
@@ -129,13 +138,14 @@ void ExchangeListString(CDataExchange* pDX, int nIDC, CString& value, bool exact
 {
     const HWND hWnd = pDX->PrepareCtrl(nIDC);
     const auto lText = reinterpret_cast<LPARAM>(value.GetString());
-    if (pDX->m_bSaveAndValidate)
+    if (pDX->m_bSaveAndValidate) {
         value = ListBoxText(hWnd);
-    else if (!exact)
+    } else if (!exact) {
         ::SendMessage(hWnd, LB_SELECTSTRING, static_cast<WPARAM>(-1), lText);
-    else
+    } else {
         ::SendMessage(hWnd, LB_SETCURSEL,
                       static_cast<WPARAM>(::SendMessage(hWnd, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), lText)), 0);
+    }
 }
 
 void ExchangeComboString(CDataExchange* pDX, int nIDC, CString& value, bool exact)
@@ -148,10 +158,11 @@ void ExchangeComboString(CDataExchange* pDX, int nIDC, CString& value, bool exac
     const auto lText = reinterpret_cast<LPARAM>(value.GetString());
     const UINT findMessage = exact ? CB_FINDSTRINGEXACT : CB_FINDSTRING;
     const auto nIndex = ::SendMessage(hWnd, findMessage, static_cast<WPARAM>(-1), lText);
-    if (nIndex != CB_ERR)
+    if (nIndex != CB_ERR) {
         ::SendMessage(hWnd, CB_SETCURSEL, static_cast<WPARAM>(nIndex), 0);
-    else
+    } else {
         AfxSetWindowText(hWnd, value); // not in the list, but the edit part may hold it
+    }
 }
 } // namespace
 
@@ -188,18 +199,21 @@ void CDataExchange::Fail()
 {
     if (m_bSaveAndValidate && m_hWndLastControl) {
         ::SetFocus(m_hWndLastControl);
-        if (m_bEditLastControl)
+        if (m_bEditLastControl) {
             ::SendMessage(m_hWndLastControl, EM_SETSEL, 0, -1);
+        }
     }
     AfxThrowUserException();
 }
 
 void DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl)
 {
-    if (rControl.m_hWnd)
+    if (rControl.m_hWnd) {
         return;
-    if (!rControl.SubclassWindow(pDX->PrepareCtrl(nIDC)))
+    }
+    if (!rControl.SubclassWindow(pDX->PrepareCtrl(nIDC))) {
         AfxThrowNotSupportedException();
+    }
 }
 
 /** Data exchange of a text that stands for a number. */
@@ -223,20 +237,21 @@ EXCHANGE_TEXT(double, ExchangeReal)
 void DDX_Text(CDataExchange* pDX, int nIDC, CString& value)
 {
     const HWND hWnd = pDX->PrepareEditCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
+    if (pDX->m_bSaveAndValidate) {
         value = ControlText(hWnd);
-    else
+    } else {
         AfxSetWindowText(hWnd, value);
+    }
 }
 
 void DDX_Text(CDataExchange* pDX, int nIDC, LPTSTR value, int nMaxLen)
 {
     const HWND hWnd = pDX->PrepareEditCtrl(nIDC);
-    if (!pDX->m_bSaveAndValidate)
+    if (!pDX->m_bSaveAndValidate) {
         AfxSetWindowText(hWnd, value);
-    else if (::GetWindowTextLength(hWnd) < nMaxLen)
+    } else if (::GetWindowTextLength(hWnd) < nMaxLen) {
         ::GetWindowText(hWnd, value, nMaxLen);
-    else {
+    } else {
         CString strMessage;
         strMessage.Format(_T("Please enter no more than %d characters."), nMaxLen - 1);
         Refuse(pDX, strMessage);
@@ -246,24 +261,27 @@ void DDX_Text(CDataExchange* pDX, int nIDC, LPTSTR value, int nMaxLen)
 void DDX_Check(CDataExchange* pDX, int nIDC, int& value)
 {
     const HWND hWnd = pDX->PrepareCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
+    if (pDX->m_bSaveAndValidate) {
         value = static_cast<int>(::SendMessage(hWnd, BM_GETCHECK, 0, 0));
-    else
+    } else {
         ::SendMessage(hWnd, BM_SETCHECK, value >= BST_UNCHECKED && value <= BST_INDETERMINATE ? value : 0, 0);
+    }
 }
 
 void DDX_Radio(CDataExchange* pDX, int nIDC, int& value)
 {
     HWND hWnd = pDX->PrepareCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
+    if (pDX->m_bSaveAndValidate) {
         value = -1;
+    }
     int nIndex = 0;
     do {
         if (::SendMessage(hWnd, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON) {
-            if (!pDX->m_bSaveAndValidate)
+            if (!pDX->m_bSaveAndValidate) {
                 ::SendMessage(hWnd, BM_SETCHECK, nIndex == value, 0);
-            else if (::SendMessage(hWnd, BM_GETCHECK, 0, 0) != BST_UNCHECKED)
+            } else if (::SendMessage(hWnd, BM_GETCHECK, 0, 0) != BST_UNCHECKED) {
                 value = nIndex;
+            }
             ++nIndex;
         }
         hWnd = ::GetWindow(hWnd, GW_HWNDNEXT);
@@ -303,19 +321,21 @@ void DDX_CBStringExact(CDataExchange* pDX, int nIDC, CString& value)
 void DDX_Scroll(CDataExchange* pDX, int nIDC, int& value)
 {
     const HWND hWnd = pDX->PrepareCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
+    if (pDX->m_bSaveAndValidate) {
         value = ::GetScrollPos(hWnd, SB_CTL);
-    else
+    } else {
         ::SetScrollPos(hWnd, SB_CTL, value, TRUE);
+    }
 }
 
 void DDX_Slider(CDataExchange* pDX, int nIDC, int& value)
 {
     const HWND hWnd = pDX->PrepareCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
+    if (pDX->m_bSaveAndValidate) {
         value = static_cast<int>(::SendMessage(hWnd, TBM_GETPOS, 0, 0));
-    else
+    } else {
         ::SendMessage(hWnd, TBM_SETPOS, TRUE, value);
+    }
 }
 
 void DDV_MinMaxByte(CDataExchange* pDX, BYTE value, BYTE minVal, BYTE maxVal)
@@ -361,12 +381,14 @@ void DDV_MinMaxDouble(CDataExchange* pDX, const double& value, double minVal, do
 void DDV_MaxChars(CDataExchange* pDX, const CString& value, int nChars)
 {
     if (!pDX->m_bSaveAndValidate) {
-        if (pDX->m_hWndLastControl && pDX->m_bEditLastControl)
+        if (pDX->m_hWndLastControl && pDX->m_bEditLastControl) {
             ::SendMessage(pDX->m_hWndLastControl, EM_LIMITTEXT, static_cast<WPARAM>(nChars), 0);
+        }
         return;
     }
-    if (value.GetLength() <= nChars)
+    if (value.GetLength() <= nChars) {
         return;
+    }
     CString strMessage;
     strMessage.Format(_T("Please enter no more than %d characters."), nChars);
     Refuse(pDX, strMessage);

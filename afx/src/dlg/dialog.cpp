@@ -36,8 +36,9 @@ struct ExtendedHead
 TemplateHead ReadHead(LPCDLGTEMPLATE pTemplate)
 {
     const auto* pExtended = reinterpret_cast<const ExtendedHead*>(pTemplate);
-    if (pExtended->wSignature == 0xFFFF)
+    if (pExtended->wSignature == 0xFFFF) {
         return {pExtended->dwStyle, pExtended->x, pExtended->y};
+    }
     return {pTemplate->style, pTemplate->x, pTemplate->y};
 }
 
@@ -52,8 +53,9 @@ class LockedTemplate
     }
     ~LockedTemplate()
     {
-        if (m_pTemplate)
+        if (m_pTemplate) {
             ::GlobalUnlock(m_hTemplate);
+        }
     }
     LockedTemplate(const LockedTemplate&) = delete;
     LockedTemplate& operator=(const LockedTemplate&) = delete;
@@ -91,8 +93,9 @@ CDialog::CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd) : CDialog()
 {
     m_lpszTemplateName = lpszTemplateName;
     m_pParentWnd = pParentWnd;
-    if (IS_INTRESOURCE(lpszTemplateName))
+    if (IS_INTRESOURCE(lpszTemplateName)) {
         m_nIDHelp = LOWORD(reinterpret_cast<UINT_PTR>(lpszTemplateName));
+    }
 }
 
 CDialog::CDialog(UINT nIDTemplate, CWnd* pParentWnd) : CDialog(MAKEINTRESOURCE(nIDTemplate), pParentWnd) {}
@@ -115,8 +118,9 @@ BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd)
 BOOL CDialog::Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd)
 {
     m_lpszTemplateName = lpszTemplateName;
-    if (IS_INTRESOURCE(lpszTemplateName) && m_nIDHelp == 0)
+    if (IS_INTRESOURCE(lpszTemplateName) && m_nIDHelp == 0) {
         m_nIDHelp = LOWORD(reinterpret_cast<UINT_PTR>(lpszTemplateName));
+    }
     HINSTANCE hInst = nullptr;
     const auto* pTemplate = static_cast<LPCDLGTEMPLATE>(AfxLoadLockedResource(lpszTemplateName, RT_DIALOG, &hInst));
     return pTemplate ? CreateDlgIndirect(pTemplate, pParentWnd, hInst) : FALSE;
@@ -137,10 +141,12 @@ BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, 
 BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, HINSTANCE hInst)
 {
     ASSERT(!m_hWnd);
-    if (!lpDialogTemplate || m_hWnd)
+    if (!lpDialogTemplate || m_hWnd) {
         return FALSE;
-    if (!pParentWnd)
+    }
+    if (!pParentWnd) {
         pParentWnd = AfxGetMainWnd();
+    }
     const HWND hWndParent = pParentWnd->GetSafeHwnd();
     RegisterCommonControls();
     m_nModalResult = -1;
@@ -148,9 +154,9 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWn
     AfxHookWindowCreate(this);
     const HWND hWnd = ::CreateDialogIndirect(hInst, lpDialogTemplate, hWndParent, AfxDlgProc);
     const DWORD dwError = ::GetLastError();
-    if (!AfxUnhookWindowCreate())
+    if (!AfxUnhookWindowCreate()) {
         PostNcDestroy();
-    else if (hWnd && ::IsWindow(hWnd) && CWnd::FromHandlePermanent(hWnd) == this && !ContinueModal()) {
+    } else if (hWnd && ::IsWindow(hWnd) && CWnd::FromHandlePermanent(hWnd) == this && !ContinueModal()) {
         DestroyWindow();
         return FALSE;
     }
@@ -163,8 +169,9 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWn
 BOOL CDialog::InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd)
 {
     ASSERT(!m_lpDialogTemplate);
-    if (m_pParentWnd == nullptr)
+    if (m_pParentWnd == nullptr) {
         m_pParentWnd = pParentWnd;
+    }
     m_hDialogTemplate = hDialogTemplate;
     return hDialogTemplate != nullptr;
 }
@@ -172,8 +179,9 @@ BOOL CDialog::InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd)
 BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, void* lpDialogInit)
 {
     ASSERT(!m_hDialogTemplate);
-    if (m_pParentWnd == nullptr)
+    if (m_pParentWnd == nullptr) {
         m_pParentWnd = pParentWnd;
+    }
     m_lpDialogTemplate = lpDialogTemplate;
     m_lpDialogInit = lpDialogInit;
     return lpDialogTemplate != nullptr;
@@ -188,30 +196,36 @@ void CDialog::PostModal()
 {
     AfxUnhookWindowCreate();
     Detach();
-    if (::IsWindow(m_hWndTop))
+    if (::IsWindow(m_hWndTop)) {
         ::EnableWindow(m_hWndTop, TRUE);
+    }
     m_hWndTop = nullptr;
 }
 
 INT_PTR CDialog::DoModal()
 {
     ASSERT(!m_hWnd);
-    if (m_hWnd)
+    if (m_hWnd) {
         return -1;
+    }
     HINSTANCE hInst = AfxGetResourceHandle();
     const LockedTemplate locked(m_hDialogTemplate);
     LPCDLGTEMPLATE pTemplate = m_hDialogTemplate ? locked.Get() : m_lpDialogTemplate;
-    if (m_lpszTemplateName)
+    if (m_lpszTemplateName) {
         pTemplate = static_cast<LPCDLGTEMPLATE>(AfxLoadLockedResource(m_lpszTemplateName, RT_DIALOG, &hInst));
-    if (!pTemplate)
+    }
+    if (!pTemplate) {
         return -1;
+    }
     const HWND hWndParent = PreModal();
     const bool disableParent = hWndParent && hWndParent != ::GetDesktopWindow() && ::IsWindowEnabled(hWndParent);
-    if (disableParent)
+    if (disableParent) {
         ::EnableWindow(hWndParent, FALSE);
+    }
     try {
-        if (CreateDlgIndirect(pTemplate, CWnd::FromHandle(hWndParent), hInst) && ContinueModal())
+        if (CreateDlgIndirect(pTemplate, CWnd::FromHandle(hWndParent), hInst) && ContinueModal()) {
             RunModalLoop(MLF_SHOWONIDLE | ((GetStyle() & DS_NOIDLEMSG) ? MLF_NOIDLEMSG : 0));
+        }
     } catch (CException* e) {
         e->Delete();
         m_nModalResult = -1;
@@ -228,23 +242,29 @@ INT_PTR CDialog::DoModal()
 void CDialog::CloseModal(HWND hWndParent, bool enableParent)
 {
     const bool wasActive = m_hWnd && ::GetActiveWindow() == m_hWnd;
-    if (enableParent && ::IsWindow(hWndParent))
+    if (enableParent && ::IsWindow(hWndParent)) {
         ::EnableWindow(hWndParent, TRUE);
-    if (m_hWnd)
+    }
+    if (m_hWnd) {
         SetWindowPos(nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
-    if (wasActive && ::IsWindow(hWndParent))
+    }
+    if (wasActive && ::IsWindow(hWndParent)) {
         ::SetActiveWindow(hWndParent);
-    if (m_hWnd)
+    }
+    if (m_hWnd) {
         DestroyWindow();
+    }
     PostModal();
 }
 
 void CDialog::EndDialog(int nResult)
 {
-    if (m_nFlags & (WF_MODALLOOP | WF_CONTINUEMODAL))
+    if (m_nFlags & (WF_MODALLOOP | WF_CONTINUEMODAL)) {
         EndModalLoop(nResult);
-    if (!(m_nFlags & WF_MODALLOOP) && ::IsWindow(m_hWnd))
+    }
+    if (!(m_nFlags & WF_MODALLOOP) && ::IsWindow(m_hWnd)) {
         ::EndDialog(m_hWnd, nResult);
+    }
 }
 
 // Messages
@@ -295,8 +315,9 @@ void CDialog::PreSubclassWindow()
 
 void CDialog::OnOK()
 {
-    if (UpdateData(TRUE))
+    if (UpdateData(TRUE)) {
         EndDialog(IDOK);
+    }
 }
 
 void CDialog::OnCancel()
@@ -311,18 +332,21 @@ BOOL CDialog::PreTranslateMessage(MSG* pMsg)
 
 BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)
 {
-    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
+    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) {
         return TRUE;
+    }
     // Menu commands and their updates go on to the owner and the thread; a control's id means something in its dialog
     // only.
     constexpr UINT kFirstCommand = 0x8000;
     constexpr UINT kFirstSystemCommand = 0xF000;
     const bool isCommand = nCode == CN_COMMAND || static_cast<UINT>(nCode) == CN_UPDATE_COMMAND_UI;
-    if (!isCommand || nID < kFirstCommand || nID >= kFirstSystemCommand)
+    if (!isCommand || nID < kFirstCommand || nID >= kFirstSystemCommand) {
         return FALSE;
+    }
     CWnd* pOwner = m_hWnd ? GetParent() : nullptr;
-    if (pOwner && pOwner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
+    if (pOwner && pOwner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) {
         return TRUE;
+    }
     CWinThread* pThread = AfxGetThread();
     return pThread && pThread->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
 }
@@ -331,10 +355,12 @@ BOOL CDialog::CheckAutoCenter()
 {
     const LockedTemplate locked(m_hDialogTemplate);
     LPCDLGTEMPLATE pTemplate = m_hDialogTemplate ? locked.Get() : m_lpDialogTemplate;
-    if (m_lpszTemplateName)
+    if (m_lpszTemplateName) {
         pTemplate = static_cast<LPCDLGTEMPLATE>(AfxLoadLockedResource(m_lpszTemplateName, RT_DIALOG));
-    if (!pTemplate)
+    }
+    if (!pTemplate) {
         return TRUE;
+    }
     const TemplateHead head = ReadHead(pTemplate);
     return !(head.dwStyle & (DS_CENTER | DS_CENTERMOUSE | DS_ABSALIGN)) && head.x == 0 && head.y == 0;
 }
@@ -353,8 +379,9 @@ void CDialog::PrevDlgCtrl() const
 
 void CDialog::GotoDlgCtrl(CWnd* pWndCtrl)
 {
-    if (const HWND hWndControl = pWndCtrl->GetSafeHwnd())
+    if (const HWND hWndControl = pWndCtrl->GetSafeHwnd()) {
         ::SendMessage(m_hWnd, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(hWndControl), TRUE);
+    }
 }
 
 void CDialog::SetDefID(UINT nID)

@@ -36,8 +36,9 @@ class TemplateReader
     size_t FontOffset() const
     {
         size_t at = IsExtended() ? kExtendedHead : kPlainHead;
-        for (int i = 0; i < 3; ++i)
+        for (int i = 0; i < 3; ++i) {
             at = SkipNameOrText(at);
+        }
         return at;
     }
     /** Bytes of point size, weight, slant and character set in front of the face name. */
@@ -97,8 +98,9 @@ class Locked
     explicit Locked(HGLOBAL hGlobal) : m_hGlobal(hGlobal), m_p(hGlobal ? ::GlobalLock(hGlobal) : nullptr) {}
     ~Locked()
     {
-        if (m_p)
+        if (m_p) {
             ::GlobalUnlock(m_hGlobal);
+        }
     }
     Locked(const Locked&) = delete;
     Locked& operator=(const Locked&) = delete;
@@ -114,21 +116,24 @@ SIZE MeasureBaseUnits(const TemplateReader& reader)
 {
     const DWORD dwUnits = static_cast<DWORD>(::GetDialogBaseUnits());
     SIZE base = {LOWORD(dwUnits), HIWORD(dwUnits)};
-    if (!reader.HasFont())
+    if (!reader.HasFont()) {
         return base;
+    }
     CClientDC dc(nullptr);
     CFont font;
     const int nHeight = -::MulDiv(reader.PointSize(), dc.GetDeviceCaps(LOGPIXELSY), kPointsPerInch);
     if (!font.CreateFont(nHeight, 0, 0, 0, reader.Weight(), reader.Italic(), FALSE, 0, reader.CharSet(),
-                         OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, PROOF_QUALITY, FF_DONTCARE, reader.FaceName()))
+                         OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, PROOF_QUALITY, FF_DONTCARE, reader.FaceName())) {
         return base;
+    }
     const HGDIOBJ hOldFont = ::SelectObject(dc.m_hDC, font.m_hObject);
     constexpr WCHAR kLetters[] = L"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
     constexpr int kLetterPairs = 26;
     SIZE extent;
     TEXTMETRIC metrics;
-    if (::GetTextExtentPoint32(dc.m_hDC, kLetters, 2 * kLetterPairs, &extent) && ::GetTextMetrics(dc.m_hDC, &metrics))
+    if (::GetTextExtentPoint32(dc.m_hDC, kLetters, 2 * kLetterPairs, &extent) && ::GetTextMetrics(dc.m_hDC, &metrics)) {
         base = {(extent.cx / kLetterPairs + 1) / 2, metrics.tmHeight};
+    }
     ::SelectObject(dc.m_hDC, hOldFont);
     return base;
 }
@@ -158,8 +163,9 @@ std::vector<BYTE> FontPart(bool isExtended, LPCTSTR lpFaceName, WORD nFontSize)
 CDialogTemplate::CDialogTemplate(const DLGTEMPLATE* pTemplate)
     : m_hTemplate(nullptr), m_dwTemplateSize(0), m_bSystemFont(FALSE)
 {
-    if (pTemplate)
+    if (pTemplate) {
         SetTemplate(pTemplate, static_cast<UINT>(TemplateReader(pTemplate).EndOfItems()));
+    }
 }
 
 CDialogTemplate::CDialogTemplate(HGLOBAL hGlobal) : CDialogTemplate(static_cast<const DLGTEMPLATE*>(nullptr))
@@ -169,20 +175,23 @@ CDialogTemplate::CDialogTemplate(HGLOBAL hGlobal) : CDialogTemplate(static_cast<
 
 CDialogTemplate::~CDialogTemplate()
 {
-    if (m_hTemplate)
+    if (m_hTemplate) {
         ::GlobalFree(m_hTemplate);
+    }
 }
 
 BOOL CDialogTemplate::SetTemplate(const void* pTemplate, UINT cb)
 {
     const HGLOBAL hNew = ::GlobalAlloc(GPTR, cb + LF_FACESIZE * 2);
-    if (!hNew)
+    if (!hNew) {
         return FALSE;
+    }
     void* pNew = ::GlobalLock(hNew);
     ::memcpy(pNew, pTemplate, cb);
     ::GlobalUnlock(hNew);
-    if (m_hTemplate)
+    if (m_hTemplate) {
         ::GlobalFree(m_hTemplate);
+    }
     m_hTemplate = hNew;
     m_dwTemplateSize = cb;
     m_bSystemFont = FALSE;
@@ -193,15 +202,17 @@ BOOL CDialogTemplate::Load(LPCTSTR lpDialogTemplateID)
 {
     HINSTANCE hInst = nullptr;
     const void* pTemplate = AfxLoadLockedResource(lpDialogTemplateID, RT_DIALOG, &hInst);
-    if (!pTemplate)
+    if (!pTemplate) {
         return FALSE;
+    }
     return SetTemplate(pTemplate, ::SizeofResource(hInst, ::FindResource(hInst, lpDialogTemplateID, RT_DIALOG)));
 }
 
 HGLOBAL CDialogTemplate::Attach(HGLOBAL hGlobal)
 {
-    if (m_hTemplate && m_hTemplate != hGlobal)
+    if (m_hTemplate && m_hTemplate != hGlobal) {
         ::GlobalFree(m_hTemplate);
+    }
     m_hTemplate = hGlobal;
     const Locked locked(hGlobal);
     m_dwTemplateSize = locked.Get() ? static_cast<DWORD>(TemplateReader(locked.Get()).EndOfItems()) : 0;
@@ -229,8 +240,9 @@ BOOL CDialogTemplate::HasFont() const
 
 BOOL CDialogTemplate::GetFont(const DLGTEMPLATE* pTemplate, CString& strFaceName, WORD& nFontSize)
 {
-    if (!HasFont(pTemplate))
+    if (!HasFont(pTemplate)) {
         return FALSE;
+    }
     const TemplateReader reader(pTemplate);
     strFaceName = reader.FaceName();
     nFontSize = reader.PointSize();
@@ -245,8 +257,9 @@ BOOL CDialogTemplate::GetFont(CString& strFaceName, WORD& nFontSize) const
 
 BOOL CDialogTemplate::SetFont(LPCTSTR lpFaceName, WORD nFontSize)
 {
-    if (!m_hTemplate || !lpFaceName)
+    if (!m_hTemplate || !lpFaceName) {
         return FALSE;
+    }
     std::vector<BYTE> bytes;
     {
         const Locked locked(m_hTemplate);
@@ -269,8 +282,9 @@ BOOL CDialogTemplate::SetFont(LPCTSTR lpFaceName, WORD nFontSize)
 BOOL CDialogTemplate::SetSystemFont(WORD nFontSize)
 {
     LOGFONT logFont = {};
-    if (!::GetObject(::GetStockObject(DEFAULT_GUI_FONT), sizeof logFont, &logFont))
+    if (!::GetObject(::GetStockObject(DEFAULT_GUI_FONT), sizeof logFont, &logFont)) {
         return FALSE;
+    }
     WORD nPoints = nFontSize;
     if (nPoints == 0) {
         CClientDC dc(nullptr);
@@ -286,16 +300,18 @@ void CDialogTemplate::GetSizeInDialogUnits(SIZE* pSize) const
 {
     *pSize = {0, 0};
     const Locked locked(m_hTemplate);
-    if (locked.Get())
+    if (locked.Get()) {
         *pSize = TemplateReader(locked.Get()).Units();
+    }
 }
 
 void CDialogTemplate::GetSizeInPixels(SIZE* pSize) const
 {
     *pSize = {0, 0};
     const Locked locked(m_hTemplate);
-    if (!locked.Get())
+    if (!locked.Get()) {
         return;
+    }
     const TemplateReader reader(locked.Get());
     const SIZE base = MeasureBaseUnits(reader);
     const SIZE units = reader.Units();

@@ -1,7 +1,7 @@
-#include <afxwin.h>
-
 #include "core/adopt.h"
 #include "handlemaps.h"
+
+#include <afxwin.h>
 
 #include <string>
 
@@ -42,10 +42,12 @@ template <class TResult, class TFunction>
 TResult OnBoth(const CDC& dc, TResult failure, TFunction function)
 {
     TResult result = failure;
-    if (dc.m_hDC != nullptr && dc.m_hDC != dc.m_hAttribDC)
+    if (dc.m_hDC != nullptr && dc.m_hDC != dc.m_hAttribDC) {
         result = function(dc.m_hDC);
-    if (dc.m_hAttribDC != nullptr)
+    }
+    if (dc.m_hAttribDC != nullptr) {
         result = function(dc.m_hAttribDC);
+    }
     return result;
 }
 
@@ -61,8 +63,9 @@ constexpr int HIMETRIC_PER_INCH = 2540;
 
 CGdiObject* SelectOnBoth(CDC& dc, HGDIOBJ hObject)
 {
-    if (hObject == nullptr)
+    if (hObject == nullptr) {
         return nullptr;
+    }
     HGDIOBJ hFormer = OnBoth(dc, HGDIOBJ{nullptr}, [=](HDC hDC) { return ::SelectObject(hDC, hObject); });
     return CGdiObject::FromHandle(hFormer);
 }
@@ -70,14 +73,16 @@ CGdiObject* SelectOnBoth(CDC& dc, HGDIOBJ hObject)
 void SyncPosition(const CDC& dc)
 {
     POINT point = {};
-    if (dc.m_hAttribDC != nullptr && dc.m_hAttribDC != dc.m_hDC && ::GetCurrentPositionEx(dc.m_hDC, &point))
+    if (dc.m_hAttribDC != nullptr && dc.m_hAttribDC != dc.m_hDC && ::GetCurrentPositionEx(dc.m_hDC, &point)) {
         ::MoveToEx(dc.m_hAttribDC, point.x, point.y, nullptr);
+    }
 }
 
 void ConvertSize(HDC hDC, LPSIZE lpSize, BOOL(WINAPI* convert)(HDC, LPPOINT, int))
 {
-    if (lpSize == nullptr)
+    if (lpSize == nullptr) {
         return;
+    }
     POINT points[2] = {{0, 0}, {lpSize->cx, lpSize->cy}};
     convert(hDC, points, 2);
     lpSize->cx = abs(points[1].x - points[0].x);
@@ -91,8 +96,9 @@ CSize Density(HDC hDC)
     HDC hAsked = hDC == nullptr ? hScreen : hDC;
     const CSize density((std::max)(1, ::GetDeviceCaps(hAsked, LOGPIXELSX)),
                         (std::max)(1, ::GetDeviceCaps(hAsked, LOGPIXELSY)));
-    if (hScreen != nullptr)
+    if (hScreen != nullptr) {
         ::ReleaseDC(nullptr, hScreen);
+    }
     return density;
 }
 
@@ -104,8 +110,9 @@ CSize SizeFromLong(DWORD dwSize)
 CSize ExtentOn(HDC hDC, LPCTSTR lpszString, int nCount)
 {
     SIZE size = {};
-    if (hDC != nullptr && lpszString != nullptr)
+    if (hDC != nullptr && lpszString != nullptr) {
         ::GetTextExtentPoint32(hDC, lpszString, nCount, &size);
+    }
     return size;
 }
 
@@ -147,8 +154,9 @@ void InvertFrame(CDC& dc, CRgn& frame, CBrush* pBrush)
 
 CDC::~CDC()
 {
-    if (m_hDC != nullptr)
+    if (m_hDC != nullptr) {
         ::DeleteDC(Detach());
+    }
 }
 
 CDC* PASCAL CDC::FromHandle(HDC hDC)
@@ -163,8 +171,9 @@ void PASCAL CDC::DeleteTempMap()
 
 BOOL CDC::Attach(HDC hDC)
 {
-    if (hDC == nullptr || m_hDC != nullptr)
+    if (hDC == nullptr || m_hDC != nullptr) {
         return FALSE;
+    }
     m_hDC = hDC;
     m_hAttribDC = hDC;
     m_bPrinting = ::GetDeviceCaps(hDC, TECHNOLOGY) == DT_RASPRINTER;
@@ -175,8 +184,9 @@ BOOL CDC::Attach(HDC hDC)
 HDC CDC::Detach()
 {
     HDC hDC = m_hDC;
-    if (hDC != nullptr)
+    if (hDC != nullptr) {
         AfxDcMap::Remove(hDC);
+    }
     m_hDC = nullptr;
     m_hAttribDC = nullptr;
     m_bPrinting = FALSE;
@@ -239,8 +249,9 @@ BOOL CDC::CreateIC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszO
 BOOL CDC::CreateCompatibleDC(CDC* pDC)
 {
     // An empty object is not the screen: it is a failed call further up.
-    if (pDC != nullptr && pDC->m_hDC == nullptr)
+    if (pDC != nullptr && pDC->m_hDC == nullptr) {
         return FALSE;
+    }
     return AfxAdopt(*this, ::CreateCompatibleDC(HandleOf(pDC)));
 }
 
@@ -273,8 +284,9 @@ BOOL CDC::ResetDC(const DEVMODE* lpDevMode)
 int CDC::SaveDC()
 {
     const int nSaved = m_hAttribDC != nullptr ? ::SaveDC(m_hAttribDC) : 0;
-    if (m_hDC == nullptr || m_hDC == m_hAttribDC)
+    if (m_hDC == nullptr || m_hDC == m_hAttribDC) {
         return nSaved;
+    }
     // Both are at the same depth; -1 takes back the newest of each.
     return ::SaveDC(m_hDC) != 0 ? -1 : 0;
 }
@@ -336,8 +348,9 @@ CBitmap* CDC::SelectObject(CBitmap* pBitmap)
 int CDC::SelectObject(CRgn* pRgn)
 {
     HRGN hRgn = RegionOf(pRgn);
-    if (hRgn == nullptr)
+    if (hRgn == nullptr) {
         return ERROR;
+    }
     return OnBoth(*this, ERROR,
                   [=](HDC hDC) { return static_cast<int>(reinterpret_cast<INT_PTR>(::SelectObject(hDC, hRgn))); });
 }
@@ -651,8 +664,9 @@ void CDC::LPtoDP(LPSIZE lpSize) const
 
 void CDC::DPtoHIMETRIC(LPSIZE lpSize) const
 {
-    if (lpSize == nullptr)
+    if (lpSize == nullptr) {
         return;
+    }
     const CSize density = Density(m_hAttribDC);
     lpSize->cx = ::MulDiv(lpSize->cx, HIMETRIC_PER_INCH, density.cx);
     lpSize->cy = ::MulDiv(lpSize->cy, HIMETRIC_PER_INCH, density.cy);
@@ -660,8 +674,9 @@ void CDC::DPtoHIMETRIC(LPSIZE lpSize) const
 
 void CDC::HIMETRICtoDP(LPSIZE lpSize) const
 {
-    if (lpSize == nullptr)
+    if (lpSize == nullptr) {
         return;
+    }
     const CSize density = Density(m_hAttribDC);
     lpSize->cx = ::MulDiv(lpSize->cx, density.cx, HIMETRIC_PER_INCH);
     lpSize->cy = ::MulDiv(lpSize->cy, density.cy, HIMETRIC_PER_INCH);
@@ -790,8 +805,9 @@ CPoint CDC::MoveTo(POINT point)
 
 BOOL CDC::LineTo(int x, int y)
 {
-    if (m_hAttribDC != nullptr && m_hDC != m_hAttribDC)
+    if (m_hAttribDC != nullptr && m_hDC != m_hAttribDC) {
         ::MoveToEx(m_hAttribDC, x, y, nullptr);
+    }
     return ::LineTo(m_hDC, x, y);
 }
 
@@ -875,20 +891,23 @@ BOOL CDC::PolyBezierTo(const POINT* lpPoints, int nCount)
 
 void CDC::FillRect(LPCRECT lpRect, CBrush* pBrush)
 {
-    if (m_hDC != nullptr && lpRect != nullptr && BrushOf(pBrush) != nullptr)
+    if (m_hDC != nullptr && lpRect != nullptr && BrushOf(pBrush) != nullptr) {
         ::FillRect(m_hDC, lpRect, BrushOf(pBrush));
+    }
 }
 
 void CDC::FrameRect(LPCRECT lpRect, CBrush* pBrush)
 {
-    if (m_hDC != nullptr && lpRect != nullptr && BrushOf(pBrush) != nullptr)
+    if (m_hDC != nullptr && lpRect != nullptr && BrushOf(pBrush) != nullptr) {
         ::FrameRect(m_hDC, lpRect, BrushOf(pBrush));
+    }
 }
 
 void CDC::InvertRect(LPCRECT lpRect)
 {
-    if (m_hDC != nullptr && lpRect != nullptr)
+    if (m_hDC != nullptr && lpRect != nullptr) {
         ::InvertRect(m_hDC, lpRect);
+    }
 }
 
 BOOL CDC::DrawIcon(int x, int y, HICON hIcon)
@@ -925,8 +944,9 @@ BOOL CDC::DrawState(CPoint pt, CSize size, HICON hIcon, UINT nFlags, CBrush* pBr
 
 BOOL CDC::DrawState(CPoint pt, CSize size, LPCTSTR lpszText, UINT nFlags, BOOL bPrefixText, int nTextLen, HBRUSH hBrush)
 {
-    if (lpszText == nullptr)
+    if (lpszText == nullptr) {
         return FALSE;
+    }
     const UINT nType = bPrefixText ? DST_PREFIXTEXT : DST_TEXT;
     return ::DrawState(m_hDC, hBrush, nullptr, reinterpret_cast<LPARAM>(lpszText), nTextLen, pt.x, pt.y, size.cx,
                        size.cy, nFlags | nType);
@@ -961,8 +981,9 @@ BOOL CDC::Chord(LPCRECT lpRect, POINT ptStart, POINT ptEnd)
 
 void CDC::DrawFocusRect(LPCRECT lpRect)
 {
-    if (m_hDC != nullptr && lpRect != nullptr)
+    if (m_hDC != nullptr && lpRect != nullptr) {
         ::DrawFocusRect(m_hDC, lpRect);
+    }
 }
 
 BOOL CDC::Ellipse(int x1, int y1, int x2, int y2)
@@ -1138,23 +1159,26 @@ CSize CDC::TabbedTextOut(int x, int y, const CString& str, int nTabPositions, LP
 
 int CDC::DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat)
 {
-    if (m_hDC == nullptr || lpszString == nullptr || lpRect == nullptr)
+    if (m_hDC == nullptr || lpszString == nullptr || lpRect == nullptr) {
         return 0;
+    }
     return ::DrawText(m_hDC, lpszString, nCount, lpRect, nFormat);
 }
 
 int CDC::DrawText(const CString& str, LPRECT lpRect, UINT nFormat)
 {
-    if (!(nFormat & DT_MODIFYSTRING))
+    if (!(nFormat & DT_MODIFYSTRING)) {
         return DrawText(str.GetString(), str.GetLength(), lpRect, nFormat);
+    }
     std::wstring text = ModifiableText(str);
     return DrawText(text.c_str(), str.GetLength(), lpRect, nFormat);
 }
 
 int CDC::DrawTextEx(LPTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat, LPDRAWTEXTPARAMS lpDTParams)
 {
-    if (m_hDC == nullptr || lpszString == nullptr || lpRect == nullptr)
+    if (m_hDC == nullptr || lpszString == nullptr || lpRect == nullptr) {
         return 0;
+    }
     return ::DrawTextEx(m_hDC, lpszString, nCount, lpRect, nFormat, lpDTParams);
 }
 
@@ -1509,14 +1533,16 @@ CBrush* PASCAL CDC::GetHalftoneBrush()
 
 void CDC::DrawDragRect(LPCRECT lpRect, SIZE size, LPCRECT lpRectLast, SIZE sizeLast, CBrush* pBrush, CBrush* pBrushLast)
 {
-    if (lpRect == nullptr)
+    if (lpRect == nullptr) {
         return;
+    }
     CBrush* pNew = pBrush != nullptr ? pBrush : GetHalftoneBrush();
     CBrush* pLast = pBrushLast != nullptr ? pBrushLast : pNew;
     CRgn newFrame;
     MakeFrame(*this, newFrame, *lpRect, size);
-    if (lpRectLast == nullptr)
+    if (lpRectLast == nullptr) {
         return InvertFrame(*this, newFrame, pNew);
+    }
     CRgn lastFrame;
     MakeFrame(*this, lastFrame, *lpRectLast, sizeLast);
     if (BrushOf(pNew) != BrushOf(pLast)) {
@@ -1532,8 +1558,9 @@ void CDC::DrawDragRect(LPCRECT lpRect, SIZE size, LPCRECT lpRectLast, SIZE sizeL
 
 void CDC::FillSolidRect(LPCRECT lpRect, COLORREF clr)
 {
-    if (m_hDC == nullptr || lpRect == nullptr)
+    if (m_hDC == nullptr || lpRect == nullptr) {
         return;
+    }
     const COLORREF clrFormer = ::SetBkColor(m_hDC, clr);
     ::ExtTextOut(m_hDC, 0, 0, ETO_OPAQUE, lpRect, nullptr, 0, nullptr);
     ::SetBkColor(m_hDC, clrFormer);
@@ -1547,15 +1574,17 @@ void CDC::FillSolidRect(int x, int y, int cx, int cy, COLORREF clr)
 
 void CDC::Draw3dRect(LPCRECT lpRect, COLORREF clrTopLeft, COLORREF clrBottomRight)
 {
-    if (lpRect != nullptr)
+    if (lpRect != nullptr) {
         Draw3dRect(lpRect->left, lpRect->top, lpRect->right - lpRect->left, lpRect->bottom - lpRect->top, clrTopLeft,
                    clrBottomRight);
+    }
 }
 
 void CDC::Draw3dRect(int x, int y, int cx, int cy, COLORREF clrTopLeft, COLORREF clrBottomRight)
 {
-    if (cx <= 0 || cy <= 0)
+    if (cx <= 0 || cy <= 0) {
         return;
+    }
     FillSolidRect(x, y, cx - 1, 1, clrTopLeft);
     FillSolidRect(x, y, 1, cy - 1, clrTopLeft);
     FillSolidRect(x + cx - 1, y, 1, cy, clrBottomRight);
@@ -1565,38 +1594,44 @@ void CDC::Draw3dRect(int x, int y, int cx, int cy, COLORREF clrTopLeft, COLORREF
 CClientDC::CClientDC(CWnd* pWnd) : m_hWnd(WindowOf(pWnd))
 {
     // A window that does not exist any more must not turn into the screen.
-    if ((pWnd != nullptr && m_hWnd == nullptr) || !Attach(::GetDC(m_hWnd)))
+    if ((pWnd != nullptr && m_hWnd == nullptr) || !Attach(::GetDC(m_hWnd))) {
         AfxThrowResourceException();
+    }
 }
 
 CClientDC::~CClientDC()
 {
-    if (m_hDC != nullptr)
+    if (m_hDC != nullptr) {
         ::ReleaseDC(m_hWnd, Detach());
+    }
 }
 
 CWindowDC::CWindowDC(CWnd* pWnd) : m_hWnd(WindowOf(pWnd))
 {
-    if ((pWnd != nullptr && m_hWnd == nullptr) || !Attach(::GetWindowDC(m_hWnd)))
+    if ((pWnd != nullptr && m_hWnd == nullptr) || !Attach(::GetWindowDC(m_hWnd))) {
         AfxThrowResourceException();
+    }
 }
 
 CWindowDC::~CWindowDC()
 {
-    if (m_hDC != nullptr)
+    if (m_hDC != nullptr) {
         ::ReleaseDC(m_hWnd, Detach());
+    }
 }
 
 CPaintDC::CPaintDC(CWnd* pWnd) : m_ps(), m_hWnd(WindowOf(pWnd))
 {
-    if (!Attach(::BeginPaint(m_hWnd, &m_ps)))
+    if (!Attach(::BeginPaint(m_hWnd, &m_ps))) {
         AfxThrowResourceException();
+    }
 }
 
 CPaintDC::~CPaintDC()
 {
-    if (m_hDC == nullptr)
+    if (m_hDC == nullptr) {
         return;
+    }
     ::EndPaint(m_hWnd, &m_ps);
     Detach();
 }

@@ -1,6 +1,6 @@
-#include <afxwin.h>
-
 #include "handlemaps.h"
+
+#include <afxwin.h>
 
 namespace
 {

@@ -28,13 +28,15 @@ class AfxTypedMap
     /** Forgets the owner; objects that outlive their thread's maps find nothing to do. */
     static void Remove(HANDLE h)
     {
-        if (CHandleMap* pMap = AfxGetHandleMap(nKind, nullptr))
+        if (CHandleMap* pMap = AfxGetHandleMap(nKind, nullptr)) {
             pMap->RemoveHandle(h);
+        }
     }
     static void DeleteTemp()
     {
-        if (CHandleMap* pMap = AfxGetHandleMap(nKind, nullptr))
+        if (CHandleMap* pMap = AfxGetHandleMap(nKind, nullptr)) {
             pMap->DeleteTemp();
+        }
     }
 };
 

@@ -1,9 +1,8 @@
-#include <afxwin.h>
-
-#include <afxcmn.h>
-
 #include "core/adopt.h"
 #include "handlemaps.h"
+
+#include <afxcmn.h>
+#include <afxwin.h>
 
 IMPLEMENT_DYNCREATE(CImageList, CObject)
 
@@ -95,8 +94,9 @@ void PASCAL CImageList::DeleteTempMap()
 
 BOOL CImageList::Attach(HIMAGELIST hImageList)
 {
-    if (hImageList == nullptr || m_hImageList != nullptr)
+    if (hImageList == nullptr || m_hImageList != nullptr) {
         return FALSE;
+    }
     m_hImageList = hImageList;
     AfxImageListMap::SetPermanent(hImageList, this);
     return TRUE;
@@ -105,8 +105,9 @@ BOOL CImageList::Attach(HIMAGELIST hImageList)
 HIMAGELIST CImageList::Detach()
 {
     HIMAGELIST hImageList = m_hImageList;
-    if (hImageList != nullptr)
+    if (hImageList != nullptr) {
         AfxImageListMap::Remove(hImageList);
+    }
     m_hImageList = nullptr;
     return hImageList;
 }
@@ -199,8 +200,9 @@ BOOL CImageList::DrawEx(CDC* pDC, int nImage, POINT pt, SIZE sz, COLORREF clrBk,
 
 BOOL CImageList::DrawIndirect(IMAGELISTDRAWPARAMS* pimldp)
 {
-    if (pimldp == nullptr || m_hImageList == nullptr)
+    if (pimldp == nullptr || m_hImageList == nullptr) {
         return FALSE;
+    }
     pimldp->cbSize = sizeof(IMAGELISTDRAWPARAMS);
     pimldp->himl = m_hImageList;
     return ::ImageList_DrawIndirect(pimldp);

@@ -1,7 +1,7 @@
-#include <afxwin.h>
-
 #include "core/adopt.h"
 #include "handlemaps.h"
+
+#include <afxwin.h>
 
 #include <string>
 #include <vector>
@@ -54,8 +54,9 @@ void PASCAL CGdiObject::DeleteTempMap()
 
 BOOL CGdiObject::Attach(HGDIOBJ hObject)
 {
-    if (hObject == nullptr || m_hObject != nullptr)
+    if (hObject == nullptr || m_hObject != nullptr) {
         return FALSE;
+    }
     m_hObject = hObject;
     AfxGdiMap::SetPermanent(hObject, this);
     return TRUE;
@@ -64,8 +65,9 @@ BOOL CGdiObject::Attach(HGDIOBJ hObject)
 HGDIOBJ CGdiObject::Detach()
 {
     HGDIOBJ hObject = m_hObject;
-    if (hObject != nullptr)
+    if (hObject != nullptr) {
         AfxGdiMap::Remove(hObject);
+    }
     m_hObject = nullptr;
     return hObject;
 }
@@ -108,14 +110,16 @@ BOOL CGdiObject::operator!=(const CGdiObject& obj) const
 
 CPen::CPen(int nPenStyle, int nWidth, COLORREF crColor)
 {
-    if (!CreatePen(nPenStyle, nWidth, crColor))
+    if (!CreatePen(nPenStyle, nWidth, crColor)) {
         AfxThrowResourceException();
+    }
 }
 
 CPen::CPen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount, const DWORD* lpStyle)
 {
-    if (!CreatePen(nPenStyle, nWidth, pLogBrush, nStyleCount, lpStyle))
+    if (!CreatePen(nPenStyle, nWidth, pLogBrush, nStyleCount, lpStyle)) {
         AfxThrowResourceException();
+    }
 }
 
 CPen* PASCAL CPen::FromHandle(HPEN hPen)
@@ -135,8 +139,9 @@ BOOL CPen::CreatePen(int nPenStyle, int nWidth, COLORREF crColor)
 
 BOOL CPen::CreatePen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount, const DWORD* lpStyle)
 {
-    if (pLogBrush == nullptr)
+    if (pLogBrush == nullptr) {
         return FALSE;
+    }
     return AfxAdopt(*this, ::ExtCreatePen(nPenStyle, nWidth, pLogBrush, nStyleCount, lpStyle));
 }
 
@@ -153,8 +158,9 @@ int CPen::GetLogPen(LOGPEN* pLogPen)
 int CPen::GetExtLogPen(EXTLOGPEN* pLogPen)
 {
     const int nSize = GetObject(0, nullptr);
-    if (pLogPen == nullptr || nSize <= 0)
+    if (pLogPen == nullptr || nSize <= 0) {
         return 0;
+    }
     // A cosmetic pen's dash list makes the description longer than the structure.
     std::vector<BYTE> data(nSize);
     const int nGot = GetObject(nSize, data.data());
@@ -165,20 +171,23 @@ int CPen::GetExtLogPen(EXTLOGPEN* pLogPen)
 
 CBrush::CBrush(COLORREF crColor)
 {
-    if (!CreateSolidBrush(crColor))
+    if (!CreateSolidBrush(crColor)) {
         AfxThrowResourceException();
+    }
 }
 
 CBrush::CBrush(int nIndex, COLORREF crColor)
 {
-    if (!CreateHatchBrush(nIndex, crColor))
+    if (!CreateHatchBrush(nIndex, crColor)) {
         AfxThrowResourceException();
+    }
 }
 
 CBrush::CBrush(CBitmap* pBitmap)
 {
-    if (!CreatePatternBrush(pBitmap))
+    if (!CreatePatternBrush(pBitmap)) {
         AfxThrowResourceException();
+    }
 }
 
 CBrush* PASCAL CBrush::FromHandle(HBRUSH hBrush)
@@ -215,8 +224,9 @@ BOOL CBrush::CreatePatternBrush(CBitmap* pBitmap)
 BOOL CBrush::CreateDIBPatternBrush(HGLOBAL hPackedDIB, UINT nUsage)
 {
     const void* pDIB = hPackedDIB != nullptr ? ::GlobalLock(hPackedDIB) : nullptr;
-    if (pDIB == nullptr)
+    if (pDIB == nullptr) {
         return FALSE;
+    }
     const BOOL bOk = CreateDIBPatternBrush(pDIB, nUsage);
     ::GlobalUnlock(hPackedDIB);
     return bOk;
@@ -266,15 +276,17 @@ BOOL CFont::CreatePointFont(int nPointSize, LPCTSTR lpszFaceName, CDC* pDC)
     LOGFONT logFont = {};
     logFont.lfHeight = nPointSize;
     logFont.lfCharSet = DEFAULT_CHARSET;
-    if (lpszFaceName != nullptr)
+    if (lpszFaceName != nullptr) {
         lstrcpyn(logFont.lfFaceName, lpszFaceName, LF_FACESIZE);
+    }
     return CreatePointFontIndirect(&logFont, pDC);
 }
 
 BOOL CFont::CreatePointFontIndirect(const LOGFONT* lpLogFont, CDC* pDC)
 {
-    if (lpLogFont == nullptr)
+    if (lpLogFont == nullptr) {
         return FALSE;
+    }
     HDC hScreen = pDC != nullptr ? nullptr : ::GetDC(nullptr);
     HDC hDC = pDC != nullptr ? pDC->m_hAttribDC : hScreen;
     // Through logical units, so that a mapping mode of the caller's device counts.
@@ -282,8 +294,9 @@ BOOL CFont::CreatePointFontIndirect(const LOGFONT* lpLogFont, CDC* pDC)
     POINT origin = {0, 0};
     ::DPtoLP(hDC, &size, 1);
     ::DPtoLP(hDC, &origin, 1);
-    if (hScreen != nullptr)
+    if (hScreen != nullptr) {
         ::ReleaseDC(nullptr, hScreen);
+    }
     LOGFONT logFont = *lpLogFont;
     logFont.lfHeight = -abs(size.y - origin.y);
     return CreateFontIndirect(&logFont);
@@ -489,8 +502,9 @@ void CRgn::SetRectRgn(int x1, int y1, int x2, int y2)
 
 void CRgn::SetRectRgn(LPCRECT lpRect)
 {
-    if (lpRect != nullptr)
+    if (lpRect != nullptr) {
         ::SetRectRgn(*this, lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
+    }
 }
 
 int CRgn::CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode)

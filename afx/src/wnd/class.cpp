@@ -26,8 +26,9 @@ class ClassRegistry
     void Unregister(HINSTANCE hInstance)
     {
         const std::lock_guard lock(m_mutex);
-        for (const std::wstring& name : m_names[hInstance])
+        for (const std::wstring& name : m_names[hInstance]) {
             ::UnregisterClass(name.c_str(), hInstance);
+        }
         m_names.erase(hInstance);
     }
 
@@ -56,22 +57,27 @@ LPCTSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackgro
     wndClass.hCursor = hCursor;
     wndClass.hbrBackground = hbrBackground;
     wndClass.lpszClassName = name.c_str();
-    if (!AfxRegisterClass(&wndClass))
+    if (!AfxRegisterClass(&wndClass)) {
         AfxThrowResourceException();
+    }
     return ClassRegistry::Get().Add(hInstance, name);
 }
 
 BOOL AfxRegisterClass(WNDCLASS* lpWndClass)
 {
-    if (!lpWndClass || !lpWndClass->lpszClassName)
+    if (!lpWndClass || !lpWndClass->lpszClassName) {
         return FALSE;
+    }
     WNDCLASS existing;
-    if (::GetClassInfo(lpWndClass->hInstance, lpWndClass->lpszClassName, &existing))
+    if (::GetClassInfo(lpWndClass->hInstance, lpWndClass->lpszClassName, &existing)) {
         return TRUE;
-    if (!::RegisterClass(lpWndClass))
+    }
+    if (!::RegisterClass(lpWndClass)) {
         return ::GetLastError() == ERROR_CLASS_ALREADY_EXISTS;
-    if (!IS_INTRESOURCE(lpWndClass->lpszClassName))
+    }
+    if (!IS_INTRESOURCE(lpWndClass->lpszClassName)) {
         ClassRegistry::Get().Add(lpWndClass->hInstance, lpWndClass->lpszClassName);
+    }
     return TRUE;
 }
 

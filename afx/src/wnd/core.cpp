@@ -45,8 +45,9 @@ void BindNewWindow(_AFX_THREAD_STATE* pState, HWND hWnd)
     WNDPROC* ppfnSuper = AfxWndAccess::SuperProcAddress(pWnd);
     const auto pfnOld =
         reinterpret_cast<WNDPROC>(::SetWindowLongPtr(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxWndProc)));
-    if (pfnOld != AfxWndProc)
+    if (pfnOld != AfxWndProc) {
         *ppfnSuper = pfnOld;
+    }
 }
 
 LRESULT CALLBACK CreationHook(int nCode, WPARAM wParam, LPARAM lParam)
@@ -54,8 +55,9 @@ LRESULT CALLBACK CreationHook(int nCode, WPARAM wParam, LPARAM lParam)
     _AFX_THREAD_STATE* pState = AfxGetThreadState();
     if (nCode == HCBT_CREATEWND && pState->m_pWndInit) {
         const auto* pCreate = reinterpret_cast<CBT_CREATEWND*>(lParam);
-        if (!IsImeWindow(*pCreate->lpcs))
+        if (!IsImeWindow(*pCreate->lpcs)) {
             BindNewWindow(pState, reinterpret_cast<HWND>(wParam));
+        }
     }
     return ::CallNextHookEx(pState->m_hHookOldCbtFilter, nCode, wParam, lParam);
 }
@@ -66,18 +68,21 @@ class DialogPlacement
   public:
     DialogPlacement(HWND hWnd, UINT message) : m_hWnd(message == WM_INITDIALOG ? hWnd : nullptr)
     {
-        if (m_hWnd && (!::GetWindowRect(m_hWnd, &m_rect) || (::GetWindowLong(m_hWnd, GWL_STYLE) & WS_VISIBLE)))
+        if (m_hWnd && (!::GetWindowRect(m_hWnd, &m_rect) || (::GetWindowLong(m_hWnd, GWL_STYLE) & WS_VISIBLE))) {
             m_hWnd = nullptr;
+        }
     }
 
     void CenterIfUntouched() const
     {
         RECT rect;
         CWnd* pWnd = m_hWnd ? CWnd::FromHandlePermanent(m_hWnd) : nullptr;
-        if (!pWnd || !::GetWindowRect(m_hWnd, &rect) || !::EqualRect(&rect, &m_rect))
+        if (!pWnd || !::GetWindowRect(m_hWnd, &rect) || !::EqualRect(&rect, &m_rect)) {
             return;
-        if ((::GetWindowLong(m_hWnd, GWL_STYLE) & (WS_VISIBLE | WS_CHILD)) == 0 && pWnd->CheckAutoCenter())
+        }
+        if ((::GetWindowLong(m_hWnd, GWL_STYLE) & (WS_VISIBLE | WS_CHILD)) == 0 && pWnd->CheckAutoCenter()) {
             pWnd->CenterWindow();
+        }
     }
 
   private:
@@ -140,8 +145,9 @@ void CWnd::DeleteTempMap()
 BOOL CWnd::Attach(HWND hWndNew)
 {
     ASSERT(!m_hWnd);
-    if (!hWndNew || m_hWnd)
+    if (!hWndNew || m_hWnd) {
         return FALSE;
+    }
     AfxWndMap()->SetPermanent(hWndNew, this);
     m_hWnd = hWndNew;
     return TRUE;
@@ -150,8 +156,9 @@ BOOL CWnd::Attach(HWND hWndNew)
 HWND CWnd::Detach()
 {
     const HWND hWnd = m_hWnd;
-    if (hWnd && FromHandlePermanent(hWnd) == this)
+    if (hWnd && FromHandlePermanent(hWnd) == this) {
         AfxWndMap()->RemoveHandle(hWnd);
+    }
     m_hWnd = nullptr;
     return hWnd;
 }
@@ -165,18 +172,21 @@ WNDPROC* CWnd::GetSuperWndProcAddr()
 
 BOOL CWnd::SubclassWindow(HWND hWnd)
 {
-    if (m_hWnd || !::IsWindow(hWnd) || ::GetWindowThreadProcessId(hWnd, nullptr) != ::GetCurrentThreadId())
+    if (m_hWnd || !::IsWindow(hWnd) || ::GetWindowThreadProcessId(hWnd, nullptr) != ::GetCurrentThreadId()) {
         return FALSE;
+    }
     const CWnd* pOther = FromHandlePermanent(hWnd);
-    if (pOther && pOther->m_hWnd == hWnd)
+    if (pOther && pOther->m_hWnd == hWnd) {
         return FALSE; // two objects cannot share a window
+    }
     Attach(hWnd);
     PreSubclassWindow();
     WNDPROC* ppfnSuper = GetSuperWndProcAddr();
     const auto pfnOld =
         reinterpret_cast<WNDPROC>(::SetWindowLongPtr(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxWndProc)));
-    if (pfnOld != AfxWndProc)
+    if (pfnOld != AfxWndProc) {
         *ppfnSuper = pfnOld;
+    }
     return TRUE;
 }
 
@@ -188,11 +198,13 @@ BOOL CWnd::SubclassDlgItem(UINT nID, CWnd* pParent)
 
 HWND CWnd::UnsubclassWindow()
 {
-    if (!::IsWindow(m_hWnd))
+    if (!::IsWindow(m_hWnd)) {
         return Detach();
+    }
     WNDPROC* ppfnSuper = GetSuperWndProcAddr();
-    if (*ppfnSuper)
+    if (*ppfnSuper) {
         ::SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(*ppfnSuper));
+    }
     *ppfnSuper = nullptr;
     return Detach();
 }
@@ -218,8 +230,9 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowNa
                     int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam)
 {
     ASSERT(!m_hWnd);
-    if (m_hWnd)
+    if (m_hWnd) {
         return FALSE;
+    }
     CREATESTRUCT cs = {};
     cs.dwExStyle = dwExStyle;
     cs.lpszClass = lpszClassName;
@@ -241,29 +254,33 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowNa
     const HWND hWnd = ::CreateWindowEx(cs.dwExStyle, cs.lpszClass, cs.lpszName, static_cast<DWORD>(cs.style), cs.x,
                                        cs.y, cs.cx, cs.cy, cs.hwndParent, cs.hMenu, cs.hInstance, cs.lpCreateParams);
     const DWORD error = ::GetLastError();
-    if (!AfxUnhookWindowCreate())
+    if (!AfxUnhookWindowCreate()) {
         PostNcDestroy(); // no message ever reached this object, so nobody else does it
+    }
     ::SetLastError(error);
     return hWnd != nullptr;
 }
 
 BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs)
 {
-    if (!cs.lpszClass)
+    if (!cs.lpszClass) {
         cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, ::LoadCursor(nullptr, IDC_ARROW));
+    }
     return TRUE;
 }
 
 BOOL CWnd::DestroyWindow()
 {
     const HWND hWnd = m_hWnd;
-    if (!hWnd)
+    if (!hWnd) {
         return FALSE;
+    }
     const bool isPermanent = FromHandlePermanent(hWnd) == this;
     const BOOL bResult = ::DestroyWindow(hWnd);
     // This object may be gone now; only the map tells. A window that was merely attached never told us of its end.
-    if (isPermanent && FromHandlePermanent(hWnd) == this && (bResult || !::IsWindow(hWnd)))
+    if (isPermanent && FromHandlePermanent(hWnd) == this && (bResult || !::IsWindow(hWnd))) {
         Detach();
+    }
     return bResult;
 }
 
@@ -271,10 +288,11 @@ void CWnd::PostNcDestroy() {}
 
 void CWnd::OnFinalRelease()
 {
-    if (m_hWnd)
+    if (m_hWnd) {
         DestroyWindow(); // PostNcDestroy decides about the object
-    else
+    } else {
         PostNcDestroy();
+    }
 }
 
 void CWnd::OnNcDestroy()
@@ -282,20 +300,24 @@ void CWnd::OnNcDestroy()
     CWinThread* pThread = AfxGetThread();
     if (pThread && pThread->m_pMainWnd == this) {
         pThread->m_pMainWnd = nullptr;
-        if (!pThread->m_pModuleState->m_bDLL || pThread != AfxGetApp())
+        if (!pThread->m_pModuleState->m_bDLL || pThread != AfxGetApp()) {
             AfxPostQuitMessage(0);
+        }
     }
-    if (pThread && pThread->m_pActiveWnd == this)
+    if (pThread && pThread->m_pActiveWnd == this) {
         pThread->m_pActiveWnd = nullptr;
+    }
     AFX_MODULE_THREAD_STATE* pThreadState = AfxGetModuleThreadState();
-    if (pThreadState->m_pLastHit == this)
+    if (pThreadState->m_pLastHit == this) {
         AfxDestroyToolTip();
+    }
     const HWND hWnd = m_hWnd;
     const LONG_PTR pfnBefore = ::GetWindowLongPtr(hWnd, GWLP_WNDPROC);
     Default();
     WNDPROC* ppfnSuper = GetSuperWndProcAddr();
-    if (*ppfnSuper && ::GetWindowLongPtr(hWnd, GWLP_WNDPROC) == pfnBefore)
+    if (*ppfnSuper && ::GetWindowLongPtr(hWnd, GWLP_WNDPROC) == pfnBefore) {
         ::SetWindowLongPtr(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(*ppfnSuper));
+    }
     *ppfnSuper = nullptr;
     m_nFlags &= ~static_cast<UINT>(WF_MODALLOOP | WF_CONTINUEMODAL);
     Detach();
@@ -311,8 +333,9 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const WNDPROC pfnSuper = m_pfnSuper ? m_pfnSuper : *GetSuperWndProcAddr();
-    if (pfnSuper)
+    if (pfnSuper) {
         return ::CallWindowProc(pfnSuper, m_hWnd, message, wParam, lParam);
+    }
     return ::DefWindowProc(m_hWnd, message, wParam, lParam);
 }
 
@@ -333,11 +356,13 @@ const MSG* CWnd::GetCurrentMessage()
 
 LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
 {
-    if (nMsg == WM_QUERYAFXWNDPROC)
+    if (nMsg == WM_QUERYAFXWNDPROC) {
         return 1;
+    }
     CWnd* pWnd = CWnd::FromHandlePermanent(hWnd);
-    if (!pWnd || pWnd->m_hWnd != hWnd)
+    if (!pWnd || pWnd->m_hWnd != hWnd) {
         return ::DefWindowProc(hWnd, nMsg, wParam, lParam);
+    }
     AFX_MANAGE_STATE(pWnd->m_pModuleState);
     return AfxCallWndProc(pWnd, hWnd, nMsg, wParam, lParam);
 }
@@ -366,12 +391,14 @@ LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM l
 void AfxHookWindowCreate(CWnd* pWnd)
 {
     _AFX_THREAD_STATE* pState = AfxGetThreadState();
-    if (pState->m_pWndInit == pWnd)
+    if (pState->m_pWndInit == pWnd) {
         return;
+    }
     if (!pState->m_hHookOldCbtFilter) {
         pState->m_hHookOldCbtFilter = ::SetWindowsHookEx(WH_CBT, CreationHook, nullptr, ::GetCurrentThreadId());
-        if (!pState->m_hHookOldCbtFilter)
+        if (!pState->m_hHookOldCbtFilter) {
             AfxThrowMemoryException();
+        }
     }
     pState->m_pWndInit = pWnd;
 }

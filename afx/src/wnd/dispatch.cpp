@@ -1,7 +1,8 @@
 #include "internal.h"
 
-#include <array>
 #include <windowsx.h>
+
+#include <array>
 #undef SubclassWindow
 
 namespace
@@ -197,10 +198,12 @@ const UnpackerTable& Unpackers()
 /** The number that stands for the message in message maps. */
 UINT MapMessage(UINT message)
 {
-    if (AfxIsCtlColor(message))
+    if (AfxIsCtlColor(message)) {
         return WM_CTLCOLOR;
-    if (message >= WM_REFLECT_BASE && AfxIsCtlColor(message - WM_REFLECT_BASE))
+    }
+    if (message >= WM_REFLECT_BASE && AfxIsCtlColor(message - WM_REFLECT_BASE)) {
         return WM_CTLCOLOR + WM_REFLECT_BASE;
+    }
     return message;
 }
 
@@ -211,8 +214,9 @@ const AFX_MSGMAP_ENTRY* FindRow(const AFX_MSGMAP_ENTRY* pEntry, UINT message)
         const bool isRegistered = pEntry->nMessage == AFX_REGISTERED_MESSAGE;
         if (isRegistered
                 ? message > AFX_REGISTERED_MESSAGE - 1 && *reinterpret_cast<const UINT*>(pEntry->nSig) == message
-                : pEntry->nMessage == message || pEntry->nMessage == mapMessage)
+                : pEntry->nMessage == message || pEntry->nMessage == mapMessage) {
             return pEntry;
+        }
     }
     return nullptr;
 }
@@ -255,8 +259,9 @@ class CommandProbe : public CCmdUI
 const AFX_MSGMAP_ENTRY* AfxFindHandler(const AFX_MSGMAP* pMap, UINT message)
 {
     for (; pMap; pMap = pMap->pfnGetBaseMap ? pMap->pfnGetBaseMap() : nullptr) {
-        if (const AFX_MSGMAP_ENTRY* pEntry = FindRow(pMap->lpEntries, message))
+        if (const AFX_MSGMAP_ENTRY* pEntry = FindRow(pMap->lpEntries, message)) {
             return pEntry;
+        }
     }
     return nullptr;
 }
@@ -278,22 +283,27 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
 {
     LRESULT lResult = 0;
     if (message == WM_COMMAND) {
-        if (!OnCommand(wParam, lParam))
+        if (!OnCommand(wParam, lParam)) {
             return FALSE;
+        }
         lResult = 1;
     } else if (message == WM_NOTIFY) {
-        if (!lParam || !OnNotify(wParam, lParam, &lResult))
+        if (!lParam || !OnNotify(wParam, lParam, &lResult)) {
             return FALSE;
+        }
     } else {
-        if (message == WM_INITMENUPOPUP)
+        if (message == WM_INITMENUPOPUP) {
             AfxGetThreadState()->m_hTrackingMenu = reinterpret_cast<HMENU>(wParam);
+        }
         const AFX_MSGMAP_ENTRY* pEntry = AfxFindHandler(GetMessageMap(), message);
-        if (!pEntry)
+        if (!pEntry) {
             return FALSE;
+        }
         lResult = AfxCallHandler(this, *pEntry, message, wParam, lParam);
     }
-    if (pResult)
+    if (pResult) {
         *pResult = lResult;
+    }
     return TRUE;
 }
 
@@ -302,21 +312,26 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
     const UINT nID = LOWORD(wParam);
     const auto hWndCtrl = reinterpret_cast<HWND>(lParam);
     if (!hWndCtrl) {
-        if (nID == 0)
+        if (nID == 0) {
             return FALSE;
+        }
         CommandProbe probe;
         probe.m_nID = nID;
         OnCmdMsg(nID, static_cast<int>(CN_UPDATE_COMMAND_UI), &probe, nullptr);
-        if (!probe.m_bEnabled)
+        if (!probe.m_bEnabled) {
             return TRUE; // a menu or accelerator command that is disabled goes nowhere
+        }
         return OnCmdMsg(nID, CN_COMMAND, nullptr, nullptr);
     }
-    if (AfxGetThreadState()->m_hLockoutNotifyWindow == m_hWnd)
+    if (AfxGetThreadState()->m_hLockoutNotifyWindow == m_hWnd) {
         return TRUE;
-    if (ReflectLastMsg(hWndCtrl))
+    }
+    if (ReflectLastMsg(hWndCtrl)) {
         return TRUE;
-    if (nID == 0)
+    }
+    if (nID == 0) {
         return FALSE;
+    }
     return OnCmdMsg(nID, HIWORD(wParam), nullptr, nullptr);
 }
 
@@ -326,10 +341,12 @@ BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult)
     const HWND hWndCtrl = pNMHDR->hwndFrom;
     const bool isWindow = ::IsWindow(hWndCtrl);
     const auto nID = static_cast<UINT>(isWindow ? static_cast<WORD>(::GetDlgCtrlID(hWndCtrl)) : pNMHDR->idFrom);
-    if (AfxGetThreadState()->m_hLockoutNotifyWindow == m_hWnd)
+    if (AfxGetThreadState()->m_hLockoutNotifyWindow == m_hWnd) {
         return TRUE;
-    if (isWindow && ReflectLastMsg(hWndCtrl, pResult))
+    }
+    if (isWindow && ReflectLastMsg(hWndCtrl, pResult)) {
         return TRUE;
+    }
     AFX_NOTIFY notify = {pResult, pNMHDR};
     return OnCmdMsg(nID, MAKELONG(static_cast<WORD>(pNMHDR->code), WM_NOTIFY), &notify, nullptr);
 }
@@ -355,13 +372,16 @@ BOOL CWnd::ReflectChildNotify(UINT uMsg, WPARAM wParam, LPARAM lParam, LRESULT* 
 {
     LRESULT lIgnored = 0;
     LRESULT* pAnswer = pResult ? pResult : &lIgnored;
-    if (IsReflectedAsItStands(uMsg))
+    if (IsReflectedAsItStands(uMsg)) {
         return CWnd::OnWndMsg(WM_REFLECT_BASE + uMsg, wParam, lParam, pAnswer);
-    if (AfxIsCtlColor(uMsg))
+    }
+    if (AfxIsCtlColor(uMsg)) {
         // No brush means that the parent shall choose one.
         return CWnd::OnWndMsg(WM_REFLECT_BASE + uMsg, wParam, lParam, pAnswer) && *pAnswer != 0;
-    if (uMsg == WM_COMMAND)
+    }
+    if (uMsg == WM_COMMAND) {
         return OnCmdMsg(0, MAKELONG(HIWORD(wParam), WM_REFLECT_BASE + WM_COMMAND), nullptr, nullptr);
+    }
     if (uMsg == WM_NOTIFY) {
         auto* pNMHDR = reinterpret_cast<NMHDR*>(lParam);
         AFX_NOTIFY notify = {pAnswer, pNMHDR};

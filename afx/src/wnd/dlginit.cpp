@@ -30,11 +30,13 @@ UINT RealMessage(WORD nStored)
 
 bool ReadRow(const BYTE*& p, const BYTE* pEnd, DlgInitRow& row)
 {
-    if (p + sizeof(WORD) > pEnd)
+    if (p + sizeof(WORD) > pEnd) {
         return false;
+    }
     ::memcpy(&row.nControl, p, sizeof row.nControl);
-    if (row.nControl == 0 || p + sizeof(WORD) * 2 + sizeof(DWORD) > pEnd)
+    if (row.nControl == 0 || p + sizeof(WORD) * 2 + sizeof(DWORD) > pEnd) {
         return false;
+    }
     ::memcpy(&row.nMessage, p + 2, sizeof row.nMessage);
     ::memcpy(&row.nBytes, p + 4, sizeof row.nBytes);
     p += 8;
@@ -48,9 +50,10 @@ BOOL ExecuteRows(HWND hWnd, const BYTE* p, const BYTE* pEnd)
     while (bSuccess && ReadRow(p, pEnd, row)) {
         const CStringA strText(reinterpret_cast<LPCSTR>(p), static_cast<int>(row.nBytes));
         const UINT nMessage = RealMessage(row.nMessage);
-        if (nMessage == LB_ADDSTRING || nMessage == CB_ADDSTRING)
+        if (nMessage == LB_ADDSTRING || nMessage == CB_ADDSTRING) {
             bSuccess = ::SendDlgItemMessageA(hWnd, row.nControl, nMessage, 0,
                                              reinterpret_cast<LPARAM>(strText.GetString())) >= 0;
+        }
         p += row.nBytes;
     }
     return bSuccess;
@@ -59,19 +62,22 @@ BOOL ExecuteRows(HWND hWnd, const BYTE* p, const BYTE* pEnd)
 
 void* AfxLoadLockedResource(LPCTSTR lpszName, LPCTSTR lpszType, HINSTANCE* phInst)
 {
-    if (!lpszName)
+    if (!lpszName) {
         return nullptr;
+    }
     const HINSTANCE hInst = AfxFindResourceHandle(lpszName, lpszType);
     const HRSRC hResource = ::FindResource(hInst, lpszName, lpszType);
-    if (phInst)
+    if (phInst) {
         *phInst = hInst;
+    }
     return hResource ? ::LockResource(::LoadResource(hInst, hResource)) : nullptr;
 }
 
 BOOL CWnd::ExecuteDlgInit(LPCTSTR lpszResourceName)
 {
-    if (!lpszResourceName)
+    if (!lpszResourceName) {
         return TRUE;
+    }
     const HINSTANCE hInst = AfxFindResourceHandle(lpszResourceName, kDlgInitType);
     const HRSRC hResource = ::FindResource(hInst, lpszResourceName, kDlgInitType);
     const auto* p = hResource ? static_cast<const BYTE*>(::LockResource(::LoadResource(hInst, hResource))) : nullptr;
@@ -80,8 +86,9 @@ BOOL CWnd::ExecuteDlgInit(LPCTSTR lpszResourceName)
 
 BOOL CWnd::ExecuteDlgInit(LPVOID lpResource)
 {
-    if (!lpResource)
+    if (!lpResource) {
         return TRUE;
+    }
     // The length is not known: the rows end with a control id of 0.
     const auto* p = static_cast<const BYTE*>(lpResource);
     constexpr size_t kUnknownLength = 0x100000;

@@ -715,10 +715,12 @@ CMenu* FindMenuOfItem(HMENU hMenu, UINT nID)
         const HMENU hSubMenu = ::GetSubMenu(hMenu, i);
         const bool found = hSubMenu ? static_cast<UINT>(reinterpret_cast<UINT_PTR>(hSubMenu)) == nID
                                     : ::GetMenuItemID(hMenu, i) == nID;
-        if (found)
+        if (found) {
             return CMenu::FromHandlePermanent(hMenu);
-        if (CMenu* pMenu = hSubMenu ? FindMenuOfItem(hSubMenu, nID) : nullptr)
+        }
+        if (CMenu* pMenu = hSubMenu ? FindMenuOfItem(hSubMenu, nID) : nullptr) {
             return pMenu;
+        }
     }
     return nullptr;
 }
@@ -733,23 +735,26 @@ bool OfferScrolling(CScrollBar* pScrollBar)
 
 void CWnd::OnDestroy()
 {
-    if (m_nFlags & WF_TOOLTIPS)
+    if (m_nFlags & WF_TOOLTIPS) {
         AfxDestroyToolTip();
+    }
     Default();
 }
 
 void CWnd::OnSysColorChange()
 {
-    if ((GetStyle() & WS_CHILD) == 0)
+    if ((GetStyle() & WS_CHILD) == 0) {
         SendMessageToDescendants(WM_SYSCOLORCHANGE, 0, 0, TRUE, TRUE);
+    }
     Default();
 }
 
 HBRUSH CWnd::OnCtlColor(CDC*, CWnd* pWnd, UINT)
 {
     LRESULT lResult = 0;
-    if (pWnd && pWnd->SendChildNotifyLastMsg(&lResult))
+    if (pWnd && pWnd->SendChildNotifyLastMsg(&lResult)) {
         return reinterpret_cast<HBRUSH>(lResult);
+    }
     return reinterpret_cast<HBRUSH>(Default());
 }
 
@@ -767,8 +772,9 @@ void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct)
             pMenu->DrawItem(lpDrawItemStruct);
             return;
         }
-    } else if (ReflectLastMsg(lpDrawItemStruct->hwndItem))
+    } else if (ReflectLastMsg(lpDrawItemStruct->hwndItem)) {
         return;
+    }
     Default();
 }
 
@@ -776,37 +782,42 @@ void CWnd::OnMeasureItem(int, LPMEASUREITEMSTRUCT lpMeasureItemStruct)
 {
     if (lpMeasureItemStruct->CtlType == ODT_MENU) {
         CMenu* pMenu = FindMenuOfItem(AfxGetThreadState()->m_hTrackingMenu, lpMeasureItemStruct->itemID);
-        if (!pMenu)
+        if (!pMenu) {
             pMenu = FindMenuOfItem(::GetMenu(m_hWnd), lpMeasureItemStruct->itemID);
+        }
         if (pMenu) {
             pMenu->MeasureItem(lpMeasureItemStruct);
             return;
         }
-    } else if (ReflectLastMsg(::GetDlgItem(m_hWnd, static_cast<int>(lpMeasureItemStruct->CtlID))))
+    } else if (ReflectLastMsg(::GetDlgItem(m_hWnd, static_cast<int>(lpMeasureItemStruct->CtlID)))) {
         return;
+    }
     Default();
 }
 
 int CWnd::OnCompareItem(int, LPCOMPAREITEMSTRUCT lpCompareItemStruct)
 {
     LRESULT lResult = 0;
-    if (ReflectLastMsg(lpCompareItemStruct->hwndItem, &lResult))
+    if (ReflectLastMsg(lpCompareItemStruct->hwndItem, &lResult)) {
         return static_cast<int>(lResult);
+    }
     return static_cast<int>(Default());
 }
 
 void CWnd::OnDeleteItem(int, LPDELETEITEMSTRUCT lpDeleteItemStruct)
 {
-    if (!ReflectLastMsg(lpDeleteItemStruct->hwndItem))
+    if (!ReflectLastMsg(lpDeleteItemStruct->hwndItem)) {
         Default();
+    }
 }
 
 int CWnd::OnCharToItem(UINT, CListBox* pListBox, UINT)
 {
     CWnd* pControl = pListBox;
     LRESULT lResult = 0;
-    if (pControl && pControl->SendChildNotifyLastMsg(&lResult))
+    if (pControl && pControl->SendChildNotifyLastMsg(&lResult)) {
         return static_cast<int>(lResult);
+    }
     return static_cast<int>(Default());
 }
 
@@ -817,20 +828,23 @@ int CWnd::OnVKeyToItem(UINT nKey, CListBox* pListBox, UINT nIndex)
 
 void CWnd::OnHScroll(UINT, UINT, CScrollBar* pScrollBar)
 {
-    if (!OfferScrolling(pScrollBar))
+    if (!OfferScrolling(pScrollBar)) {
         Default();
+    }
 }
 
 void CWnd::OnVScroll(UINT, UINT, CScrollBar* pScrollBar)
 {
-    if (!OfferScrolling(pScrollBar))
+    if (!OfferScrolling(pScrollBar)) {
         Default();
+    }
 }
 
 void CWnd::OnParentNotify(UINT message, LPARAM lParam)
 {
     const UINT nEvent = LOWORD(message);
-    if ((nEvent == WM_CREATE || nEvent == WM_DESTROY) && ReflectLastMsg(reinterpret_cast<HWND>(lParam)))
+    if ((nEvent == WM_CREATE || nEvent == WM_DESTROY) && ReflectLastMsg(reinterpret_cast<HWND>(lParam))) {
         return;
+    }
     Default();
 }

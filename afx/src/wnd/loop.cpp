@@ -35,8 +35,9 @@ class ModalLoop
     {
         while (m_idle && IsWindowAlive() && NothingWaits(m_pMsg)) {
             ShowOnce();
-            if (!(m_dwFlags & MLF_NOIDLEMSG) && m_hWndParent && m_idleCount == 0)
+            if (!(m_dwFlags & MLF_NOIDLEMSG) && m_hWndParent && m_idleCount == 0) {
                 ::SendMessage(m_hWndParent, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(m_hWnd));
+            }
             m_idle = !(m_dwFlags & MLF_NOKICKIDLE) && ::SendMessage(m_hWnd, WM_KICKIDLE, MSGF_DIALOGBOX, m_idleCount++);
         }
     }
@@ -45,18 +46,22 @@ class ModalLoop
     bool Pump()
     {
         do {
-            if (!IsWindowAlive())
+            if (!IsWindowAlive()) {
                 return false;
+            }
             if (!AfxPumpMessage()) {
                 ::PostQuitMessage(static_cast<int>(m_pMsg->wParam)); // the outer loops shall end too
                 return false;
             }
-            if (!IsWindowAlive())
+            if (!IsWindowAlive()) {
                 return false;
-            if (m_showOnIdle && (m_pMsg->message == kSystemTimer || m_pMsg->message == WM_SYSKEYDOWN))
+            }
+            if (m_showOnIdle && (m_pMsg->message == kSystemTimer || m_pMsg->message == WM_SYSKEYDOWN)) {
                 ShowOnce();
-            if (!m_pWnd->ContinueModal())
+            }
+            if (!m_pWnd->ContinueModal()) {
                 return false;
+            }
             if (AfxIsIdleMessage(m_pMsg)) {
                 m_idle = true;
                 m_idleCount = 0;
@@ -68,8 +73,9 @@ class ModalLoop
   private:
     void ShowOnce()
     {
-        if (!m_showOnIdle)
+        if (!m_showOnIdle) {
             return;
+        }
         m_showOnIdle = false;
         ::ShowWindow(m_hWnd, SW_SHOWNORMAL);
         ::UpdateWindow(m_hWnd);
@@ -88,8 +94,9 @@ class ModalLoop
 bool IsPushButton(HWND hWnd)
 {
     const auto nCode = ::SendMessage(hWnd, WM_GETDLGCODE, 0, 0);
-    if ((nCode & DLGC_BUTTON) == 0)
+    if ((nCode & DLGC_BUTTON) == 0) {
         return false;
+    }
     switch (::GetWindowLong(hWnd, GWL_STYLE) & BS_TYPEMASK) {
     case BS_CHECKBOX:
     case BS_AUTOCHECKBOX:
@@ -108,21 +115,24 @@ bool IsPushButton(HWND hWnd)
 int CWnd::RunModalLoop(DWORD dwFlags)
 {
     ASSERT(::IsWindow(m_hWnd));
-    if (!::IsWindow(m_hWnd) || (m_nFlags & WF_MODALLOOP))
+    if (!::IsWindow(m_hWnd) || (m_nFlags & WF_MODALLOOP)) {
         return -1;
+    }
     m_nFlags |= WF_MODALLOOP | WF_CONTINUEMODAL;
     ModalLoop loop(this, dwFlags);
     try {
-        do
+        do {
             loop.Idle();
-        while (loop.Pump());
+        } while (loop.Pump());
     } catch (...) {
-        if (loop.IsWindowAlive())
+        if (loop.IsWindowAlive()) {
             m_nFlags &= ~static_cast<UINT>(WF_MODALLOOP | WF_CONTINUEMODAL);
+        }
         throw;
     }
-    if (!loop.IsWindowAlive())
+    if (!loop.IsWindowAlive()) {
         return -1; // this object may be gone as well
+    }
     const bool wasEnded = !ContinueModal();
     m_nFlags &= ~static_cast<UINT>(WF_MODALLOOP | WF_CONTINUEMODAL);
     return wasEnded ? m_nModalResult : -1;
@@ -136,8 +146,9 @@ BOOL CWnd::ContinueModal()
 void CWnd::EndModalLoop(int nResult)
 {
     m_nModalResult = nResult;
-    if ((m_nFlags & WF_CONTINUEMODAL) == 0)
+    if ((m_nFlags & WF_CONTINUEMODAL) == 0) {
         return;
+    }
     m_nFlags &= ~static_cast<UINT>(WF_CONTINUEMODAL);
     PostMessage(WM_NULL); // the loop may be waiting for a message
 }
@@ -161,8 +172,9 @@ void CWnd::EndModalState()
 
 BOOL CWnd::PreTranslateMessage(MSG* pMsg)
 {
-    if (m_nFlags & WF_TOOLTIPS)
+    if (m_nFlags & WF_TOOLTIPS) {
         FilterToolTipMessage(pMsg);
+    }
     return FALSE;
 }
 
@@ -180,10 +192,12 @@ BOOL CWnd::WalkPreTranslateTree(HWND hWndStop, MSG* pMsg)
 {
     for (HWND hWnd = pMsg->hwnd; hWnd; hWnd = ::GetParent(hWnd)) {
         CWnd* pWnd = FromHandlePermanent(hWnd);
-        if (pWnd && pWnd->PreTranslateMessage(pMsg))
+        if (pWnd && pWnd->PreTranslateMessage(pMsg)) {
             return TRUE;
-        if (hWnd == hWndStop)
+        }
+        if (hWnd == hWndStop) {
             break;
+        }
     }
     return FALSE;
 }
@@ -194,8 +208,9 @@ void CWnd::DoDataExchange(CDataExchange*) {}
 
 BOOL CWnd::UpdateData(BOOL bSaveAndValidate)
 {
-    if (!::IsWindow(m_hWnd))
+    if (!::IsWindow(m_hWnd)) {
         return FALSE;
+    }
     CDataExchange dx(this, bSaveAndValidate);
     _AFX_THREAD_STATE* pState = AfxGetThreadState();
     // Filling the controls must not look like the user's input.
@@ -228,10 +243,12 @@ void CWnd::UpdateDialogControls(CCmdTarget* pTarget, BOOL bDisableIfNoHndler)
         state.m_pOther = FromHandle(hWnd);
         CWnd* pControl = FromHandlePermanent(hWnd);
         constexpr int kReflectedUpdate = static_cast<int>(MAKELONG(0xFFFF, WM_COMMAND + WM_REFLECT_BASE));
-        if (pControl && pControl->OnCmdMsg(0, kReflectedUpdate, &state, nullptr))
+        if (pControl && pControl->OnCmdMsg(0, kReflectedUpdate, &state, nullptr)) {
             continue;
-        if (CWnd::OnCmdMsg(state.m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), &state, nullptr))
+        }
+        if (CWnd::OnCmdMsg(state.m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), &state, nullptr)) {
             continue;
+        }
         state.DoUpdate(pTarget, bDisableIfNoHndler && IsPushButton(hWnd));
     }
 }

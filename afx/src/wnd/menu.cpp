@@ -1,7 +1,7 @@
-#include <afxwin.h>
-
 #include "core/adopt.h"
 #include "gdi/handlemaps.h"
+
+#include <afxwin.h>
 
 IMPLEMENT_DYNCREATE(CMenu, CObject)
 
@@ -92,8 +92,9 @@ BOOL CMenu::operator!=(const CMenu& menu) const
 
 BOOL CMenu::Attach(HMENU hMenu)
 {
-    if (hMenu == nullptr || m_hMenu != nullptr)
+    if (hMenu == nullptr || m_hMenu != nullptr) {
         return FALSE;
+    }
     m_hMenu = hMenu;
     AfxMenuMap::SetPermanent(hMenu, this);
     return TRUE;
@@ -102,8 +103,9 @@ BOOL CMenu::Attach(HMENU hMenu)
 HMENU CMenu::Detach()
 {
     HMENU hMenu = m_hMenu;
-    if (hMenu != nullptr)
+    if (hMenu != nullptr) {
         AfxMenuMap::Remove(hMenu);
+    }
     m_hMenu = nullptr;
     return hMenu;
 }

@@ -7,8 +7,9 @@ const UINT kToolInfoSize = TTTOOLINFOW_V2_SIZE;
 HWND ToolTipWindow(HWND hWndOwner)
 {
     _AFX_THREAD_STATE* pState = AfxGetThreadState();
-    if (pState->m_hWndToolTip && !::IsWindow(pState->m_hWndToolTip))
+    if (pState->m_hWndToolTip && !::IsWindow(pState->m_hWndToolTip)) {
         pState->m_hWndToolTip = nullptr;
+    }
     if (!pState->m_hWndToolTip) {
         pState->m_hWndToolTip = ::CreateWindowEx(WS_EX_TOPMOST, TOOLTIPS_CLASS, nullptr, WS_POPUP | TTS_NOPREFIX, 0, 0,
                                                  0, 0, hWndOwner, nullptr, AfxGetInstanceHandle(), nullptr);
@@ -29,8 +30,9 @@ void ForgetTool()
     const HWND hWndTip = AfxGetThreadState()->m_hWndToolTip;
     TOOLINFO info = {};
     info.cbSize = kToolInfoSize;
-    while (::IsWindow(hWndTip) && ::SendMessage(hWndTip, TTM_ENUMTOOLS, 0, reinterpret_cast<LPARAM>(&info)))
+    while (::IsWindow(hWndTip) && ::SendMessage(hWndTip, TTM_ENUMTOOLS, 0, reinterpret_cast<LPARAM>(&info))) {
         SendTool(TTM_DELTOOL, info);
+    }
 }
 
 bool HidesTip(UINT message)
@@ -58,8 +60,9 @@ void AfxDestroyToolTip()
     ForgetTool();
     const HWND hWndTip = pState->m_hWndToolTip;
     pState->m_hWndToolTip = nullptr;
-    if (::IsWindow(hWndTip))
+    if (::IsWindow(hWndTip)) {
         ::DestroyWindow(hWndTip);
+    }
 }
 
 BOOL CWnd::EnableToolTips(BOOL bEnable)
@@ -68,8 +71,9 @@ BOOL CWnd::EnableToolTips(BOOL bEnable)
         m_nFlags |= WF_TOOLTIPS;
         return TRUE;
     }
-    if (AfxGetModuleThreadState()->m_pLastHit == this)
+    if (AfxGetModuleThreadState()->m_pLastHit == this) {
         ForgetTool();
+    }
     m_nFlags &= ~static_cast<UINT>(WF_TOOLTIPS);
     return TRUE;
 }
@@ -78,8 +82,9 @@ void CWnd::CancelToolTips(BOOL bKeys)
 {
     UNUSED_ALWAYS(bKeys);
     const HWND hWndTip = AfxGetThreadState()->m_hWndToolTip;
-    if (::IsWindow(hWndTip))
+    if (::IsWindow(hWndTip)) {
         ::SendMessage(hWndTip, TTM_ACTIVATE, FALSE, 0);
+    }
 }
 
 void CWnd::FilterToolTipMessage(MSG* pMsg)
@@ -88,8 +93,9 @@ void CWnd::FilterToolTipMessage(MSG* pMsg)
         CancelToolTips(TRUE);
         return;
     }
-    if (pMsg->message != WM_MOUSEMOVE || !(m_nFlags & WF_TOOLTIPS))
+    if (pMsg->message != WM_MOUSEMOVE || !(m_nFlags & WF_TOOLTIPS)) {
         return;
+    }
     CPoint point(static_cast<short>(LOWORD(pMsg->lParam)), static_cast<short>(HIWORD(pMsg->lParam)));
     ::MapWindowPoints(pMsg->hwnd, m_hWnd, &point, 1);
     TOOLINFO info = {};
@@ -105,17 +111,20 @@ void CWnd::FilterToolTipMessage(MSG* pMsg)
             pModule->m_nLastHit = nHit;
         }
     }
-    if (nHit != -1)
+    if (nHit != -1) {
         Relay(*pMsg, (info.uFlags & TTF_IDISHWND) ? reinterpret_cast<HWND>(info.uId) : m_hWnd);
-    if (info.lpszText != LPSTR_TEXTCALLBACK)
+    }
+    if (info.lpszText != LPSTR_TEXTCALLBACK) {
         ::free(info.lpszText);
+    }
 }
 
 INT_PTR CWnd::OnToolHitTest(CPoint point, TOOLINFO* pTI) const
 {
     const HWND hWndChild = ::ChildWindowFromPointEx(m_hWnd, point, CWP_SKIPINVISIBLE);
-    if (!hWndChild || hWndChild == m_hWnd)
+    if (!hWndChild || hWndChild == m_hWnd) {
         return -1;
+    }
     const INT_PTR nHit = static_cast<WORD>(::GetDlgCtrlID(hWndChild));
     if (pTI) {
         pTI->cbSize = kToolInfoSize;

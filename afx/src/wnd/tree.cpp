@@ -9,11 +9,13 @@ bool IsChildStyle(HWND hWnd)
 
 HWND FindDescendant(HWND hWnd, int nID)
 {
-    if (const HWND hWndChild = ::GetDlgItem(hWnd, nID))
+    if (const HWND hWndChild = ::GetDlgItem(hWnd, nID)) {
         return hWndChild;
+    }
     for (HWND hWndChild = ::GetTopWindow(hWnd); hWndChild; hWndChild = ::GetWindow(hWndChild, GW_HWNDNEXT)) {
-        if (const HWND hWndFound = FindDescendant(hWndChild, nID))
+        if (const HWND hWndFound = FindDescendant(hWndChild, nID)) {
             return hWndFound;
+        }
     }
     return nullptr;
 }
@@ -23,26 +25,32 @@ void SendToDescendants(HWND hWnd, const MSG& msg, BOOL bDeep, BOOL bOnlyPerm)
     HWND hWndNext = nullptr;
     for (HWND hWndChild = ::GetTopWindow(hWnd); hWndChild; hWndChild = hWndNext) {
         hWndNext = ::GetWindow(hWndChild, GW_HWNDNEXT);
-        if (!bOnlyPerm)
+        if (!bOnlyPerm) {
             ::SendMessage(hWndChild, msg.message, msg.wParam, msg.lParam);
-        else if (CWnd* pWnd = CWnd::FromHandlePermanent(hWndChild))
+        } else if (CWnd* pWnd = CWnd::FromHandlePermanent(hWndChild)) {
             AfxCallWndProc(pWnd, hWndChild, msg.message, msg.wParam, msg.lParam);
-        if (bDeep && ::IsWindow(hWndChild) && ::GetTopWindow(hWndChild))
+        }
+        if (bDeep && ::IsWindow(hWndChild) && ::GetTopWindow(hWndChild)) {
             SendToDescendants(hWndChild, msg, bDeep, bOnlyPerm);
+        }
     }
 }
 
 /** Moves a rectangle so that it lies within another; the left and top edges win when it is too big. */
 void KeepWithin(CRect& rect, const CRect& area)
 {
-    if (rect.right > area.right)
+    if (rect.right > area.right) {
         rect.OffsetRect(area.right - rect.right, 0);
-    if (rect.left < area.left)
+    }
+    if (rect.left < area.left) {
         rect.OffsetRect(area.left - rect.left, 0);
-    if (rect.bottom > area.bottom)
+    }
+    if (rect.bottom > area.bottom) {
         rect.OffsetRect(0, area.bottom - rect.bottom);
-    if (rect.top < area.top)
+    }
+    if (rect.top < area.top) {
         rect.OffsetRect(0, area.top - rect.top);
+    }
 }
 
 CRect WorkArea(HWND hWnd)
@@ -69,16 +77,18 @@ void CenterAreas(HWND hWnd, HWND hWndCenter, CRect& rcCenter, CRect& rcArea)
         return;
     }
     rcArea = WorkArea(hWndCenter ? hWndCenter : hWnd);
-    if (IsPlaceToCenterOn(hWndCenter))
+    if (IsPlaceToCenterOn(hWndCenter)) {
         ::GetWindowRect(hWndCenter, &rcCenter);
-    else
+    } else {
         rcCenter = rcArea;
+    }
 }
 
 HWND TopLevelAncestor(HWND hWnd)
 {
-    for (HWND hWndParent = hWnd; hWndParent; hWndParent = ::GetParent(hWndParent))
+    for (HWND hWndParent = hWnd; hWndParent; hWndParent = ::GetParent(hWndParent)) {
         hWnd = hWndParent;
+    }
     return hWnd;
 }
 } // namespace
@@ -126,8 +136,9 @@ CWnd* CWnd::GetDescendantWindow(int nID, BOOL bOnlyPerm) const
 
 void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, BOOL bDeep, BOOL bOnlyPerm)
 {
-    if (m_hWnd)
+    if (m_hWnd) {
         SendToDescendants(m_hWnd, {m_hWnd, message, wParam, lParam, 0, {0, 0}}, bDeep, bOnlyPerm);
+    }
 }
 
 BOOL CWnd::IsFrameWnd() const
@@ -139,8 +150,9 @@ CFrameWnd* CWnd::GetParentFrame() const
 {
     for (HWND hWnd = m_hWnd ? ::GetParent(m_hWnd) : nullptr; hWnd; hWnd = ::GetParent(hWnd)) {
         CWnd* pWnd = FromHandlePermanent(hWnd);
-        if (pWnd && pWnd->IsFrameWnd())
+        if (pWnd && pWnd->IsFrameWnd()) {
             return reinterpret_cast<CFrameWnd*>(pWnd);
+        }
     }
     return nullptr;
 }
@@ -150,8 +162,9 @@ CFrameWnd* CWnd::GetTopLevelFrame() const
     CFrameWnd* pTop = nullptr;
     for (HWND hWnd = m_hWnd; hWnd; hWnd = ::GetParent(hWnd)) {
         CWnd* pWnd = FromHandlePermanent(hWnd);
-        if (pWnd && pWnd->IsFrameWnd())
+        if (pWnd && pWnd->IsFrameWnd()) {
             pTop = reinterpret_cast<CFrameWnd*>(pWnd);
+        }
     }
     return pTop;
 }
@@ -159,31 +172,37 @@ CFrameWnd* CWnd::GetTopLevelFrame() const
 CWnd* CWnd::GetTopLevelOwner() const
 {
     HWND hWnd = m_hWnd;
-    if (!hWnd)
+    if (!hWnd) {
         return nullptr;
-    while (const HWND hWndOwner = ::GetWindow(hWnd, GW_OWNER))
+    }
+    while (const HWND hWndOwner = ::GetWindow(hWnd, GW_OWNER)) {
         hWnd = hWndOwner;
+    }
     return FromHandle(hWnd);
 }
 
 CWnd* CWnd::GetTopLevelParent() const
 {
     HWND hWnd = GetSafeHwnd();
-    if (!hWnd)
+    if (!hWnd) {
         return nullptr;
-    while (const HWND hWndParent = AfxGetParentOwner(hWnd))
+    }
+    while (const HWND hWndParent = AfxGetParentOwner(hWnd)) {
         hWnd = hWndParent;
+    }
     return FromHandle(hWnd);
 }
 
 CWnd* CWnd::GetParentOwner() const
 {
     HWND hWnd = GetSafeHwnd();
-    if (!hWnd)
+    if (!hWnd) {
         return nullptr;
+    }
     HWND hWndParent = hWnd;
-    while (IsChildStyle(hWndParent) && (hWnd = ::GetParent(hWndParent)) != nullptr)
+    while (IsChildStyle(hWndParent) && (hWnd = ::GetParent(hWndParent)) != nullptr) {
         hWndParent = hWnd;
+    }
     return FromHandle(hWndParent == m_hWnd ? ::GetWindow(m_hWnd, GW_OWNER) : hWndParent);
 }
 
@@ -296,18 +315,22 @@ CWnd* CWnd::GetSafeOwner(CWnd* pParent, HWND* pWndTop)
 {
     HWND hWnd = pParent->GetSafeHwnd();
     const bool parentGiven = hWnd != nullptr;
-    if (!hWnd)
+    if (!hWnd) {
         hWnd = AfxGetMainWnd()->GetSafeHwnd();
-    while (hWnd && IsChildStyle(hWnd))
+    }
+    while (hWnd && IsChildStyle(hWnd)) {
         hWnd = ::GetParent(hWnd);
+    }
     const HWND hWndTop = TopLevelAncestor(hWnd);
-    if (!parentGiven && hWnd)
+    if (!parentGiven && hWnd) {
         hWnd = ::GetLastActivePopup(hWnd);
+    }
     if (pWndTop) {
         const bool lock = !parentGiven && hWndTop && hWndTop != hWnd && ::IsWindowEnabled(hWndTop);
         *pWndTop = lock ? hWndTop : nullptr;
-        if (lock)
+        if (lock) {
             ::EnableWindow(hWndTop, FALSE);
+        }
     }
     return FromHandle(hWnd);
 }
@@ -322,14 +345,16 @@ void CWnd::ActivateTopParent()
 {
     CWnd* pTop = GetTopLevelParent();
     const HWND hWndActive = ::GetForegroundWindow();
-    if (pTop && hWndActive != pTop->m_hWnd && ::GetLastActivePopup(pTop->m_hWnd) != hWndActive)
+    if (pTop && hWndActive != pTop->m_hWnd && ::GetLastActivePopup(pTop->m_hWnd) != hWndActive) {
         pTop->SetForegroundWindow();
+    }
 }
 
 void CWnd::CenterWindow(CWnd* pAlternateOwner)
 {
-    if (!::IsWindow(m_hWnd))
+    if (!::IsWindow(m_hWnd)) {
         return;
+    }
     const HWND hWndCenter = pAlternateOwner ? pAlternateOwner->GetSafeHwnd() : AfxGetParentOwner(m_hWnd);
     CRect rect;
     CRect rcCenter;

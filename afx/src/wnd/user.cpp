@@ -24,11 +24,13 @@ BOOL ChangeStyle(HWND hWnd, int nIndex, DWORD dwRemove, DWORD dwAdd, UINT nFlags
 {
     const auto dwOld = static_cast<DWORD>(::GetWindowLong(hWnd, nIndex));
     const DWORD dwNew = (dwOld & ~dwRemove) | dwAdd;
-    if (dwOld == dwNew)
+    if (dwOld == dwNew) {
         return FALSE;
+    }
     ::SetWindowLong(hWnd, nIndex, static_cast<LONG>(dwNew));
-    if (nFlags)
+    if (nFlags) {
         ::SetWindowPos(hWnd, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | nFlags);
+    }
     return TRUE;
 }
 } // namespace
@@ -255,8 +257,9 @@ BOOL CWnd::SetWindowPlacement(const WINDOWPLACEMENT* lpwndpl)
 void CWnd::CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType)
 {
     DWORD dwExStyle = GetExStyle();
-    if (nAdjustType == adjustBorder)
+    if (nAdjustType == adjustBorder) {
         dwExStyle &= ~static_cast<DWORD>(WS_EX_CLIENTEDGE);
+    }
     ::AdjustWindowRectEx(lpClientRect, GetStyle(), FALSE, dwExStyle);
 }
 
@@ -359,32 +362,37 @@ int CWnd::GetUpdateRgn(CRgn* pRgn, BOOL bErase)
 
 void CWnd::Invalidate(BOOL bErase)
 {
-    if (m_hWnd) // a null window would mean every window on the screen
+    if (m_hWnd) { // a null window would mean every window on the screen
         ::InvalidateRect(m_hWnd, nullptr, bErase);
+    }
 }
 
 void CWnd::InvalidateRect(LPCRECT lpRect, BOOL bErase)
 {
-    if (m_hWnd)
+    if (m_hWnd) {
         ::InvalidateRect(m_hWnd, lpRect, bErase);
+    }
 }
 
 void CWnd::InvalidateRgn(CRgn* pRgn, BOOL bErase)
 {
-    if (m_hWnd)
+    if (m_hWnd) {
         ::InvalidateRgn(m_hWnd, RegionHandle(pRgn), bErase);
+    }
 }
 
 void CWnd::ValidateRect(LPCRECT lpRect)
 {
-    if (m_hWnd)
+    if (m_hWnd) {
         ::ValidateRect(m_hWnd, lpRect);
+    }
 }
 
 void CWnd::ValidateRgn(CRgn* pRgn)
 {
-    if (m_hWnd)
+    if (m_hWnd) {
         ::ValidateRgn(m_hWnd, RegionHandle(pRgn));
+    }
 }
 
 BOOL CWnd::ShowWindow(int nCmdShow)
@@ -608,8 +616,9 @@ BOOL CWnd::GetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, UINT nMask)
 int CWnd::GetScrollLimit(int nBar)
 {
     SCROLLINFO info = {};
-    if (!GetScrollInfo(nBar, &info, SIF_RANGE | SIF_PAGE))
+    if (!GetScrollInfo(nBar, &info, SIF_RANGE | SIF_PAGE)) {
         return 0;
+    }
     const int nPage = info.nPage > 0 ? static_cast<int>(info.nPage) - 1 : 0;
     return info.nMax - nPage;
 }
@@ -635,8 +644,9 @@ void CWnd::CheckRadioButton(int nIDFirstButton, int nIDLastButton, int nIDCheckB
 int CWnd::GetCheckedRadioButton(int nIDFirstButton, int nIDLastButton) const
 {
     for (int nID = nIDFirstButton; nID <= nIDLastButton; ++nID) {
-        if (::IsDlgButtonChecked(m_hWnd, nID))
+        if (::IsDlgButtonChecked(m_hWnd, nID)) {
             return nID;
+        }
     }
     return 0;
 }
@@ -661,8 +671,9 @@ int CWnd::GetDlgItemText(int nID, CString& rString) const
     rString.Empty();
     const HWND hWndControl = ::GetDlgItem(m_hWnd, nID);
     const int nLength = hWndControl ? ::GetWindowTextLength(hWndControl) : 0;
-    if (nLength <= 0)
+    if (nLength <= 0) {
         return 0;
+    }
     ::GetWindowText(hWndControl, rString.GetBufferSetLength(nLength), nLength + 1);
     rString.ReleaseBuffer();
     return rString.GetLength();
@@ -770,6 +781,7 @@ void AfxSetWindowText(HWND hWndCtrl, LPCTSTR lpszNew)
         ::GetWindowText(hWndCtrl, strOld.GetBufferSetLength(nLength), nLength + 1);
         strOld.ReleaseBuffer();
     }
-    if (strOld != lpszNew) // setting the same text again would only flicker
+    if (strOld != lpszNew) { // setting the same text again would only flicker
         ::SetWindowText(hWndCtrl, lpszNew);
+    }
 }

@@ -1,6 +1,7 @@
 #include "Checks.h"
 
 #include <afxtempl.h>
+
 #include <string>
 
 namespace
@@ -22,8 +23,9 @@ int Counted::s_nAlive = 0;
 CArray<int, int>& Fill(CArray<int, int>& array, int nCount)
 {
     array.RemoveAll();
-    for (int i = 0; i < nCount; ++i)
+    for (int i = 0; i < nCount; ++i) {
         array.Add(i);
+    }
     return array;
 }
 } // namespace
@@ -40,12 +42,14 @@ TEST(CArray, StartsEmpty)
 TEST(CArray, AddGivesTheIndexAndGrows)
 {
     CArray<int, int> array;
-    for (int i = 0; i < 1000; ++i)
+    for (int i = 0; i < 1000; ++i) {
         ASSERT_EQ(i, array.Add(i * 2));
+    }
     EXPECT_EQ(1000, array.GetCount());
     EXPECT_EQ(999, array.GetUpperBound());
-    for (int i = 0; i < 1000; ++i)
+    for (int i = 0; i < 1000; ++i) {
         ASSERT_EQ(i * 2, array[i]);
+    }
     EXPECT_EQ(&array[0], array.GetData());
 }
 
@@ -103,8 +107,9 @@ TEST(CArray, InsertAtMovesTheRest)
     array.InsertAt(1, 9, 2);
     const int expected[] = {0, 9, 9, 1, 2};
     ASSERT_EQ(5, array.GetSize());
-    for (int i = 0; i < 5; ++i)
+    for (int i = 0; i < 5; ++i) {
         EXPECT_EQ(expected[i], array[i]);
+    }
     array.InsertAt(7, 4);
     EXPECT_EQ(8, array.GetSize());
     EXPECT_EQ(0, array[6]);
@@ -120,8 +125,9 @@ TEST(CArray, InsertAtTakesAnotherArrayAndItself)
     array.InsertAt(1, &other);
     const int expected[] = {0, 0, 1, 2, 1};
     ASSERT_EQ(5, array.GetSize());
-    for (int i = 0; i < 5; ++i)
+    for (int i = 0; i < 5; ++i) {
         EXPECT_EQ(expected[i], array[i]);
+    }
     other.InsertAt(0, &other);
     EXPECT_EQ(6, other.GetSize());
     EXPECT_EQ(2, other[2]);
@@ -163,8 +169,9 @@ TEST(CArray, OwnElementsMayBeAddedWhileItGrows)
 {
     CArray<CString, const CString&> array;
     array.Add(L"a string that lives on the heap");
-    for (int i = 0; i < 100; ++i)
+    for (int i = 0; i < 100; ++i) {
         array.Add(array[0]);
+    }
     EXPECT_STREQ(array[0], array[100]);
     array.InsertAt(0, array[50], 3);
     array[0] = L"changed";
@@ -174,8 +181,9 @@ TEST(CArray, OwnElementsMayBeAddedWhileItGrows)
 TEST(CArray, MovesObjectsThatPointIntoThemselves)
 {
     CArray<std::string> array;
-    for (int i = 0; i < 100; ++i)
+    for (int i = 0; i < 100; ++i) {
         array.Add("short" + std::to_string(i));
+    }
     array.InsertAt(50, std::string("middle"));
     EXPECT_EQ("short0", array[0]);
     EXPECT_EQ("middle", array[50]);
@@ -190,8 +198,9 @@ TEST(CArray, FreeExtraAndGrowByKeepTheContent)
     array.FreeExtra();
     array.Add(5);
     EXPECT_EQ(6, array.GetSize());
-    for (int i = 0; i < 6; ++i)
+    for (int i = 0; i < 6; ++i) {
         EXPECT_EQ(i, array[i]);
+    }
 }
 
 TEST(CArray, DestroysEveryElementOnce)

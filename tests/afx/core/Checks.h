@@ -1,7 +1,9 @@
 #pragma once
 
-#include <afx.h>
 #include <gtest/gtest.h>
+
+#include <afx.h>
+
 #include <ostream>
 
 /** Shows strings in failure messages. */

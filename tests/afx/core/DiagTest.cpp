@@ -109,8 +109,9 @@ TEST(MemoryTracking, BalancedWorkLeavesNoDifference)
     before.Checkpoint();
     {
         CStringArray array;
-        for (int i = 0; i < 100; ++i)
+        for (int i = 0; i < 100; ++i) {
             array.Add(CString(L'x', i));
+        }
         delete new CByteArray;
     }
     after.Checkpoint();

@@ -12,8 +12,9 @@ class CExtensionDll
 
     void Free()
     {
-        if (m_hModule)
+        if (m_hModule) {
             FreeLibrary(std::exchange(m_hModule, nullptr));
+        }
     }
     HMODULE Handle() const { return m_hModule; }
 

@@ -1,8 +1,9 @@
 #include "Checks.h"
 #include "TraceCatcher.h"
 
-#include <afxcmn.h>
 #include <tests/support/Surroundings.h>
+
+#include <afxcmn.h>
 
 namespace
 {
@@ -44,17 +45,21 @@ TEST(HandleCheck, CountsTheHandlesThatObjectsOwnByKind)
         CWnd wnd;
         ASSERT_TRUE(wnd.CreateEx(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr));
         CMenu menus[2]; // of each kind another number, so that none is taken for another
-        for (CMenu& menu : menus)
+        for (CMenu& menu : menus) {
             menu.CreatePopupMenu();
+        }
         CDC contexts[3];
-        for (CDC& dc : contexts)
+        for (CDC& dc : contexts) {
             dc.CreateCompatibleDC(nullptr);
+        }
         CPen pens[4];
-        for (CPen& pen : pens)
+        for (CPen& pen : pens) {
             pen.CreatePen(PS_SOLID, 1, RGB(1, 2, 3));
+        }
         CImageList lists[5];
-        for (CImageList& list : lists)
+        for (CImageList& list : lists) {
             list.Create(1, 1, ILC_COLOR, 1, 1);
+        }
         EXPECT_EQ(1, growth.Of(CHandleState::windows));
         EXPECT_EQ(2, growth.Of(CHandleState::menus));
         EXPECT_EQ(3, growth.Of(CHandleState::deviceContexts));

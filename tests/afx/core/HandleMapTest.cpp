@@ -15,8 +15,9 @@ class CWrapper : public CObject
 int CWrapper::s_nAlive = 0;
 
 const AFX_HANDLE_FACTORY g_factory = {[](HANDLE h) -> CObject* {
-                                          if (h == INVALID_HANDLE_VALUE)
+                                          if (h == INVALID_HANDLE_VALUE) {
                                               AfxThrowMemoryException();
+                                          }
                                           return new CWrapper(h);
                                       },
                                       [](CObject* pTemporary) { delete pTemporary; }};

@@ -1,6 +1,7 @@
 #include "Checks.h"
 
 #include <afxtempl.h>
+
 #include <string>
 
 namespace
@@ -9,8 +10,9 @@ template <class LIST>
 std::string Text(const LIST& list)
 {
     std::string text;
-    for (POSITION pos = list.GetHeadPosition(); pos;)
+    for (POSITION pos = list.GetHeadPosition(); pos;) {
         text += std::to_string(list.GetNext(pos)) + " ";
+    }
     return text;
 }
 
@@ -18,8 +20,9 @@ template <class LIST>
 std::string Backwards(const LIST& list)
 {
     std::string text;
-    for (POSITION pos = list.GetTailPosition(); pos;)
+    for (POSITION pos = list.GetTailPosition(); pos;) {
         text += std::to_string(list.GetPrev(pos)) + " ";
+    }
     return text;
 }
 typedef CList<int, int> IntList;
@@ -86,8 +89,9 @@ TEST(CList, InsertsAroundAPosition)
 TEST(CList, FindsValuesAndIndexes)
 {
     IntList list;
-    for (const int n : {1, 2, 1, 3})
+    for (const int n : {1, 2, 1, 3}) {
         list.AddTail(n);
+    }
     const POSITION first = list.Find(1);
     EXPECT_EQ(list.GetHeadPosition(), first);
     const POSITION second = list.Find(1, first);

@@ -1,6 +1,7 @@
 #include "Checks.h"
 
 #include <afxtempl.h>
+
 #include <set>
 
 namespace
@@ -57,8 +58,9 @@ TEST(CMap, RemovesKeys)
 TEST(CMap, WalksEveryAssociationOnce)
 {
     CMap<int, int, int, int> map;
-    for (int i = 0; i < 500; ++i)
+    for (int i = 0; i < 500; ++i) {
         map[i] = i * i;
+    }
     std::set<int> seen;
     for (POSITION pos = map.GetStartPosition(); pos;) {
         int nKey = 0;
@@ -69,16 +71,18 @@ TEST(CMap, WalksEveryAssociationOnce)
     }
     EXPECT_EQ(500U, seen.size());
     size_t nPairs = 0;
-    for (const auto* pPair = map.PGetFirstAssoc(); pPair; pPair = map.PGetNextAssoc(pPair))
+    for (const auto* pPair = map.PGetFirstAssoc(); pPair; pPair = map.PGetNextAssoc(pPair)) {
         nPairs += seen.count(pPair->key);
+    }
     EXPECT_EQ(500U, nPairs);
 }
 
 TEST(CMap, ReturnedAssociationMayBeRemovedWhileWalking)
 {
     CMap<int, int, int, int> map;
-    for (int i = 0; i < 100; ++i)
+    for (int i = 0; i < 100; ++i) {
         map[i] = i;
+    }
     int nVisited = 0;
     for (POSITION pos = map.GetStartPosition(); pos; ++nVisited) {
         int nKey = 0;
@@ -107,11 +111,13 @@ TEST(CMap, HashTableSizeCanBeSetAndKeepsTheContent)
     EXPECT_EQ(17U, map.GetHashTableSize());
     map.InitHashTable(101);
     EXPECT_EQ(101U, map.GetHashTableSize());
-    for (int i = 0; i < 50; ++i)
+    for (int i = 0; i < 50; ++i) {
         map[i] = i;
+    }
     map.InitHashTable(3);
-    for (int i = 0; i < 50; ++i)
+    for (int i = 0; i < 50; ++i) {
         EXPECT_EQ(i, map[i]);
+    }
     EXPECT_EQ(50, map.GetCount());
     EXPECT_TRUE(Raises<CInvalidArgException>([&] { map.InitHashTable(0); }));
 }

@@ -1,6 +1,7 @@
 #include "Checks.h"
 
 #include <tests/support/Surroundings.h>
+
 #include <thread>
 
 namespace
@@ -15,8 +16,9 @@ class CModuleDll
     CModuleDll() : m_hModule(LoadLibraryW(L"afx_core_module.dll")) {}
     ~CModuleDll()
     {
-        if (m_hModule)
+        if (m_hModule) {
             FreeLibrary(m_hModule);
+        }
     }
     CModuleDll(const CModuleDll&) = delete;
     CModuleDll& operator=(const CModuleDll&) = delete;

@@ -47,8 +47,9 @@ TEST(CStringBuffer, SelfAssignmentKeepsTheString)
 TEST(CStringBuffer, AppendingItselfDoublesTheString)
 {
     CString str(L"ab");
-    for (int i = 0; i < 6; ++i)
+    for (int i = 0; i < 6; ++i) {
         str += str;
+    }
     EXPECT_EQ(128, str.GetLength());
     EXPECT_EQ(CString(L"ab"), str.Right(2));
     CString tail(L"xyz");
@@ -120,8 +121,9 @@ TEST(CStringBuffer, ReleaseBufferStopsAtTheEndOfAFullBuffer)
     CString str;
     wchar_t* const psz = str.GetBuffer(4);
     const int nRoom = str.GetAllocLength();
-    for (int i = 0; i < nRoom; ++i)
+    for (int i = 0; i < nRoom; ++i) {
         psz[i] = L'x';
+    }
     str.ReleaseBuffer();
     EXPECT_EQ(nRoom, str.GetLength());
 }
@@ -220,16 +222,19 @@ TEST(CStringBuffer, CopiesOnManyThreadsKeepTheCount)
         const CString str(L"counted by all");
         std::vector<std::thread> threads;
         threads.reserve(4);
-        for (int i = 0; i < 4; ++i)
+        for (int i = 0; i < 4; ++i) {
             threads.emplace_back([&str] {
                 for (int n = 0; n < 20000; ++n) {
                     CString copy(str);
-                    if (n % 100 == 0)
+                    if (n % 100 == 0) {
                         copy += L"!";
+                    }
                 }
             });
-        for (std::thread& thread : threads)
+        }
+        for (std::thread& thread : threads) {
             thread.join();
+        }
         EXPECT_STREQ(L"counted by all", str);
     }
     after.Checkpoint();

@@ -224,8 +224,9 @@ TEST(CString, TokenizeSkipsEmptyPartsAndEndsWithMinusOne)
     const CString str(L"%First Second#Third%");
     std::vector<CString> parts;
     int iStart = 0;
-    for (CString part = str.Tokenize(L"% #", iStart); iStart >= 0; part = str.Tokenize(L"% #", iStart))
+    for (CString part = str.Tokenize(L"% #", iStart); iStart >= 0; part = str.Tokenize(L"% #", iStart)) {
         parts.push_back(part);
+    }
     EXPECT_EQ((std::vector<CString>{L"First", L"Second", L"Third"}), parts);
     EXPECT_EQ(-1, iStart);
     EXPECT_TRUE(Raises<CInvalidArgException>([&] { str.Tokenize(L"%", iStart); }));

@@ -31,10 +31,12 @@ TEST(Draw, ThreeDimensionalRectIsOnePixelWide)
 {
     MemoryDc dc;
     dc.Draw3dRect(CRect(1, 1, 11, 7), RED, BLUE);
-    for (const CPoint& point : {CPoint(1, 1), CPoint(9, 1), CPoint(1, 5)})
+    for (const CPoint& point : {CPoint(1, 1), CPoint(9, 1), CPoint(1, 5)}) {
         EXPECT_EQ(dc.GetPixel(point), RED);
-    for (const CPoint& point : {CPoint(10, 1), CPoint(1, 6), CPoint(10, 6)})
+    }
+    for (const CPoint& point : {CPoint(10, 1), CPoint(1, 6), CPoint(10, 6)}) {
         EXPECT_EQ(dc.GetPixel(point), BLUE);
+    }
     EXPECT_EQ(dc.Count(RED), 9 + 4);
     EXPECT_EQ(dc.Count(BLUE), 10 + 5);
 }

@@ -1,6 +1,7 @@
 #include "MemoryDc.h"
 
 #include <tests/support/Support.h>
+
 #include <thread>
 
 namespace

@@ -1,10 +1,10 @@
 #include "resource.h"
 
-#include <afxwin.h>
-
-#include <afxcmn.h>
 #include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>
+
+#include <afxcmn.h>
+#include <afxwin.h>
 
 #include <utility>
 #include <vector>

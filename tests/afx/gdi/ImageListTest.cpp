@@ -1,8 +1,9 @@
 #include "MemoryDc.h"
 #include "resource.h"
 
-#include <afxcmn.h>
 #include <tests/support/Support.h>
+
+#include <afxcmn.h>
 
 namespace
 {

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <afxwin.h>
 #include <gtest/gtest.h>
+
+#include <afxwin.h>
 
 constexpr COLORREF WHITE = RGB(255, 255, 255);
 constexpr COLORREF BLACK = RGB(0, 0, 0);
@@ -33,9 +34,11 @@ class MemoryDc : public CDC
         BITMAP info = {};
         const_cast<CBitmap&>(m_bitmap).GetBitmap(&info);
         int count = 0;
-        for (int y = 0; y < info.bmHeight; ++y)
-            for (int x = 0; x < info.bmWidth; ++x)
+        for (int y = 0; y < info.bmHeight; ++y) {
+            for (int x = 0; x < info.bmWidth; ++x) {
                 count += GetPixel(x, y) == colour;
+            }
+        }
         return count;
     }
 

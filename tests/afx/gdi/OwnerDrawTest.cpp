@@ -1,8 +1,8 @@
-#include <afxwin.h>
-
-#include <afxcmn.h>
 #include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>
+
+#include <afxcmn.h>
+#include <afxwin.h>
 
 namespace
 {
@@ -238,8 +238,9 @@ TEST(OwnerDraw, MenuMeasuresAndDrawsItsItems)
     ts::MessageRecorder recorder(host);
     recorder.RecordOnly({WM_TIMER});
     recorder.Answer(WM_TIMER, [&](const ts::Message&) -> std::optional<LRESULT> {
-        if (!menu.drawn.empty())
+        if (!menu.drawn.empty()) {
             ::EndMenu();
+        }
         return 0;
     });
     menu.TrackPopupMenu(TPM_LEFTALIGN, 50, 50, &host);

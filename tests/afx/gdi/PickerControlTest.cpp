@@ -1,8 +1,8 @@
-#include <afxwin.h>
-
-#include <afxcmn.h>
 #include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>
+
+#include <afxcmn.h>
+#include <afxwin.h>
 
 namespace
 {

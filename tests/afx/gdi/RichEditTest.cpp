@@ -1,9 +1,10 @@
-#include <afxwin.h>
-
-#include <afxcmn.h>
-#include <string>
 #include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>
+
+#include <afxcmn.h>
+#include <afxwin.h>
+
+#include <string>
 
 namespace
 {
@@ -255,8 +256,9 @@ TEST_F(RichEdit, MessagesCarryTheirParameters)
 TEST_F(RichEdit, ScrollsByLines)
 {
     CString many;
-    for (int i = 0; i < 60; ++i)
+    for (int i = 0; i < 60; ++i) {
         many += TEXT("line\r\n");
+    }
     m_edit.SetWindowText(many);
     m_edit.LineScroll(10);
     EXPECT_EQ(m_edit.GetFirstVisibleLine(), 10);

@@ -1,6 +1,7 @@
-#include <afxwin.h>
 #include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>
+
+#include <afxwin.h>
 
 namespace
 {
@@ -15,8 +16,9 @@ class ListBox : public testing::Test
     void Make(DWORD style)
     {
         ASSERT_TRUE(m_list.Create(CHILD | style, PLACE, &m_host, ID));
-        for (LPCTSTR text : {TEXT("Ann"), TEXT("Bob"), TEXT("Cid")})
+        for (LPCTSTR text : {TEXT("Ann"), TEXT("Bob"), TEXT("Cid")}) {
             m_list.AddString(text);
+        }
     }
 
     ts::AfxHost m_host;
@@ -30,8 +32,9 @@ class ComboBox : public testing::Test
     void SetUp() override
     {
         ASSERT_TRUE(m_combo.Create(CHILD | CBS_DROPDOWN, PLACE, &m_host, ID));
-        for (LPCTSTR text : {TEXT("Ann"), TEXT("Bob"), TEXT("Cid")})
+        for (LPCTSTR text : {TEXT("Ann"), TEXT("Bob"), TEXT("Cid")}) {
             m_combo.AddString(text);
+        }
     }
 
     ts::AfxHost m_host;

@@ -1,6 +1,7 @@
-#include <afxwin.h>
 #include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>
+
+#include <afxwin.h>
 
 namespace
 {
@@ -33,12 +34,14 @@ class CheckList : public testing::Test
 
     void Make(DWORD extraStyle)
     {
-        if (m_list.m_hWnd)
+        if (m_list.m_hWnd) {
             m_list.DestroyWindow();
+        }
         ASSERT_TRUE(m_list.Create(kStyle | extraStyle, CRect(10, 10, 130, 110), &m_host, kId));
         m_list.SetFont(CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT))));
-        for (const wchar_t* text : {L"Ann", L"Bob", L"Cid"})
+        for (const wchar_t* text : {L"Ann", L"Bob", L"Cid"}) {
             m_list.AddString(text);
+        }
         m_host.Log().Clear();
         ts::ParkMouse();
     }
@@ -71,8 +74,9 @@ class CheckList : public testing::Test
     std::wstring Checks() const
     {
         std::wstring checks;
-        for (int i = 0; i < m_list.GetCount(); ++i)
+        for (int i = 0; i < m_list.GetCount(); ++i) {
             checks += static_cast<wchar_t>(L'0' + m_list.GetCheck(i));
+        }
         return checks;
     }
 
@@ -98,8 +102,9 @@ TEST_F(CheckList, BoxesOfAFormerWindowAreForgotten)
 TEST_F(CheckList, StartsUncheckedAndEnabled)
 {
     EXPECT_EQ(L"000", Checks());
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         EXPECT_TRUE(m_list.IsEnabled(i));
+    }
     EXPECT_EQ(static_cast<UINT>(BS_AUTOCHECKBOX), m_list.GetCheckStyle());
 }
 
@@ -509,8 +514,9 @@ TEST_F(CheckList, ExistingListWithItemsCanBeTakenOver)
 TEST_F(CheckList, HandlerMayEmptyTheListWhileABoxIsClicked)
 {
     m_host.Log().Answer(WM_COMMAND, [this](const ts::Message& message) -> std::optional<LRESULT> {
-        if (message.code == LBN_SETFOCUS)
+        if (message.code == LBN_SETFOCUS) {
             m_list.ResetContent();
+        }
         return std::nullopt;
     });
     ClickBox(2);

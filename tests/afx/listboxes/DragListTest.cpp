@@ -1,6 +1,7 @@
-#include <afxcmn.h>
 #include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>
+
+#include <afxcmn.h>
 
 namespace
 {
@@ -27,8 +28,9 @@ class CTracedDragList : public CDragListBox
     }
     UINT Dragging(CPoint pt) override
     {
-        if (calls.empty() || calls.back() != L"drag")
+        if (calls.empty() || calls.back() != L"drag") {
             calls.push_back(L"drag");
+        }
         point = pt;
         return cursor = CDragListBox::Dragging(pt);
     }
@@ -56,8 +58,9 @@ class DragList : public testing::Test
     {
         ASSERT_TRUE(
             m_list.Create(WS_CHILD | WS_VISIBLE | WS_BORDER | LBS_NOTIFY, CRect(30, 10, 130, 130), &m_host, kId));
-        for (const wchar_t* text : {L"a", L"b", L"c", L"d", L"e"})
+        for (const wchar_t* text : {L"a", L"b", L"c", L"d", L"e"}) {
             m_list.SetItemData(m_list.AddString(text), static_cast<DWORD_PTR>(*text));
+        }
         ts::ParkMouse();
     }
 
@@ -200,8 +203,9 @@ TEST_F(DragList, CursorTellsWhereADropWorks)
 
 TEST_F(DragList, ScrollsWithThePointerBelowAndTakesTheMarkAwayBefore)
 {
-    for (int i = 0; i < 20; ++i)
+    for (int i = 0; i < 20; ++i) {
         m_list.AddString(L"x");
+    }
     CRect client;
     m_list.GetClientRect(&client);
     ts::MessageRecorder log(m_list);

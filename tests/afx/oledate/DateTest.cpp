@@ -1,8 +1,10 @@
-#include <afxdisp.h>
-#include <atlcomtime.h>
-#include <ctime>
 #include <tests/support/Imports.h>
 #include <tests/support/Support.h>
+
+#include <afxdisp.h>
+#include <atlcomtime.h>
+
+#include <ctime>
 #include <vector>
 
 namespace

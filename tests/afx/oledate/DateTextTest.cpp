@@ -1,5 +1,6 @@
-#include <afxdisp.h>
 #include <tests/support/Support.h>
+
+#include <afxdisp.h>
 
 namespace
 {

@@ -1,7 +1,8 @@
-#include <afxcmn.h>
-#include <afxdisp.h>
 #include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>
+
+#include <afxcmn.h>
+#include <afxdisp.h>
 
 namespace
 {

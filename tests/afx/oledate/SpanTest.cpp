@@ -1,5 +1,7 @@
-#include <afxdisp.h>
 #include <tests/support/Support.h>
+
+#include <afxdisp.h>
+
 #include <vector>
 
 namespace

@@ -19,8 +19,9 @@ class Target : public TopWnd
         pCmdUI->Enable(enable);
         pCmdUI->SetCheck(check);
         pCmdUI->SetText(_T("new text"));
-        if (keepRouting)
+        if (keepRouting) {
             pCmdUI->ContinueRouting();
+        }
     }
 
     DECLARE_MESSAGE_MAP()

@@ -28,8 +28,9 @@ class ExchangeDialog : public CDialog
     {
         DDX_Control(pDX, IDC_CHECK, label);
         DDX_Text(pDX, IDC_NAME, name);
-        if (maxChars)
+        if (maxChars) {
             DDV_MaxChars(pDX, name, maxChars);
+        }
         DDX_Text(pDX, IDC_AGE, age);
         DDV_MinMaxInt(pDX, age, 0, 150);
         DDX_Text(pDX, IDC_REAL, real);
@@ -42,8 +43,9 @@ class ExchangeDialog : public CDialog
             DDX_LBIndex(pDX, IDC_LIST, listIndex);
             DDX_CBIndex(pDX, IDC_COMBO, comboIndex);
         }
-        if (missingControl)
+        if (missingControl) {
             DDX_Text(pDX, 9999, name);
+        }
     }
 
     DECLARE_MESSAGE_MAP()

@@ -85,8 +85,9 @@ class PlainDialog : public CDialog
     BOOL OnInitDialog() override
     {
         CDialog::OnInitDialog();
-        if (!focusSetByDialog)
+        if (!focusSetByDialog) {
             return TRUE;
+        }
         GetDlgItem(IDCANCEL)->SetFocus();
         return FALSE;
     }
@@ -490,8 +491,9 @@ TEST(ModalDialog, ForeignExceptionFromTheLoopEnablesTheParentAgain)
         using PlainDialog::PlainDialog;
         BOOL PreTranslateMessage(MSG* pMsg) override
         {
-            if (pMsg->message == WM_USER + 7)
+            if (pMsg->message == WM_USER + 7) {
                 throw 42;
+            }
             return PlainDialog::PreTranslateMessage(pMsg);
         }
     };

@@ -1,5 +1,7 @@
-#include <afxwin.h>
 #include <gtest/gtest.h>
+
+#include <afxwin.h>
+
 #include <sstream>
 #include <string>
 

@@ -55,8 +55,9 @@ class ModalWnd : public CWnd
     LRESULT OnKickIdle(WPARAM wParam, LPARAM lParam)
     {
         events.push_back("kick " + std::to_string(wParam) + " " + std::to_string(lParam));
-        if (++kicks == endAtKick)
+        if (++kicks == endAtKick) {
             EndModalLoop(result);
+        }
         return kicks < 3;
     }
 
@@ -123,15 +124,17 @@ TEST(PreTranslation, PumpDropsATakenMessage)
         using TranslatingWnd::TranslatingWnd;
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
         {
-            if (message == WM_USER)
+            if (message == WM_USER) {
                 events.push_back("dispatched");
+            }
             return TranslatingWnd::WindowProc(message, wParam, lParam);
         }
     } receiver(chain.events, "receiver");
     receiver.Create(nullptr, _T(""), WS_CHILD, CRect(0, 0, 5, 5), &chain.top, 2);
     MSG msg;
-    while (::PeekMessage(&msg, nullptr, 0, 0, PM_REMOVE))
+    while (::PeekMessage(&msg, nullptr, 0, 0, PM_REMOVE)) {
         ::DispatchMessage(&msg);
+    }
     chain.events.clear();
     receiver.PostMessage(WM_USER);
     EXPECT_TRUE(AfxPumpMessage());
@@ -289,8 +292,9 @@ TEST(ModalLoop, ExceptionFromTheLoopLeavesTheWindowReadyForAnother)
         bool armed = true;
         BOOL PreTranslateMessage(MSG* pMsg) override
         {
-            if (armed && pMsg->message == WM_USER)
+            if (armed && pMsg->message == WM_USER) {
                 throw std::string("from the loop");
+            }
             return ModalWnd::PreTranslateMessage(pMsg);
         }
     } wnd;

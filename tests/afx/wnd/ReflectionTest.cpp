@@ -79,8 +79,9 @@ class StoppingControl : public Control
     }
     void ParentNotify(UINT message, LPARAM)
     {
-        if (LOWORD(message) == WM_DESTROY)
+        if (LOWORD(message) == WM_DESTROY) {
             events.push_back("control parent notify");
+        }
     }
 
     DECLARE_MESSAGE_MAP()
@@ -139,8 +140,9 @@ class Bench
     }
     ~Bench()
     {
-        if (control.m_hWnd)
+        if (control.m_hWnd) {
             control.DestroyWindow();
+        }
     }
     LRESULT Notify(int code)
     {
@@ -157,9 +159,11 @@ TEST(Reflection, ControlWithoutReflectingRowsLeavesNotificationsToItsParent)
     EXPECT_EQ(1, bench.Notify(NM_CLICK));
     const Events expected = {"parent change", "parent notify"};
     Events seen;
-    for (const auto& event : bench.parent.events)
-        if (event != "parent color")
+    for (const auto& event : bench.parent.events) {
+        if (event != "parent color") {
             seen.push_back(event);
+        }
+    }
     EXPECT_EQ(expected, seen);
 }
 

@@ -1,7 +1,8 @@
 #include "Windows.h"
 
-#include <afxpriv.h>
 #include <tests/support/Imports.h>
+
+#include <afxpriv.h>
 
 #include <vector>
 

@@ -24,8 +24,9 @@ class TestApp : public CWinApp
     }
     BOOL PreTranslateMessage(MSG* pMsg) override
     {
-        if (pMsg->message == WM_USER + 1)
+        if (pMsg->message == WM_USER + 1) {
             events.push_back("app translate");
+        }
         return CWinApp::PreTranslateMessage(pMsg);
     }
     void OnThreadMessage(WPARAM wParam, LPARAM lParam)
@@ -119,13 +120,15 @@ int RunProgram(LPCTSTR name)
     STARTUPINFO startup = {};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process = {};
-    if (!::CreateProcess(strProgram, nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process))
+    if (!::CreateProcess(strProgram, nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process)) {
         return -1;
+    }
     DWORD dwCode = static_cast<DWORD>(-1);
-    if (::WaitForSingleObject(process.hProcess, 60000) == WAIT_OBJECT_0)
+    if (::WaitForSingleObject(process.hProcess, 60000) == WAIT_OBJECT_0) {
         ::GetExitCodeProcess(process.hProcess, &dwCode);
-    else
+    } else {
         ::TerminateProcess(process.hProcess, 1);
+    }
     ::CloseHandle(process.hThread);
     ::CloseHandle(process.hProcess);
     return static_cast<int>(dwCode);
@@ -197,8 +200,9 @@ TEST(Application, ExceptionOfAHandlerIsItsToProcess)
       public:
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
         {
-            if (message == WM_USER)
+            if (message == WM_USER) {
                 AfxThrowMemoryException();
+            }
             return CWnd::WindowProc(message, wParam, lParam);
         }
     } wnd;

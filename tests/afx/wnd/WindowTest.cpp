@@ -9,8 +9,9 @@ class LifeWnd : public CWnd
     explicit LifeWnd(Events& log, std::string name = "") : events(log), m_name(std::move(name)) {}
     ~LifeWnd() override
     {
-        if (m_hWnd)
+        if (m_hWnd) {
             DestroyWindow();
+        }
     }
 
     Events& events;
@@ -26,8 +27,9 @@ class LifeWnd : public CWnd
     }
     LRESULT Value(WPARAM wParam, LPARAM)
     {
-        if (destroyInHandler)
+        if (destroyInHandler) {
             DestroyWindow();
+        }
         return static_cast<LRESULT>(wParam) + 1;
     }
 
@@ -125,9 +127,11 @@ END_MESSAGE_MAP()
 Events OnlyOnce(const Events& events)
 {
     Events once;
-    for (const auto& event : events)
-        if (std::find(once.begin(), once.end(), event) == once.end())
+    for (const auto& event : events) {
+        if (std::find(once.begin(), once.end(), event) == once.end()) {
             once.push_back(event);
+        }
+    }
     return once;
 }
 } // namespace
@@ -278,8 +282,9 @@ TEST(WindowClass, NameOfARegisteredClassStaysValid)
 {
     const LPCTSTR lpszFirst = AfxRegisterWndClass(CS_DBLCLKS);
     const CString strCopy = lpszFirst;
-    for (UINT style = 1; style < 8; ++style)
+    for (UINT style = 1; style < 8; ++style) {
         AfxRegisterWndClass(style);
+    }
     EXPECT_EQ(strCopy, lpszFirst);
 }
 
@@ -420,8 +425,9 @@ class ThrowingWnd : public CWnd
     LRESULT Throw(WPARAM, LPARAM) { AfxThrowUserException(); }
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct)
     {
-        if (throwInCreate)
+        if (throwInCreate) {
             AfxThrowMemoryException();
+        }
         return CWnd::OnCreate(lpCreateStruct);
     }
     afx_msg void OnPaint()
@@ -564,8 +570,9 @@ TEST(WindowWrappers, DialogItemsAreReadAndWrittenById)
 TEST(WindowWrappers, RadioButtonsReportTheCheckedOne)
 {
     TopWnd parent;
-    for (int id = 1; id <= 3; ++id)
+    for (int id = 1; id <= 3; ++id) {
         MakeControl(parent, _T("BUTTON"), BS_AUTORADIOBUTTON, id);
+    }
     EXPECT_EQ(0, parent.GetCheckedRadioButton(1, 3));
     parent.CheckRadioButton(1, 3, 2);
     EXPECT_EQ(2, parent.GetCheckedRadioButton(1, 3));

@@ -1,9 +1,12 @@
 #pragma once
 
-#include <afxwin.h>
-#include <gtest/gtest.h>
-#include <string>
 #include <tests/support/Support.h>
+
+#include <gtest/gtest.h>
+
+#include <afxwin.h>
+
+#include <string>
 #include <vector>
 
 /** Control ids and templates of wnd.rc. */
@@ -23,8 +26,9 @@ class TopWnd : public CWnd
     }
     ~TopWnd() override
     {
-        if (m_hWnd)
+        if (m_hWnd) {
             DestroyWindow();
+        }
     }
 };
 

@@ -24,15 +24,17 @@ class HostApp : public CWinApp
         handlesWereSet = m_hInstance == ::GetModuleHandle(nullptr) && AfxGetInstanceHandle() == m_hInstance;
         auto* pMain = new MainWnd;
         if (!pMain->CreateEx(0, nullptr, _T("app"), WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 100, 100), nullptr,
-                             0))
+                             0)) {
             return FALSE;
+        }
         m_pMainWnd = pMain;
         return TRUE;
     }
     BOOL OnIdle(LONG lCount) override
     {
-        if (++idles == 2 && m_pMainWnd)
+        if (++idles == 2 && m_pMainWnd) {
             m_pMainWnd->PostMessage(WM_CLOSE);
+        }
         return CWinApp::OnIdle(lCount);
     }
     int ExitInstance() override

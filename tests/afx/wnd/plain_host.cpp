@@ -1,6 +1,6 @@
-#include <afxwin.h>
-
 #include "resource.h"
+
+#include <afxwin.h>
 
 // A program with an entry function of its own and no application object. The exit code tells how far it got.
 
@@ -17,8 +17,9 @@ class EndingDialog : public CDialog
     LRESULT OnKickIdle(WPARAM, LPARAM)
     {
         UpdateDialogControls(this, FALSE);
-        if (++kicks == 1)
+        if (++kicks == 1) {
             PostMessage(WM_COMMAND, IDOK, reinterpret_cast<LPARAM>(::GetDlgItem(m_hWnd, IDOK)));
+        }
         return FALSE;
     }
 
@@ -68,15 +69,19 @@ int PlainLoop(MainWnd& wnd)
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int)
 {
-    if (AfxGetApp() || AfxGetThread() || AfxGetMainWnd())
+    if (AfxGetApp() || AfxGetThread() || AfxGetMainWnd()) {
         return 1;
-    if (AfxGetInstanceHandle() != ::GetModuleHandle(nullptr))
+    }
+    if (AfxGetInstanceHandle() != ::GetModuleHandle(nullptr)) {
         return 2;
+    }
     EndingDialog dialog;
-    if (dialog.DoModal() != IDOK || dialog.kicks == 0)
+    if (dialog.DoModal() != IDOK || dialog.kicks == 0) {
         return 3;
+    }
     MainWnd wnd;
-    if (!wnd.CreateEx(0, nullptr, _T("plain"), WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 100, 100), nullptr, 0))
+    if (!wnd.CreateEx(0, nullptr, _T("plain"), WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 100, 100), nullptr, 0)) {
         return 4;
+    }
     return PlainLoop(wnd);
 }

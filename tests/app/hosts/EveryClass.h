@@ -23,8 +23,9 @@ class Own : public Base
   protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        if (message == kOwnMessage)
+        if (message == kOwnMessage) {
             return static_cast<LRESULT>(wParam) + 1;
+        }
         return Base::WindowProc(message, wParam, lParam);
     }
 };

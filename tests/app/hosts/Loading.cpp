@@ -23,10 +23,12 @@ Function* Find(HMODULE library, const char* name)
 void UseLibrary(HMODULE library)
 {
     host::CheckResourceSearch();
-    if (auto* brush = Find<HBRUSH()>(library, kBrush))
+    if (auto* brush = Find<HBRUSH()>(library, kBrush)) {
         host::CheckBrush(brush());
-    if (auto* msgBox = Find<UINT(LPCWSTR, UINT, DWORD, CWnd*)>(library, kMsgBox))
+    }
+    if (auto* msgBox = Find<UINT(LPCWSTR, UINT, DWORD, CWnd*)>(library, kMsgBox)) {
         host::CheckResourceRule([&] { return msgBox(L"Text", 2 | 1 << 8, 0, nullptr); });
+    }
     host::RunThread();
 }
 
@@ -48,8 +50,9 @@ int wmain()
     for (int round = 0; round < 2; ++round) {
         const HMODULE library = ::LoadLibraryW(L"QorUI.dll");
         HOST_CHECK(library != nullptr);
-        if (!library)
+        if (!library) {
             break;
+        }
         UseLibrary(library);
         HOST_CHECK(::FreeLibrary(library));
         CheckAbsent();

@@ -28,8 +28,9 @@ bool DoesFail(const char* call, DWORD& status)
     const std::lock_guard guard(g_lock);
     CallState& state = GetCalls()[call];
     ++state.calls;
-    if (state.failures == 0)
+    if (state.failures == 0) {
         return false;
+    }
     --state.failures;
     status = state.status;
     return true;

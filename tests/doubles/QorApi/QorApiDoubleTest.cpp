@@ -50,8 +50,9 @@ TEST_F(QorApiDouble, OtherCallsGoOn)
 
 TEST_F(QorApiDouble, FailuresOfOtherKindsHaveTheirOwnAnswers)
 {
-    for (const char* call : {"QorHasUserRight", "QorGetAllInfo", "QorGetModuleLang", "QorSetDlgLang", "QorGetString"})
+    for (const char* call : {"QorHasUserRight", "QorGetAllInfo", "QorGetModuleLang", "QorSetDlgLang", "QorGetString"}) {
         qordouble::Fail(call, ERROR_GEN_FAILURE);
+    }
     EXPECT_EQ(QorLogonUser(QORUSER_BUILTIN_NAME, nullptr), 0U);
     EXPECT_FALSE(QorHasUserRight(0));
     EXPECT_EQ(QorGetAllInfo(QORLIST_USERS, 256, nullptr, 0), nullptr);

@@ -27,8 +27,9 @@ __attribute__((noinline)) void WriteToNull()
 
 LRESULT CALLBACK CrashInProcedure(HWND window, UINT id, WPARAM wParam, LPARAM lParam)
 {
-    if (id == WM_USER)
+    if (id == WM_USER) {
         WriteToNull();
+    }
     return DefWindowProcW(window, id, wParam, lParam);
 }
 
@@ -48,20 +49,27 @@ void ThrowInThread()
 TEST(CrashVictim, CrashesWhenAsked)
 {
     const std::string wanted = Wanted();
-    if (wanted == "null")
+    if (wanted == "null") {
         WriteToNull();
-    if (wanted == "window")
+    }
+    if (wanted == "window") {
         CrashInWindow();
-    if (wanted == "thread")
+    }
+    if (wanted == "thread") {
         std::thread(WriteToNull).join();
-    if (wanted == "abort")
+    }
+    if (wanted == "abort") {
         std::abort();
-    if (wanted == "throw")
+    }
+    if (wanted == "throw") {
         ThrowInThread();
-    if (wanted == "hung")
+    }
+    if (wanted == "hung") {
         ts::EndHungProgram("asked for");
-    while (wanted == "loop")
+    }
+    while (wanted == "loop") {
         Sleep(10);
+    }
     EXPECT_EQ("", wanted);
 }
 

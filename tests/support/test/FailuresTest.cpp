@@ -51,10 +51,12 @@ TEST(GdiShortage, LeavesAFewObjects)
 {
     const auto possible = [] {
         std::vector<HBRUSH> brushes;
-        while (const HBRUSH brush = brushes.size() < 10 ? CreateSolidBrush(RGB(0, 0, 0)) : nullptr)
+        while (const HBRUSH brush = brushes.size() < 10 ? CreateSolidBrush(RGB(0, 0, 0)) : nullptr) {
             brushes.push_back(brush);
-        for (const HBRUSH brush : brushes)
+        }
+        for (const HBRUSH brush : brushes) {
             DeleteObject(brush);
+        }
         return brushes.size();
     };
     for (const size_t left : {0u, 3u}) {

@@ -1,6 +1,7 @@
-#include <gtest/gtest-spi.h>
 #include <tests/support/Imports.h>
 #include <tests/support/Support.h>
+
+#include <gtest/gtest-spi.h>
 
 namespace
 {

@@ -1,7 +1,8 @@
 #include <tests/support/Support.h>
 
-#include <commctrl.h>
 #include <gtest/gtest-spi.h>
+
+#include <commctrl.h>
 
 namespace
 {

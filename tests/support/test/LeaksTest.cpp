@@ -61,11 +61,13 @@ const Kind kKinds[] = {
 /** How the count calls a kind on this system. */
 std::string CountedAs(const Kind& kind)
 {
-    if (ts::OnWine())
+    if (ts::OnWine()) {
         return kind.name;
+    }
     const std::string name = kind.name;
-    if (name == "Event")
+    if (name == "Event") {
         return "kernel handles";
+    }
     const bool user = name == "window" || name == "menu" || name == "icon" || name == "accelerators";
     return user ? "USER objects" : "GDI objects";
 }
@@ -83,11 +85,13 @@ TEST_P(LeaksOfKind, AreCountedExactly)
     ts::HandleCounts before = ts::CountHandles();
     std::vector<void*> planted;
     planted.reserve(kPlanted);
-    for (int i = 0; i < kPlanted; ++i)
+    for (int i = 0; i < kPlanted; ++i) {
         planted.push_back(GetParam().make());
+    }
     ts::HandleCounts during = ts::CountHandles();
-    for (void* handle : planted)
+    for (void* handle : planted) {
         GetParam().end(handle);
+    }
     ts::HandleCounts after = ts::CountHandles();
     EXPECT_EQ(kPlanted, during[kind] - before[kind]);
     EXPECT_EQ(before[kind], after[kind]);
@@ -100,8 +104,9 @@ TEST_P(LeaksOfKind, AreFoundInACycle)
     EXPECT_FALSE(result);
     const std::string text = std::to_string(kPlanted) + " x " + CountedAs(GetParam());
     EXPECT_NE(std::string::npos, std::string(result.message()).find(text)) << result.message();
-    for (void* handle : planted)
+    for (void* handle : planted) {
         GetParam().end(handle);
+    }
 }
 
 TEST_P(LeaksOfKind, AreNotSeenWhenEverythingIsGivenBack)
@@ -118,13 +123,15 @@ TEST(Leaks, AHandleLeftBehindNowAndThenIsFound)
     int cycle = 0;
     const testing::AssertionResult result = ts::NoLeak(
         [&] {
-            if (++cycle % 10 == 0)
+            if (++cycle % 10 == 0) {
                 planted.push_back(CreateSolidBrush(0));
+            }
         },
         20);
     EXPECT_FALSE(result) << result.message();
-    for (const HGDIOBJ brush : planted)
+    for (const HGDIOBJ brush : planted) {
         DeleteObject(brush);
+    }
 }
 
 TEST(Leaks, ACacheThatFillsOnceIsNone)
@@ -133,12 +140,14 @@ TEST(Leaks, ACacheThatFillsOnceIsNone)
     int cycle = 0;
     EXPECT_TRUE(ts::NoLeak(
         [&] {
-            if (++cycle <= 12)
+            if (++cycle <= 12) {
                 cache.push_back(CreateSolidBrush(0));
+            }
         },
         10));
-    for (const HGDIOBJ brush : cache)
+    for (const HGDIOBJ brush : cache) {
         DeleteObject(brush);
+    }
 }
 
 TEST(Leaks, OpeningPaintingAndClosingAWindowLeavesNothing)

@@ -1,7 +1,8 @@
 #include <tests/support/Support.h>
 
-#include <clocale>
 #include <gtest/gtest-spi.h>
+
+#include <clocale>
 
 namespace
 {

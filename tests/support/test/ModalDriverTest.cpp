@@ -25,10 +25,12 @@ INT_PTR CALLBACK DialogProcedure(HWND dialog, UINT id, WPARAM wParam, LPARAM stu
                         reinterpret_cast<HMENU>(INT_PTR{kOkId}), nullptr, nullptr);
         return TRUE;
     }
-    if (id == WM_COMMAND && LOWORD(wParam) == kOkId)
+    if (id == WM_COMMAND && LOWORD(wParam) == kOkId) {
         EndDialog(dialog, kOkId);
-    if (id == WM_COMMAND && LOWORD(wParam) == IDCANCEL && !GetWindowLongPtrW(dialog, DWLP_USER))
+    }
+    if (id == WM_COMMAND && LOWORD(wParam) == IDCANCEL && !GetWindowLongPtrW(dialog, DWLP_USER)) {
         EndDialog(dialog, IDCANCEL);
+    }
     return FALSE;
 }
 
@@ -208,8 +210,9 @@ void LeaveDialogWithItsOwnLoopOpen()
     const HWND dialog =
         CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &data.header, host.Hwnd(), DialogProcedure, TRUE);
     MSG message;
-    while (IsWindow(dialog) && GetMessageW(&message, nullptr, 0, 0) > 0)
+    while (IsWindow(dialog) && GetMessageW(&message, nullptr, 0, 0) > 0) {
         DispatchMessageW(&message);
+    }
 }
 
 TEST(ModalDriver, EndsADialogWithALoopOfItsOwnThatRefusesToClose)

@@ -1,6 +1,7 @@
 #include <tests/support/Support.h>
 
 #include <gtest/gtest-spi.h>
+
 #include <objidl.h>
 
 #include <gdiplus.h>

@@ -1,7 +1,8 @@
 #include <tests/support/Support.h>
 
-#include <cstdlib>
 #include <gtest/gtest-spi.h>
+
+#include <cstdlib>
 
 namespace
 {

@@ -23,10 +23,12 @@ __declspec(dllexport) bool g_bForgetToTerminate = false;
 BOOL WINAPI DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID)
 {
     if (dwReason == DLL_PROCESS_ATTACH) {
-        if (!AfxInitExtensionModule(g_extension, hInstance))
+        if (!AfxInitExtensionModule(g_extension, hInstance)) {
             return FALSE;
+        }
         new CDynLinkLibrary(g_extension);
-    } else if (dwReason == DLL_PROCESS_DETACH && !g_bForgetToTerminate)
+    } else if (dwReason == DLL_PROCESS_DETACH && !g_bForgetToTerminate) {
         AfxTermExtensionModule(g_extension);
+    }
     return TRUE;
 }

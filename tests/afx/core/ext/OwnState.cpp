@@ -13,8 +13,9 @@ struct GlobalObject
 
     ~GlobalObject()
     {
-        if (pfnAtEnd)
+        if (pfnAtEnd) {
             pfnAtEnd(AfxGetModuleState() == pStateAtStart);
+        }
     }
 };
 GlobalObject g_object;
@@ -68,8 +69,9 @@ BOOL WINAPI DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID)
 {
     if (dwReason == DLL_PROCESS_ATTACH) {
         AfxEndModuleStaticInit();
-        if (!AfxInitExtensionModule(g_extension, hInstance))
+        if (!AfxInitExtensionModule(g_extension, hInstance)) {
             return FALSE;
+        }
         new CDynLinkLibrary(g_extension);
     } else if (dwReason == DLL_PROCESS_DETACH) {
         AfxTermExtensionModule(g_extension);

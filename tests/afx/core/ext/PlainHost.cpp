@@ -26,26 +26,33 @@ DWORD WINAPI UseAndWait(LPVOID pParameter)
 int Round()
 {
     const HMODULE hModule = LoadLibraryW(L"afx_core_module.dll");
-    if (!hModule)
+    if (!hModule) {
         return 1;
-    if (!GetModuleHandleW(L"afx.dll"))
+    }
+    if (!GetModuleHandleW(L"afx.dll")) {
         return 2;
+    }
     Worker worker;
     worker.pfnUse = GetProcAddress(hModule, "ModuleTouch");
-    if (!worker.pfnUse)
+    if (!worker.pfnUse) {
         return 3;
+    }
     worker.pfnUse();
     const HANDLE hThread = CreateThread(nullptr, 0, UseAndWait, &worker, 0, nullptr);
-    if (WaitForSingleObject(worker.hUsed, LIMIT) != WAIT_OBJECT_0)
+    if (WaitForSingleObject(worker.hUsed, LIMIT) != WAIT_OBJECT_0) {
         return 4;
+    }
     FreeLibrary(hModule);
-    if (GetModuleHandleW(L"afx_core_module.dll"))
+    if (GetModuleHandleW(L"afx_core_module.dll")) {
         return 5;
-    if (GetModuleHandleW(L"afx.dll"))
+    }
+    if (GetModuleHandleW(L"afx.dll")) {
         return 6;
+    }
     SetEvent(worker.hFreed);
-    if (WaitForSingleObject(hThread, LIMIT) != WAIT_OBJECT_0)
+    if (WaitForSingleObject(hThread, LIMIT) != WAIT_OBJECT_0) {
         return 7;
+    }
     CloseHandle(hThread);
     return 0;
 }

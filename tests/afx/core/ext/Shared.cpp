@@ -24,8 +24,9 @@ CSharedException::~CSharedException()
 
 BOOL CSharedException::GetErrorMessage(LPWSTR lpszError, UINT nMaxError, UINT* pnHelpContext) const
 {
-    if (pnHelpContext)
+    if (pnHelpContext) {
         *pnHelpContext = 0;
+    }
     CString strText;
     strText.Format(L"shared error %d", m_nCode);
     lstrcpynW(lpszError, strText, static_cast<int>(nMaxError));
