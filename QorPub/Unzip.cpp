@@ -3,8 +3,9 @@
 #include <QorPub/QorPub.h>
 #include <QorPub/ZipNames.h>
 
-#include <minizip/iowin32.h>
 #include <minizip/unzip.h>
+
+#include <minizip/iowin32.h>
 
 namespace
 {

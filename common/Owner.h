@@ -1,7 +1,8 @@
 #pragma once
 
 /** @file
- * One owner for handles and memory of every kind. It knows the system only, so that every floor of the house may use it.
+ * One owner for handles and memory of every kind. It knows the system only, so that every floor of the house may use
+ * it.
  */
 
 #include <windows.h>
