@@ -110,4 +110,14 @@ using GdiObject = Owner<FreedBy<T, ::DeleteObject>>;
 using Bitmap = GdiObject<HBITMAP>;
 using MemoryDc = Owner<FreedBy<HDC, ::DeleteDC>>; ///< what `CreateCompatibleDC` gives
 
+/** A device context of a window or of the screen. */
+struct SharedDc
+{
+    using Handle = HDC;
+    static Handle None() { return nullptr; }
+    static void Free(Handle dc) { ::ReleaseDC(::WindowFromDC(dc), dc); }
+};
+
+using DisplayDc = Owner<SharedDc>; ///< what `GetDC` gives
+
 } // namespace own

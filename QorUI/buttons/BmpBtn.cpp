@@ -2,6 +2,7 @@
 
 #include "ButtonDraw.h"
 
+#include <common/Owner.h>
 #include <QorUI/app/base/HotTrack.h>
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/look/Palette.h>
@@ -55,8 +56,8 @@ void CBmpBtn::DrawFrame(HDC dc, const CRect& rect, UINT frame)
     if (!m_bmp.GetSafeHandle()) {
         return;
     }
-    const CMemoryDc memory(dc);
-    const CSelectSaver select(memory.get(), m_bmp.GetSafeHandle());
+    const own::MemoryDc memory(::CreateCompatibleDC(dc));
+    const SelectSaver select(memory.Get(), m_bmp.GetSafeHandle());
     if (!select) {
         return;
     }
@@ -64,10 +65,10 @@ void CBmpBtn::DrawFrame(HDC dc, const CRect& rect, UINT frame)
     const int height = rect.Height();
     const int left = width * static_cast<int>(frame);
     if (m_clrTransparent == CLR_NONE) {
-        ::BitBlt(dc, 0, 0, width, height, memory.get(), left, 0, SRCCOPY);
+        ::BitBlt(dc, 0, 0, width, height, memory.Get(), left, 0, SRCCOPY);
         return;
     }
-    ::GdiTransparentBlt(dc, 0, 0, width, height, memory.get(), left, 0, width, height, m_clrTransparent);
+    ::GdiTransparentBlt(dc, 0, 0, width, height, memory.Get(), left, 0, width, height, m_clrTransparent);
 }
 
 void CBmpBtn::DrawCaption(CDC* dc, CRect& rect, BOOL disabled)
@@ -77,8 +78,8 @@ void CBmpBtn::DrawCaption(CDC* dc, CRect& rect, BOOL disabled)
     if (text.IsEmpty()) {
         return;
     }
-    const CSelectSaver selectFont(dc->m_hDC, ::GetStockObject(DEFAULT_GUI_FONT));
-    const CTextModeSaver textMode(dc->m_hDC, disabled ? QorSysLook.m_clrGrayText : QorLook::kCaptionText, TRANSPARENT);
+    const SelectSaver selectFont(dc->m_hDC, ::GetStockObject(DEFAULT_GUI_FONT));
+    const TextModeSaver textMode(dc->m_hDC, disabled ? QorSysLook.m_clrGrayText : QorLook::kCaptionText, TRANSPARENT);
     dc->DrawText(text, &rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
 }
 

@@ -5,8 +5,8 @@
 
 void QorDrawRounded(HDC dc, const RECT& rect, COLORREF line, HGDIOBJ brush)
 {
-    const CSelectSaver selectPen(dc, ::GetStockObject(DC_PEN));
-    const CSelectSaver selectBrush(dc, brush ? brush : ::GetStockObject(NULL_BRUSH));
+    const SelectSaver selectPen(dc, ::GetStockObject(DC_PEN));
+    const SelectSaver selectBrush(dc, brush ? brush : ::GetStockObject(NULL_BRUSH));
     const COLORREF oldLine = ::SetDCPenColor(dc, line);
     ::RoundRect(dc, rect.left, rect.top, rect.right, rect.bottom, QorLook::kButtonRound, QorLook::kButtonRound);
     ::SetDCPenColor(dc, oldLine);

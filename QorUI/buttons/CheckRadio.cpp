@@ -2,6 +2,7 @@
 
 #include "ButtonDraw.h"
 
+#include <common/Owner.h>
 #include <QorUI/app/base/HotTrack.h>
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/look/Palette.h>
@@ -56,8 +57,8 @@ void DrawLabel(CWnd& button, CDC& dc, UINT mode, UINT state)
     button.GetClientRect(&rect);
     rect.DeflateRect(kTextMargin, kTextMargin);
     rect.left += kTextIndent;
-    const CSelectSaver selectFont(dc.m_hDC, reinterpret_cast<HFONT>(button.SendMessage(WM_GETFONT)));
-    const CTextModeSaver textMode(dc.m_hDC, QorSysLook.TextColor(state == QOR_GLYPH_DISABLED), TRANSPARENT);
+    const SelectSaver selectFont(dc.m_hDC, reinterpret_cast<HFONT>(button.SendMessage(WM_GETFONT)));
+    const TextModeSaver textMode(dc.m_hDC, QorSysLook.TextColor(state == QOR_GLYPH_DISABLED), TRANSPARENT);
     if (mode & QOR_LABEL_TEXT) {
         dc.DrawText(text, &rect, kTextFormat);
     }
@@ -179,13 +180,13 @@ LRESULT CCheckBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 
 void CCheckBox::DrawCheck(CDC& dc, UINT state)
 {
-    const CMemoryDc strip(dc.m_hDC);
-    const CSelectSaver select(strip.get(), g_QorUIApp.m_bmpCheck.GetSafeHandle());
+    const own::MemoryDc strip(::CreateCompatibleDC(dc.m_hDC));
+    const SelectSaver select(strip.Get(), g_QorUIApp.m_bmpCheck.GetSafeHandle());
     if (!select) {
         return;
     }
     const BOOL checked = SendMessage(BM_GETCHECK) == BST_CHECKED;
-    ::BitBlt(dc.m_hDC, QorLook::kGlyphPos, QorLook::kGlyphPos, QorLook::kGlyphSize, QorLook::kGlyphSize, strip.get(),
+    ::BitBlt(dc.m_hDC, QorLook::kGlyphPos, QorLook::kGlyphPos, QorLook::kGlyphSize, QorLook::kGlyphSize, strip.Get(),
              GlyphLeft(state, checked), 0, SRCCOPY);
 }
 
@@ -277,14 +278,14 @@ LRESULT CRadioBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 
 void CRadioBox::DrawCheck(CDC& dc, UINT state)
 {
-    const CMemoryDc strip(dc.m_hDC);
-    const CSelectSaver select(strip.get(), g_QorUIApp.m_bmpRadio.GetSafeHandle());
+    const own::MemoryDc strip(::CreateCompatibleDC(dc.m_hDC));
+    const SelectSaver select(strip.Get(), g_QorUIApp.m_bmpRadio.GetSafeHandle());
     if (!select) {
         return;
     }
     const BOOL checked = SendMessage(BM_GETCHECK) == BST_CHECKED;
     ::GdiTransparentBlt(dc.m_hDC, QorLook::kGlyphPos, QorLook::kGlyphPos, QorLook::kGlyphSize, QorLook::kGlyphSize,
-                        strip.get(), GlyphLeft(state, checked), 0, QorLook::kGlyphSize, QorLook::kGlyphSize,
+                        strip.Get(), GlyphLeft(state, checked), 0, QorLook::kGlyphSize, QorLook::kGlyphSize,
                         QorLook::kGlyphKey);
 }
 

@@ -1,5 +1,6 @@
 #include "Links.h"
 
+#include <common/Owner.h>
 #include <QorUI/app/base/OwnStatic.h>
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/look/Palette.h>
@@ -41,14 +42,14 @@ BOOL ShowHand()
 bool MeasureText(HWND wnd, HGDIOBJ font, CSize& size)
 {
     size = CSize(0, 0);
-    const CWndDc dc(wnd);
-    if (!dc.get()) {
+    const own::DisplayDc dc(::GetDC(wnd));
+    if (!dc) {
         return false;
     }
     CString text;
     CWnd::FromHandle(wnd)->GetWindowText(text);
-    const CSelectSaver selectFont(dc.get(), font);
-    ::GetTextExtentPoint32W(dc.get(), text, text.GetLength(), &size);
+    const SelectSaver selectFont(dc.Get(), font);
+    ::GetTextExtentPoint32W(dc.Get(), text, text.GetLength(), &size);
     return true;
 }
 
@@ -246,8 +247,8 @@ void CQorLink::OnPaint()
         return;
     }
     const COLORREF unhovered = m_bVisited ? m_clrVisited : m_clrLink;
-    const CTextModeSaver textMode(dc.m_hDC, m_bOver ? m_clrHover : unhovered, TRANSPARENT);
-    const CSelectSaver selectFont(dc.m_hDC, LinkFont());
+    const TextModeSaver textMode(dc.m_hDC, m_bOver ? m_clrHover : unhovered, TRANSPARENT);
+    const SelectSaver selectFont(dc.m_hDC, LinkFont());
     CRect client;
     GetClientRect(&client);
     dc.DrawText(text, &client, DT_WORDBREAK | DT_EDITCONTROL);
@@ -324,8 +325,8 @@ void CTextLink::OnPaint()
     if (text.IsEmpty()) {
         return;
     }
-    const CTextModeSaver textMode(dc.m_hDC, QorLook::kCaptionText, TRANSPARENT);
-    const CSelectSaver selectFont(dc.m_hDC, ::GetStockObject(DEFAULT_GUI_FONT));
+    const TextModeSaver textMode(dc.m_hDC, QorLook::kCaptionText, TRANSPARENT);
+    const SelectSaver selectFont(dc.m_hDC, ::GetStockObject(DEFAULT_GUI_FONT));
     CRect client;
     GetClientRect(&client);
     dc.DrawText(text, &client, DT_WORDBREAK | DT_EDITCONTROL | DT_HIDEPREFIX);

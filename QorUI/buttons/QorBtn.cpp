@@ -67,8 +67,8 @@ void CQorBtn::DrawText(CDC* dc, CRect& rect, BOOL disabled)
     }
     CString text;
     GetWindowText(text);
-    const CSelectSaver selectFont(dc->m_hDC, reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
-    const CTextModeSaver textMode(dc->m_hDC, QorSysLook.TextColor(disabled != FALSE), TRANSPARENT);
+    const SelectSaver selectFont(dc->m_hDC, reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
+    const TextModeSaver textMode(dc->m_hDC, QorSysLook.TextColor(disabled != FALSE), TRANSPARENT);
     dc->DrawText(text, &rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
 }
 

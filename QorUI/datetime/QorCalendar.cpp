@@ -216,7 +216,7 @@ BOOL CQorCalendar::AdjustWndPos()
 /** Measures the days and the weekday initials. */
 void CQorCalendar::MeasureDays(CDC& dc)
 {
-    const CSelectSaver font(dc, m_fontNormal);
+    const SelectSaver font(dc, m_fontNormal);
     CSize days(0, 0);
     for (int day = 1; day <= 31; ++day) {
         CString text;
@@ -235,7 +235,7 @@ void CQorCalendar::MeasureDays(CDC& dc)
 /** Measures the headers of the years around the first one. @return width of the widest, at least `leastWidth` */
 int CQorCalendar::MeasureHeaders(CDC& dc, int leastWidth)
 {
-    const CSelectSaver font(dc, m_fontBold);
+    const SelectSaver font(dc, m_fontBold);
     CSize header(leastWidth, 0);
     for (int year = m_nYear - kMeasuredYears; year <= m_nYear + kMeasuredYears; ++year) {
         for (int month = 1; month <= QorMonth::kMonths; ++month) {
@@ -363,8 +363,8 @@ int CQorCalendar::DrawHeader(CDC& dc, int y, int x, int row, int col, int month,
     const CRect bar(x, y, x + m_nCellWidth - 1, y + m_nHdrHeight);
     dc.FillSolidRect(bar, QorSysLook.m_clrBtnFace);
     dc.Draw3dRect(bar, QorSysLook.m_clrWindow, QorSysLook.m_clrBtnShadow);
-    const CSelectSaver font(dc, m_fontBold);
-    const CTextModeSaver mode(dc, QorSysLook.m_clrBtnText, TRANSPARENT);
+    const SelectSaver font(dc, m_fontBold);
+    const TextModeSaver mode(dc, QorSysLook.m_clrBtnText, TRANSPARENT);
     CRect text = QorMonth::HeaderText(x, y, m_nCellWidth, m_nHdrHeight);
     dc.DrawText(GetMonthName(month, year), text, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
     SetCellHdrPos(row, col, QorMonth::HeaderHit(x, y, m_nCellWidth, m_nHdrHeight));
@@ -390,8 +390,8 @@ void CQorCalendar::DrawArrow(CDC& dc, BOOL left, int y, int x)
 
 int CQorCalendar::DrawDaysOfWeek(CDC& dc, int y, int x)
 {
-    const CSelectSaver font(dc, m_fontNormal);
-    const CTextModeSaver mode(dc, QorSysLook.m_clrBtnText, TRANSPARENT);
+    const SelectSaver font(dc, m_fontNormal);
+    const TextModeSaver mode(dc, QorSysLook.m_clrBtnText, TRANSPARENT);
     const int left = QorMonth::RowLeft(x, m_nCellWidth, m_nDayWidth);
     int xi = left;
     for (const CString& day : m_strDays) {
@@ -405,8 +405,8 @@ int CQorCalendar::DrawDaysOfWeek(CDC& dc, int y, int x)
 
 int CQorCalendar::DrawDays(CDC& dc, int y, int x, int row, int col, int month, int year)
 {
-    const CSelectSaver font(dc, m_fontNormal);
-    const CTextModeSaver mode(dc, m_crNormal, TRANSPARENT);
+    const SelectSaver font(dc, m_fontNormal);
+    const TextModeSaver mode(dc, m_crNormal, TRANSPARENT);
     const int left = QorMonth::RowLeft(x, m_nCellWidth, m_nDayWidth);
     const COleDateTimeSpan oneDay(1);
     COleDateTime date(year, month, 1, 0, 0, 0);

@@ -2,6 +2,7 @@
 
 #include "ClockHands.h"
 
+#include <common/Owner.h>
 #include <QorUI/app/base/Invalidate.h>
 #include <QorUI/app/base/NotifyParent.h>
 #include <QorUI/app/base/WndClass.h>
@@ -179,10 +180,10 @@ BOOL CQorClock::OnEraseBkgnd(CDC* dc)
 {
     const HDC target = dc ? dc->m_hDC : nullptr;
     BITMAP bitmap = {};
-    const CMemoryDc memory(target);
-    if (memory.get() && m_bmpDial.GetBitmap(&bitmap)) {
-        const CSelectSaver select(memory.get(), m_bmpDial);
-        ::BitBlt(target, 0, 0, bitmap.bmWidth, bitmap.bmHeight, memory.get(), 0, 0, SRCCOPY);
+    const own::MemoryDc memory(::CreateCompatibleDC(target));
+    if (memory && m_bmpDial.GetBitmap(&bitmap)) {
+        const SelectSaver select(memory.Get(), m_bmpDial);
+        ::BitBlt(target, 0, 0, bitmap.bmWidth, bitmap.bmHeight, memory.Get(), 0, 0, SRCCOPY);
     }
     return TRUE;
 }
@@ -196,7 +197,7 @@ void CQorClock::OnPaint()
     dc.TextOut(kTextPos, kTextPos, m_bPM ? L"PM" : L"AM", 2);
     CPen pen;
     pen.CreatePen(PS_SOLID, kHandWidth, kInk);
-    const CSelectSaver selectPen(dc, pen);
+    const SelectSaver selectPen(dc, pen);
     DrawHand(dc, QorHands::kHourRatio, QorHands::HourAngle(m_nHour, m_nMinute));
     DrawHand(dc, QorHands::kMinuteRatio, QorHands::MinuteAngle(m_nMinute));
 }

@@ -73,7 +73,7 @@ int CSelMonthWnd::LineHeight(CDC& dc)
 CSize CSelMonthWnd::WindowSize()
 {
     CClientDC dc(this);
-    const CSelectSaver font(dc, m_pCalendar->m_fontNormal);
+    const SelectSaver font(dc, m_pCalendar->m_fontNormal);
     int width = 0;
     for (int month = 1; month <= QorMonth::kMonths; ++month) {
         const int cx = dc.GetTextExtent(m_pCalendar->GetMonthName(month, kSampleYear)).cx;
@@ -99,7 +99,7 @@ void CSelMonthWnd::OnPaint()
     GetClientRect(client);
     dc.FillSolidRect(client, kBack);
     dc.SetBkMode(TRANSPARENT);
-    const CSelectSaver font(dc, m_pCalendar->m_fontNormal);
+    const SelectSaver font(dc, m_pCalendar->m_fontNormal);
     const int lineHeight = LineHeight(dc);
     if (lineHeight <= 0) {
         return; // no row is shown that could be chosen

@@ -20,8 +20,8 @@ void DrawTitle(CDC& dc, const CRect& client, const CString& title)
     if (title.IsEmpty()) {
         return;
     }
-    const CSelectSaver font(dc, ::GetStockObject(DEFAULT_GUI_FONT));
-    const CTextModeSaver mode(dc, RGB(0, 0, 0), TRANSPARENT);
+    const SelectSaver font(dc, ::GetStockObject(DEFAULT_GUI_FONT));
+    const TextModeSaver mode(dc, RGB(0, 0, 0), TRANSPARENT);
     CRect text(QorLook::kCaptionTextLeft, client.top, client.right - QorLook::kCaptionTextRight,
                QorLook::kCaptionHeight);
     dc.DrawText(title, text, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_HIDEPREFIX);
@@ -30,8 +30,8 @@ void DrawTitle(CDC& dc, const CRect& client, const CString& title)
 void DrawOutline(CDC& dc, const CRect& client)
 {
     CPen pen(PS_SOLID, 1, QorLook::kOutline);
-    const CSelectSaver outline(dc, pen.GetSafeHandle());
-    const CSelectSaver hollow(dc, ::GetStockObject(NULL_BRUSH));
+    const SelectSaver outline(dc, pen.GetSafeHandle());
+    const SelectSaver hollow(dc, ::GetStockObject(NULL_BRUSH));
     dc.RoundRect(client.left, client.top, client.right - 1, client.bottom - 1, QorLook::kWindowRound,
                  QorLook::kWindowRound);
 }

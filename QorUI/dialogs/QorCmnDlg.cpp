@@ -63,7 +63,7 @@ BOOL CMsgBoxDlg::OnInitDialog()
     SetWindowText(QorGetString(look.captionKey));
     SendDlgItemMessage(IDC_BOX_ICON, STM_SETICON, reinterpret_cast<WPARAM>(::LoadIconW(nullptr, look.icon)));
     SetDlgItemText(IDC_BOX_TEXT, m_text);
-    CResourceSwitch::ToHost();
+    ResourceSwitch::ToHost();
     return TRUE;
 }
 
@@ -144,7 +144,7 @@ UINT QorMsgBox(LPCWSTR text, UINT type, DWORD error, CWnd* parent)
     if (error != 0) {
         message.AppendFormat(L"\r\n%s: %s", QorGetString(L"STR_ERROR"), QorFormatMsg(error).GetString());
     }
-    const CResourceSwitch resources;
+    const ResourceSwitch resources;
     CMsgBoxDlg dialog(type, message, parent);
     return static_cast<UINT>(dialog.DoModal());
 }

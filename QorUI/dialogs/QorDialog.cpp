@@ -144,7 +144,7 @@ void CQorDialog::OnCloseButton()
 
 void CQorDialog::Paint(CDC& dc)
 {
-    const CDcStateSaver state(dc);
+    const DcStateSaver state(dc);
     CRect client;
     GetClientRect(client);
     CString title;

@@ -257,7 +257,7 @@ BOOL CQorFrame::PreTranslateMessage(MSG* msg)
 void CQorFrame::OnPaint()
 {
     CPaintDC dc(this);
-    const CDcStateSaver state(dc);
+    const DcStateSaver state(dc);
     CRect client;
     GetClientRect(client);
     DrawBackground(dc, client);
@@ -268,8 +268,8 @@ void CQorFrame::DrawBackground(CDC& dc, const CRect& client) const
     CPen outline(PS_SOLID, 1, QorLook::kOutline);
     CBrush back(QorLook::kFrameBack);
     {
-        const CSelectSaver pen(dc, outline.GetSafeHandle());
-        const CSelectSaver brush(dc, back.GetSafeHandle());
+        const SelectSaver pen(dc, outline.GetSafeHandle());
+        const SelectSaver brush(dc, back.GetSafeHandle());
         dc.RoundRect(client.left, client.top, client.right - 1, client.bottom - 1, QorLook::kWindowRound,
                      QorLook::kWindowRound);
     }

@@ -36,9 +36,9 @@ constexpr int kSwatchSize = 8;
 constexpr int kTextLeft = 134;
 constexpr int kTextRise = 6;
 
-using Font = std::unique_ptr<Gdiplus::GpFont, QorGdip::Deleter<GdipDeleteFont>>;
-using Family = std::unique_ptr<Gdiplus::GpFontFamily, QorGdip::Deleter<GdipDeleteFontFamily>>;
-using StringFormat = std::unique_ptr<Gdiplus::GpStringFormat, QorGdip::Deleter<GdipDeleteStringFormat>>;
+using QorGdip::Family;
+using QorGdip::Font;
+using QorGdip::StringFormat;
 
 Font FontOf(HDC dc, const LOGFONTW& logFont)
 {
@@ -57,7 +57,7 @@ Family TitleFamily(HDC dc)
     ::lstrcpynW(&logFont.lfFaceName[0], L"Arial", LF_FACESIZE);
     Gdiplus::GpFontFamily* family = nullptr;
     if (const Font font = FontOf(dc, logFont)) {
-        GdipGetFamily(font.get(), &family);
+        GdipGetFamily(font.Get(), &family);
     }
     return Family(family);
 }
@@ -66,7 +66,7 @@ Font TitleFont(HDC dc)
 {
     Gdiplus::GpFont* font = nullptr;
     if (const Family family = TitleFamily(dc)) {
-        GdipCreateFont(family.get(), kTitlePoints, Gdiplus::FontStyleRegular, Gdiplus::UnitPoint, &font);
+        GdipCreateFont(family.Get(), kTitlePoints, Gdiplus::FontStyleRegular, Gdiplus::UnitPoint, &font);
     }
     return Font(font);
 }
@@ -95,10 +95,10 @@ void DrawTitle(HDC dc, Gdiplus::GpGraphics* graphics, const CRect& client, const
     if (!format || !font || !brush) {
         return;
     }
-    GdipSetStringFormatLineAlign(format.get(), Gdiplus::StringAlignmentCenter);
+    GdipSetStringFormatLineAlign(format.Get(), Gdiplus::StringAlignmentCenter);
     const Gdiplus::RectF place(static_cast<float>(client.left + kTitleLeft), static_cast<float>(client.top),
                                static_cast<float>(client.Width() - kTitleLeft), static_cast<float>(kTitleHeight));
-    GdipDrawString(graphics, title, title.GetLength(), font.get(), &place, format.get(), brush.get());
+    GdipDrawString(graphics, title, title.GetLength(), font.Get(), &place, format.Get(), brush.Get());
 }
 
 /** What all rows of a chart share. */
@@ -115,7 +115,7 @@ void DrawDot(const Chart& chart, Gdiplus::ARGB colour, int y)
 {
     const int radius = kLineWidth / 2;
     if (const QorGdip::SolidBrush brush = QorGdip::Solid(colour)) {
-        GdipFillEllipseI(chart.graphics, brush.get(), kChartLeft - radius, y - radius, kLineWidth, kLineWidth);
+        GdipFillEllipseI(chart.graphics, brush.Get(), kChartLeft - radius, y - radius, kLineWidth, kLineWidth);
     }
 }
 
@@ -143,12 +143,12 @@ void DrawLegend(const Chart& chart, const UITEM& item, Gdiplus::ARGB colour, int
     if (!brush) {
         return;
     }
-    GdipFillRectangleI(chart.graphics, brush.get(), kSwatchLeft, y - kSwatchRise, kSwatchSize, kSwatchSize);
+    GdipFillRectangleI(chart.graphics, brush.Get(), kSwatchLeft, y - kSwatchRise, kSwatchSize, kSwatchSize);
     CString text;
     text.Format(L"%s (%u)", item.strName.GetString(), item.nValue);
     const Gdiplus::RectF place(static_cast<float>(kTextLeft), static_cast<float>(y - kTextRise), 0, 0);
     if (chart.font) {
-        GdipDrawString(chart.graphics, text, text.GetLength(), chart.font, &place, nullptr, brush.get());
+        GdipDrawString(chart.graphics, text, text.GetLength(), chart.font, &place, nullptr, brush.Get());
     }
 }
 
@@ -179,11 +179,11 @@ void DrawChart(HDC dc, Gdiplus::GpGraphics* graphics, HFONT own, const CArray<UI
     if (chart.sum == 0 || !pen) {
         return;
     }
-    GdipSetPenStartCap(pen.get(), Gdiplus::LineCapRound);
-    GdipSetPenEndCap(pen.get(), Gdiplus::LineCapRound);
+    GdipSetPenStartCap(pen.Get(), Gdiplus::LineCapRound);
+    GdipSetPenEndCap(pen.Get(), Gdiplus::LineCapRound);
     const Font font = LegendFont(dc, own);
-    chart.pen = pen.get();
-    chart.font = font.get();
+    chart.pen = pen.Get();
+    chart.font = font.Get();
     DrawItems(chart, items, type);
 }
 
@@ -239,14 +239,14 @@ void CChartCtrl::OnPaint()
     }
     CRect client;
     GetClientRect(&client);
-    GdipSetSmoothingMode(graphics.get(), Gdiplus::SmoothingModeHighQuality);
-    GdipFillRectangleI(graphics.get(), white.get(), client.left, client.top, client.Width() - 1, client.Height() - 1);
+    GdipSetSmoothingMode(graphics.Get(), Gdiplus::SmoothingModeHighQuality);
+    GdipFillRectangleI(graphics.Get(), white.Get(), client.left, client.top, client.Width() - 1, client.Height() - 1);
     CString title;
     GetWindowText(title);
     title.Trim();
     if (!title.IsEmpty()) {
-        DrawTitle(dc, graphics.get(), client, title);
+        DrawTitle(dc, graphics.Get(), client, title);
     }
     const auto own = reinterpret_cast<HFONT>(::SendMessageW(m_hWnd, WM_GETFONT, 0, 0));
-    DrawChart(dc, graphics.get(), own, m_arrItems, m_nType);
+    DrawChart(dc, graphics.Get(), own, m_arrItems, m_nType);
 }

@@ -1,5 +1,6 @@
 #include "DesktopTip.h"
 
+#include <common/Owner.h>
 #include <QorUI/app/base/WndClass.h>
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/module/SystemVersion.h>
@@ -24,10 +25,10 @@ constexpr UINT kTextFormat = DT_WORDBREAK | DT_NOPREFIX | DT_EDITCONTROL;
 
 CSize MeasureTip(const CString& text)
 {
-    const CScreenDc screen;
-    const CSelectSaver font(screen.get(), ::GetStockObject(DEFAULT_GUI_FONT));
+    const own::DisplayDc screen(::GetDC(nullptr));
+    const SelectSaver font(screen.Get(), ::GetStockObject(DEFAULT_GUI_FONT));
     CRect rect(0, 0, kWrapWidth, kFirstHeight);
-    ::DrawTextW(screen.get(), text, text.GetLength(), &rect, DT_CALCRECT | kTextFormat);
+    ::DrawTextW(screen.Get(), text, text.GetLength(), &rect, DT_CALCRECT | kTextFormat);
     return rect.Size();
 }
 
@@ -78,15 +79,15 @@ BOOL CDesktopTip::PaintDesktop(CDC* dc)
     if (!dc || !dc->m_hDC || !shell || !::GetWindowRect(shell, &rect)) {
         return FALSE;
     }
-    const CScreenDc screen;
-    const CMemoryDc memory(screen.get());
+    const own::DisplayDc screen(::GetDC(nullptr));
+    const own::MemoryDc memory(::CreateCompatibleDC(screen.Get()));
     CBitmap bitmap;
-    bitmap.Attach(::CreateCompatibleBitmap(screen.get(), rect.right - rect.left, rect.bottom - rect.top));
-    const CSelectSaver select(memory.get(), bitmap.GetSafeHandle());
-    if (!memory.get() || !select || !::PrintWindow(shell, memory.get(), PW_CLIENTONLY)) {
+    bitmap.Attach(::CreateCompatibleBitmap(screen.Get(), rect.right - rect.left, rect.bottom - rect.top));
+    const SelectSaver select(memory.Get(), bitmap.GetSafeHandle());
+    if (!memory || !select || !::PrintWindow(shell, memory.Get(), PW_CLIENTONLY)) {
         return FALSE;
     }
-    CopyUnderTip(dc->m_hDC, memory.get());
+    CopyUnderTip(dc->m_hDC, memory.Get());
     return TRUE;
 }
 
@@ -107,7 +108,7 @@ void CDesktopTip::OnPaint()
     } else {
         ::PaintDesktop(dc);
     }
-    const CDcStateSaver saver(dc);
+    const DcStateSaver saver(dc);
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(kText);
     dc.SelectStockObject(DEFAULT_GUI_FONT);

@@ -115,7 +115,7 @@ void CProgressBar::OnPaint()
         return; // GDI would turn the rectangle round and draw over the frames
     }
     const CWnd* parent = GetParent();
-    const CSelectSaver font(dc, parent ? reinterpret_cast<HGDIOBJ>(parent->SendMessage(WM_GETFONT)) : nullptr);
+    const SelectSaver font(dc, parent ? reinterpret_cast<HGDIOBJ>(parent->SendMessage(WM_GETFONT)) : nullptr);
     DrawBar(dc, area);
 }
 

@@ -70,7 +70,7 @@ void CQorInfo::OnPaint()
         return;
     }
     dc.SetBkMode(TRANSPARENT);
-    const CSelectSaver font(dc, ::GetStockObject(DEFAULT_GUI_FONT));
+    const SelectSaver font(dc, ::GetStockObject(DEFAULT_GUI_FONT));
     DrawValues(dc, client, DrawLabels(dc) + kGap);
 }
 

@@ -57,7 +57,7 @@ BOOL CQorStatusBar::SetText(int part, LPCWSTR text)
 int CQorStatusBar::GetTextExtent(LPCWSTR text)
 {
     CClientDC dc(m_hWnd ? this : nullptr); // without a window the screen's
-    const CSelectSaver font(dc, ::GetStockObject(DEFAULT_GUI_FONT));
+    const SelectSaver font(dc, ::GetStockObject(DEFAULT_GUI_FONT));
     return dc.GetTextExtent(CString(text)).cx + kTextSpace;
 }
 
@@ -67,7 +67,7 @@ void CQorStatusBar::OnPaint()
     CRect bar;
     GetClientRect(&bar);
     dc.FillSolidRect(&bar, QorLook::kFrameBack);
-    const CDcStateSaver saver(dc);
+    const DcStateSaver saver(dc);
     bar.DeflateRect(0, kEdge);
     ENSURE_ARG(!m_arrParts.IsEmpty());
     if (bar.IsRectEmpty()) {

@@ -10,7 +10,7 @@
  */
 inline void QorDrawClippedText(HDC dc, const CString& text, const CRect& clip, const CRect& area, COLORREF colour)
 {
-    const CDcStateSaver saver(dc);
+    const DcStateSaver saver(dc);
     ::IntersectClipRect(dc, clip.left, clip.top, clip.right, clip.bottom);
     ::SetTextColor(dc, colour);
     ::SetBkMode(dc, TRANSPARENT);

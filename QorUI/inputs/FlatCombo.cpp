@@ -31,8 +31,8 @@ void DrawFrames(HDC dc, RECT rect)
 
 void DrawArrow(HDC dc, const QorComboParts& parts, COLORREF colour)
 {
-    const CSelectSaver brush(dc, ::GetStockObject(DC_BRUSH));
-    const CSelectSaver pen(dc, ::GetStockObject(DC_PEN));
+    const SelectSaver brush(dc, ::GetStockObject(DC_BRUSH));
+    const SelectSaver pen(dc, ::GetStockObject(DC_PEN));
     ::SetDCBrushColor(dc, colour);
     ::SetDCPenColor(dc, colour);
     ::SetPolyFillMode(dc, WINDING);
@@ -83,7 +83,7 @@ void CFlatCombo::OnPaint()
     GetClientRect(&client);
     const QorComboParts parts = QorComboLayout(client, ::GetSystemMetrics(SM_CXHTHUMB));
     CClientDC dc(this);
-    const CDcStateSaver saver(dc.m_hDC);
+    const DcStateSaver saver(dc.m_hDC);
     DrawFrames(dc.m_hDC, parts.text);
     DrawFrames(dc.m_hDC, parts.button);
     dc.FillSolidRect(&parts.face, QorSysLook.m_clrBtnFace);

@@ -35,5 +35,5 @@ class QORUI_API CFlatListBox : public CListBox
     void UpdateWidth(LPCWSTR text);
 
     int m_nMaxWidth; // of the widest text with its margin, pixels
-    CTextBound m_bound;
+    TextBound m_bound;
 };

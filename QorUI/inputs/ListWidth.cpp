@@ -9,23 +9,23 @@ constexpr int kMarginBorders = 3; ///< borders' widths that stand for the margin
 
 } // namespace
 
-CListMeasure::CListMeasure(CListBox& list)
-    : m_dc(list.m_hWnd),
-      m_font(m_dc.get(), reinterpret_cast<HGDIOBJ>(list.SendMessage(WM_GETFONT))),
+ListMeasure::ListMeasure(CListBox& list)
+    : m_dc(::GetDC(list.m_hWnd)),
+      m_font(m_dc.Get(), reinterpret_cast<HGDIOBJ>(list.SendMessage(WM_GETFONT))),
       m_margin(kMarginBorders * ::GetSystemMetrics(SM_CXBORDER))
 {
 }
 
-int CListMeasure::Width(LPCWSTR text, int length) const
+int ListMeasure::Width(LPCWSTR text, int length) const
 {
     SIZE size = {};
-    ::GetTextExtentPoint32W(m_dc.get(), text, length, &size);
+    ::GetTextExtentPoint32W(m_dc.Get(), text, length, &size);
     return size.cx + m_margin;
 }
 
 int QorWidenList(CListBox& list, int widest, LPCWSTR text)
 {
-    const CListMeasure measure(list);
+    const ListMeasure measure(list);
     const int width = measure.Width(text, text ? ::lstrlenW(text) : 0);
     if (measure.Dc() && width > widest) {
         widest = width;
@@ -36,7 +36,7 @@ int QorWidenList(CListBox& list, int widest, LPCWSTR text)
 
 int QorRefitList(CListBox& list, int former)
 {
-    const CListMeasure measure(list);
+    const ListMeasure measure(list);
     if (!measure.Dc()) {
         return former;
     }

@@ -1,16 +1,17 @@
 #pragma once
 
+#include <common/Owner.h>
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/module/QorUIDef.h>
 
 /** Measures texts in a list's own font. */
-class CListMeasure
+class ListMeasure
 {
   public:
-    explicit CListMeasure(CListBox& list);
+    explicit ListMeasure(CListBox& list);
 
     /** Null when the system gives none, and then nothing can be measured. */
-    HDC Dc() const { return m_dc.get(); }
+    HDC Dc() const { return m_dc.Get(); }
 
     /** What every text needs beside itself, pixels. */
     int Margin() const { return m_margin; }
@@ -19,8 +20,8 @@ class CListMeasure
     int Width(LPCWSTR text, int length) const;
 
   private:
-    CWndDc m_dc;
-    CSelectSaver m_font;
+    own::DisplayDc m_dc;
+    SelectSaver m_font;
     int m_margin;
 };
 

@@ -1,5 +1,6 @@
 #include "SearchBox.h"
 
+#include <common/Owner.h>
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/module/QorUIApp.h>
 #include <QorUI/res/resource.h>
@@ -24,10 +25,10 @@ void DrawGlyph(HDC dc, int x, int y)
 {
     CBitmap bitmap;
     bitmap.Attach(::LoadBitmapW(g_QorUIApp.m_hInstance, MAKEINTRESOURCEW(IDB_SEARCH)));
-    const CMemoryDc memory(dc);
-    const CSelectSaver select(memory.get(), bitmap.GetSafeHandle());
+    const own::MemoryDc memory(::CreateCompatibleDC(dc));
+    const SelectSaver select(memory.Get(), bitmap.GetSafeHandle());
     if (select) {
-        ::BitBlt(dc, x, y, kGlyphWidth, kGlyphHeight, memory.get(), 0, 0, SRCCOPY);
+        ::BitBlt(dc, x, y, kGlyphWidth, kGlyphHeight, memory.Get(), 0, 0, SRCCOPY);
     }
 }
 

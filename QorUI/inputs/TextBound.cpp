@@ -2,9 +2,9 @@
 
 #include "ListWidth.h"
 
-bool CTextBound::Learn(CListBox& list)
+bool TextBound::Learn(CListBox& list)
 {
-    const CListMeasure measure(list);
+    const ListMeasure measure(list);
     TEXTMETRICW metric = {};
     m_known = ::GetTextMetricsW(measure.Dc(), &metric) &&
               ::GetCharWidth32W(measure.Dc(), 0, kCharacters - 1, m_widths.data());
@@ -12,7 +12,7 @@ bool CTextBound::Learn(CListBox& list)
     return m_known;
 }
 
-bool CTextBound::Fits(CListBox& list, LPCWSTR text, int width)
+bool TextBound::Fits(CListBox& list, LPCWSTR text, int width)
 {
     if (!text || (!m_known && !Learn(list))) {
         return false;

@@ -9,7 +9,7 @@
  *
  * It knows the widths of the ASCII characters in the list's font, and nothing about texts with other characters.
  */
-class CTextBound
+class TextBound
 {
   public:
     /** To be called when the list gets another font. */

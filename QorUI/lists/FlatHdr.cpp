@@ -87,7 +87,7 @@ void CFlatHdr::DrawItem(LPDRAWITEMSTRUCT draw)
     if (!draw || !draw->hDC) {
         return;
     }
-    const CDcStateSaver saver(draw->hDC);
+    const DcStateSaver saver(draw->hDC);
     CDC* dc = CDC::FromHandle(draw->hDC);
     dc->FillSolidRect(&draw->rcItem, m_clrBack);
     dc->SetBkMode(TRANSPARENT);
@@ -113,7 +113,7 @@ void CFlatHdr::DrawItemText(HDC dc, const DRAWITEMSTRUCT& draw, bool sorted) con
     }
     RECT rect = QorHdr::TextRect(draw.rcItem, draw.itemState == ODS_SELECTED, sorted);
     if (rect.right > rect.left) {
-        const CSelectSaver font(dc, reinterpret_cast<HGDIOBJ>(::SendMessageW(m_hWnd, WM_GETFONT, 0, 0)));
+        const SelectSaver font(dc, reinterpret_cast<HGDIOBJ>(::SendMessageW(m_hWnd, WM_GETFONT, 0, 0)));
         // The control may answer with a text of its own instead of filling the buffer.
         ::DrawTextW(dc, item.pszText ? item.pszText : L"", -1, &rect, QorHdr::TextFormat(item.fmt));
     }
@@ -121,7 +121,7 @@ void CFlatHdr::DrawItemText(HDC dc, const DRAWITEMSTRUCT& draw, bool sorted) con
 
 void CFlatHdr::DrawItemLines(HDC dc, const RECT& rect) const
 {
-    const CSelectSaver select(dc, ::GetStockObject(DC_PEN));
+    const SelectSaver select(dc, ::GetStockObject(DC_PEN));
     ::SetDCPenColor(dc, m_clrLine);
     ::MoveToEx(dc, rect.right - 1, rect.top, nullptr);
     ::LineTo(dc, rect.right - 1, rect.bottom - 1);
@@ -138,7 +138,7 @@ void CFlatHdr::OnPaint()
         PaintInto(dc); // flickers, but shows the header
         return;
     }
-    const CSelectSaver select(memory, bitmap);
+    const SelectSaver select(memory, bitmap);
     memory.SetWindowOrg(rect.left, rect.top);
     PaintInto(memory);
     dc.BitBlt(rect.left, rect.top, rect.Width(), rect.Height(), &memory, rect.left, rect.top, SRCCOPY);
@@ -162,7 +162,7 @@ void CFlatHdr::FillRest(CDC& dc) const
     if (rest.right > rest.left) {
         dc.FillSolidRect(&rest, m_clrBack);
     }
-    const CSelectSaver select(dc, ::GetStockObject(DC_PEN));
+    const SelectSaver select(dc, ::GetStockObject(DC_PEN));
     ::SetDCPenColor(dc, m_clrLine);
     dc.MoveTo(rest.left - 1, rest.bottom - 1);
     dc.LineTo(rest.right, rest.bottom - 1);

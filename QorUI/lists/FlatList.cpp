@@ -1,13 +1,12 @@
 #include "FlatList.h"
 
+#include <common/Owner.h>
 #include <QorUI/app/draw/Draw.h>
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/look/Palette.h>
 #include <QorUI/app/module/QorUIApp.h>
 #include <QorUI/inputs/FlatEdit.h>
 #include <QorUI/res/resource.h>
-
-#include <memory>
 
 BEGIN_MESSAGE_MAP(CFlatList, CListCtrl)
     ON_WM_PAINT()
@@ -23,12 +22,7 @@ constexpr DWORD kListStyle = LVS_EX_FULLROWSELECT | LVS_EX_INFOTIP | LVS_EX_LABE
 constexpr int kEmptyMargin = 10;
 constexpr UINT kEmptyFormat = DT_CENTER | DT_WORDBREAK | DT_NOCLIP | DT_NOPREFIX;
 
-struct ImageListDestroyer
-{
-    void operator()(HIMAGELIST images) const { ::ImageList_Destroy(images); }
-};
-
-using ImageListOwner = std::unique_ptr<_IMAGELIST, ImageListDestroyer>;
+using ImageListOwner = own::Owner<own::FreedBy<HIMAGELIST, ::ImageList_Destroy>>;
 
 ImageListOwner MakeCheckImages()
 {
@@ -177,7 +171,7 @@ HIMAGELIST CFlatList::SetStateImages(HIMAGELIST images)
 bool CFlatList::ReleaseCheckImage()
 {
     const HIMAGELIST held = StateImages();
-    if (!held || held != SharedImages().get()) {
+    if (!held || held != SharedImages().Get()) {
         return false;
     }
     SetStateImages(nullptr);
@@ -191,7 +185,7 @@ void CFlatList::SetCheckImage()
         images = MakeCheckImages();
     }
     if (images) {
-        SetStateImages(images.get());
+        SetStateImages(images.Get());
     }
 }
 
@@ -232,7 +226,7 @@ void CFlatList::DrawEmptyText()
     }
     rect.DeflateRect(kEmptyMargin, kEmptyMargin);
     CClientDC dc(this);
-    const CSelectSaver font(dc, reinterpret_cast<HGDIOBJ>(::SendMessageW(m_hWnd, WM_GETFONT, 0, 0)));
+    const SelectSaver font(dc, reinterpret_cast<HGDIOBJ>(::SendMessageW(m_hWnd, WM_GETFONT, 0, 0)));
     dc.DrawText(m_lpszEmptyText, -1, &rect, kEmptyFormat);
 }
 

@@ -300,7 +300,7 @@ TEST_F(Module, ResourceSwitchNamesTheLibraryAndThenTheHost)
     InitWithPictures();
     const HINSTANCE before = AfxGetModuleState()->m_hCurrentResourceHandle;
     {
-        const CResourceSwitch toLibrary;
+        const ResourceSwitch toLibrary;
         EXPECT_EQ(m_library, AfxGetModuleState()->m_hCurrentResourceHandle);
     }
     EXPECT_EQ(::GetModuleHandleW(nullptr), AfxGetModuleState()->m_hCurrentResourceHandle);
@@ -313,7 +313,7 @@ TEST_F(Module, ResourceSwitchNamesTheHostEvenIfAnotherModuleWasNamedBefore)
     const HINSTANCE before = AfxGetModuleState()->m_hCurrentResourceHandle;
     AfxGetModuleState()->m_hCurrentResourceHandle = ::GetModuleHandleW(L"user32.dll");
     {
-        const CResourceSwitch toLibrary;
+        const ResourceSwitch toLibrary;
     }
     EXPECT_EQ(::GetModuleHandleW(nullptr), AfxGetModuleState()->m_hCurrentResourceHandle);
     AfxGetModuleState()->m_hCurrentResourceHandle = before;
@@ -325,7 +325,7 @@ TEST_F(Module, ResourceSwitchNamesTheHostWhenAnExceptionLeaves)
     const HINSTANCE before = AfxGetModuleState()->m_hCurrentResourceHandle;
     EXPECT_THROW(
         {
-            const CResourceSwitch toLibrary;
+            const ResourceSwitch toLibrary;
             throw std::runtime_error("while the dialog ran");
         },
         std::runtime_error);
@@ -338,8 +338,8 @@ TEST_F(Module, ToHostNamesTheHostWhileTheDialogIsOpen)
     InitWithPictures();
     const HINSTANCE before = AfxGetModuleState()->m_hCurrentResourceHandle;
     {
-        const CResourceSwitch toLibrary;
-        CResourceSwitch::ToHost();
+        const ResourceSwitch toLibrary;
+        ResourceSwitch::ToHost();
         EXPECT_EQ(::GetModuleHandleW(nullptr), AfxGetModuleState()->m_hCurrentResourceHandle);
     }
     AfxGetModuleState()->m_hCurrentResourceHandle = before;

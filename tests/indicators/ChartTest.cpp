@@ -42,7 +42,7 @@ class ExpectedChart
             CClientDC dc(&window);
             dc.FillSolidRect(0, 0, 300, 200, kWhite);
             m_graphics = QorGdip::GraphicsOn(dc);
-            GdipSetSmoothingMode(m_graphics.get(), Gdiplus::SmoothingModeHighQuality);
+            GdipSetSmoothingMode(m_graphics.Get(), Gdiplus::SmoothingModeHighQuality);
             DrawTitle(dc);
             DrawItems(dc);
             m_graphics.reset();
@@ -88,8 +88,8 @@ class ExpectedChart
         GdipCreateStringFormat(0, LANG_NEUTRAL, &format);
         GdipSetStringFormatLineAlign(format, Gdiplus::StringAlignmentCenter);
         const Gdiplus::RectF place(8, 0, 292, 30);
-        GdipDrawString(m_graphics.get(), m_title, m_title.GetLength(), font, &place, format,
-                       QorGdip::Solid(0xFF000000).get());
+        GdipDrawString(m_graphics.Get(), m_title, m_title.GetLength(), font, &place, format,
+                       QorGdip::Solid(0xFF000000).Get());
         GdipDeleteStringFormat(format);
         GdipDeleteFont(font);
     }
@@ -112,13 +112,13 @@ class ExpectedChart
         for (size_t i = 0; i < m_values.size(); ++i, y += 20) {
             const Gdiplus::ARGB colour = QorGdip::Opaque(kSeries.at(i % 5));
             const QorGdip::Pen pen = QorGdip::SolidPen(colour, 8);
-            GdipSetPenStartCap(pen.get(), Gdiplus::LineCapRound);
-            GdipSetPenEndCap(pen.get(), Gdiplus::LineCapRound);
+            GdipSetPenStartCap(pen.Get(), Gdiplus::LineCapRound);
+            GdipSetPenEndCap(pen.Get(), Gdiplus::LineCapRound);
             if (m_bars) {
-                DrawBar(pen.get(), y, static_cast<int>(m_values[i] * 90 / Most()), colour);
+                DrawBar(pen.Get(), y, static_cast<int>(m_values[i] * 90 / Most()), colour);
             } else {
                 const float sweep = static_cast<float>(m_values[i]) * 360 / static_cast<float>(Sum());
-                GdipDrawArc(m_graphics.get(), pen.get(), 13, 30, 90, 90, angle, sweep);
+                GdipDrawArc(m_graphics.Get(), pen.Get(), 13, 30, 90, 90, angle, sweep);
                 angle += sweep;
             }
             DrawLegend(y, m_values[i], colour);
@@ -129,21 +129,21 @@ class ExpectedChart
     void DrawBar(Gdiplus::GpPen* pen, int y, int length, Gdiplus::ARGB colour)
     {
         if (length > 0) {
-            GdipDrawLine(m_graphics.get(), pen, 13, static_cast<float>(y), static_cast<float>(13 + length),
+            GdipDrawLine(m_graphics.Get(), pen, 13, static_cast<float>(y), static_cast<float>(13 + length),
                          static_cast<float>(y));
         } else {
-            GdipFillEllipse(m_graphics.get(), QorGdip::Solid(colour).get(), 9, static_cast<float>(y - 4), 8, 8);
+            GdipFillEllipse(m_graphics.Get(), QorGdip::Solid(colour).Get(), 9, static_cast<float>(y - 4), 8, 8);
         }
     }
 
     void DrawLegend(int y, UINT value, Gdiplus::ARGB colour)
     {
         const QorGdip::SolidBrush brush = QorGdip::Solid(colour);
-        GdipFillRectangle(m_graphics.get(), brush.get(), 118, static_cast<float>(y - 3), 8, 8);
+        GdipFillRectangle(m_graphics.Get(), brush.Get(), 118, static_cast<float>(y - 3), 8, 8);
         CString text;
         text.Format(L"Name (%u)", value);
         const Gdiplus::RectF place(134, static_cast<float>(y - 6), 0, 0);
-        GdipDrawString(m_graphics.get(), text, text.GetLength(), m_font, &place, nullptr, brush.get());
+        GdipDrawString(m_graphics.Get(), text, text.GetLength(), m_font, &place, nullptr, brush.Get());
     }
 
     UINT Most() const { return *std::max_element(m_values.begin(), m_values.end()); }

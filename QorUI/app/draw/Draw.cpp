@@ -2,6 +2,7 @@
 
 #include "GdiSavers.h"
 
+#include <common/Owner.h>
 #include <QorPub/QorPub.h>
 
 #include <cstring>
@@ -27,7 +28,7 @@ void DrawCorner(HDC dc, POINT corner, POINT oneEnd, POINT otherEnd, COLORREF col
 {
     CPen pen;
     pen.CreatePen(PS_SOLID, 1, colour);
-    const CSelectSaver select(dc, pen.GetSafeHandle());
+    const SelectSaver select(dc, pen.GetSafeHandle());
     if (select) {
         DrawLine(dc, corner, oneEnd);
         DrawLine(dc, corner, otherEnd);
@@ -116,21 +117,21 @@ HBITMAP QorCreateGrayBmp(HBITMAP source)
     if (::GetObjectType(source) != OBJ_BITMAP || ::GetObjectW(source, sizeof(header), &header) == 0) {
         return nullptr;
     }
-    const CScreenDc screen;
-    const CMemoryDc from(screen.get());
-    const CMemoryDc to(screen.get());
-    if (!screen.get() || !from.get() || !to.get()) {
+    const own::DisplayDc screen(::GetDC(nullptr));
+    const own::MemoryDc from(::CreateCompatibleDC(screen.Get()));
+    const own::MemoryDc to(::CreateCompatibleDC(screen.Get()));
+    if (!screen || !from || !to) {
         return nullptr;
     }
     CBitmap copy;
     copy.CreateBitmap(header.bmWidth, header.bmHeight, header.bmPlanes, header.bmBitsPixel, nullptr);
     {
-        const CSelectSaver selectSource(from.get(), source);
-        const CSelectSaver selectCopy(to.get(), copy.GetSafeHandle());
+        const SelectSaver selectSource(from.Get(), source);
+        const SelectSaver selectCopy(to.Get(), copy.GetSafeHandle());
         if (!selectSource || !selectCopy) {
             return nullptr;
         }
-        CopyGray(to.get(), from.get(), header.bmWidth, header.bmHeight);
+        CopyGray(to.Get(), from.Get(), header.bmWidth, header.bmHeight);
     }
     return static_cast<HBITMAP>(copy.Detach());
 }

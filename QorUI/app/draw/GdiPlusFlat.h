@@ -5,36 +5,29 @@
  */
 
 // gdiplus.h declares the property ids that it takes from here.
+#include <common/Owner.h>
+
 #include <windows.h>
 
 #include <objidl.h>
 
 #include <gdiplus.h>
 
-#include <memory>
-
 namespace QorGdip
 {
 
-/** Deletes a GDI+ object with its own function of the flat interface. */
-template <auto Delete>
-struct Deleter
-{
-    template <class T>
-    void operator()(T* object) const
-    {
-        Delete(object);
-    }
-};
+/** A GDI+ object and the function of the flat interface that deletes it. */
+template <class T, auto Delete>
+using ObjectOf = own::Owner<own::FreedBy<T*, Delete>>;
 
-using Graphics = std::unique_ptr<Gdiplus::GpGraphics, Deleter<Gdiplus::DllExports::GdipDeleteGraphics>>;
-using Pen = std::unique_ptr<Gdiplus::GpPen, Deleter<Gdiplus::DllExports::GdipDeletePen>>;
-using Path = std::unique_ptr<Gdiplus::GpPath, Deleter<Gdiplus::DllExports::GdipDeletePath>>;
-
-template <class T>
-using BrushOf = std::unique_ptr<T, Deleter<Gdiplus::DllExports::GdipDeleteBrush>>;
-using SolidBrush = BrushOf<Gdiplus::GpSolidFill>;
-using LineBrush = BrushOf<Gdiplus::GpLineGradient>;
+using Graphics = ObjectOf<Gdiplus::GpGraphics, Gdiplus::DllExports::GdipDeleteGraphics>;
+using Pen = ObjectOf<Gdiplus::GpPen, Gdiplus::DllExports::GdipDeletePen>;
+using Path = ObjectOf<Gdiplus::GpPath, Gdiplus::DllExports::GdipDeletePath>;
+using SolidBrush = ObjectOf<Gdiplus::GpSolidFill, Gdiplus::DllExports::GdipDeleteBrush>;
+using LineBrush = ObjectOf<Gdiplus::GpLineGradient, Gdiplus::DllExports::GdipDeleteBrush>;
+using Font = ObjectOf<Gdiplus::GpFont, Gdiplus::DllExports::GdipDeleteFont>;
+using Family = ObjectOf<Gdiplus::GpFontFamily, Gdiplus::DllExports::GdipDeleteFontFamily>;
+using StringFormat = ObjectOf<Gdiplus::GpStringFormat, Gdiplus::DllExports::GdipDeleteStringFormat>;
 
 /** Opaque GDI+ colour of a GDI colour. */
 constexpr Gdiplus::ARGB Opaque(COLORREF colour)

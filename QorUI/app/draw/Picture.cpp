@@ -2,8 +2,8 @@
 
 #include "GdiPlusFlat.h"
 
+#include <common/Owner.h>
 #include <QorPub/QorPub.h>
-#include <QorUI/app/base/Handles.h>
 
 #include <new>
 
@@ -14,13 +14,13 @@ const void* QorImageFromResource(HINSTANCE inst, LPCWSTR name, LPCWSTR type)
     if (!data) {
         return nullptr;
     }
-    const CComRef<IStream> stream(QorCreateReadOnlyMemStream(0, data, size));
+    const own::Com<IStream> stream(QorCreateReadOnlyMemStream(0, data, size));
     if (!stream) {
         return nullptr;
     }
     // The class's own operator new answers null, which a new expression does not look for.
     void* memory = Gdiplus::GdiplusBase::operator new(sizeof(Gdiplus::Image));
-    return memory ? ::new (memory) Gdiplus::Image(stream.get()) : nullptr;
+    return memory ? ::new (memory) Gdiplus::Image(stream.Get()) : nullptr;
 }
 
 BOOL QorGetImageEncoder(LPCWSTR mimeType, GUID& clsid)
@@ -31,8 +31,8 @@ BOOL QorGetImageEncoder(LPCWSTR mimeType, GUID& clsid)
     if (!mimeType || GdipGetImageEncodersSize(&count, &size) != Gdiplus::Ok || count == 0 || size == 0) {
         return FALSE;
     }
-    const CLocalMem memory(::LocalAlloc(LMEM_FIXED, size));
-    auto* encoders = static_cast<Gdiplus::ImageCodecInfo*>(memory.get());
+    const own::LocalMemory memory(::LocalAlloc(LMEM_FIXED, size));
+    auto* encoders = static_cast<Gdiplus::ImageCodecInfo*>(memory.Get());
     if (!encoders || GdipGetImageEncoders(count, size, encoders) != Gdiplus::Ok) {
         return FALSE;
     }

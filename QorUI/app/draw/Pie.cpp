@@ -39,7 +39,7 @@ QorGdip::LineBrush MakeSheen(int x, int y)
                                           &brush);
     QorGdip::LineBrush sheen(brush);
     if (sheen) {
-        GdipSetLineSigmaBlend(sheen.get(), kSheenFocus, kSheenScale);
+        GdipSetLineSigmaBlend(sheen.Get(), kSheenFocus, kSheenScale);
     }
     return sheen;
 }
@@ -48,7 +48,7 @@ PieTools MakeTools(HDC dc, int x, int y)
 {
     PieTools tools = {QorGdip::GraphicsOn(dc), QorGdip::SolidPen(kOutline, 1.0F), MakeSheen(x, y)};
     if (tools.graphics) {
-        GdipSetSmoothingMode(tools.graphics.get(), Gdiplus::SmoothingModeAntiAlias);
+        GdipSetSmoothingMode(tools.graphics.Get(), Gdiplus::SmoothingModeAntiAlias);
     }
     return tools;
 }
@@ -73,12 +73,12 @@ void DrawRim(const PieTools& tools, int x, int y, ARGB colour, float start, floa
     if (!path || !brush) {
         return;
     }
-    GdipAddPathArcI(path.get(), x, y, kDiscWidth, kDiscHeight, start, sweep);
-    GdipAddPathArcI(path.get(), x, y + kRimHeight, kDiscWidth, kDiscHeight, start + sweep, -sweep);
-    GdipClosePathFigure(path.get());
-    GdipFillPath(tools.graphics.get(), brush.get(), path.get());
-    GdipFillPath(tools.graphics.get(), tools.sheen.get(), path.get());
-    GdipDrawPath(tools.graphics.get(), tools.outline.get(), path.get());
+    GdipAddPathArcI(path.Get(), x, y, kDiscWidth, kDiscHeight, start, sweep);
+    GdipAddPathArcI(path.Get(), x, y + kRimHeight, kDiscWidth, kDiscHeight, start + sweep, -sweep);
+    GdipClosePathFigure(path.Get());
+    GdipFillPath(tools.graphics.Get(), brush.Get(), path.Get());
+    GdipFillPath(tools.graphics.Get(), tools.sheen.Get(), path.Get());
+    GdipDrawPath(tools.graphics.Get(), tools.outline.Get(), path.Get());
 }
 
 void DrawTop(const PieTools& tools, int x, int y, ARGB colour, float start, float sweep)
@@ -87,8 +87,8 @@ void DrawTop(const PieTools& tools, int x, int y, ARGB colour, float start, floa
     if (!brush) {
         return;
     }
-    GdipFillPieI(tools.graphics.get(), brush.get(), x, y, kDiscWidth, kDiscHeight, start, sweep);
-    GdipDrawPieI(tools.graphics.get(), tools.outline.get(), x, y, kDiscWidth, kDiscHeight, start, sweep);
+    GdipFillPieI(tools.graphics.Get(), brush.Get(), x, y, kDiscWidth, kDiscHeight, start, sweep);
+    GdipDrawPieI(tools.graphics.Get(), tools.outline.Get(), x, y, kDiscWidth, kDiscHeight, start, sweep);
 }
 
 } // namespace

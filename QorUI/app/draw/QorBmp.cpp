@@ -1,7 +1,7 @@
 #include "QorBmp.h"
 
+#include <common/Owner.h>
 #include <QorPub/QorPub.h>
-#include <QorUI/app/base/Handles.h>
 
 #include <olectl.h>
 
@@ -21,19 +21,19 @@ BOOL CQorBmp::Load(HINSTANCE inst, UINT id, LPCWSTR type)
 
 BOOL CQorBmp::Load(LPCWSTR path)
 {
-    const CFileHandle file(
+    const own::File file(
         ::CreateFileW(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!file) {
         return FALSE;
     }
-    const DWORD size = ::GetFileSize(file.get(), nullptr);
+    const DWORD size = ::GetFileSize(file.Get(), nullptr);
     if (size == INVALID_FILE_SIZE) {
         return FALSE;
     }
-    const CLocalMem buffer(::LocalAlloc(LMEM_FIXED, size));
+    const own::LocalMemory buffer(::LocalAlloc(LMEM_FIXED, size));
     DWORD read = 0;
-    return buffer && ::ReadFile(file.get(), buffer.get(), size, &read, nullptr) && read == size &&
-           LoadPicture(buffer.get(), size);
+    return buffer && ::ReadFile(file.Get(), buffer.Get(), size, &read, nullptr) && read == size &&
+           LoadPicture(buffer.Get(), size);
 }
 
 BOOL CQorBmp::Render(HDC dc, int x, int y, int cx, int cy)
@@ -58,12 +58,12 @@ BOOL CQorBmp::DeleteObject()
 
 BOOL CQorBmp::LoadPicture(const void* data, DWORD size)
 {
-    const CComRef<IStream> stream(QorCreateReadOnlyMemStream(0, data, size));
+    const own::Com<IStream> stream(QorCreateReadOnlyMemStream(0, data, size));
     if (!stream) {
         return FALSE;
     }
     FreePicture();
-    const HRESULT result = ::OleLoadPicture(stream.get(), static_cast<LONG>(size), FALSE, IID_IPicture,
+    const HRESULT result = ::OleLoadPicture(stream.Get(), static_cast<LONG>(size), FALSE, IID_IPicture,
                                             reinterpret_cast<void**>(&m_pPicture));
     if (FAILED(result) || !m_pPicture) {
         return FALSE;

@@ -39,8 +39,8 @@ void QorDrawTriangle(CDC* dc, const RECT& rect, int direction, COLORREF colour)
     brush.CreateSolidBrush(colour);
     CPen pen;
     pen.CreatePen(PS_SOLID, 1, colour);
-    const CSelectSaver selectBrush(dc->m_hDC, brush.GetSafeHandle());
-    const CSelectSaver selectPen(dc->m_hDC, pen.GetSafeHandle());
+    const SelectSaver selectBrush(dc->m_hDC, brush.GetSafeHandle());
+    const SelectSaver selectPen(dc->m_hDC, pen.GetSafeHandle());
     if (!selectBrush || !selectPen) {
         return;
     }
