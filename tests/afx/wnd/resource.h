@@ -16,3 +16,8 @@
 #define IDC_ACTION 1010
 #define IDC_LABEL 1011
 #define IDS_GREETING 200
+#define IDB_STRIP 201
+#define IDM_MAIN 204
+#define ID_OPEN 301
+#define ID_EXIT 302
+#define ID_HELP_ITEM 303

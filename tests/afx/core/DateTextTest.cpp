@@ -1,3 +1,5 @@
+#include "resource.h"
+
 #include <tests/support/Support.h>
 
 #include <afxdisp.h>
@@ -24,7 +26,7 @@ TEST(OleDateTimeText, FormatTakesTheConversionsOfTheRuntime)
     const ts::CrtLocale locale(L"C");
     EXPECT_STREQ(L"Saturday, 14 March 2009, 15:06:07 073 100%",
                  kDate.Format(L"%A, %d %B %Y, %H:%M:%S %j 100%%").GetString());
-    EXPECT_STREQ(L"2009-03-14", kDate.Format(100u).GetString());
+    EXPECT_STREQ(L"2009-03-14", kDate.Format(static_cast<UINT>(IDS_DATE_FORMAT)).GetString());
 }
 
 TEST(OleDateTimeText, FormatTakesNamesFromTheLocaleOfTheRuntime)

@@ -1,3 +1,5 @@
+#include "resource.h"
+
 #include <tests/support/Support.h>
 
 #include <afxdisp.h>
@@ -100,7 +102,7 @@ TEST(OleDateTimeSpan, FormatFillsInItsParts)
 {
     const COleDateTimeSpan span(12, 3, 4, 5);
     EXPECT_STREQ(L"12 days, 03:04:05 100% %", span.Format(L"%D days, %H:%M:%S 100%% %").GetString());
-    EXPECT_STREQ(L"12 days", span.Format(101u).GetString());
+    EXPECT_STREQ(L"12 days", span.Format(static_cast<UINT>(IDS_SPAN_FORMAT)).GetString());
     EXPECT_STREQ(L"", span.Format(static_cast<LPCTSTR>(nullptr)).GetString());
 }
 

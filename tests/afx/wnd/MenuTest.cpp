@@ -1,7 +1,8 @@
-#include "MemoryDc.h"
 #include "resource.h"
 
 #include <tests/support/Support.h>
+
+#include <afxwin.h>
 
 namespace
 {
@@ -177,7 +178,7 @@ TEST(Menu, ItemInfoIsReadAndWritten)
 TEST(Menu, MenuInfoIsReadAndWritten)
 {
     Popup menu;
-    CBrush brush(RED);
+    CBrush brush(RGB(255, 0, 0));
     MENUINFO info = {};
     info.cbSize = sizeof(info);
     info.fMask = MIM_BACKGROUND;
