@@ -54,7 +54,7 @@ std::vector<ImportRedirection::Function> DrawingFunctions()
             Counted<20>(&Arc),
             Counted<21>(&ArcTo),
             Counted<22>(&Pie),
-            Counted<23>(&Chord),
+            Counted<23>(&::Chord),
             Counted<24>(&FillRgn),
             Counted<25>(&FrameRgn),
             Counted<26>(&PaintRgn),
