@@ -69,7 +69,9 @@ class Unzip : public testing::Test
     std::string GoodArchive() const
     {
         m_folder.MakeFolder(L"src");
-        ts::WriteBytes(m_folder.File(L"src\\file.txt"), std::string(5000, 'x') + "end");
+        std::string content(5000, 'x');
+        content += "end";
+        ts::WriteBytes(m_folder.File(L"src\\file.txt"), content);
         CQorZip zip;
         std::wstring path = m_folder.File(L"good.zip");
         EXPECT_EQ(0, zip.Start(nullptr, m_folder.File(L"src").c_str(), path.c_str(), QORZIP_OVERWRITE));
