@@ -3,8 +3,8 @@
 /** @file
  * Export macro of the user-interface library.
  *
- * `QORUI_EXPORTS` is defined while QorUI.dll itself is built, `QORUI_STATIC` when its sources are compiled straight
- * into a program; everybody else imports.
+ * `QORUI_EXPORTS` is defined while QorUI.dll itself is built, `QORUI_STATIC` in a program that its core is linked
+ * into; everybody else imports.
  */
 
 #include <afxcmn.h>
