@@ -1,4 +1,3 @@
-#include <QorUI/indicators/ProgressParts.h>
 #include <tests/lists/Lists.h>
 
 #include <algorithm>
@@ -9,37 +8,6 @@ namespace
 
 constexpr COLORREF kOuter = RGB(128, 128, 128);
 constexpr COLORREF kWhite = RGB(255, 255, 255);
-
-TEST(ProgressFraction, IsThePassedPartOfTheRange)
-{
-    EXPECT_DOUBLE_EQ(0.0, QorProgress::Fraction(10, 10, 30));
-    EXPECT_DOUBLE_EQ(0.25, QorProgress::Fraction(15, 10, 30));
-    EXPECT_DOUBLE_EQ(1.0, QorProgress::Fraction(30, 10, 30));
-    EXPECT_DOUBLE_EQ(1.5, QorProgress::Fraction(40, 10, 30));
-}
-
-TEST(ProgressFraction, RangeWithoutWidthIsNothingDone)
-{
-    EXPECT_DOUBLE_EQ(0.0, QorProgress::Fraction(5, 5, 5));
-    EXPECT_DOUBLE_EQ(0.0, QorProgress::Fraction(9, 5, 5));
-}
-
-TEST(ProgressFraction, WholeRangeOfIntegersDoesNotOverflow)
-{
-    EXPECT_DOUBLE_EQ(1.0, QorProgress::Fraction(INT_MAX, INT_MIN, INT_MAX));
-    EXPECT_NEAR(0.5, QorProgress::Fraction(0, INT_MIN, INT_MAX), 1e-6);
-}
-
-TEST(ProgressFraction, FillIsCutOffToWholePixels)
-{
-    const CRect area(2, 2, 98, 18);
-    EXPECT_EQ(CRect(2, 2, 2, 18), QorProgress::Filled(area, 0));
-    EXPECT_EQ(CRect(2, 2, 33, 18), QorProgress::Filled(area, 0.33)); // 31.68
-    EXPECT_EQ(area, QorProgress::Filled(area, 1));
-    EXPECT_EQ(area, QorProgress::Filled(area, 1.5));
-    EXPECT_EQ(CRect(2, 2, 2, 18), QorProgress::Filled(area, -1));
-    EXPECT_EQ(CRect(33, 2, 98, 18), QorProgress::Empty(area, CRect(2, 2, 33, 18)));
-}
 
 HBITMAP WINAPI TallPattern(HINSTANCE /*module*/, LPCWSTR /*name*/)
 {

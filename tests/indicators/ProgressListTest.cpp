@@ -1,37 +1,9 @@
-#include <QorUI/indicators/ProgressParts.h>
 #include <tests/lists/Lists.h>
 
 namespace
 {
 
 constexpr COLORREF kGreen = RGB(6, 177, 36);
-
-TEST(ProgressCell, BarStandsBehindOneToThreeCharacters)
-{
-    for (const wchar_t* text : {L"5|x", L"45|x", L"150|x"}) {
-        EXPECT_TRUE(QorProgress::ParseCell(text).valid) << ts::ToUtf8(text);
-    }
-    for (const wchar_t* text : {L"|x", L"1234|x", L"45", L""}) {
-        EXPECT_FALSE(QorProgress::ParseCell(text).valid) << ts::ToUtf8(text);
-    }
-}
-
-TEST(ProgressCell, HasPercentAndLabel)
-{
-    const QorProgress::Cell cell = QorProgress::ParseCell(L"45|Copying | more");
-    EXPECT_EQ(45, cell.percent);
-    EXPECT_STREQ(L"Copying | more", cell.label);
-    EXPECT_EQ(0, QorProgress::ParseCell(L"x|y").percent);
-    EXPECT_TRUE(QorProgress::ParseCell(L"7|").label.IsEmpty());
-}
-
-TEST(ProgressCell, FillIsLimitedToTheBar)
-{
-    const CRect area(10, 2, 60, 12);
-    EXPECT_EQ(CRect(10, 2, 33, 12), QorProgress::FilledCell(area, 45)); // 22.5 is rounded
-    EXPECT_EQ(area, QorProgress::FilledCell(area, 150));
-    EXPECT_EQ(CRect(10, 2, 10, 12), QorProgress::FilledCell(area, -9));
-}
 
 class CTestList : public CProgressList
 {

@@ -1,7 +1,4 @@
-#include <QorPub/Zip.h>
-#include <QorUI/app/look/Palette.h>
 #include <QorUI/app/look/SysLook.h>
-#include <QorUI/app/module/Messages.h>
 #include <tests/support/Imports.h>
 
 #include <gtest/gtest.h>
@@ -119,34 +116,6 @@ TEST(SysLook, DisabledTextIsGrey)
 {
     EXPECT_EQ(::GetSysColor(COLOR_GRAYTEXT), QorSysLook.TextColor(true));
     EXPECT_EQ(::GetSysColor(COLOR_BTNTEXT), QorSysLook.TextColor(false));
-}
-
-TEST(Look, HasTheFixedColours)
-{
-    EXPECT_EQ(RGB(236, 245, 250), QorLook::kDlgBody);
-    EXPECT_EQ(RGB(255, 255, 255), QorLook::kDlgCaption);
-    EXPECT_EQ(RGB(189, 189, 189), QorLook::kOutline);
-    EXPECT_EQ(RGB(186, 210, 234), QorLook::kFrameBack);
-    EXPECT_EQ(RGB(128, 128, 128), QorLook::kFlatBorder);
-}
-
-TEST(Messages, HaveTheirNumbers)
-{
-    EXPECT_EQ(WM_USER + 300, WM_DRAWPARENTBACK);
-    EXPECT_EQ(WM_USER + 301, WM_QORTRAY_CALLBACK);
-    EXPECT_EQ(WM_USER + 302, WM_QORWAIT_END);
-    EXPECT_EQ(WM_USER + 303, WM_SHEET_APPLY);
-    EXPECT_EQ(WM_USER + 304, WM_QORTRAY_RECREATED);
-    EXPECT_EQ(WM_USER + 305, WM_TABWND_SELCHANGE);
-    EXPECT_EQ(WM_USER + 306, WM_PANEL_NOTIFY);
-    EXPECT_EQ(WM_USER + 400, WM_QORZIP_PROGRESS);
-    EXPECT_EQ(WM_QORZIP, WM_QORZIP_PROGRESS);
-    EXPECT_EQ(0x52C, WM_DRAWPARENTBACK);
-}
-
-TEST(Messages, TaskbarCreatedIsTheRegisteredMessage)
-{
-    EXPECT_EQ(::RegisterWindowMessageW(L"TaskbarCreated"), WM_QOR_TASKBARCREATED);
 }
 
 } // namespace

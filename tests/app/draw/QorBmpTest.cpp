@@ -1,17 +1,10 @@
-#include <QorUI/app/draw/GdiPlusFlat.h>
-#include <QorUI/app/draw/Picture.h>
 #include <QorUI/app/draw/QorBmp.h>
-#include <QorUI/app/look/Shared.h>
+#include <tests/app/Blocks.h>
 #include <tests/app/Drawn.h>
 #include <tests/app/OwnResources.h>
 #include <tests/app/res/resource.h>
 
 #include <gtest/gtest.h>
-
-#include <malloc.h>
-
-#include <functional>
-#include <memory>
 
 namespace
 {
@@ -234,74 +227,6 @@ TEST(QorBmp, FileWithoutPictureIsRefused)
     ExpectNoPictureIn("this is no picture");
 }
 
-std::unique_ptr<Gdiplus::Image> ImageOf(UINT id)
-{
-    const void* image = QorImageFromResource(Program(), MAKEINTRESOURCEW(id), L"PNG");
-    return std::unique_ptr<Gdiplus::Image>(static_cast<Gdiplus::Image*>(const_cast<void*>(image)));
-}
-
-TEST(ImageFromResource, DecodesThePicture)
-{
-    const auto image = ImageOf(IDR_FRAMES);
-    ASSERT_NE(nullptr, image);
-    EXPECT_EQ(80u, image->GetWidth());
-    EXPECT_EQ(10u, image->GetHeight());
-    EXPECT_EQ(Gdiplus::Ok, image->GetLastStatus());
-}
-
-TEST(ImageFromResource, MissingResourceGivesNull)
-{
-    EXPECT_EQ(nullptr, ImageOf(IDB_MISSING));
-    EXPECT_EQ(nullptr, QorImageFromResource(Program(), MAKEINTRESOURCEW(IDR_FRAMES), L"GIF"));
-}
-
-TEST(ImageFromResource, DamagedPictureGivesAnImageWithABadStatus)
-{
-    const auto image = ImageOf(IDR_DAMAGED);
-    ASSERT_NE(nullptr, image);
-    image->GetWidth();
-    EXPECT_NE(Gdiplus::Ok, image->GetLastStatus());
-}
-
-TEST(ImageFromResource, LeavesNothingBehind)
-{
-    EXPECT_TRUE(ts::NoLeak([] {
-        ImageOf(IDR_FRAMES);
-        ImageOf(IDR_DAMAGED);
-    }));
-}
-
-/** Blocks in use in the run-time library's heap. */
-int HeapBlocks()
-{
-    int blocks = 0;
-    _HEAPINFO entry = {};
-    while (::_heapwalk(&entry) == _HEAPOK) {
-        blocks += entry._useflag == _USEDENTRY;
-    }
-    return blocks;
-}
-
-/** Expects fewer blocks to stay behind than one in each second cycle. */
-void ExpectNoBlocksLeft(const std::function<void()>& cycle)
-{
-    constexpr int kCycles = 200;
-    cycle();
-    const int before = HeapBlocks();
-    for (int i = 0; i < kCycles; ++i) {
-        cycle();
-    }
-    EXPECT_LT(HeapBlocks() - before, kCycles / 2);
-}
-
-TEST(ImageFromResource, StreamIsReleased)
-{
-    ExpectNoBlocksLeft([] {
-        ImageOf(IDR_FRAMES);
-        ImageOf(IDR_DAMAGED);
-    });
-}
-
 TEST(QorBmp, StreamIsReleasedOnEveryPath)
 {
     CQorBmp bitmap;
@@ -309,51 +234,6 @@ TEST(QorBmp, StreamIsReleasedOnEveryPath)
         EXPECT_TRUE(bitmap.Load(Program(), IDR_FRAMES, L"PNG"));
         EXPECT_FALSE(bitmap.Load(Program(), IDR_DAMAGED, L"PNG"));
     });
-}
-
-constexpr GUID kNoEncoder = {1, 2, 3, {4, 5, 6, 7, 8, 9, 10, 11}};
-// {557CF406-1A04-11D3-9A73-0000F81EF32E}
-constexpr GUID kPngEncoder = {0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
-// {557CF401-1A04-11D3-9A73-0000F81EF32E}
-constexpr GUID kJpegEncoder = {0x557CF401, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
-
-TEST(ImageEncoder, IsFoundByMimeType)
-{
-    GUID clsid = kNoEncoder;
-    EXPECT_EQ(TRUE, QorGetImageEncoder(L"image/png", clsid));
-    EXPECT_TRUE(clsid == kPngEncoder);
-    EXPECT_EQ(TRUE, QorGetImageEncoder(L"image/jpeg", clsid));
-    EXPECT_TRUE(clsid == kJpegEncoder);
-}
-
-TEST(ImageEncoder, CaseDoesNotMatter)
-{
-    GUID clsid = kNoEncoder;
-    EXPECT_EQ(TRUE, QorGetImageEncoder(L"IMAGE/PNG", clsid));
-    EXPECT_TRUE(clsid == kPngEncoder);
-}
-
-TEST(ImageEncoder, UnknownTypeIsRefusedAndLeavesTheIdAlone)
-{
-    GUID clsid = kNoEncoder;
-    EXPECT_EQ(FALSE, QorGetImageEncoder(L"image/none", clsid));
-    EXPECT_EQ(FALSE, QorGetImageEncoder(L"", clsid));
-    EXPECT_EQ(FALSE, QorGetImageEncoder(nullptr, clsid));
-    EXPECT_TRUE(clsid == kNoEncoder);
-}
-
-TEST(Shared, DialogBrushHasTheBodyColour)
-{
-    LOGBRUSH brush = {};
-    ASSERT_NE(0, ::GetObjectW(QorGetDlgBkBrush(), sizeof(brush), &brush));
-    EXPECT_EQ(UINT{BS_SOLID}, brush.lbStyle);
-    EXPECT_EQ(RGB(236, 245, 250), brush.lbColor);
-}
-
-TEST(Shared, SetAppIconReturnsTrue)
-{
-    EXPECT_EQ(TRUE, QorSetAppIcon(::LoadIconW(nullptr, IDI_APPLICATION), TRUE));
-    EXPECT_EQ(TRUE, QorSetAppIcon(nullptr, 0));
 }
 
 } // namespace
