@@ -1,6 +1,10 @@
 #include "Buttons.h"
 
 #include <QorUI/buttons/BmpBtn.h>
+#include <tests/support/Resources.h>
+#include <tests/support/ui/Control.h>
+#include <tests/support/ui/Drawn.h>
+#include <tests/support/ui/Look.h>
 
 namespace
 {
@@ -23,8 +27,8 @@ class BmpBtn : public testing::Test
 
     void Make()
     {
-        ASSERT_TRUE(m_button.Create(CRect(30, 40, 50, 50), &m_host, 9));
-        ASSERT_TRUE(m_button.SetImage(Program(), IDB_FRAMES, nullptr, CLR_NONE));
+        ASSERT_TRUE(m_button.Create(CRect(30, 40, 50, 50), &m_host, ts::kControlId));
+        ASSERT_TRUE(m_button.SetImage(ts::Program(), IDB_FRAMES, nullptr, CLR_NONE));
     }
 
     ts::AfxHost m_host{300, 120};
@@ -37,15 +41,15 @@ TEST_F(BmpBtn, IsCreatedVisibleOwnerDrawnAndWithoutText)
     EXPECT_EQ(DWORD{WS_CHILD | WS_VISIBLE | BS_OWNERDRAW}, style);
     EXPECT_EQ(9, ::GetDlgCtrlID(m_button));
     EXPECT_EQ(0, m_button.GetWindowTextLength());
-    EXPECT_EQ(CRect(30, 40, 50, 50), PlaceIn(m_host, m_button));
+    EXPECT_EQ(CRect(30, 40, 50, 50), ts::PlaceIn(m_host, m_button));
 }
 
 TEST_F(BmpBtn, SubclassingMakesItOwnerDrawnAndKeepsItsSize)
 {
     CBmpBtn button;
-    ASSERT_TRUE(button.SubclassWindow(AddButton(m_host, L"", CRect(1, 2, 31, 42), 5)));
+    ASSERT_TRUE(button.SubclassWindow(AddButton(m_host, L"", CRect(1, 2, 31, 42), ts::kOtherId)));
     EXPECT_EQ(UINT{BS_OWNERDRAW}, TypeOf(button));
-    EXPECT_EQ(CRect(1, 2, 31, 42), PlaceIn(m_host, button));
+    EXPECT_EQ(CRect(1, 2, 31, 42), ts::PlaceIn(m_host, button));
 }
 
 TEST_F(BmpBtn, StateChoosesTheFrame)
@@ -78,7 +82,7 @@ TEST_F(BmpBtn, IsPressedWhileTheMouseButtonIsDown)
     ts::MouseDown();
     EXPECT_EQ(200, Look(m_button).Count(kBlue));
     ts::MouseUp();
-    EXPECT_EQ(1u, m_host.Log().Count(ts::Command(9, BN_CLICKED)));
+    EXPECT_EQ(1u, m_host.Log().Count(ts::Command(ts::kControlId, BN_CLICKED)));
 }
 
 TEST_F(BmpBtn, HotChangesRepaintWithoutErasing)
@@ -103,33 +107,33 @@ TEST_F(BmpBtn, DraggingOffReleasesIt)
 
 TEST_F(BmpBtn, FailedSetImageDoesNotRepaint)
 {
-    ASSERT_TRUE(m_button.SetImage(Program(), IDB_KEYED, nullptr, kKey));
-    Validate(m_button);
-    EXPECT_FALSE(m_button.SetImage(Program(), IDB_MISSING, nullptr, kRed));
-    EXPECT_EQ(CRect(0, 0, 0, 0), Dirty(m_button));
+    ASSERT_TRUE(m_button.SetImage(ts::Program(), IDB_KEYED, nullptr, kKey));
+    ts::Validate(m_button);
+    EXPECT_FALSE(m_button.SetImage(ts::Program(), IDB_MISSING, nullptr, kRed));
+    EXPECT_EQ(CRect(0, 0, 0, 0), ts::Dirty(m_button));
 }
 
 TEST_F(BmpBtn, LeaveMessageReturnsOneAndEraseMessageTrue)
 {
     EXPECT_EQ(1, m_button.SendMessage(WM_MOUSELEAVE));
-    const ts::Picture picture = Drawn(20, 10, [this](CDC& dc) {
+    const ts::Picture picture = ts::Drawn(20, 10, [this](CDC& dc) {
         const auto handle = reinterpret_cast<WPARAM>(dc.m_hDC);
         EXPECT_EQ(TRUE, m_button.SendMessage(WM_ERASEBKGND, handle));
     });
-    EXPECT_EQ(200, picture.Count(kPaper));
+    EXPECT_EQ(200, picture.Count(ts::kPaper));
 }
 
 TEST_F(BmpBtn, ColourKeyLetsThroughWhatIsBehind)
 {
-    ASSERT_TRUE(m_button.SetImage(Program(), IDB_KEYED, nullptr, kKey));
+    ASSERT_TRUE(m_button.SetImage(ts::Program(), IDB_KEYED, nullptr, kKey));
     const ts::Picture picture = DrawnItem(m_button, 20, 10, ODS_SELECTED);
-    EXPECT_TRUE(ts::AreaIs(picture, CRect(0, 0, 1, 10), kPaper));
+    EXPECT_TRUE(ts::AreaIs(picture, CRect(0, 0, 1, 10), ts::kPaper));
     EXPECT_TRUE(ts::AreaIs(picture, CRect(1, 0, 20, 10), kBlue));
 }
 
 TEST_F(BmpBtn, WithoutColourKeyTheStripIsOpaque)
 {
-    ASSERT_TRUE(m_button.SetImage(Program(), IDB_KEYED, nullptr, CLR_NONE));
+    ASSERT_TRUE(m_button.SetImage(ts::Program(), IDB_KEYED, nullptr, CLR_NONE));
     const ts::Picture picture = DrawnItem(m_button, 20, 10, 0);
     EXPECT_TRUE(ts::AreaIs(picture, CRect(0, 0, 1, 10), kKey));
     EXPECT_TRUE(ts::AreaIs(picture, CRect(1, 0, 20, 10), kRed));
@@ -137,46 +141,46 @@ TEST_F(BmpBtn, WithoutColourKeyTheStripIsOpaque)
 
 TEST_F(BmpBtn, ResourceTypeLoadsACompressedPicture)
 {
-    ASSERT_TRUE(m_button.SetImage(Program(), IDR_FRAMES, L"PNG", CLR_NONE));
+    ASSERT_TRUE(m_button.SetImage(ts::Program(), IDR_FRAMES, L"PNG", CLR_NONE));
     EXPECT_EQ(200, DrawnItem(m_button, 20, 10, ODS_DISABLED).Count(kYellow));
 }
 
 TEST_F(BmpBtn, WithoutResourceTypeOnlyABitmapResourceIsLoaded)
 {
-    EXPECT_FALSE(m_button.SetImage(Program(), IDR_FRAMES, nullptr, CLR_NONE));
+    EXPECT_FALSE(m_button.SetImage(ts::Program(), IDR_FRAMES, nullptr, CLR_NONE));
 }
 
 TEST_F(BmpBtn, FailedSetImageLeavesAnEmptyButton)
 {
-    EXPECT_FALSE(m_button.SetImage(Program(), IDB_MISSING, nullptr, CLR_NONE));
-    EXPECT_EQ(200, DrawnItem(m_button, 20, 10, 0).Count(kPaper));
-    ASSERT_TRUE(m_button.SetImage(Program(), IDB_FRAMES, nullptr, CLR_NONE));
-    EXPECT_FALSE(m_button.SetImage(Program(), IDR_DAMAGED, L"PNG", CLR_NONE));
-    EXPECT_EQ(200, DrawnItem(m_button, 20, 10, 0).Count(kPaper));
+    EXPECT_FALSE(m_button.SetImage(ts::Program(), IDB_MISSING, nullptr, CLR_NONE));
+    EXPECT_EQ(200, DrawnItem(m_button, 20, 10, 0).Count(ts::kPaper));
+    ASSERT_TRUE(m_button.SetImage(ts::Program(), IDB_FRAMES, nullptr, CLR_NONE));
+    EXPECT_FALSE(m_button.SetImage(ts::Program(), IDR_DAMAGED, L"PNG", CLR_NONE));
+    EXPECT_EQ(200, DrawnItem(m_button, 20, 10, 0).Count(ts::kPaper));
 }
 
 TEST_F(BmpBtn, EmptyButtonStillDrawsItsCaption)
 {
-    m_button.SetImage(Program(), IDB_MISSING, nullptr, CLR_NONE);
+    m_button.SetImage(ts::Program(), IDB_MISSING, nullptr, CLR_NONE);
     m_button.SetWindowText(L"X");
     const ts::Picture picture = DrawnItem(m_button, 20, 10, 0);
     EXPECT_NE(0, picture.Count(RGB(255, 255, 255)));
-    EXPECT_EQ(200, picture.Count(RGB(255, 255, 255)) + picture.Count(kPaper));
+    EXPECT_EQ(200, picture.Count(RGB(255, 255, 255)) + picture.Count(ts::kPaper));
 }
 
 TEST_F(BmpBtn, SetImageInvalidatesWithErase)
 {
-    Validate(m_button);
-    ASSERT_TRUE(m_button.SetImage(Program(), IDB_KEYED, nullptr, kKey));
-    EXPECT_EQ(CRect(0, 0, 20, 10), Dirty(m_button));
-    EXPECT_TRUE(IsErasedByUpdate(m_button));
+    ts::Validate(m_button);
+    ASSERT_TRUE(m_button.SetImage(ts::Program(), IDB_KEYED, nullptr, kKey));
+    EXPECT_EQ(CRect(0, 0, 20, 10), ts::Dirty(m_button));
+    EXPECT_TRUE(ts::IsErasedByUpdate(m_button));
 }
 
 TEST_F(BmpBtn, SetImageWorksBeforeTheWindow)
 {
     CBmpBtn button;
-    EXPECT_TRUE(button.SetImage(Program(), IDB_FRAMES, nullptr, CLR_NONE));
-    EXPECT_FALSE(button.SetImage(Program(), IDB_MISSING, nullptr, CLR_NONE));
+    EXPECT_TRUE(button.SetImage(ts::Program(), IDB_FRAMES, nullptr, CLR_NONE));
+    EXPECT_FALSE(button.SetImage(ts::Program(), IDB_MISSING, nullptr, CLR_NONE));
 }
 
 TEST_F(BmpBtn, WiderButtonShowsSlicesOfTheWrongFrames)
@@ -193,7 +197,7 @@ TEST_F(BmpBtn, WiderButtonShowsSlicesOfTheWrongFrames)
 ts::Picture ExpectedCaption(const wchar_t* text, COLORREF colour, CRect rect = CRect(0, 0, 60, 24),
                             const CRect& face = CRect(0, 0, 0, 0))
 {
-    return Drawn(60, 24, [&](CDC& dc) {
+    return ts::Drawn(60, 24, [&](CDC& dc) {
         if (!face.IsRectEmpty()) {
             dc.FillSolidRect(&face, kRed);
         }
@@ -207,7 +211,7 @@ ts::Picture ExpectedCaption(const wchar_t* text, COLORREF colour, CRect rect = C
 
 TEST_F(BmpBtn, CaptionIsCentredInWhiteAndGreyWhenDisabled)
 {
-    m_button.SetImage(Program(), IDB_MISSING, nullptr, CLR_NONE);
+    m_button.SetImage(ts::Program(), IDB_MISSING, nullptr, CLR_NONE);
     m_button.SetWindowText(L"Text");
     EXPECT_TRUE(ts::SamePicture(ExpectedCaption(L"Text", RGB(255, 255, 255)), DrawnItem(m_button, 60, 24, 0)));
     EXPECT_TRUE(ts::SamePicture(ExpectedCaption(L"Text", ::GetSysColor(COLOR_GRAYTEXT)),
@@ -218,7 +222,7 @@ TEST_F(BmpBtn, FaceStandsAtTheOriginAndTheCaptionInTheItem)
 {
     m_button.SetWindowText(L"X");
     const CRect item(30, 12, 50, 22);
-    const ts::Picture picture = Drawn(60, 24, [&](CDC& dc) {
+    const ts::Picture picture = ts::Drawn(60, 24, [&](CDC& dc) {
         DRAWITEMSTRUCT request = DrawRequest(m_button, dc, item, 0);
         m_button.DrawItem(&request);
     });
@@ -229,7 +233,7 @@ TEST_F(BmpBtn, FaceStandsAtTheOriginAndTheCaptionInTheItem)
 TEST_F(BmpBtn, DrawingLeavesTheDeviceContextAsItWas)
 {
     m_button.SetWindowText(L"Text");
-    Drawn(20, 10, [this](CDC& dc) {
+    ts::Drawn(20, 10, [this](CDC& dc) {
         dc.SetTextColor(RGB(9, 9, 9));
         dc.SetBkMode(OPAQUE);
         const HGDIOBJ font = ::GetCurrentObject(dc, OBJ_FONT);
@@ -244,13 +248,13 @@ TEST_F(BmpBtn, DrawingLeavesTheDeviceContextAsItWas)
 TEST_F(BmpBtn, DestroyingTheWindowDeletesTheImage)
 {
     m_button.DestroyWindow();
-    ASSERT_TRUE(m_button.Create(CRect(30, 40, 50, 50), &m_host, 9));
-    EXPECT_EQ(200, DrawnItem(m_button, 20, 10, 0).Count(kPaper));
+    ASSERT_TRUE(m_button.Create(CRect(30, 40, 50, 50), &m_host, ts::kControlId));
+    EXPECT_EQ(200, DrawnItem(m_button, 20, 10, 0).Count(ts::kPaper));
 }
 
 TEST_F(BmpBtn, CloseButtonStripHasFourFramesOf42By17)
 {
-    const ts::Picture strip = ResourcePicture(Library(), 223);
+    const ts::Picture strip = ts::ResourcePicture(ts::Library(), 223);
     EXPECT_EQ(168, strip.Width());
     EXPECT_EQ(17, strip.Height());
 }
@@ -258,11 +262,11 @@ TEST_F(BmpBtn, CloseButtonStripHasFourFramesOf42By17)
 TEST_F(BmpBtn, WithoutWindowItHasAFaceAndNoCaption)
 {
     CBmpBtn none;
-    ASSERT_TRUE(none.SetImage(Program(), IDB_FRAMES, nullptr, CLR_NONE));
+    ASSERT_TRUE(none.SetImage(ts::Program(), IDB_FRAMES, nullptr, CLR_NONE));
     EXPECT_EQ(200, DrawnItem(none, 20, 10, 0).Count(kRed));
     m_button.SetWindowText(L"X");
     m_button.DestroyWindow();
-    ASSERT_TRUE(m_button.SetImage(Program(), IDB_FRAMES, nullptr, CLR_NONE));
+    ASSERT_TRUE(m_button.SetImage(ts::Program(), IDB_FRAMES, nullptr, CLR_NONE));
     EXPECT_EQ(200, DrawnItem(m_button, 20, 10, 0).Count(kRed));
 }
 
@@ -281,9 +285,9 @@ HGDIOBJ WINAPI SelectNothing(HDC, HGDIOBJ)
 TEST_F(BmpBtn, StripThatCannotBeSelectedDrawsNothing)
 {
     for (const COLORREF key : {COLORREF{CLR_NONE}, kKey}) {
-        ASSERT_TRUE(m_button.SetImage(Program(), IDB_FRAMES, nullptr, key));
+        ASSERT_TRUE(m_button.SetImage(ts::Program(), IDB_FRAMES, nullptr, key));
         const ts::ReplacedImport none(L"QorUI.dll", "SelectObject", &SelectNothing);
-        EXPECT_EQ(200, DrawnItem(m_button, 20, 10, 0).Count(kPaper));
+        EXPECT_EQ(200, DrawnItem(m_button, 20, 10, 0).Count(ts::kPaper));
     }
 }
 
@@ -293,7 +297,7 @@ TEST_F(BmpBtn, IsNotCreatedInADestroyedWindow)
     ASSERT_TRUE(gone.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 9, 9), nullptr, 0));
     gone.DestroyWindow();
     CBmpBtn button;
-    EXPECT_FALSE(button.Create(CRect(0, 0, 9, 9), &gone, 5));
+    EXPECT_FALSE(button.Create(CRect(0, 0, 9, 9), &gone, ts::kOtherId));
     EXPECT_EQ(nullptr, button.m_hWnd);
 }
 
@@ -301,9 +305,9 @@ TEST_F(BmpBtn, ShowingPaintingAndClosingLeavesNothingBehind)
 {
     EXPECT_TRUE(ts::NoLeak([this] {
         CBmpBtn button;
-        button.Create(CRect(100, 40, 120, 50), &m_host, 10);
-        button.SetImage(Program(), IDR_FRAMES, L"PNG", kKey);
-        button.SetImage(Program(), IDB_KEYED, nullptr, kKey);
+        button.Create(CRect(100, 40, 120, 50), &m_host, ts::kOtherId);
+        button.SetImage(ts::Program(), IDR_FRAMES, L"PNG", kKey);
+        button.SetImage(ts::Program(), IDB_KEYED, nullptr, kKey);
         button.SetWindowText(L"Text");
         button.RedrawWindow();
         button.DestroyWindow();

@@ -1,41 +1,21 @@
 #pragma once
 
-#include <tests/app/Drawn.h>
 #include <tests/app/res/resource.h>
 #include <tests/support/AfxHost.h>
 #include <tests/support/Imports.h>
 #include <tests/support/Support.h>
+#include <tests/support/ui/Control.h>
+#include <tests/support/ui/Drawn.h>
+#include <tests/support/ui/Look.h>
 
 #include <afxwin.h>
 
 /** @file What the tests of buttons share. */
 
-inline HINSTANCE Program()
-{
-    return ::GetModuleHandleW(nullptr);
-}
-
-inline HMODULE Library()
-{
-    return ::GetModuleHandleW(L"QorUI.dll");
-}
-
 /** A plain system button in a window, to be taken over by a control. */
-inline HWND AddButton(const CWnd& parent, const wchar_t* text, const CRect& rect, int id, DWORD style = BS_PUSHBUTTON)
+inline HWND AddButton(const CWnd& parent, const wchar_t* text, const CRect& rect, UINT id, DWORD style = BS_PUSHBUTTON)
 {
-    const HWND button = ::CreateWindowW(L"BUTTON", text, WS_CHILD | WS_VISIBLE | WS_TABSTOP | style, rect.left,
-                                        rect.top, rect.Width(), rect.Height(), parent.m_hWnd,
-                                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
-    ::SendMessageW(button, WM_SETFONT, reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)), FALSE);
-    return button;
-}
-
-inline CRect PlaceIn(const CWnd& parent, HWND child)
-{
-    CRect rect;
-    ::GetWindowRect(child, &rect);
-    ::MapWindowPoints(nullptr, parent.m_hWnd, reinterpret_cast<POINT*>(&rect), 2);
-    return rect;
+    return ts::AddControl(parent, L"BUTTON", rect, id, style, 0, text);
 }
 
 /** What a control looks like on the screen. */
@@ -49,42 +29,18 @@ inline UINT TypeOf(HWND button)
     return static_cast<UINT>(::GetWindowLongPtrW(button, GWL_STYLE) & BS_TYPEMASK);
 }
 
-/** Makes everything of a control valid, so that what a call makes invalid is seen. */
-inline void Validate(const CWnd& control)
-{
-    ::UpdateWindow(control.m_hWnd);
-    ::ValidateRect(control.m_hWnd, nullptr);
-}
-
-/** What has to be painted; empty when nothing has. */
-inline CRect Dirty(const CWnd& control)
-{
-    CRect dirty(0, 0, 0, 0);
-    ::GetUpdateRect(control.m_hWnd, &dirty, FALSE);
-    return dirty;
-}
-
-/** Paints what is invalid. @return whether the control was asked to erase it first. */
-inline bool IsErasedByUpdate(const CWnd& control)
-{
-    ts::MessageRecorder recorder(control.m_hWnd);
-    recorder.RecordOnly({WM_ERASEBKGND});
-    ::UpdateWindow(control.m_hWnd);
-    return recorder.Has(ts::Msg(WM_ERASEBKGND));
-}
-
 /** Expects the whole control to be repainted without erasing when the mouse comes and goes. */
 inline void ExpectHotChangesToRepaint(const CWnd& control)
 {
     CRect all;
     control.GetClientRect(&all);
-    Validate(control);
+    ts::Validate(control);
     control.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(3, 3));
-    EXPECT_EQ(all, Dirty(control));
-    EXPECT_FALSE(IsErasedByUpdate(control));
+    EXPECT_EQ(all, ts::Dirty(control));
+    EXPECT_FALSE(ts::IsErasedByUpdate(control));
     control.SendMessage(WM_MOUSELEAVE);
-    EXPECT_EQ(all, Dirty(control));
-    EXPECT_FALSE(IsErasedByUpdate(control));
+    EXPECT_EQ(all, ts::Dirty(control));
+    EXPECT_FALSE(ts::IsErasedByUpdate(control));
 }
 
 /** Expects a control to look untouched in a new window when the former one went under the mouse. */
@@ -122,13 +78,13 @@ inline void ExpectColdWithoutLeaveNotification(const CWnd& control, const CRect&
     const ts::Picture cold = Look(control);
     for (int x = 3; x < 5; ++x) {
         g_refusedTracks.clear();
-        Validate(control);
+        ts::Validate(control);
         control.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(x, 3));
         ASSERT_EQ(1u, g_refusedTracks.size());
         EXPECT_EQ(DWORD{TME_LEAVE}, g_refusedTracks[0].dwFlags);
         EXPECT_EQ(1u, g_refusedTracks[0].dwHoverTime);
         EXPECT_EQ(control.m_hWnd, g_refusedTracks[0].hwndTrack);
-        EXPECT_EQ(dirty, Dirty(control));
+        EXPECT_EQ(dirty, ts::Dirty(control));
         EXPECT_TRUE(ts::SamePicture(cold, Look(control)));
     }
 }
@@ -165,7 +121,7 @@ inline DRAWITEMSTRUCT DrawRequest(const CWnd& button, HDC dc, const RECT& rect, 
 template <class Button>
 ts::Picture DrawnItem(Button& button, int cx, int cy, UINT state, UINT action = ODA_DRAWENTIRE)
 {
-    return Drawn(cx, cy, [&](CDC& dc) {
+    return ts::Drawn(cx, cy, [&](CDC& dc) {
         DRAWITEMSTRUCT request = DrawRequest(button, dc, CRect(0, 0, cx, cy), state, action);
         button.DrawItem(&request);
     });

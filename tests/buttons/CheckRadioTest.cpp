@@ -1,6 +1,9 @@
 #include "Buttons.h"
 
 #include <QorUI/buttons/CheckRadio.h>
+#include <tests/support/Resources.h>
+#include <tests/support/ui/Drawn.h>
+#include <tests/support/ui/Look.h>
 
 #include <algorithm>
 #include <cstring>
@@ -15,7 +18,7 @@ const CRect kGlyph(2, 2, 15, 15);
 /** A frame of a glyph strip as it looks on the body; a colour key shows the body. */
 ts::Picture Frame(UINT strip, int frame, COLORREF key = CLR_NONE)
 {
-    const ts::Picture all = ResourcePicture(Library(), strip);
+    const ts::Picture all = ts::ResourcePicture(ts::Library(), strip);
     std::vector<COLORREF> pixels;
     for (int y = 0; y < 13; ++y) {
         for (int x = 0; x < 13; ++x) {
@@ -45,7 +48,7 @@ class Checkable : public testing::Test
     bool IsChecked(const CWnd& control) { return control.SendMessage(BM_GETCHECK) == BST_CHECKED; }
     bool IsChecked() { return IsChecked(m_control); }
 
-    size_t Clicks() { return m_host.Log().Count(ts::Command(11, BN_CLICKED)); }
+    size_t Clicks() { return m_host.Log().Count(ts::Command(ts::kControlId, BN_CLICKED)); }
 
     void ExpectPressToTakeTheFocusOnly()
     {
@@ -77,7 +80,8 @@ class Checkable : public testing::Test
 
     void Take(Control& control)
     {
-        ASSERT_TRUE(control.SubclassWindow(AddButton(m_host, L"Text", CRect(20, 10, 140, 40), 11, Style())));
+        ASSERT_TRUE(
+            control.SubclassWindow(AddButton(m_host, L"Text", CRect(20, 10, 140, 40), ts::kControlId, Style())));
     }
 
     static DWORD Style();
@@ -280,10 +284,10 @@ template <class Control>
 void ExpectEnablingToRepaintEverything(Control& control)
 {
     for (const BOOL enable : {FALSE, TRUE}) {
-        Validate(control);
+        ts::Validate(control);
         control.EnableWindow(enable);
-        EXPECT_EQ(CRect(0, 0, 120, 30), Dirty(control));
-        EXPECT_FALSE(IsErasedByUpdate(control));
+        EXPECT_EQ(CRect(0, 0, 120, 30), ts::Dirty(control));
+        EXPECT_FALSE(ts::IsErasedByUpdate(control));
         EXPECT_EQ(enable, ::IsWindowEnabled(control));
     }
 }
@@ -310,10 +314,10 @@ template <class Control>
 void ExpectStateChangesToRepaintTheMark(Control& control)
 {
     const auto dirtyAfter = [&control](UINT message, WPARAM wParam, LPARAM lParam) {
-        Validate(control);
+        ts::Validate(control);
         control.SendMessage(message, wParam, lParam);
-        const CRect dirty = Dirty(control);
-        EXPECT_FALSE(IsErasedByUpdate(control)) << ts::MessageName(message);
+        const CRect dirty = ts::Dirty(control);
+        EXPECT_FALSE(ts::IsErasedByUpdate(control)) << ts::MessageName(message);
         return dirty;
     };
     const CRect mark(2, 2, 13, 13);
@@ -335,9 +339,9 @@ TEST_F(CheckBox, StateChangesRepaintTheMark)
 TEST_F(RadioBox, StateChangesRepaintTheMark)
 {
     ExpectStateChangesToRepaintTheMark(m_control);
-    Validate(m_control);
+    ts::Validate(m_control);
     m_control.SendMessage(WM_LBUTTONUP); // checked since above
-    EXPECT_EQ(CRect(0, 0, 0, 0), Dirty(m_control)) << "nothing changes";
+    EXPECT_EQ(CRect(0, 0, 0, 0), ts::Dirty(m_control)) << "nothing changes";
 }
 
 template <class Control>
@@ -379,18 +383,18 @@ TEST_F(CheckBox, ClickTogglesAndNotifies)
     ts::Click(m_control);
     EXPECT_TRUE(IsChecked());
     EXPECT_EQ(1u, Clicks());
-    EXPECT_TRUE(
-        m_host.Log().Has(ts::Msg(WM_COMMAND, MAKEWPARAM(11, BN_CLICKED), reinterpret_cast<LPARAM>(m_control.m_hWnd))));
+    EXPECT_TRUE(m_host.Log().Has(
+        ts::Msg(WM_COMMAND, MAKEWPARAM(ts::kControlId, BN_CLICKED), reinterpret_cast<LPARAM>(m_control.m_hWnd))));
 }
 
 TEST_F(CheckBox, NewStateIsThereWhenTheParentIsNotified)
 {
     bool checked = false;
     CRect dirty;
-    Validate(m_control);
+    ts::Validate(m_control);
     m_host.Log().Answer(WM_COMMAND, [&](const ts::Message&) -> std::optional<LRESULT> {
         checked = IsChecked();
-        dirty = Dirty(m_control);
+        dirty = ts::Dirty(m_control);
         return {};
     });
     m_control.SendMessage(WM_LBUTTONUP);
@@ -495,10 +499,13 @@ TEST_F(RadioBox, FocusDrawsItsRectangleAndLosingItRemovesIt)
 TEST_F(CheckBox, SystemsOwnButtonStateIsNotUsed)
 {
     m_control.SendMessage(BM_SETCHECK, BST_CHECKED);
-    EXPECT_EQ(UINT{BST_CHECKED}, ::IsDlgButtonChecked(m_host, 11));
-    ::CheckDlgButton(m_host, 11, BST_UNCHECKED);
+    EXPECT_EQ(UINT{BST_CHECKED}, ::IsDlgButtonChecked(m_host, ts::kControlId));
+    ::CheckDlgButton(m_host, ts::kControlId, BST_UNCHECKED);
     EXPECT_FALSE(IsChecked());
 }
+
+constexpr UINT kRadioIds[] = {21, 22, 23};
+constexpr UINT kNextId = 24;
 
 /** Three radio boxes in a group, between a text and a plain push button that begins the next group. */
 class RadioGroup : public testing::Test
@@ -508,10 +515,11 @@ class RadioGroup : public testing::Test
     {
         for (int i = 0; i < 3; ++i) {
             const DWORD style = BS_AUTORADIOBUTTON | (i == 0 ? WS_GROUP : 0);
-            const HWND button = AddButton(m_host, L"Text", CRect(20, 10 + 30 * i, 140, 35 + 30 * i), 21 + i, style);
+            const HWND button =
+                AddButton(m_host, L"Text", CRect(20, 10 + 30 * i, 140, 35 + 30 * i), kRadioIds[i], style);
             ASSERT_TRUE(m_radio[i].SubclassWindow(button));
         }
-        m_next = AddButton(m_host, L"Next", CRect(150, 10, 200, 35), 24, BS_AUTORADIOBUTTON | WS_GROUP);
+        m_next = AddButton(m_host, L"Next", CRect(150, 10, 200, 35), kNextId, BS_AUTORADIOBUTTON | WS_GROUP);
         ::SendMessageW(m_next, BM_SETCHECK, BST_CHECKED, 0);
         ts::ParkMouse();
     }
@@ -562,7 +570,7 @@ TEST_F(RadioGroup, UncheckingLeavesTheOthersAlone)
 TEST_F(RadioGroup, SetCheckSendsNoNotification)
 {
     m_radio[1].SendMessage(BM_SETCHECK, BST_CHECKED);
-    EXPECT_FALSE(m_host.Log().Has(ts::Command(22, BN_CLICKED)));
+    EXPECT_FALSE(m_host.Log().Has(ts::Command(kRadioIds[1], BN_CLICKED)));
 }
 
 TEST_F(RadioGroup, IndeterminateCountsAsUnchecked)
@@ -576,7 +584,7 @@ TEST_F(RadioGroup, ClickChecksAndNotifies)
     m_radio[0].SendMessage(BM_SETCHECK, BST_CHECKED);
     ts::Click(m_radio[2]);
     ExpectOnly(2);
-    EXPECT_EQ(1u, m_host.Log().Count(ts::Command(23, BN_CLICKED)));
+    EXPECT_EQ(1u, m_host.Log().Count(ts::Command(kRadioIds[2], BN_CLICKED)));
     EXPECT_EQ(m_radio[2].m_hWnd, ::GetFocus());
 }
 
@@ -598,7 +606,7 @@ TEST_F(RadioGroup, ClickOnACheckedOneNotifiesAgainWithoutChange)
     ts::Click(m_radio[2]);
     ts::Click(m_radio[2], 60, 12);
     ExpectOnly(2);
-    EXPECT_EQ(2u, m_host.Log().Count(ts::Command(23, BN_CLICKED)));
+    EXPECT_EQ(2u, m_host.Log().Count(ts::Command(kRadioIds[2], BN_CLICKED)));
 }
 
 TEST_F(RadioGroup, OwnerDrawnButtonsOfTheGroupAreUncheckedToo)
@@ -734,9 +742,9 @@ TEST_F(CheckBox, ShowingPaintingAndClosingLeavesNothingBehind)
 {
     EXPECT_TRUE(ts::NoLeak([this] {
         CCheckBox check;
-        check.SubclassWindow(AddButton(m_host, L"Text", CRect(20, 60, 140, 80), 31, BS_AUTOCHECKBOX));
+        check.SubclassWindow(AddButton(m_host, L"Text", CRect(20, 60, 140, 80), ts::kOtherId, BS_AUTOCHECKBOX));
         CRadioBox radio;
-        radio.SubclassWindow(AddButton(m_host, L"Text", CRect(20, 90, 140, 110), 32, BS_AUTORADIOBUTTON));
+        radio.SubclassWindow(AddButton(m_host, L"Text", CRect(20, 90, 140, 110), ts::kOtherId, BS_AUTORADIOBUTTON));
         check.SetFocus();
         check.SendMessage(BM_SETCHECK, BST_CHECKED);
         radio.SendMessage(BM_SETCHECK, BST_CHECKED);

@@ -1,6 +1,9 @@
 #include "Buttons.h"
 
 #include <QorUI/buttons/CmdBtn.h>
+#include <tests/support/ui/Control.h>
+#include <tests/support/ui/Drawn.h>
+#include <tests/support/ui/Look.h>
 
 namespace
 {
@@ -25,7 +28,7 @@ class CmdBtn : public testing::Test
 
     void Make()
     {
-        ASSERT_TRUE(m_button.Create(IDI_SQUARE, L"What it does", CRect(20, 10, 220, 70), &m_host, 6));
+        ASSERT_TRUE(m_button.Create(IDI_SQUARE, L"What it does", CRect(20, 10, 220, 70), &m_host, ts::kControlId));
         m_button.SetWindowText(L"Title");
         m_button.SetFont(CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT))), FALSE);
     }
@@ -41,7 +44,7 @@ class CmdBtn : public testing::Test
 
     static ts::Picture OnPaper(const std::function<void(CDC&)>& draw)
     {
-        return Drawn(kWidth, kHeight, [&](CDC& dc) {
+        return ts::Drawn(kWidth, kHeight, [&](CDC& dc) {
             CBrush brush(kBrush);
             const HGDIOBJ oldBrush = ::SelectObject(dc, brush);
             const HGDIOBJ oldFont = ::SelectObject(dc, ::GetStockObject(DEFAULT_GUI_FONT));
@@ -61,29 +64,29 @@ TEST_F(CmdBtn, IsCreatedVisibleAndOwnerDrawn)
     const auto style = static_cast<DWORD>(::GetWindowLongPtrW(m_button, GWL_STYLE));
     EXPECT_EQ(DWORD{WS_CHILD | WS_VISIBLE | BS_OWNERDRAW}, style);
     EXPECT_EQ(6, ::GetDlgCtrlID(m_button));
-    EXPECT_EQ(CRect(20, 10, 220, 70), PlaceIn(m_host, m_button));
+    EXPECT_EQ(CRect(20, 10, 220, 70), ts::PlaceIn(m_host, m_button));
 }
 
 TEST_F(CmdBtn, IsCreatedWithoutText)
 {
     CCmdBtn button;
-    ASSERT_TRUE(button.Create(IDI_SQUARE, L"", CRect(0, 0, 9, 9), &m_host, 5));
+    ASSERT_TRUE(button.Create(IDI_SQUARE, L"", CRect(0, 0, 9, 9), &m_host, ts::kOtherId));
     EXPECT_EQ(0, button.GetWindowTextLength());
 }
 
 TEST_F(CmdBtn, CreateWithMissingIconFails)
 {
     CCmdBtn button;
-    EXPECT_FALSE(button.Create(IDI_MISSING, L"", CRect(0, 0, 9, 9), &m_host, 5));
+    EXPECT_FALSE(button.Create(IDI_MISSING, L"", CRect(0, 0, 9, 9), &m_host, ts::kOtherId));
     button.DestroyWindow();
 }
 
 TEST_F(CmdBtn, SubclassingMakesItOwnerDrawnAndKeepsItsSize)
 {
     CCmdBtn button;
-    ASSERT_TRUE(button.SubclassWindow(AddButton(m_host, L"", CRect(1, 2, 101, 52), 5)));
+    ASSERT_TRUE(button.SubclassWindow(AddButton(m_host, L"", CRect(1, 2, 101, 52), ts::kOtherId)));
     EXPECT_EQ(UINT{BS_OWNERDRAW}, TypeOf(button));
-    EXPECT_EQ(CRect(1, 2, 101, 52), PlaceIn(m_host, button));
+    EXPECT_EQ(CRect(1, 2, 101, 52), ts::PlaceIn(m_host, button));
 }
 
 TEST_F(CmdBtn, FillsWithTheBrushOfTheDeviceContext)
@@ -91,7 +94,7 @@ TEST_F(CmdBtn, FillsWithTheBrushOfTheDeviceContext)
     const ts::Picture picture = Draw(0);
     EXPECT_TRUE(ts::AreaIs(picture, CRect(0, 0, kWidth, 5), kBrush));
     EXPECT_TRUE(ts::AreaIs(picture, CRect(0, 40, kWidth, kHeight), kBrush));
-    EXPECT_EQ(0, picture.Count(kPaper));
+    EXPECT_EQ(0, picture.Count(ts::kPaper));
 }
 
 TEST_F(CmdBtn, IconStandsAt6In32By32)
@@ -265,12 +268,12 @@ TEST_F(CmdBtn, NullDescriptionKeepsTheDescription)
 
 TEST_F(CmdBtn, SetBtnInvalidatesWithErase)
 {
-    Validate(m_button);
+    ts::Validate(m_button);
     m_button.SetBtn(0x10000, nullptr);
-    EXPECT_EQ(CRect(0, 0, kWidth, kHeight), Dirty(m_button));
-    EXPECT_TRUE(IsErasedByUpdate(m_button));
+    EXPECT_EQ(CRect(0, 0, kWidth, kHeight), ts::Dirty(m_button));
+    EXPECT_TRUE(ts::IsErasedByUpdate(m_button));
     EXPECT_FALSE(m_button.SetBtn(IDI_MISSING, L"Another"));
-    EXPECT_EQ(CRect(0, 0, 0, 0), Dirty(m_button)) << "refused";
+    EXPECT_EQ(CRect(0, 0, 0, 0), ts::Dirty(m_button)) << "refused";
 }
 
 TEST_F(CmdBtn, SetBtnWorksBeforeTheWindow)
@@ -299,7 +302,7 @@ CRect Changed(const ts::Picture& one, const ts::Picture& other)
 CRect FocusPlace()
 {
     RECT title = {43, 5, kWidth - 5, kHeight - 5};
-    Drawn(1, 1, [&](CDC& dc) {
+    ts::Drawn(1, 1, [&](CDC& dc) {
         const HGDIOBJ old = ::SelectObject(dc, ::GetStockObject(DEFAULT_GUI_FONT));
         ::DrawTextW(dc, L"Title", -1, &title, DT_CALCRECT | DT_SINGLELINE);
         ::SelectObject(dc, old);
@@ -317,9 +320,9 @@ TEST_F(CmdBtn, FocusChangeDrawsTheRectangleAndNothingElse)
     const CRect inside(FocusPlace().left + 1, FocusPlace().top + 1, FocusPlace().right - 1, FocusPlace().bottom - 1);
     for (const UINT also : {0, ODA_SELECT, ODA_DRAWENTIRE}) {
         const ts::Picture picture = Draw(ODS_FOCUS, ODA_FOCUS | also);
-        EXPECT_EQ(FocusPlace(), CRect(picture.BoundsOfOthers(kPaper))) << also;
+        EXPECT_EQ(FocusPlace(), CRect(picture.BoundsOfOthers(ts::kPaper))) << also;
         EXPECT_EQ(0, picture.Count(kBrush)) << also;
-        EXPECT_TRUE(ts::AreaIs(picture, inside, kPaper)) << also;
+        EXPECT_TRUE(ts::AreaIs(picture, inside, ts::kPaper)) << also;
     }
 }
 
@@ -330,7 +333,7 @@ TEST_F(CmdBtn, FocusRectangleDrawnTwiceIsGone)
         m_button.DrawItem(&request);
         m_button.DrawItem(&request);
     });
-    EXPECT_EQ(kWidth * kHeight, picture.Count(kPaper));
+    EXPECT_EQ(kWidth * kHeight, picture.Count(ts::kPaper));
 }
 
 TEST_F(CmdBtn, HotButtonHasARoundedHighlight)
@@ -341,7 +344,7 @@ TEST_F(CmdBtn, HotButtonHasARoundedHighlight)
         EXPECT_TRUE(ts::PixelIs(picture, at.x, at.y, kHotBorder));
     }
     EXPECT_TRUE(ts::AreaIs(picture, CRect(4, 1, kWidth - 4, 5), kHotFill));
-    EXPECT_TRUE(ts::PixelIs(picture, 0, 0, kPaper)) << "round corner";
+    EXPECT_TRUE(ts::PixelIs(picture, 0, 0, ts::kPaper)) << "round corner";
     EXPECT_TRUE(ts::PixelIs(picture, 10, 10, kRed)) << "icon on top";
     EXPECT_EQ(0, picture.Count(kBrush));
 }
@@ -380,13 +383,13 @@ TEST_F(CmdBtn, LeaveMessageReturnsOneAndEraseMessageTrue)
     EXPECT_EQ(1, m_button.SendMessage(WM_MOUSELEAVE));
     const ts::Picture picture = OnPaper(
         [this](CDC& dc) { EXPECT_EQ(TRUE, m_button.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.m_hDC))); });
-    EXPECT_EQ(kWidth * kHeight, picture.Count(kPaper));
+    EXPECT_EQ(kWidth * kHeight, picture.Count(ts::kPaper));
 }
 
 TEST_F(CmdBtn, ClickReachesTheParent)
 {
     ts::Click(m_button);
-    EXPECT_EQ(1u, m_host.Log().Count(ts::Command(6, BN_CLICKED)));
+    EXPECT_EQ(1u, m_host.Log().Count(ts::Command(ts::kControlId, BN_CLICKED)));
 }
 
 TEST_F(CmdBtn, DisabledButtonDrawsItsOwnIconWhenNoGreyOneCanBeMade)
@@ -442,7 +445,7 @@ TEST_F(CmdBtn, ShowingPaintingAndClosingLeavesNothingBehind)
 {
     EXPECT_TRUE(ts::NoLeak([this] {
         CCmdBtn button;
-        button.Create(IDI_SQUARE, L"Text", CRect(20, 75, 220, 115), &m_host, 7);
+        button.Create(IDI_SQUARE, L"Text", CRect(20, 75, 220, 115), &m_host, ts::kOtherId);
         button.EnableWindow(FALSE);
         button.RedrawWindow();
         DrawnItem(button, kWidth, kHeight, ODS_DISABLED);

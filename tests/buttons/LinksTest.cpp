@@ -3,6 +3,9 @@
 #include <QorUI/app/module/Messages.h>
 #include <QorUI/buttons/Links.h>
 #include <tests/support/Imports.h>
+#include <tests/support/Refusals.h>
+#include <tests/support/ui/Control.h>
+#include <tests/support/ui/Drawn.h>
 
 namespace
 {
@@ -17,7 +20,7 @@ constexpr wchar_t kMissing[] = L"C:\\no such folder\\no such file.zzz";
 CSize Extent(const wchar_t* text, HGDIOBJ font)
 {
     CSize size(0, 0);
-    Drawn(1, 1, [&](CDC& dc) {
+    ts::Drawn(1, 1, [&](CDC& dc) {
         const HGDIOBJ old = ::SelectObject(dc, font);
         ::GetTextExtentPoint32W(dc, text, static_cast<int>(wcslen(text)), &size);
         ::SelectObject(dc, old);
@@ -34,7 +37,7 @@ class Links : public testing::Test
     HWND AddStatic(const wchar_t* text, DWORD style)
     {
         const HWND control = ::CreateWindowW(L"STATIC", text, WS_CHILD | style, 20, 10, 150, 40, m_host.m_hWnd,
-                                             reinterpret_cast<HMENU>(15), nullptr, nullptr);
+                                             reinterpret_cast<HMENU>(ts::kControlId), nullptr, nullptr);
         ::SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(Gui()), FALSE);
         return control;
     }
@@ -199,7 +202,7 @@ TEST_F(QorLink, GivenUrlIsKeptBesideTheText)
 TEST_F(QorLink, CreatedLinkWorksToo)
 {
     m_link.SetURL(L"http://example.org");
-    ASSERT_TRUE(m_link.Create(L"Text", WS_CHILD | WS_VISIBLE, CRect(20, 10, 170, 50), &m_host, 15));
+    ASSERT_TRUE(m_link.Create(L"Text", WS_CHILD | WS_VISIBLE, CRect(20, 10, 170, 50), &m_host, ts::kControlId));
     EXPECT_TRUE(m_link.GetStyle() & SS_NOTIFY);
     EXPECT_EQ(L"http://example.org", Tip());
     CString text;
@@ -436,21 +439,21 @@ TEST_F(QorLink, TakesTheSizeOfItsTextAtTheTopLeft)
 {
     Take();
     const CSize text = Extent(L"Text", Gui());
-    EXPECT_EQ(CRect(20, 10, 20 + text.cx, 10 + text.cy), PlaceIn(m_host, m_link));
+    EXPECT_EQ(CRect(20, 10, 20 + text.cx, 10 + text.cy), ts::PlaceIn(m_host, m_link));
 }
 
 TEST_F(QorLink, RightAlignedLinkKeepsItsRightEdge)
 {
     Take(SS_RIGHT);
     const CSize text = Extent(L"Text", Gui());
-    EXPECT_EQ(CRect(170 - text.cx, 10, 170, 10 + text.cy), PlaceIn(m_host, m_link));
+    EXPECT_EQ(CRect(170 - text.cx, 10, 170, 10 + text.cy), ts::PlaceIn(m_host, m_link));
 }
 
 TEST_F(QorLink, CentredLinkShrinksEvenly)
 {
     Take(SS_CENTER | SS_CENTERIMAGE);
     const CSize text = Extent(L"Text", Gui());
-    const CRect place = PlaceIn(m_host, m_link);
+    const CRect place = ts::PlaceIn(m_host, m_link);
     EXPECT_EQ(text, place.Size());
     EXPECT_NEAR(95, (place.left + place.right) / 2.0, 0.5);
     EXPECT_NEAR(30, (place.top + place.bottom) / 2.0, 0.5);
@@ -460,11 +463,11 @@ TEST_F(QorLink, WithoutAutoSizeKeepsItsSize)
 {
     m_link.SetAutoSize(FALSE);
     Take();
-    EXPECT_EQ(CRect(20, 10, 170, 50), PlaceIn(m_host, m_link));
+    EXPECT_EQ(CRect(20, 10, 170, 50), ts::PlaceIn(m_host, m_link));
     m_link.SetURL(L"x");
-    EXPECT_EQ(CRect(20, 10, 170, 50), PlaceIn(m_host, m_link));
+    EXPECT_EQ(CRect(20, 10, 170, 50), ts::PlaceIn(m_host, m_link));
     m_link.SetAutoSize(TRUE);
-    EXPECT_EQ(Extent(L"Text", Gui()), PlaceIn(m_host, m_link).Size());
+    EXPECT_EQ(Extent(L"Text", Gui()), ts::PlaceIn(m_host, m_link).Size());
 }
 
 TEST_F(QorLink, BackgroundIsNotPainted)
@@ -577,7 +580,8 @@ TEST_F(SmoothLink, LineUnderTheTextGoesWithoutATrace)
 TEST_F(SmoothLink, NeighboursOnTheSamePlaceStay)
 {
     CStatic frame;
-    ASSERT_TRUE(frame.Create(L"", WS_CHILD | WS_VISIBLE | SS_BLACKFRAME, CRect(30, 2, 200, 100), &m_host, 16));
+    ASSERT_TRUE(
+        frame.Create(L"", WS_CHILD | WS_VISIBLE | SS_BLACKFRAME, CRect(30, 2, 200, 100), &m_host, ts::kOtherId));
     m_host.RedrawWindow();
     const ts::Picture before = Look(m_host);
     m_link.SetColors(RGB(200, 0, 0), kVisited, CLR_NONE);
@@ -616,7 +620,7 @@ TEST_F(QorLink, WithoutTextNothingIsDrawn)
     Take(SS_LEFT, L"");
     EXPECT_EQ(150 * 40, Look(m_link).Count(kBack));
     m_link.SetAutoSize(TRUE);
-    EXPECT_EQ(CSize(0, 0), PlaceIn(m_host, m_link).Size());
+    EXPECT_EQ(CSize(0, 0), ts::PlaceIn(m_host, m_link).Size());
 }
 
 TEST_F(QorLink, SetUrlFitsTheSizeToATextThatHasChanged)
@@ -624,7 +628,7 @@ TEST_F(QorLink, SetUrlFitsTheSizeToATextThatHasChanged)
     Take();
     m_link.SetWindowText(L"A longer text");
     m_link.SetURL(L"x");
-    EXPECT_EQ(Extent(L"A longer text", Gui()), PlaceIn(m_host, m_link).Size());
+    EXPECT_EQ(Extent(L"A longer text", Gui()), ts::PlaceIn(m_host, m_link).Size());
 }
 
 TEST_F(QorLink, CentringInHeightAloneKeepsTheLeftEdge)
@@ -632,7 +636,7 @@ TEST_F(QorLink, CentringInHeightAloneKeepsTheLeftEdge)
     Take(SS_LEFT | SS_CENTERIMAGE);
     const CSize text = Extent(L"Text", Gui());
     const int top = 10 + (40 - text.cy) / 2;
-    EXPECT_EQ(CRect(20, top, 20 + text.cx, top + text.cy), PlaceIn(m_host, m_link));
+    EXPECT_EQ(CRect(20, top, 20 + text.cx, top + text.cy), ts::PlaceIn(m_host, m_link));
 }
 
 TEST_F(QorLink, PlaceInTheZOrderIsKept)
@@ -784,25 +788,20 @@ TEST_F(QorLink, WithoutAFontOfItsOwnTheControlsIsUsed)
     const ts::ReplacedImport none(L"afx.dll", "CreateFontIndirectW", &NoFont);
     Take();
     const CSize size = Extent(L"Text", Gui());
-    EXPECT_EQ(size, PlaceIn(m_host, m_link).Size());
+    EXPECT_EQ(size, ts::PlaceIn(m_host, m_link).Size());
     const ts::Picture expected = TextPicture(size, L"Text", Gui(), kLink, kBack, DT_WORDBREAK | DT_EDITCONTROL);
     EXPECT_TRUE(ts::SamePicture(expected, Look(m_link)));
-}
-
-HDC WINAPI NoDc(HWND)
-{
-    return nullptr;
 }
 
 TEST_F(QorLink, WithoutADeviceContextTheSizeStays)
 {
     Take();
-    const CRect place = PlaceIn(m_host, m_link);
-    const ts::ReplacedImport ours(L"QorUI.dll", "GetDC", &NoDc);
-    const ts::ReplacedImport frameworks(L"afx.dll", "GetDC", &NoDc);
+    const CRect place = ts::PlaceIn(m_host, m_link);
+    const ts::ReplacedImport ours(L"QorUI.dll", "GetDC", &ts::NoDc);
+    const ts::ReplacedImport frameworks(L"afx.dll", "GetDC", &ts::NoDc);
     m_link.SetWindowText(L"A longer text");
     m_link.SetURL(L"x");
-    EXPECT_EQ(place, PlaceIn(m_host, m_link));
+    EXPECT_EQ(place, ts::PlaceIn(m_host, m_link));
 }
 
 TEST_F(QorLink, HugeTextAndUrlAreNoHarm)
@@ -810,7 +809,7 @@ TEST_F(QorLink, HugeTextAndUrlAreNoHarm)
     m_link.SetURL(CString(L'u', 100000));
     const CString huge(L'm', 3000);
     Take(SS_LEFT, huge);
-    EXPECT_EQ(Extent(huge, Gui()).cx, PlaceIn(m_host, m_link).Width());
+    EXPECT_EQ(Extent(huge, Gui()).cx, ts::PlaceIn(m_host, m_link).Width());
     Look(m_link);
     m_link.SetURL(L"");
     EXPECT_EQ(L"", Tip());
@@ -912,7 +911,7 @@ TEST_F(TextLink, MessageHasItsNumber)
     Take(L"Text");
     m_host.Log().Clear();
     m_link.RedrawWindow();
-    EXPECT_EQ(1u, m_host.Log().Count(ts::Msg(0x52C)));
+    EXPECT_EQ(1u, m_host.Log().Count(ts::Msg(WM_DRAWPARENTBACK)));
 }
 
 TEST_F(TextLink, ShowsTheHand)
@@ -944,8 +943,8 @@ TEST_F(TextLink, ExtentWithoutWindowIsZeroAndFalse)
 TEST_F(TextLink, ExtentWithoutADeviceContextIsZeroAndFalse)
 {
     Take(L"Some text");
-    const ts::ReplacedImport ours(L"QorUI.dll", "GetDC", &NoDc);
-    const ts::ReplacedImport frameworks(L"afx.dll", "GetDC", &NoDc);
+    const ts::ReplacedImport ours(L"QorUI.dll", "GetDC", &ts::NoDc);
+    const ts::ReplacedImport frameworks(L"afx.dll", "GetDC", &ts::NoDc);
     CSize size(7, 7);
     EXPECT_EQ(FALSE, m_link.GetExtent(size));
     EXPECT_EQ(CSize(0, 0), size);
@@ -955,7 +954,7 @@ TEST_F(TextLink, ClickReachesTheParent)
 {
     Take(L"Text");
     ts::Click(m_link);
-    EXPECT_EQ(1u, m_host.Log().Count(ts::Command(15, STN_CLICKED)));
+    EXPECT_EQ(1u, m_host.Log().Count(ts::Command(ts::kControlId, STN_CLICKED)));
 }
 
 TEST_F(TextLink, WithoutAParentNobodyIsAsked)

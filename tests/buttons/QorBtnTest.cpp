@@ -1,6 +1,9 @@
 #include "Buttons.h"
 
 #include <QorUI/buttons/QorBtn.h>
+#include <tests/support/Resources.h>
+#include <tests/support/ui/Control.h>
+#include <tests/support/ui/Drawn.h>
 
 namespace
 {
@@ -31,7 +34,10 @@ class QorBtn : public testing::Test
         ts::ParkMouse();
     }
 
-    void Take() { ASSERT_TRUE(m_button.SubclassWindow(AddButton(m_host, L"", CRect(20, 30, 100, 60), 7))); }
+    void Take()
+    {
+        ASSERT_TRUE(m_button.SubclassWindow(AddButton(m_host, L"", CRect(20, 30, 100, 60), ts::kControlId)));
+    }
 
     /** The outer border that the button has on the screen. */
     COLORREF Border() { return Look(m_button).At(40, 0); }
@@ -43,28 +49,28 @@ class QorBtn : public testing::Test
 TEST_F(QorBtn, SubclassingMakesItOwnerDrawnAnd21PixelsHigh)
 {
     EXPECT_EQ(UINT{BS_OWNERDRAW}, TypeOf(m_button));
-    EXPECT_EQ(CRect(20, 30, 100, 51), PlaceIn(m_host, m_button));
+    EXPECT_EQ(CRect(20, 30, 100, 51), ts::PlaceIn(m_host, m_button));
 }
 
 TEST_F(QorBtn, CreatedButtonIsOwnerDrawnToo)
 {
     CQorBtn button;
-    ASSERT_TRUE(button.Create(L"Text", WS_CHILD | WS_VISIBLE, CRect(120, 30, 200, 51), &m_host, 8));
+    ASSERT_TRUE(button.Create(L"Text", WS_CHILD | WS_VISIBLE, CRect(120, 30, 200, 51), &m_host, ts::kOtherId));
     EXPECT_EQ(UINT{BS_OWNERDRAW}, TypeOf(button));
-    EXPECT_EQ(CRect(120, 30, 200, 51), PlaceIn(m_host, button));
+    EXPECT_EQ(CRect(120, 30, 200, 51), ts::PlaceIn(m_host, button));
 }
 
 TEST_F(QorBtn, CreatedButtonIs21PixelsHighToo)
 {
     CQorBtn button;
-    ASSERT_TRUE(button.Create(L"Text", WS_CHILD | WS_VISIBLE, CRect(120, 30, 200, 70), &m_host, 8));
-    EXPECT_EQ(CRect(120, 30, 200, 51), PlaceIn(m_host, button));
+    ASSERT_TRUE(button.Create(L"Text", WS_CHILD | WS_VISIBLE, CRect(120, 30, 200, 70), &m_host, ts::kOtherId));
+    EXPECT_EQ(CRect(120, 30, 200, 51), ts::PlaceIn(m_host, button));
 }
 
 TEST_F(QorBtn, StaysBehindTheWindowsThatWereBeforeIt)
 {
-    const HWND first = AddButton(m_host, L"", CRect(0, 0, 9, 9), 8);
-    const HWND second = AddButton(m_host, L"", CRect(0, 0, 9, 9), 9);
+    const HWND first = AddButton(m_host, L"", CRect(0, 0, 9, 9), ts::kOtherId);
+    const HWND second = AddButton(m_host, L"", CRect(0, 0, 9, 9), ts::kOtherId);
     CQorBtn button;
     ASSERT_TRUE(button.SubclassWindow(second));
     EXPECT_EQ(second, ::GetWindow(first, GW_HWNDNEXT));
@@ -81,9 +87,9 @@ class ButtonsDlg : public CDialog
     BOOL OnInitDialog() override
     {
         CDialog::OnInitDialog();
-        m_template = PlaceIn(*this, ::GetDlgItem(m_hWnd, IDC_FIRST));
+        m_template = ts::PlaceIn(*this, ::GetDlgItem(m_hWnd, IDC_FIRST));
         m_button.SubclassDlgItem(IDC_FIRST, this);
-        m_skinned = PlaceIn(*this, m_button);
+        m_skinned = ts::PlaceIn(*this, m_button);
         EndDialog(IDOK);
         return TRUE;
     }
@@ -120,16 +126,16 @@ TEST_F(QorBtn, DefaultButtonStyleRestoresALostOwnerDrawnOne)
 
 TEST_F(QorBtn, IsNotErased)
 {
-    const ts::Picture picture = Drawn(80, 21, [this](CDC& dc) {
+    const ts::Picture picture = ts::Drawn(80, 21, [this](CDC& dc) {
         const auto handle = reinterpret_cast<WPARAM>(dc.m_hDC);
         EXPECT_EQ(TRUE, m_button.SendMessage(WM_ERASEBKGND, handle));
     });
-    EXPECT_EQ(80 * 21, picture.Count(kPaper));
+    EXPECT_EQ(80 * 21, picture.Count(ts::kPaper));
 }
 
 ts::Picture DrawnBack(CQorBtn& button, UINT row, BOOL focus = FALSE)
 {
-    return Drawn(60, 25, [&](CDC& dc) {
+    return ts::Drawn(60, 25, [&](CDC& dc) {
         CRect rect(2, 3, 58, 24);
         button.DrawBack(&dc, rect, row, focus);
     });
@@ -152,7 +158,7 @@ TEST_F(QorBtn, FaceStartsJustUnderTheTopBorder)
 {
     for (UINT row = 0; row < 4; ++row) {
         const ts::Picture picture = DrawnBack(m_button, row);
-        const ts::Picture face = ResourcePicture(Library(), kRows[row].face);
+        const ts::Picture face = ts::ResourcePicture(ts::Library(), kRows[row].face);
         ASSERT_EQ(6, face.Width());
         ASSERT_EQ(17, face.Height());
         for (int y = 5; y < 22; ++y) {
@@ -167,9 +173,9 @@ TEST_F(QorBtn, CornersAreRound)
 {
     const ts::Picture picture = DrawnBack(m_button, 0);
     for (const CPoint at : {CPoint(2, 3), CPoint(57, 3), CPoint(2, 23), CPoint(57, 23)}) {
-        EXPECT_TRUE(ts::PixelIs(picture, at.x, at.y, kPaper));
+        EXPECT_TRUE(ts::PixelIs(picture, at.x, at.y, ts::kPaper));
     }
-    EXPECT_EQ(CRect(2, 3, 58, 24), CRect(picture.BoundsOfOthers(kPaper)));
+    EXPECT_EQ(CRect(2, 3, 58, 24), CRect(picture.BoundsOfOthers(ts::kPaper)));
 }
 
 TEST_F(QorBtn, FocusRectangleLiesTwoPixelsInside)
@@ -191,7 +197,7 @@ TEST_F(QorBtn, FocusRectangleLiesTwoPixelsInside)
 
 TEST_F(QorBtn, DrawBackLeavesTheRoomInside)
 {
-    Drawn(60, 25, [this](CDC& dc) {
+    ts::Drawn(60, 25, [this](CDC& dc) {
         CRect rect(2, 3, 58, 24);
         m_button.DrawBack(&dc, rect, 0, FALSE);
         EXPECT_EQ(CRect(3, 4, 57, 23), rect);
@@ -203,13 +209,13 @@ TEST_F(QorBtn, DrawBackLeavesTheRoomInside)
 
 TEST_F(QorBtn, RowOutOfRangeDrawsNothing)
 {
-    EXPECT_EQ(60 * 25, DrawnBack(m_button, 4).Count(kPaper));
-    EXPECT_EQ(60 * 25, DrawnBack(m_button, 0xFFFFFFFF).Count(kPaper));
+    EXPECT_EQ(60 * 25, DrawnBack(m_button, 4).Count(ts::kPaper));
+    EXPECT_EQ(60 * 25, DrawnBack(m_button, 0xFFFFFFFF).Count(ts::kPaper));
 }
 
 TEST_F(QorBtn, DrawBackLeavesTheDeviceContextAsItWas)
 {
-    Drawn(60, 25, [this](CDC& dc) {
+    ts::Drawn(60, 25, [this](CDC& dc) {
         dc.SetBrushOrg(5, 6);
         const HGDIOBJ pen = ::GetCurrentObject(dc, OBJ_PEN);
         const HGDIOBJ brush = ::GetCurrentObject(dc, OBJ_BRUSH);
@@ -232,12 +238,12 @@ void DrawExpectedText(CDC& dc, CRect rect, const wchar_t* text, COLORREF colour,
 
 ts::Picture ExpectedText(const wchar_t* text, COLORREF colour, HGDIOBJ font)
 {
-    return Drawn(80, 21, [&](CDC& dc) { DrawExpectedText(dc, CRect(0, 0, 80, 21), text, colour, font); });
+    return ts::Drawn(80, 21, [&](CDC& dc) { DrawExpectedText(dc, CRect(0, 0, 80, 21), text, colour, font); });
 }
 
 ts::Picture DrawnText(CQorBtn& button, BOOL disabled)
 {
-    return Drawn(80, 21, [&](CDC& dc) {
+    return ts::Drawn(80, 21, [&](CDC& dc) {
         CRect rect(0, 0, 80, 21);
         button.DrawText(&dc, rect, disabled);
     });
@@ -260,7 +266,7 @@ TEST_F(QorBtn, TextIsCentredInTheButtonsFontAndColour)
 TEST_F(QorBtn, DrawTextLeavesTheDeviceContextAsItWas)
 {
     m_button.SetWindowText(L"Text");
-    Drawn(80, 21, [this](CDC& dc) {
+    ts::Drawn(80, 21, [this](CDC& dc) {
         dc.SetTextColor(RGB(9, 9, 9));
         dc.SetBkMode(OPAQUE);
         const HGDIOBJ font = ::GetCurrentObject(dc, OBJ_FONT);
@@ -285,7 +291,7 @@ void ExpectItemWithText(CQorBtn& button, const wchar_t* text, UINT state, UINT r
 {
     const HGDIOBJ font = reinterpret_cast<HGDIOBJ>(button.SendMessage(WM_GETFONT));
     button.SetWindowText(text);
-    const ts::Picture expected = Drawn(80, 21, [&](CDC& dc) {
+    const ts::Picture expected = ts::Drawn(80, 21, [&](CDC& dc) {
         CRect rect(0, 0, 80, 21);
         button.DrawBack(&dc, rect, row, (state & ODS_FOCUS) != 0);
         DrawExpectedText(dc, rect, text, colour, font);
@@ -325,7 +331,7 @@ TEST_F(QorBtn, IsDrawnOnTheScreen)
     const ts::Picture picture = Look(m_button);
     EXPECT_TRUE(ts::PixelIs(picture, 40, 0, kNormal));
     EXPECT_TRUE(ts::PixelIs(picture, 40, 1, kRows[0].inner));
-    EXPECT_TRUE(ts::PixelIs(picture, 40, 10, ResourcePicture(Library(), 202).At(3, 8)));
+    EXPECT_TRUE(ts::PixelIs(picture, 40, 10, ts::ResourcePicture(ts::Library(), 202).At(3, 8)));
 }
 
 TEST_F(QorBtn, IsHotWhileTheMouseIsOverIt)
@@ -395,14 +401,14 @@ TEST_F(QorBtn, DisabledHotButtonLooksDisabled)
 TEST_F(QorBtn, ClickReachesTheParent)
 {
     ts::Click(m_button);
-    EXPECT_EQ(1u, m_host.Log().Count(ts::Command(7, BN_CLICKED)));
+    EXPECT_EQ(1u, m_host.Log().Count(ts::Command(ts::kControlId, BN_CLICKED)));
 }
 
 TEST_F(QorBtn, SpaceClicksTheFocusedButton)
 {
     m_button.SetFocus();
     ts::Key(VK_SPACE);
-    EXPECT_EQ(1u, m_host.Log().Count(ts::Command(7, BN_CLICKED)));
+    EXPECT_EQ(1u, m_host.Log().Count(ts::Command(ts::kControlId, BN_CLICKED)));
 }
 
 TEST_F(QorBtn, WithoutWindowItHasAFaceAndNoText)
@@ -427,7 +433,7 @@ TEST_F(QorBtn, ShowingPaintingAndClosingLeavesNothingBehind)
 {
     EXPECT_TRUE(ts::NoLeak([this] {
         CQorBtn button;
-        button.SubclassWindow(AddButton(m_host, L"Text", CRect(150, 30, 230, 60), 8));
+        button.SubclassWindow(AddButton(m_host, L"Text", CRect(150, 30, 230, 60), ts::kOtherId));
         ts::MoveMouse(button);
         button.RedrawWindow();
         DrawnItem(button, 80, 21, ODS_DISABLED | ODS_FOCUS);

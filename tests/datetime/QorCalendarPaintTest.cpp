@@ -1,6 +1,6 @@
 #include "Calendar.h"
 
-#include <tests/app/Drawn.h>
+#include <tests/support/ui/Drawn.h>
 
 #include <set>
 #include <stdexcept>
@@ -80,7 +80,7 @@ class CalendarPaint : public CalendarFixture
     /** What a day looks like with a number in a place of this size, not selected. */
     ts::Picture NumberPicture(const CSize& size, const CString& number)
     {
-        return Drawn(size.cx, size.cy, [&](CDC& dc) {
+        return ts::Drawn(size.cx, size.cy, [&](CDC& dc) {
             CRect rect(CPoint(0, 0), size);
             dc.FillSolidRect(rect, kBack);
             dc.SetBkMode(TRANSPARENT);
@@ -123,7 +123,7 @@ TEST_F(CalendarPaint, HeaderIsARaisedBarInButtonColours)
 TEST_F(CalendarPaint, HeaderTextIsCentredLeftOfTheRightArrow)
 {
     Make();
-    const ts::Picture expected = Drawn(Width(), m_calendar.m_nHdrHeight, [this](CDC& dc) {
+    const ts::Picture expected = ts::Drawn(Width(), m_calendar.m_nHdrHeight, [this](CDC& dc) {
         dc.FillSolidRect(0, 0, Width(), m_calendar.m_nHdrHeight, GetSysColor(COLOR_BTNFACE));
         dc.SetTextColor(GetSysColor(COLOR_BTNTEXT));
         dc.SetBkMode(TRANSPARENT);
@@ -190,7 +190,7 @@ TEST_F(CalendarPaint, InitialsStandOverTheirColumns)
     for (int column = 0; column < 7; ++column) {
         const int x = Left() + column * (m_calendar.m_nDayWidth + 5);
         const CRect place(x, y + 1, x + m_calendar.m_nDayWidth, y + m_calendar.m_nDowHeight + 2);
-        const ts::Picture expected = Drawn(place.Width(), place.Height(), [&](CDC& dc) {
+        const ts::Picture expected = ts::Drawn(place.Width(), place.Height(), [&](CDC& dc) {
             dc.FillSolidRect(0, 0, place.Width(), place.Height(), kBack);
             dc.SetBkMode(TRANSPARENT);
             dc.SetTextColor(GetSysColor(COLOR_BTNTEXT));
@@ -217,7 +217,7 @@ TEST_F(CalendarPaint, RuleStandsUnderTheInitials)
 TEST_F(CalendarPaint, PartsTellTheirHeights)
 {
     Make();
-    Drawn(200, 200, [this](CDC& dc) {
+    ts::Drawn(200, 200, [this](CDC& dc) {
         EXPECT_EQ(m_calendar.m_nHdrHeight, m_calendar.DrawHeader(dc, 0, 0, 1, 1, 3, 2009));
         EXPECT_EQ(m_calendar.m_nDowHeight + 4, m_calendar.DrawDaysOfWeek(dc, 20, 0));
         EXPECT_EQ(6 * (m_calendar.m_nDayHeight + 2) + 5, m_calendar.DrawDays(dc, 40, 0, 1, 1, 3, 2009));
@@ -243,7 +243,7 @@ TEST_F(CalendarPaint, NumberOfADayThatIsNoDateIsMinusOne)
     constexpr int monthOfNoDate = -1;
     const CRect last(Area(6, 5) - CPoint(0, DaysTop()));
     const CRect place(last.left + 3, last.top + 1, last.right - 2, last.bottom - 1);
-    const ts::Picture picture = Drawn(Width(), last.bottom, [&](CDC& dc) {
+    const ts::Picture picture = ts::Drawn(Width(), last.bottom, [&](CDC& dc) {
         dc.FillSolidRect(0, 0, Width(), last.bottom, kBack);
         m_calendar.DrawDays(dc, 0, 0, 1, 1, monthOfNoDate, 2009);
     });
@@ -398,14 +398,14 @@ TEST_F(CalendarPaint, OnlySevenRowsHaveALineUnderTheDays)
         CTestCalendar calendar;
         calendar.SetFirstDayOfWeek(1);
         ASSERT_TRUE(calendar.Create(&m_host, kCalendarId, nullptr, nullptr, rows, 1));
-        const ts::Picture picture = Drawn(300, 300, [&](CDC& dc) { calendar.DrawDays(dc, 10, 0, 1, 1, 2, 2009); });
+        const ts::Picture picture = ts::Drawn(300, 300, [&](CDC& dc) { calendar.DrawDays(dc, 10, 0, 1, 1, 2, 2009); });
         const int y = 10 + 6 * (calendar.m_nDayHeight + 2);
         const int width = 7 * calendar.m_nDayWidth + 30;
         const int left = calendar.m_nCellWidth / 2 - width / 2;
-        const COLORREF colour = rows == 7 ? GetSysColor(COLOR_BTNSHADOW) : kPaper;
+        const COLORREF colour = rows == 7 ? GetSysColor(COLOR_BTNSHADOW) : ts::kPaper;
         EXPECT_TRUE(ts::AreaIs(picture, CRect(left, y, left + width, y + 1), colour)) << rows;
-        EXPECT_TRUE(ts::PixelIs(picture, left - 1, y, kPaper)) << rows;
-        EXPECT_TRUE(ts::PixelIs(picture, left + width, y, kPaper)) << rows;
+        EXPECT_TRUE(ts::PixelIs(picture, left - 1, y, ts::kPaper)) << rows;
+        EXPECT_TRUE(ts::PixelIs(picture, left + width, y, ts::kPaper)) << rows;
     }
 }
 
@@ -459,8 +459,8 @@ TEST_F(CalendarPaint, ErasingDoesNothing)
     Make();
     const ts::Picture picture = ts::DrawTo(
         20, 20, [this](HDC dc) { EXPECT_EQ(0, m_calendar.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc))); },
-        kPaper);
-    EXPECT_EQ(400, picture.Count(kPaper));
+        ts::kPaper);
+    EXPECT_EQ(400, picture.Count(ts::kPaper));
 }
 
 TEST_F(CalendarPaint, PictureReachesTheScreenInOneStep)

@@ -1,6 +1,7 @@
 #include "Calendar.h"
 
 #include <tests/support/NoWindowClasses.h>
+#include <tests/support/Refusals.h>
 
 #include <clocale>
 #include <map>
@@ -22,16 +23,6 @@ int g_fontsLeft = 0;
 HFONT WINAPI FewFonts(const LOGFONTW* font)
 {
     return g_fontsLeft-- > 0 ? ::CreateFontIndirectW(font) : nullptr;
-}
-
-HWND WINAPI NoWindow(DWORD, LPCWSTR, LPCWSTR, DWORD, int, int, int, int, HWND, HMENU, HINSTANCE, LPVOID)
-{
-    return nullptr;
-}
-
-HDC WINAPI NoDc(HWND)
-{
-    return nullptr;
 }
 
 void* NoMemory(size_t, const std::nothrow_t&) noexcept
@@ -159,7 +150,7 @@ TEST_F(Calendar, CreateFailsWithoutItsFontsOrItsWindow)
         EXPECT_EQ(0, m_calendar.m_nRows + m_calendar.m_nCols) << fonts;
     }
     {
-        const ts::ReplacedImport none(L"afx.dll", "CreateWindowExW", &NoWindow);
+        const ts::ReplacedImport none(L"afx.dll", "CreateWindowExW", &ts::NoWindow);
         EXPECT_FALSE(create());
         EXPECT_EQ(nullptr, m_calendar.m_pCells.get());
         EXPECT_EQ(0, m_calendar.m_nRows + m_calendar.m_nCols);
@@ -185,7 +176,7 @@ TEST_F(Calendar, CreateFailsWithoutADeviceContextOrAWindowClass)
 {
     const auto create = [this] { return m_calendar.Create(&m_host, kCalendarId, nullptr, nullptr, 2, 3); };
     {
-        const ts::ReplacedImport none(L"afx.dll", "GetDC", &NoDc);
+        const ts::ReplacedImport none(L"afx.dll", "GetDC", &ts::NoDc);
         EXPECT_FALSE(create());
     }
     EXPECT_EQ(nullptr, m_calendar.m_hWnd);

@@ -1,10 +1,11 @@
 #include <QorUI/datetime/ClockHands.h>
 #include <QorUI/datetime/QorClock.h>
-#include <tests/app/Drawn.h>
 #include <tests/support/AfxHost.h>
 #include <tests/support/ImportRedirection.h>
 #include <tests/support/Imports.h>
 #include <tests/support/NoWindowClasses.h>
+#include <tests/support/Refusals.h>
+#include <tests/support/ui/Drawn.h>
 
 #include <cmath>
 
@@ -36,16 +37,6 @@ UINT_PTR WINAPI RefuseTimer(HWND, UINT_PTR, UINT period, TIMERPROC)
     return 0;
 }
 
-HDC WINAPI NoMemoryDc(HDC)
-{
-    return nullptr;
-}
-
-int WINAPI NothingKnown(HANDLE, int, LPVOID)
-{
-    return 0;
-}
-
 int Nearest(double value)
 {
     return static_cast<int>(std::floor(value + 0.5));
@@ -58,7 +49,7 @@ ts::Picture FaceOf(UINT dialId, CPoint center, int radius, UINT hour, UINT minut
     EXPECT_TRUE(dial.LoadBitmap(dialId));
     BITMAP bitmap = {};
     dial.GetBitmap(&bitmap);
-    return Drawn(bitmap.bmWidth, bitmap.bmHeight, [&](CDC& dc) {
+    return ts::Drawn(bitmap.bmWidth, bitmap.bmHeight, [&](CDC& dc) {
         CDC memory;
         memory.CreateCompatibleDC(&dc);
         CBitmap* old = memory.SelectObject(&dial);
@@ -204,7 +195,7 @@ TEST_F(Clock, CreateRefusesAMissingBitmapOrParent)
 TEST_F(Clock, CreateRefusesABitmapThatCannotBeRead)
 {
     {
-        const ts::ImportRedirection failing({ts::ImportRedirection::Of(&::GetObjectW, &NothingKnown)});
+        const ts::ImportRedirection failing({ts::ImportRedirection::Of(&::GetObjectW, &ts::NothingKnown)});
         EXPECT_FALSE(m_clock.Create(kDial, &m_host, kClockId, kBack));
     }
     EXPECT_EQ(nullptr, m_clock.m_hWnd);
@@ -258,8 +249,8 @@ TEST_F(Clock, FormerTimeIsErased)
 TEST_F(Clock, ErasingDrawsTheDial)
 {
     Make();
-    const ts::Picture dial = ResourcePicture(GetModuleHandleW(nullptr), kDial);
-    const ts::Picture erased = Drawn(161, 161, [this](CDC& dc) {
+    const ts::Picture dial = ts::ResourcePicture(GetModuleHandleW(nullptr), kDial);
+    const ts::Picture erased = ts::Drawn(161, 161, [this](CDC& dc) {
         EXPECT_EQ(1, m_clock.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.m_hDC)));
     });
     EXPECT_TRUE(ts::SamePicture(dial, erased));
@@ -269,11 +260,11 @@ TEST_F(Clock, ErasingDrawsTheDial)
 TEST_F(Clock, ErasingWithoutAMemoryDcDrawsNothingAndIsDone)
 {
     Make();
-    const ts::ReplacedImport none(L"QorUI.dll", "CreateCompatibleDC", &NoMemoryDc);
+    const ts::ReplacedImport none(L"QorUI.dll", "CreateCompatibleDC", &ts::NoMemoryDc);
     const ts::Picture erased = ts::DrawTo(
         161, 161, [this](HDC dc) { EXPECT_EQ(1, m_clock.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc))); },
-        kPaper);
-    EXPECT_EQ(161 * 161, erased.Count(kPaper));
+        ts::kPaper);
+    EXPECT_EQ(161 * 161, erased.Count(ts::kPaper));
 }
 
 TEST_F(Clock, PaintsTheHandsAndTheHalfOfTheDay)

@@ -2,26 +2,12 @@
 
 #include <QorUI/datetime/SelMonthWnd.h>
 #include <tests/support/NoWindowClasses.h>
+#include <tests/support/Refusals.h>
 
 #include <windowsx.h>
 
 namespace
 {
-
-HWND WINAPI NoWindow(DWORD, LPCWSTR, LPCWSTR, DWORD, int, int, int, int, HWND, HMENU, HINSTANCE, LPVOID)
-{
-    return nullptr;
-}
-
-HDC WINAPI NoDc(HWND)
-{
-    return nullptr;
-}
-
-HDC WINAPI NoMemoryDc(HDC)
-{
-    return nullptr;
-}
 
 [[noreturn]] void* NoMemoryForObjects(size_t)
 {
@@ -348,7 +334,7 @@ TEST_F(MonthList, EarliestYearIsOneHundred)
 TEST_F(MonthList, NothingIsChosenWhereNothingCanBePainted)
 {
     Make();
-    const ts::ReplacedImport none(L"afx.dll", "CreateCompatibleDC", &NoMemoryDc);
+    const ts::ReplacedImport none(L"afx.dll", "CreateCompatibleDC", &ts::NoMemoryDc);
     PressHeader(0);
     EXPECT_EQ(Name(3, 2009), Choose());
 }
@@ -385,7 +371,7 @@ TEST_F(MonthList, WithoutItsWindowNothingIsTracked)
 {
     Make();
     {
-        const ts::ReplacedImport none(L"afx.dll", "CreateWindowExW", &NoWindow);
+        const ts::ReplacedImport none(L"afx.dll", "CreateWindowExW", &ts::NoWindow);
         PressHeader(0);
     }
     EXPECT_EQ(nullptr, m_calendar.m_pSelMonthWnd);
@@ -398,7 +384,7 @@ TEST_F(MonthList, WithoutADeviceContextNothingIsTracked)
 {
     Make();
     {
-        const ts::ReplacedImport none(L"afx.dll", "GetDC", &NoDc);
+        const ts::ReplacedImport none(L"afx.dll", "GetDC", &ts::NoDc);
         m_calendar.OnLButtonDown(MK_LBUTTON, Header());
     }
     EXPECT_EQ(nullptr, m_calendar.m_pSelMonthWnd);

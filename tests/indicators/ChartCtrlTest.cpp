@@ -1,6 +1,9 @@
 #include <QorUI/app/draw/GdiPlusFlat.h>
 #include <tests/lists/Lists.h>
+#include <tests/support/FaultCounter.h>
 #include <tests/support/Imports.h>
+#include <tests/support/ui/Control.h>
+#include <tests/support/ui/Look.h>
 
 #include <algorithm>
 #include <array>
@@ -98,7 +101,7 @@ class ExpectedChart
     {
         switch (m_legend) {
         case Legend::Gui:
-            m_font = FontOf(dc, GuiFont());
+            m_font = FontOf(dc, ts::GuiFont());
             break;
         case Legend::Dc:
             GdipCreateFontFromDC(dc, &m_font);
@@ -170,8 +173,8 @@ class Chart : public testing::Test
   protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_chart.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &m_host, kControlId));
-        ::SendMessageW(m_chart, WM_SETFONT, reinterpret_cast<WPARAM>(GuiFont()), FALSE);
+        ASSERT_TRUE(m_chart.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &m_host, ts::kControlId));
+        ::SendMessageW(m_chart, WM_SETFONT, reinterpret_cast<WPARAM>(ts::GuiFont()), FALSE);
     }
 
     void Add(int count)
@@ -190,13 +193,13 @@ class Chart : public testing::Test
         for (const UINT value : values) {
             m_chart.AddItem(L"Name", value);
         }
-        return LookOf(m_chart).Crop(CRect(0, 0, 299, 199));
+        return ts::LookOf(m_chart).Crop(CRect(0, 0, 299, 199));
     }
 
     ts::Picture Expected(int type, const std::vector<UINT>& values, const wchar_t* title = L"")
     {
         CStatic canvas;
-        EXPECT_TRUE(canvas.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 210, 300, 410), &m_host, 3));
+        EXPECT_TRUE(canvas.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 210, 300, 410), &m_host, ts::kOtherId));
         const ts::Picture picture = ExpectedChart(type == 1, values, title).DrawIn(canvas);
         canvas.DestroyWindow();
         return picture.Crop(CRect(0, 0, 299, 199));
@@ -211,7 +214,7 @@ class Chart : public testing::Test
 
 TEST_F(Chart, WithoutItemsIsWhite)
 {
-    EXPECT_TRUE(ts::AreaIs(LookOf(m_chart), CRect(0, 0, 299, 199), kWhite));
+    EXPECT_TRUE(ts::AreaIs(ts::LookOf(m_chart), CRect(0, 0, 299, 199), kWhite));
 }
 
 TEST_F(Chart, LooksAsItShould)
@@ -225,28 +228,28 @@ TEST_F(Chart, ItemsWithoutAnyValueShowNothing)
 {
     m_chart.AddItem(L"Nothing", 0);
     m_chart.AddItem(L"Nothing", 0);
-    EXPECT_TRUE(ts::AreaIs(LookOf(m_chart), CRect(0, 0, 299, 199), kWhite));
+    EXPECT_TRUE(ts::AreaIs(ts::LookOf(m_chart), CRect(0, 0, 299, 199), kWhite));
 }
 
 TEST_F(Chart, TitleIsTheTrimmedWindowText)
 {
     m_chart.SetWindowText(L"  Title ");
-    const ts::Picture look = LookOf(m_chart);
+    const ts::Picture look = ts::LookOf(m_chart);
     const CRect text = look.Crop(CRect(0, 0, 299, 199)).BoundsOfOthers(kWhite);
     EXPECT_GE(text.left, 8);
     EXPECT_LE(text.left, 14);
     EXPECT_LE(text.bottom, 30);
     EXPECT_NEAR(15, text.CenterPoint().y, 3);
     m_chart.SetWindowText(L"Title");
-    EXPECT_TRUE(ts::SamePicture(look, LookOf(m_chart)));
+    EXPECT_TRUE(ts::SamePicture(look, ts::LookOf(m_chart)));
     m_chart.SetWindowText(L"   ");
-    EXPECT_TRUE(ts::AreaIs(LookOf(m_chart), CRect(0, 0, 299, 199), kWhite));
+    EXPECT_TRUE(ts::AreaIs(ts::LookOf(m_chart), CRect(0, 0, 299, 199), kWhite));
 }
 
 TEST_F(Chart, ColoursAreUsedInTurn)
 {
     Add(6);
-    const ts::Picture look = LookOf(m_chart);
+    const ts::Picture look = ts::LookOf(m_chart);
     for (int row = 0; row < 6; ++row) {
         EXPECT_EQ(kSeries.at(static_cast<size_t>(row) % 5), Swatch(look, row)) << row;
     }
@@ -255,7 +258,7 @@ TEST_F(Chart, ColoursAreUsedInTurn)
 TEST_F(Chart, SwatchesAreEightPixelsWide)
 {
     Add(1);
-    const ts::Picture look = LookOf(m_chart);
+    const ts::Picture look = ts::LookOf(m_chart);
     EXPECT_TRUE(ts::AreaIs(look, CRect(118, 30, 126, 38), kSeries[0]));
     EXPECT_TRUE(ts::PixelIs(look, 117, 33, kWhite));
     EXPECT_TRUE(ts::PixelIs(look, 127, 33, kWhite));
@@ -266,7 +269,7 @@ TEST_F(Chart, SwatchesAreEightPixelsWide)
 TEST_F(Chart, LegendTextBeginsRightOfTheSwatch)
 {
     Add(1);
-    const CRect text = LookOf(m_chart).Crop(CRect(127, 0, 299, 199)).BoundsOfOthers(kWhite);
+    const CRect text = ts::LookOf(m_chart).Crop(CRect(127, 0, 299, 199)).BoundsOfOthers(kWhite);
     EXPECT_GE(text.left + 127, 134);
     EXPECT_LE(text.left + 127, 140);
     EXPECT_GE(text.top, 27);
@@ -276,10 +279,10 @@ TEST_F(Chart, LegendTextBeginsRightOfTheSwatch)
 TEST_F(Chart, LegendShowsNameAndValue)
 {
     m_chart.AddItem(L"Name (7)", 1);
-    const ts::Picture one = LookOf(m_chart).Crop(CRect(128, 20, 299, 50));
+    const ts::Picture one = ts::LookOf(m_chart).Crop(CRect(128, 20, 299, 50));
     m_chart.RemoveAll();
     m_chart.AddItem(L"Name", 7);
-    const ts::Picture other = LookOf(m_chart).Crop(CRect(128, 20, 299, 50));
+    const ts::Picture other = ts::LookOf(m_chart).Crop(CRect(128, 20, 299, 50));
     EXPECT_FALSE(ts::SamePicture(one, other));
     EXPECT_GT(one.BoundsOfOthers(kWhite).right, other.BoundsOfOthers(kWhite).right);
 }
@@ -288,19 +291,19 @@ TEST_F(Chart, LegendIsNameAndUnsignedValueInParentheses)
 {
     m_chart.AddItem(L"Name", 4000000000);
     const CRect legend(128, 20, 299, 50);
-    const ts::Picture one = LookOf(m_chart).Crop(legend);
+    const ts::Picture one = ts::LookOf(m_chart).Crop(legend);
     m_chart.RemoveAll();
     m_chart.AddItem(L"Name (4000000000)", 1); // the same beginning
     CRect shown = one.BoundsOfOthers(kWhite);
     shown.right -= 1;
     EXPECT_GT(shown.Width(), 60);
-    EXPECT_TRUE(ts::SamePicture(one.Crop(shown), LookOf(m_chart).Crop(legend).Crop(shown)));
+    EXPECT_TRUE(ts::SamePicture(one.Crop(shown), ts::LookOf(m_chart).Crop(legend).Crop(shown)));
 }
 
 TEST_F(Chart, LeavesTheLastRowAndColumn)
 {
     CClientDC(&m_chart).FillSolidRect(0, 0, 300, 200, RGB(255, 0, 255));
-    const ts::Picture look = LookOf(m_chart);
+    const ts::Picture look = ts::LookOf(m_chart);
     EXPECT_TRUE(ts::AreaIs(look, CRect(0, 0, 299, 199), kWhite));
     EXPECT_TRUE(ts::AreaIs(look, CRect(299, 0, 300, 200), RGB(255, 0, 255)));
     EXPECT_TRUE(ts::AreaIs(look, CRect(0, 199, 300, 200), RGB(255, 0, 255)));
@@ -309,7 +312,7 @@ TEST_F(Chart, LeavesTheLastRowAndColumn)
 TEST_F(Chart, SingleItemIsAFullRing)
 {
     Add(1);
-    const ts::Picture look = LookOf(m_chart);
+    const ts::Picture look = ts::LookOf(m_chart);
     for (const CPoint point : {CPoint(103, 75), CPoint(58, 120), CPoint(13, 75), CPoint(58, 30)}) {
         EXPECT_TRUE(ts::PixelIs(look, point.x, point.y, kSeries[0])) << point.x << "," << point.y;
     }
@@ -324,7 +327,7 @@ TEST_F(Chart, SingleItemIsAFullRing)
 TEST_F(Chart, RingRunsClockwiseFromTheRight)
 {
     Add(4);
-    const ts::Picture look = LookOf(m_chart);
+    const ts::Picture look = ts::LookOf(m_chart);
     EXPECT_TRUE(ts::PixelIs(look, 58 + 32, 75 + 32, kSeries[0]));
     EXPECT_TRUE(ts::PixelIs(look, 58 - 32, 75 + 32, kSeries[1]));
     EXPECT_TRUE(ts::PixelIs(look, 58 - 32, 75 - 32, kSeries[2]));
@@ -336,7 +339,7 @@ TEST_F(Chart, LongestBarIsNinetyPixelsAndItsCaps)
     ASSERT_TRUE(m_chart.SetType(1));
     m_chart.AddItem(L"All", 300);
     m_chart.AddItem(L"Third", 100);
-    const ts::Picture look = LookOf(m_chart);
+    const ts::Picture look = ts::LookOf(m_chart);
     const CRect all = look.Crop(CRect(0, 0, 115, 50)).BoundsOf(kSeries[0]);
     EXPECT_NEAR(9, all.left, 1);
     EXPECT_NEAR(107, all.right, 1);
@@ -352,7 +355,7 @@ TEST_F(Chart, BarWithoutValueIsADot)
     m_chart.SetType(1);
     m_chart.AddItem(L"One", 1);
     m_chart.AddItem(L"None", 0);
-    const CRect dot = LookOf(m_chart).Crop(CRect(0, 0, 115, 70)).BoundsOf(kSeries[1]);
+    const CRect dot = ts::LookOf(m_chart).Crop(CRect(0, 0, 115, 70)).BoundsOf(kSeries[1]);
     EXPECT_NEAR(13, dot.CenterPoint().x, 1);
     EXPECT_NEAR(8, dot.Width(), 2);
     EXPECT_NEAR(8, dot.Height(), 2);
@@ -363,13 +366,13 @@ TEST_F(Chart, HugeValuesDoNotOverflow)
     m_chart.SetType(1);
     m_chart.AddItem(L"Much", UINT_MAX);
     m_chart.AddItem(L"Much", UINT_MAX);
-    const CRect bar = LookOf(m_chart).Crop(CRect(0, 0, 115, 50)).BoundsOf(kSeries[0]);
+    const CRect bar = ts::LookOf(m_chart).Crop(CRect(0, 0, 115, 50)).BoundsOf(kSeries[0]);
     EXPECT_NEAR(107, bar.right, 1);
     m_chart.RemoveAll();
     m_chart.AddItem(L"Much", 0x80000000);
     m_chart.AddItem(L"Much", 0x80000000);
     m_chart.SetType(2);
-    const ts::Picture ring = LookOf(m_chart);
+    const ts::Picture ring = ts::LookOf(m_chart);
     EXPECT_TRUE(ts::PixelIs(ring, 58, 120, kSeries[0]));
     EXPECT_TRUE(ts::PixelIs(ring, 58, 30, kSeries[1]));
 }
@@ -377,18 +380,18 @@ TEST_F(Chart, HugeValuesDoNotOverflow)
 TEST_F(Chart, OnlyTheTwoTypesAreTaken)
 {
     Add(1);
-    const ts::Picture ring = LookOf(m_chart);
+    const ts::Picture ring = ts::LookOf(m_chart);
     ::ValidateRect(m_chart, nullptr);
     for (const int type : {0, 3, -1}) {
         EXPECT_FALSE(m_chart.SetType(type)) << type;
     }
     EXPECT_FALSE(::GetUpdateRect(m_chart, nullptr, FALSE));
-    EXPECT_TRUE(ts::SamePicture(ring, LookOf(m_chart)));
+    EXPECT_TRUE(ts::SamePicture(ring, ts::LookOf(m_chart)));
     EXPECT_TRUE(m_chart.SetType(1));
     EXPECT_TRUE(::GetUpdateRect(m_chart, nullptr, FALSE));
-    EXPECT_FALSE(ts::SamePicture(ring, LookOf(m_chart)));
+    EXPECT_FALSE(ts::SamePicture(ring, ts::LookOf(m_chart)));
     EXPECT_TRUE(m_chart.SetType(2));
-    EXPECT_TRUE(ts::SamePicture(ring, LookOf(m_chart)));
+    EXPECT_TRUE(ts::SamePicture(ring, ts::LookOf(m_chart)));
 }
 
 TEST_F(Chart, ChangesOfTheItemsRepaint)
@@ -399,7 +402,7 @@ TEST_F(Chart, ChangesOfTheItemsRepaint)
     ::ValidateRect(m_chart, nullptr);
     m_chart.RemoveAll();
     EXPECT_TRUE(::GetUpdateRect(m_chart, nullptr, FALSE));
-    EXPECT_TRUE(ts::AreaIs(LookOf(m_chart), CRect(0, 0, 299, 199), kWhite));
+    EXPECT_TRUE(ts::AreaIs(ts::LookOf(m_chart), CRect(0, 0, 299, 199), kWhite));
 }
 
 TEST_F(Chart, NewItemsAskForErasing)
@@ -421,7 +424,7 @@ TEST_F(Chart, WithoutAFontHasALegendAllTheSame)
 {
     ::SendMessageW(m_chart, WM_SETFONT, 0, FALSE);
     Add(1);
-    EXPECT_GT(LookOf(m_chart).Crop(CRect(134, 20, 299, 50)).Count(kSeries[0]), 5);
+    EXPECT_GT(ts::LookOf(m_chart).Crop(CRect(134, 20, 299, 50)).Count(kSeries[0]), 5);
 }
 
 TEST_F(Chart, WithoutAFontHasTheLegendInTheDeviceContextsOne)
@@ -429,8 +432,8 @@ TEST_F(Chart, WithoutAFontHasTheLegendInTheDeviceContextsOne)
     const LPCWSTR name = AfxRegisterWndClass(CS_OWNDC);
     CChartCtrl chart; // no font of its own, and a device context that it keeps
     CWnd canvas;
-    ASSERT_TRUE(chart.CWnd::Create(name, L"", WS_CHILD | WS_VISIBLE, CRect(0, 210, 300, 410), &m_host, 3));
-    ASSERT_TRUE(canvas.Create(name, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &m_host, 4));
+    ASSERT_TRUE(chart.CWnd::Create(name, L"", WS_CHILD | WS_VISIBLE, CRect(0, 210, 300, 410), &m_host, ts::kOtherId));
+    ASSERT_TRUE(canvas.Create(name, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &m_host, ts::kControlId));
     ::SetWindowPos(canvas, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
     CFont font;
     ASSERT_TRUE(font.CreatePointFont(160, L"Tahoma"));
@@ -443,7 +446,7 @@ TEST_F(Chart, WithoutAFontHasTheLegendInTheDeviceContextsOne)
     const CRect painted(0, 0, 299, 199);
     const ts::Picture look = expected.DrawIn(canvas).Crop(painted);
     EXPECT_GT(CRect(look.Crop(CRect(134, 0, 299, 199)).BoundsOf(kSeries[0])).Height(), 16);
-    EXPECT_TRUE(ts::SamePicture(look, LookOf(chart).Crop(painted)));
+    EXPECT_TRUE(ts::SamePicture(look, ts::LookOf(chart).Crop(painted)));
     chart.DestroyWindow();
     canvas.DestroyWindow();
 }
@@ -452,7 +455,7 @@ TEST_F(Chart, IsSmoothed)
 {
     const ts::ReplacedImport noting(L"QorUI.dll", "GdipSetSmoothingMode", &NoteSmoothing);
     Add(3);
-    LookOf(m_chart);
+    ts::LookOf(m_chart);
     EXPECT_EQ(Gdiplus::SmoothingModeHighQuality, g_smoothing);
 }
 
@@ -461,10 +464,10 @@ TEST_F(Chart, IsPaintedAgainWhenTheSystemHasDrawnOverIt)
     const CRect painted(0, 0, 299, 199);
     Add(3);
     m_chart.SetWindowText(L"Title");
-    LookOf(m_chart);
+    ts::LookOf(m_chart);
     m_chart.SetWindowText(L"Another title");
     const ts::Picture retitled = ts::CaptureWindow(m_chart).Crop(painted);
-    EXPECT_TRUE(ts::SamePicture(LookOf(m_chart).Crop(painted), retitled));
+    EXPECT_TRUE(ts::SamePicture(ts::LookOf(m_chart).Crop(painted), retitled));
     m_chart.EnableWindow(FALSE);
     EXPECT_TRUE(ts::SamePicture(retitled, ts::CaptureWindow(m_chart).Crop(painted)));
 }
@@ -472,13 +475,13 @@ TEST_F(Chart, IsPaintedAgainWhenTheSystemHasDrawnOverIt)
 TEST_F(Chart, LegendHasTheControlsFont)
 {
     Add(1);
-    const ts::Picture small = LookOf(m_chart);
+    const ts::Picture small = ts::LookOf(m_chart);
     CFont font;
     ASSERT_TRUE(font.CreatePointFont(160, L"Tahoma"));
     ::SendMessageW(m_chart, WM_SETFONT, reinterpret_cast<WPARAM>(font.m_hObject), FALSE);
     const CRect legend(127, 0, 299, 199);
     const CRect one = small.Crop(legend).BoundsOf(kSeries[0]);
-    const CRect other = LookOf(m_chart).Crop(legend).BoundsOf(kSeries[0]);
+    const CRect other = ts::LookOf(m_chart).Crop(legend).BoundsOf(kSeries[0]);
     EXPECT_GT(other.Height(), one.Height() * 3 / 2);
     EXPECT_GT(other.Width(), one.Width() * 3 / 2);
 }
@@ -490,7 +493,7 @@ TEST_F(Chart, TitleWrapsAtTheRightEdge)
     while (!wrapped && title.GetLength() < 80) {
         title += L"i"; // a few pixels more of the last word
         m_chart.SetWindowText(title);
-        const CRect text = LookOf(m_chart).Crop(CRect(0, 0, 299, 199)).BoundsOfOthers(kWhite);
+        const CRect text = ts::LookOf(m_chart).Crop(CRect(0, 0, 299, 199)).BoundsOfOthers(kWhite);
         EXPECT_LT(text.right, 296) << title.GetLength();
         wrapped = text.Height() > 16;
     }
@@ -501,7 +504,7 @@ TEST_F(Chart, SurvivesTheEndOfTheGdiObjects)
 {
     m_chart.SetWindowText(L"Title");
     Add(3);
-    EXPECT_TRUE(SurvivesGdiShortage(m_chart));
+    EXPECT_TRUE(ts::SurvivesGdiShortage(m_chart));
 }
 
 TEST_F(Chart, ExtremeTextsAndCountsAreNoHarm)
@@ -510,7 +513,7 @@ TEST_F(Chart, ExtremeTextsAndCountsAreNoHarm)
     m_chart.AddItem(CString(L'x', 5000), 2);
     Add(500);
     m_chart.SetWindowText(CString(L'y', 5000));
-    EXPECT_EQ(kSeries[0], Swatch(LookOf(m_chart), 0));
+    EXPECT_EQ(kSeries[0], Swatch(ts::LookOf(m_chart), 0));
 }
 
 TEST(ChartAlone, ChildNeedsAParent)
@@ -530,9 +533,9 @@ TEST_F(Chart, TakesItemsBeforeItHasAWindow)
     chart.AddItem(L"Name", 1);
     chart.AddItem(L"Name", 2);
     EXPECT_TRUE(chart.SetType(1));
-    ASSERT_TRUE(chart.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &m_host, kControlId));
-    ::SendMessageW(chart, WM_SETFONT, reinterpret_cast<WPARAM>(GuiFont()), FALSE);
-    EXPECT_TRUE(ts::SamePicture(look, LookOf(chart).Crop(CRect(0, 0, 299, 199))));
+    ASSERT_TRUE(chart.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &m_host, ts::kControlId));
+    ::SendMessageW(chart, WM_SETFONT, reinterpret_cast<WPARAM>(ts::GuiFont()), FALSE);
+    EXPECT_TRUE(ts::SamePicture(look, ts::LookOf(chart).Crop(CRect(0, 0, 299, 199))));
     chart.DestroyWindow();
 }
 
@@ -541,7 +544,7 @@ TEST_F(Chart, LeavesNothingBehind)
     EXPECT_TRUE(ts::NoLeak([this] {
         for (const int type : {1, 2}) {
             CChartCtrl chart;
-            chart.Create(L"Title", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &m_host, 3);
+            chart.Create(L"Title", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &m_host, ts::kOtherId);
             chart.SetType(type);
             chart.AddItem(L"Name", 1);
             chart.AddItem(L"Name", 0);
@@ -608,13 +611,13 @@ TEST_F(Chart, EveryGdiPlusObjectIsDeletedBeforeThePaintingEnds)
     const auto noFamily = Deleting<GdipDeleteFontFamily>("GdipDeleteFontFamily");
     const auto noFormat = Deleting<GdipDeleteStringFormat>("GdipDeleteStringFormat");
     const ts::ReplacedImport end(L"afx.dll", "EndPaint", &NoteEndPaint);
-    for (const HGDIOBJ own : {GuiFont(), HGDIOBJ()}) {
+    for (const HGDIOBJ own : {ts::GuiFont(), HGDIOBJ()}) {
         ::SendMessageW(m_chart, WM_SETFONT, reinterpret_cast<WPARAM>(own), FALSE);
         ts::Settle();
         g_objects = 0;
         g_mostObjects = 0;
         g_objectsAtEnd.clear();
-        PaintNow(m_chart);
+        ts::PaintNow(m_chart);
         EXPECT_GT(g_mostObjects, 3);
         EXPECT_EQ(std::vector<int>(1, 0), g_objectsAtEnd);
     }
@@ -651,18 +654,18 @@ TEST_P(ChartFailure, LeavesThePaintingWholeAndTheNextOneRight)
     m_chart.SetWindowText(L"Title");
     Add(3);
     const CRect painted(0, 0, 299, 199);
-    const ts::Picture look = LookOf(m_chart).Crop(painted);
+    const ts::Picture look = ts::LookOf(m_chart).Crop(painted);
     {
         const auto& [name, fail] = GetParam();
         const auto failing = fail(name);
-        const FaultCounter faults;
+        const ts::FaultCounter faults;
         g_failedCalls = 0;
-        PaintNow(m_chart);
+        ts::PaintNow(m_chart);
         EXPECT_GT(g_failedCalls, 0);
         EXPECT_FALSE(::GetUpdateRect(m_chart, nullptr, FALSE));
         EXPECT_EQ(0, faults.Count());
     }
-    EXPECT_TRUE(ts::SamePicture(look, LookOf(m_chart).Crop(painted)));
+    EXPECT_TRUE(ts::SamePicture(look, ts::LookOf(m_chart).Crop(painted)));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, ChartFailure,
@@ -685,7 +688,7 @@ TEST_F(Chart, WithoutAUsableFontHasItsLegendInTheTitlesOne)
     ExpectedChart expected(false, {1, 2});
     expected.TakeLegendFontOfTheTitle();
     CStatic canvas;
-    ASSERT_TRUE(canvas.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 210, 300, 410), &m_host, 3));
+    ASSERT_TRUE(canvas.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 210, 300, 410), &m_host, ts::kOtherId));
     const ts::Picture look = expected.DrawIn(canvas).Crop(CRect(0, 0, 299, 199));
     canvas.DestroyWindow();
     EXPECT_TRUE(ts::SamePicture(look, Look(2, {1, 2})));

@@ -1,6 +1,9 @@
 #include <QorPub/System.h>
 #include <tests/lists/Lists.h>
 #include <tests/support/NoWindowClasses.h>
+#include <tests/support/Refusals.h>
+#include <tests/support/ui/Control.h>
+#include <tests/support/ui/Look.h>
 
 namespace
 {
@@ -118,11 +121,6 @@ BOOL WINAPI NoPrinting(HWND, HDC, UINT)
     return FALSE;
 }
 
-HDC WINAPI NoMemoryDc(HDC)
-{
-    return nullptr;
-}
-
 BOOL WINAPI PaintGreen(HDC dc)
 {
     ++g_paintings;
@@ -184,7 +182,7 @@ TEST_F(DesktopTip, HasTheSizeOfItsTextInTheCorner)
         m_tip.SetTipText(text);
         CRect size(0, 0, 160, 16);
         const HDC dc = ::GetDC(nullptr);
-        const HGDIOBJ old = ::SelectObject(dc, GuiFont());
+        const HGDIOBJ old = ::SelectObject(dc, ts::GuiFont());
         ::DrawTextW(dc, text, -1, &size, DT_CALCRECT | kText);
         ::SelectObject(dc, old);
         ::ReleaseDC(nullptr, dc);
@@ -338,8 +336,8 @@ TEST_F(DesktopTip, FailsQuietlyAndDrawsNothing)
         EXPECT_TRUE(ts::AreaIs(look, CRect(0, 0, 200, 50), RGB(255, 255, 255)));
     };
     expectNothing(ts::ImportRedirection::Of(&::PrintWindow, &NoPrinting));
-    expectNothing(ts::ImportRedirection::Of(&::CreateCompatibleBitmap, &NoCompatibleBitmap));
-    expectNothing(ts::ImportRedirection::Of(&::CreateCompatibleDC, &NoMemoryDc));
+    expectNothing(ts::ImportRedirection::Of(&::CreateCompatibleBitmap, &ts::NoCompatibleBitmap));
+    expectNothing(ts::ImportRedirection::Of(&::CreateCompatibleDC, &ts::NoMemoryDc));
 }
 
 TEST_F(DesktopTip, SystemPaintsTheDesktopOfOldVersions)
@@ -350,13 +348,13 @@ TEST_F(DesktopTip, SystemPaintsTheDesktopOfOldVersions)
     g_paintings = 0;
     for (const auto& [code, pack] : {std::pair<WORD, WORD>(5, 0), std::pair<WORD, WORD>(7, 0xFFFF)}) {
         const CSystemCode system(code, pack);
-        EXPECT_GT(LookOf(m_tip).Count(RGB(0, 128, 0)), 50) << code;
+        EXPECT_GT(ts::LookOf(m_tip).Count(RGB(0, 128, 0)), 50) << code;
     }
     EXPECT_EQ(0, shell.m_prints);
     EXPECT_EQ(2, g_paintings);
     for (const WORD code : {WORD(8), WORD(10)}) {
         const CSystemCode system(code);
-        EXPECT_EQ(0, LookOf(m_tip).Count(RGB(0, 128, 0))) << code;
+        EXPECT_EQ(0, ts::LookOf(m_tip).Count(RGB(0, 128, 0))) << code;
     }
     EXPECT_EQ(2, shell.m_prints);
     EXPECT_EQ(2, g_paintings);
@@ -374,12 +372,12 @@ TEST_F(DesktopTip, TextStandsOnTheDesktop)
         const ts::Picture expected = ts::DrawTo(rect.Width(), rect.Height(), [&](HDC dc) {
             m_tip.PaintDesktop(CDC::FromHandle(dc));
             CRect all(0, 0, rect.Width(), rect.Height());
-            ::SelectObject(dc, GuiFont());
+            ::SelectObject(dc, ts::GuiFont());
             ::SetBkMode(dc, TRANSPARENT);
             ::SetTextColor(dc, RGB(255, 255, 255));
             ::DrawTextW(dc, text, -1, &all, kText);
         });
-        const ts::Picture look = LookOf(m_tip);
+        const ts::Picture look = ts::LookOf(m_tip);
         EXPECT_TRUE(ts::SamePicture(expected, look)) << ts::ToUtf8(text);
         EXPECT_FALSE(ts::SamePicture(desktop, look)) << ts::ToUtf8(text);
     }
@@ -389,7 +387,7 @@ TEST_F(DesktopTip, SurvivesTheEndOfTheGdiObjects)
 {
     const CShellWindow shell;
     m_tip.SetTipText(L"Short");
-    EXPECT_TRUE(SurvivesGdiShortage(m_tip));
+    EXPECT_TRUE(ts::SurvivesGdiShortage(m_tip));
 }
 
 TEST_F(DesktopTip, FollowsTheWorkArea)
@@ -432,7 +430,7 @@ TEST_F(DesktopTip, WritesItsTextInWhite)
     for (const WORD code : {WORD(5), WORD(10)}) {
         const CSystemCode system(code);
         m_tip.SetTipText(L"Short");
-        const ts::Picture look = LookOf(m_tip);
+        const ts::Picture look = ts::LookOf(m_tip);
         EXPECT_GT(look.Count(RGB(255, 255, 255)), 5) << code;
         EXPECT_FALSE(::GetUpdateRect(m_tip, nullptr, FALSE)) << code;
     }

@@ -1,4 +1,8 @@
 #include <tests/lists/Lists.h>
+#include <tests/support/OtherColours.h>
+#include <tests/support/Refusals.h>
+#include <tests/support/ui/Control.h>
+#include <tests/support/ui/Look.h>
 
 #include <algorithm>
 #include <functional>
@@ -20,9 +24,9 @@ class ProgressBar : public testing::Test
     void SetUp() override
     {
         m_host.Log().Answer(WM_GETFONT, [](const ts::Message& /*message*/) -> std::optional<LRESULT> {
-            return reinterpret_cast<LRESULT>(GuiFont());
+            return reinterpret_cast<LRESULT>(ts::GuiFont());
         });
-        ASSERT_TRUE(m_bar.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 210, 60), &m_host, kControlId));
+        ASSERT_TRUE(m_bar.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 210, 60), &m_host, ts::kControlId));
         m_bar.SetRange32(0, 200);
     }
 
@@ -36,7 +40,7 @@ class ProgressBar : public testing::Test
     ts::Picture Bar(int position)
     {
         m_bar.SetPos(position);
-        return LookOf(m_bar);
+        return ts::LookOf(m_bar);
     }
 
     /** What the pattern looks like at a place of the bar. */
@@ -62,7 +66,7 @@ class ProgressBar : public testing::Test
             const CRect rest(2 + filled, 2, 198, 18);
             ::FillRect(dc, &fill, pattern);
             ::FillRect(dc, &rest, ::GetSysColorBrush(COLOR_WINDOW));
-            ::SelectObject(dc, GuiFont());
+            ::SelectObject(dc, ts::GuiFont());
             ::SetBkMode(dc, TRANSPARENT);
             DrawTextPart(dc, fill, whole, text, ::GetSysColor(COLOR_WINDOW));
             DrawTextPart(dc, rest, whole, text, ::GetSysColor(COLOR_HIGHLIGHT));
@@ -104,13 +108,13 @@ TEST_F(ProgressBar, StaysInItsPlace)
 
 TEST_F(ProgressBar, WithoutItsPatternIsAsHighAndFilled)
 {
-    const ts::ImportRedirection failing({ts::ImportRedirection::Of(&::LoadBitmapW, &NoBitmapResource)});
+    const ts::ImportRedirection failing({ts::ImportRedirection::Of(&::LoadBitmapW, &ts::NoBitmapResource)});
     CProgressBar bar;
-    ASSERT_TRUE(bar.Create(WS_CHILD | WS_VISIBLE, CRect(10, 50, 110, 90), &m_host, 5));
+    ASSERT_TRUE(bar.Create(WS_CHILD | WS_VISIBLE, CRect(10, 50, 110, 90), &m_host, ts::kOtherId));
     EXPECT_EQ(20, Height(bar));
     bar.SetFormat(L"");
     bar.SetPos(50);
-    const ts::Picture look = LookOf(bar);
+    const ts::Picture look = ts::LookOf(bar);
     EXPECT_TRUE(ts::AreaIs(look, CRect(2, 2, 50, 18), ::GetSysColor(COLOR_HIGHLIGHT)));
     EXPECT_TRUE(ts::AreaIs(look, CRect(50, 2, 98, 18), ::GetSysColor(COLOR_WINDOW)));
     bar.DestroyWindow();
@@ -120,7 +124,7 @@ TEST_F(ProgressBar, PatternGoesWithTheWindow)
 {
     CProgressBar bar;
     const ts::HandleCounts before = ts::CountHandles();
-    ASSERT_TRUE(bar.Create(WS_CHILD | WS_VISIBLE, CRect(10, 50, 110, 90), &m_host, 5));
+    ASSERT_TRUE(bar.Create(WS_CHILD | WS_VISIBLE, CRect(10, 50, 110, 90), &m_host, ts::kOtherId));
     EXPECT_EQ(1, ts::Difference(before, ts::CountHandles())["brush"]);
     bar.DestroyWindow();
     EXPECT_EQ(0, ts::Difference(before, ts::CountHandles())["brush"]);
@@ -131,9 +135,9 @@ TEST_F(ProgressBar, NeedsNoParent)
     CProgressBar bar;
     ASSERT_TRUE(bar.CWnd::CreateEx(0, PROGRESS_CLASSW, L"", WS_POPUP | WS_VISIBLE, CRect(0, 0, 200, 40), nullptr, 0));
     bar.SetFormat(L"");
-    EXPECT_TRUE(ts::SamePicture(Expected(0, L""), LookOf(bar)));
+    EXPECT_TRUE(ts::SamePicture(Expected(0, L""), ts::LookOf(bar)));
     bar.SetFormat(nullptr);
-    EXPECT_GT(LookOf(bar).Count(::GetSysColor(COLOR_HIGHLIGHT)), 5);
+    EXPECT_GT(ts::LookOf(bar).Count(::GetSysColor(COLOR_HIGHLIGHT)), 5);
     bar.DestroyWindow();
 }
 
@@ -158,7 +162,7 @@ TEST_F(ProgressBar, FormatIsNotCopied)
 TEST_F(ProgressBar, SurvivesTheEndOfTheGdiObjects)
 {
     m_bar.SetPos(100);
-    EXPECT_TRUE(SurvivesGdiShortage(m_bar));
+    EXPECT_TRUE(ts::SurvivesGdiShortage(m_bar));
 }
 
 TEST_F(ProgressBar, DrawsNoFrameOfTheSystem)
@@ -187,13 +191,13 @@ TEST_F(ProgressBar, HasTheHeightOfEveryPatternThatCanBeRead)
     const auto heightWith = [this](const ts::ImportRedirection::Function& function) {
         const ts::ImportRedirection redirection({function});
         CProgressBar bar;
-        EXPECT_TRUE(bar.Create(WS_CHILD | WS_VISIBLE, CRect(10, 50, 110, 90), &m_host, 5));
+        EXPECT_TRUE(bar.Create(WS_CHILD | WS_VISIBLE, CRect(10, 50, 110, 90), &m_host, ts::kOtherId));
         const int height = Height(bar);
         bar.DestroyWindow();
         return height;
     };
     EXPECT_EQ(25 + 2, heightWith(ts::ImportRedirection::Of(&::LoadBitmapW, &TallPattern)));
-    EXPECT_EQ(18 + 2, heightWith(ts::ImportRedirection::Of(&::GetObjectW, &NothingKnown)));
+    EXPECT_EQ(18 + 2, heightWith(ts::ImportRedirection::Of(&::GetObjectW, &ts::NothingKnown)));
 }
 
 TEST_F(ProgressBar, TakesItsHeightWhenItTakesABarOver)
@@ -228,7 +232,7 @@ TEST_F(ProgressBar, FillsWithThePatternAndTheRestWithTheWindowColour)
 TEST_F(ProgressBar, HasTheColoursOfTheSystemAndNotOfTheLook)
 {
     const COLORREF odd = RGB(255, 0, 255);
-    const OtherColours colours({{&QorSysLook.m_clrWindow, odd}, {&QorSysLook.m_clrHighlight, odd}});
+    const ts::OtherColours colours({{&QorSysLook.m_clrWindow, odd}, {&QorSysLook.m_clrHighlight, odd}});
     EXPECT_TRUE(ts::SamePicture(Expected(98, L"50%"), Bar(100)));
     EXPECT_EQ(0, Bar(100).Count(odd));
 }
@@ -283,7 +287,7 @@ TEST_F(ProgressBar, EveryStepRepaintsTheWholeBar)
         EXPECT_EQ(CRect(0, 0, 200, 20), update) << what;
         ::ValidateRect(m_bar, nullptr);
     };
-    LookOf(m_bar);
+    ts::LookOf(m_bar);
     m_bar.SetPos(200);
     expectWhole("the end");
     m_bar.SetPos(20);
@@ -296,7 +300,7 @@ TEST_F(ProgressBar, EveryStepRepaintsTheWholeBar)
 
 TEST_F(ProgressBar, OnlyReachingTheEndErasesBeforePainting)
 {
-    LookOf(m_bar);
+    ts::LookOf(m_bar);
     ts::MessageRecorder log(m_bar);
     log.RecordOnly({WM_ERASEBKGND});
     const auto erasings = [this, &log](const std::function<void()>& move) {
@@ -313,7 +317,7 @@ TEST_F(ProgressBar, OnlyReachingTheEndErasesBeforePainting)
 
 TEST_F(ProgressBar, EndIsInvalidatedBeforeTheControlGetsItsPosition)
 {
-    LookOf(m_bar);
+    ts::LookOf(m_bar);
     std::vector<std::pair<int, bool>> invalid;
     ts::MessageRecorder log(m_bar);
     log.Answer(PBM_SETPOS, [&](const ts::Message& message) -> std::optional<LRESULT> {
@@ -358,7 +362,7 @@ TEST_F(ProgressBar, FramesStandHoweverSmallTheBarIs)
     for (int cx = 0; cx <= 5; ++cx) {
         for (int cy = 0; cy <= 5; ++cy) {
             m_bar.SetWindowPos(nullptr, 0, 0, cx, cy, SWP_NOMOVE | SWP_NOZORDER);
-            PaintNow(m_bar);
+            ts::PaintNow(m_bar);
             EXPECT_FALSE(::GetUpdateRect(m_bar, nullptr, FALSE)) << cx << " x " << cy;
             if (cx > 0 && cy > 0) {
                 const ts::Picture expected = ts::DrawTo(cx, cy, [&](HDC dc) {
@@ -401,7 +405,7 @@ TEST_F(ProgressBar, ErasesNothing)
 TEST_F(ProgressBar, CanBeCreatedAgain)
 {
     m_bar.DestroyWindow();
-    ASSERT_TRUE(m_bar.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 210, 60), &m_host, kControlId));
+    ASSERT_TRUE(m_bar.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 210, 60), &m_host, ts::kControlId));
     m_bar.SetFormat(L"");
     m_bar.SetRange32(0, 200);
     EXPECT_TRUE(ts::PixelIs(Bar(200), 100, 9, Pattern().At(100 % Pattern().Width(), 9)));
@@ -425,7 +429,7 @@ TEST_F(ProgressBar, LeavesNothingBehind)
 {
     EXPECT_TRUE(ts::NoLeak([this] {
         CProgressBar bar;
-        bar.Create(WS_CHILD | WS_VISIBLE, CRect(10, 50, 210, 90), &m_host, 5);
+        bar.Create(WS_CHILD | WS_VISIBLE, CRect(10, 50, 210, 90), &m_host, ts::kOtherId);
         bar.SetPos(40);
         bar.UpdateWindow();
         bar.DestroyWindow();

@@ -1,4 +1,7 @@
 #include <tests/lists/Lists.h>
+#include <tests/support/OtherColours.h>
+#include <tests/support/ui/Control.h>
+#include <tests/support/ui/Look.h>
 
 namespace
 {
@@ -17,8 +20,8 @@ class ProgressList : public testing::Test
   protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_list.Create(WS_CHILD | WS_VISIBLE | LVS_REPORT, CRect(0, 0, 300, 120), &m_host, kControlId));
-        ::SendMessageW(m_list, WM_SETFONT, reinterpret_cast<WPARAM>(GuiFont()), FALSE);
+        ASSERT_TRUE(m_list.Create(WS_CHILD | WS_VISIBLE | LVS_REPORT, CRect(0, 0, 300, 120), &m_host, ts::kControlId));
+        ::SendMessageW(m_list, WM_SETFONT, reinterpret_cast<WPARAM>(ts::GuiFont()), FALSE);
         m_list.InsertColumn(0, L"Name", LVCFMT_LEFT, 100);
         m_list.InsertColumn(1, L"Progress", LVCFMT_LEFT, 150);
         m_list.InsertItem(0, L"A file");
@@ -30,7 +33,7 @@ class ProgressList : public testing::Test
         m_list.SetItemText(0, 1, text);
         CRect rect;
         m_list.GetSubItemRect(0, 1, LVIR_BOUNDS, rect);
-        return LookOf(m_list).Crop(rect);
+        return ts::LookOf(m_list).Crop(rect);
     }
 
     /** What the cell should look like, drawn by GDI. @param filled width of the fill in pixels. */
@@ -40,7 +43,7 @@ class ProgressList : public testing::Test
             size.cx, size.cy,
             [&](HDC dc) {
                 CDC* const to = CDC::FromHandle(dc);
-                ::SelectObject(dc, GuiFont());
+                ::SelectObject(dc, ts::GuiFont());
                 ::Rectangle(dc, 2, 1, size.cx - 2, size.cy - 1);
                 const CRect whole(3, 2, size.cx - 3, size.cy - 2);
                 const CRect fill(3, 2, 3 + filled, size.cy - 2);
@@ -101,7 +104,7 @@ TEST_F(ProgressList, HasTheColoursOfTheLook)
     const COLORREF face = RGB(1, 200, 200);
     const COLORREF window = RGB(255, 0, 255);
     const COLORREF text = RGB(0, 0, 200);
-    const OtherColours colours(
+    const ts::OtherColours colours(
         {{&QorSysLook.m_clrBtnFace, face}, {&QorSysLook.m_clrWindow, window}, {&QorSysLook.m_clrWindowText, text}});
     const ts::Picture cell = Cell(L"50|Copying");
     const CRect filled(3, 2, 75, cell.Height() - 2);
@@ -161,7 +164,7 @@ TEST_F(ProgressList, DrawsTheRowItIsAskedFor)
     CRect cell;
     m_list.GetSubItemRect(1, 1, LVIR_BOUNDS, cell);
     cell.DeflateRect(3, 2);
-    EXPECT_EQ(cell, CRect(LookOf(m_list).BoundsOf(kGreen)));
+    EXPECT_EQ(cell, CRect(ts::LookOf(m_list).BoundsOf(kGreen)));
 }
 
 TEST_F(ProgressList, HugeLabelIsCutAtTheFrame)
@@ -174,7 +177,7 @@ TEST_F(ProgressList, HugeLabelIsCutAtTheFrame)
 TEST_F(ProgressList, SurvivesTheEndOfTheGdiObjects)
 {
     m_list.SetItemText(0, 1, L"50|Copying");
-    EXPECT_TRUE(SurvivesGdiShortage(m_list));
+    EXPECT_TRUE(ts::SurvivesGdiShortage(m_list));
 }
 
 TEST_F(ProgressList, DrawingKeepsTheColoursOfTheDeviceContext)
@@ -260,7 +263,7 @@ TEST_F(ProgressList, LeavesNothingBehind)
 {
     EXPECT_TRUE(ts::NoLeak([this] {
         CProgressList list;
-        list.Create(WS_CHILD | WS_VISIBLE | LVS_REPORT, CRect(0, 0, 300, 120), &m_host, 3);
+        list.Create(WS_CHILD | WS_VISIBLE | LVS_REPORT, CRect(0, 0, 300, 120), &m_host, ts::kOtherId);
         list.InsertColumn(0, L"Progress", LVCFMT_LEFT, 150);
         list.InsertItem(0, L"45|Copying");
         list.UpdateWindow();

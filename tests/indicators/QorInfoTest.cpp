@@ -1,4 +1,6 @@
 #include <tests/lists/Lists.h>
+#include <tests/support/ui/Control.h>
+#include <tests/support/ui/Look.h>
 
 namespace
 {
@@ -11,7 +13,7 @@ class Info : public testing::Test
   protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_info.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 100), &m_host, kControlId));
+        ASSERT_TRUE(m_info.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 100), &m_host, ts::kControlId));
     }
 
     /** What GDI draws for texts at places. */
@@ -20,7 +22,7 @@ class Info : public testing::Test
         return ts::DrawTo(
             200, 100,
             [&texts](HDC dc) {
-                ::SelectObject(dc, GuiFont());
+                ::SelectObject(dc, ts::GuiFont());
                 ::SetBkMode(dc, TRANSPARENT);
                 for (auto [rect, text, format] : texts) {
                     ::DrawTextW(dc, text, -1, &rect, format);
@@ -32,7 +34,7 @@ class Info : public testing::Test
     static int Width(const wchar_t* text)
     {
         CClientDC dc(nullptr);
-        const HGDIOBJ old = ::SelectObject(dc, GuiFont());
+        const HGDIOBJ old = ::SelectObject(dc, ts::GuiFont());
         const int width = dc.GetTextExtent(text).cx;
         ::SelectObject(dc, old);
         return width;
@@ -48,13 +50,13 @@ class Info : public testing::Test
 
 TEST_F(Info, WithoutItemsIsTheSoftColour)
 {
-    EXPECT_TRUE(ts::AreaIs(LookOf(m_info), CRect(0, 0, 200, 100), kSoft));
+    EXPECT_TRUE(ts::AreaIs(ts::LookOf(m_info), CRect(0, 0, 200, 100), kSoft));
 }
 
 TEST_F(Info, IsPaintedAgainWhenTheSystemHasDrawnOverIt)
 {
     m_info.AddItem(L"Label", L"value");
-    const ts::Picture look = LookOf(m_info);
+    const ts::Picture look = ts::LookOf(m_info);
     m_info.SetWindowText(L"Text");
     EXPECT_TRUE(ts::SamePicture(look, ts::CaptureWindow(m_info)));
     m_info.EnableWindow(FALSE);
@@ -73,7 +75,7 @@ TEST_F(Info, RowsAreSixteenPixelsHighAndValuesStandRightOfTheWidestLabel)
                                         {CRect(left, 0, 200, 16), L"one", kLine},
                                         {CRect(left, 16, 200, 32), L"two", kLine},
                                         {CRect(left, 32, 200, 100), L"three", kLast}});
-    EXPECT_TRUE(ts::SamePicture(expected, LookOf(m_info)));
+    EXPECT_TRUE(ts::SamePicture(expected, ts::LookOf(m_info)));
 }
 
 TEST_F(Info, OnlyTheLastValueWraps)
@@ -81,7 +83,7 @@ TEST_F(Info, OnlyTheLastValueWraps)
     m_info.AddItem(L"A", kLong);
     m_info.AddItem(L"B", kLong);
     const int left = (std::max)(Width(L"A:"), Width(L"B:")) + 6;
-    const ts::Picture look = LookOf(m_info);
+    const ts::Picture look = ts::LookOf(m_info);
     EXPECT_TRUE(ts::SamePicture(Texts({{CRect(0, 0, Width(L"A:"), 16), L"A:", kLine},
                                        {CRect(0, 16, Width(L"B:"), 32), L"B:", kLine},
                                        {CRect(left, 0, 200, 16), kLong, kLine},
@@ -93,7 +95,7 @@ TEST_F(Info, OnlyTheLastValueWraps)
 TEST_F(Info, OneItemWrapsToTheBottom)
 {
     m_info.AddItem(L"A", kLong);
-    EXPECT_GT(LookOf(m_info).BoundsOf(kInk).bottom, 16);
+    EXPECT_GT(ts::LookOf(m_info).BoundsOf(kInk).bottom, 16);
 }
 
 TEST_F(Info, ValuesReachToTheRightEdge)
@@ -106,7 +108,7 @@ TEST_F(Info, ValuesReachToTheRightEdge)
         m_info.AddItem(L"", L"");
         ASSERT_TRUE(ts::SamePicture(
             Texts({{CRect(0, 0, Width(L"A:"), 16), L"A:", kLine}, {CRect(left, 0, 200, 16), value, kLine}}),
-            LookOf(m_info)))
+            ts::LookOf(m_info)))
             << length;
     }
 }
@@ -120,7 +122,7 @@ TEST_F(Info, LastValueEndsAtTheBottomWithAnEllipsis)
     m_info.AddItem(L"A", text);
     EXPECT_TRUE(ts::SamePicture(
         Texts({{CRect(0, 0, Width(L"A:"), 16), L"A:", kLine}, {CRect(Width(L"A:") + 6, 0, 200, 100), text, kLast}}),
-        LookOf(m_info)));
+        ts::LookOf(m_info)));
 }
 
 TEST_F(Info, WordsThatAreTooLongAreBroken)
@@ -129,20 +131,20 @@ TEST_F(Info, WordsThatAreTooLongAreBroken)
     m_info.AddItem(L"A", word);
     EXPECT_TRUE(ts::SamePicture(
         Texts({{CRect(0, 0, Width(L"A:"), 16), L"A:", kLine}, {CRect(Width(L"A:") + 6, 0, 200, 100), word, kLast}}),
-        LookOf(m_info)));
+        ts::LookOf(m_info)));
 }
 
 TEST_F(Info, SurvivesTheEndOfTheGdiObjects)
 {
     m_info.AddItem(L"A", L"one");
     m_info.AddItem(L"B", L"two");
-    EXPECT_TRUE(SurvivesGdiShortage(m_info));
+    EXPECT_TRUE(ts::SurvivesGdiShortage(m_info));
 }
 
 TEST_F(Info, EmptyLabelHasNoColon)
 {
     m_info.AddItem(L"", L"value");
-    EXPECT_TRUE(ts::SamePicture(Texts({{CRect(6, 0, 200, 100), L"value", kLast}}), LookOf(m_info)));
+    EXPECT_TRUE(ts::SamePicture(Texts({{CRect(6, 0, 200, 100), L"value", kLast}}), ts::LookOf(m_info)));
 }
 
 TEST_F(Info, LabelWiderThanThePanelHidesTheValues)
@@ -150,7 +152,7 @@ TEST_F(Info, LabelWiderThanThePanelHidesTheValues)
     const CString wide(L'W', 60);
     m_info.AddItem(wide, L"value");
     m_info.AddItem(L"", L"value");
-    EXPECT_EQ(CRect(0, 0, 0, 0), LookOf(m_info).Crop(CRect(0, 17, 200, 100)).BoundsOfOthers(kSoft));
+    EXPECT_EQ(CRect(0, 0, 0, 0), ts::LookOf(m_info).Crop(CRect(0, 17, 200, 100)).BoundsOfOthers(kSoft));
 }
 
 TEST_F(Info, ChangesRepaint)
@@ -161,7 +163,7 @@ TEST_F(Info, ChangesRepaint)
     ::ValidateRect(m_info, nullptr);
     m_info.RemoveAll();
     EXPECT_TRUE(::GetUpdateRect(m_info, nullptr, FALSE));
-    EXPECT_TRUE(ts::AreaIs(LookOf(m_info), CRect(0, 0, 200, 100), kSoft));
+    EXPECT_TRUE(ts::AreaIs(ts::LookOf(m_info), CRect(0, 0, 200, 100), kSoft));
 }
 
 TEST_F(Info, ChangesAskForErasing)
@@ -185,9 +187,9 @@ TEST_F(Info, ErasesNothing)
 TEST_F(Info, MissingAndHugeTextsAreNoHarm)
 {
     m_info.AddItem(nullptr, nullptr);
-    EXPECT_TRUE(ts::AreaIs(LookOf(m_info), CRect(0, 0, 200, 100), kSoft));
+    EXPECT_TRUE(ts::AreaIs(ts::LookOf(m_info), CRect(0, 0, 200, 100), kSoft));
     m_info.AddItem(L"A", CString(L'x', 20000));
-    EXPECT_GT(LookOf(m_info).Count(kInk), 0);
+    EXPECT_GT(ts::LookOf(m_info).Count(kInk), 0);
 }
 
 TEST(InfoAlone, ChildNeedsAParent)
@@ -200,18 +202,18 @@ TEST(InfoAlone, ChildNeedsAParent)
 TEST_F(Info, TakesItemsBeforeItHasAWindow)
 {
     m_info.AddItem(L"A", L"b");
-    const ts::Picture look = LookOf(m_info);
+    const ts::Picture look = ts::LookOf(m_info);
     m_info.DestroyWindow();
     CQorInfo info;
     info.AddItem(L"Gone", L"gone");
     info.RemoveAll();
     info.AddItem(L"A", L"b");
-    ASSERT_TRUE(info.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 100), &m_host, kControlId));
-    EXPECT_TRUE(ts::SamePicture(look, LookOf(info)));
+    ASSERT_TRUE(info.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 100), &m_host, ts::kControlId));
+    EXPECT_TRUE(ts::SamePicture(look, ts::LookOf(info)));
     info.DestroyWindow();
     info.RemoveAll();
-    ASSERT_TRUE(info.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 100), &m_host, kControlId));
-    EXPECT_TRUE(ts::AreaIs(LookOf(info), CRect(0, 0, 200, 100), kSoft));
+    ASSERT_TRUE(info.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 100), &m_host, ts::kControlId));
+    EXPECT_TRUE(ts::AreaIs(ts::LookOf(info), CRect(0, 0, 200, 100), kSoft));
     info.DestroyWindow();
 }
 
@@ -219,7 +221,7 @@ TEST_F(Info, LeavesNothingBehind)
 {
     EXPECT_TRUE(ts::NoLeak([this] {
         CQorInfo info;
-        info.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 100), &m_host, 3);
+        info.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 100), &m_host, ts::kOtherId);
         info.AddItem(L"A", L"b");
         info.AddItem(L"B", kLong);
         info.UpdateWindow();

@@ -1,4 +1,6 @@
 #include <tests/lists/Lists.h>
+#include <tests/support/ui/Control.h>
+#include <tests/support/ui/Look.h>
 
 #include <algorithm>
 #include <array>
@@ -35,7 +37,7 @@ class StatusBar : public testing::Test
   protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_bar.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 400, 22), &m_host, kControlId));
+        ASSERT_TRUE(m_bar.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 400, 22), &m_host, ts::kControlId));
     }
 
     void SetThree()
@@ -49,7 +51,7 @@ class StatusBar : public testing::Test
         return ts::DrawTo(
             400, 22,
             [&](HDC dc) {
-                ::SelectObject(dc, GuiFont());
+                ::SelectObject(dc, ts::GuiFont());
                 ::SetBkMode(dc, TRANSPARENT);
                 CRect place(rect);
                 ::DrawTextW(dc, text, -1, &place, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS);
@@ -64,7 +66,7 @@ class StatusBar : public testing::Test
 TEST_F(StatusBar, PartsAreLaidOutFromTheRight)
 {
     SetThree();
-    const ts::Picture look = LookOf(m_bar);
+    const ts::Picture look = ts::LookOf(m_bar);
     for (const int left : {320, 200}) {
         EXPECT_TRUE(ts::AreaIs(look, CRect(left, 2, left + 1, 20), kDark)) << left;
         EXPECT_TRUE(ts::AreaIs(look, CRect(left + 1, 2, left + 2, 20), kLight)) << left;
@@ -81,7 +83,7 @@ TEST_F(StatusBar, LowBarHasNoSeparators)
     m_bar.SetText(1, L"Text");
     for (int height = 0; height <= 5; ++height) {
         m_bar.SetWindowPos(nullptr, 0, 0, 400, height, SWP_NOMOVE | SWP_NOZORDER);
-        PaintNow(m_bar);
+        ts::PaintNow(m_bar);
         EXPECT_FALSE(::GetUpdateRect(m_bar, nullptr, FALSE)) << height;
         if (height > 0) {
             const ts::Picture look = ts::CaptureWindow(m_bar);
@@ -92,7 +94,7 @@ TEST_F(StatusBar, LowBarHasNoSeparators)
     }
     for (int width = 1; width <= 5; ++width) {
         m_bar.SetWindowPos(nullptr, 0, 0, width, 22, SWP_NOMOVE | SWP_NOZORDER);
-        EXPECT_TRUE(ts::AreaIs(LookOf(m_bar), CRect(0, 0, width, 22), kBack)) << width;
+        EXPECT_TRUE(ts::AreaIs(ts::LookOf(m_bar), CRect(0, 0, width, 22), kBack)) << width;
     }
 }
 
@@ -104,7 +106,7 @@ TEST_F(StatusBar, TextsStandSixPixelsInsideTheirParts)
         SetThree();
         EXPECT_TRUE(m_bar.SetText(part, L"Text"));
         const CRect inside = places.at(static_cast<size_t>(part));
-        EXPECT_TRUE(ts::SamePicture(Text(inside, L"Text").Crop(inside), LookOf(m_bar).Crop(inside))) << part;
+        EXPECT_TRUE(ts::SamePicture(Text(inside, L"Text").Crop(inside), ts::LookOf(m_bar).Crop(inside))) << part;
     }
 }
 
@@ -123,7 +125,7 @@ TEST_F(StatusBar, LooksAsItShould)
                 to->FillSolidRect(left, 2, 1, 18, kDark);
                 to->FillSolidRect(left + 1, 2, 1, 18, kLight);
             }
-            ::SelectObject(dc, GuiFont());
+            ::SelectObject(dc, ts::GuiFont());
             ::SetBkMode(dc, TRANSPARENT);
             ::SetTextColor(dc, kInk);
             const std::array<std::pair<CRect, CString>, 3> texts = {
@@ -133,7 +135,7 @@ TEST_F(StatusBar, LooksAsItShould)
             }
         },
         kBack);
-    EXPECT_TRUE(ts::SamePicture(expected, LookOf(m_bar)));
+    EXPECT_TRUE(ts::SamePicture(expected, ts::LookOf(m_bar)));
 }
 
 TEST_F(StatusBar, PaintingLeavesTheDeviceContextAsItWas)
@@ -141,7 +143,7 @@ TEST_F(StatusBar, PaintingLeavesTheDeviceContextAsItWas)
     SetThree();
     CQorStatusBar bar; // with a device context that it keeps
     const LPCWSTR name = AfxRegisterWndClass(CS_OWNDC);
-    ASSERT_TRUE(bar.Create(name, L"", WS_CHILD | WS_VISIBLE, CRect(0, 30, 400, 52), &m_host, 3));
+    ASSERT_TRUE(bar.Create(name, L"", WS_CHILD | WS_VISIBLE, CRect(0, 30, 400, 52), &m_host, ts::kOtherId));
     std::array<int, 2> widths = {0, 100};
     bar.SetParts(2, widths.data());
     bar.SetText(0, L"Text");
@@ -149,7 +151,7 @@ TEST_F(StatusBar, PaintingLeavesTheDeviceContextAsItWas)
     ::SetTextColor(dc, RGB(1, 2, 3));
     ::SetBkMode(dc, OPAQUE);
     const HGDIOBJ font = ::GetCurrentObject(dc, OBJ_FONT);
-    PaintNow(bar);
+    ts::PaintNow(bar);
     EXPECT_EQ(RGB(1, 2, 3), ::GetTextColor(dc));
     EXPECT_EQ(OPAQUE, ::GetBkMode(dc));
     EXPECT_EQ(font, ::GetCurrentObject(dc, OBJ_FONT));
@@ -164,7 +166,7 @@ TEST_F(StatusBar, SurvivesTheEndOfTheGdiObjects)
 {
     SetThree();
     m_bar.SetText(1, L"Text");
-    EXPECT_TRUE(SurvivesGdiShortage(m_bar));
+    EXPECT_TRUE(ts::SurvivesGdiShortage(m_bar));
 }
 
 TEST_F(StatusBar, PartsWiderThanTheBarAreNoHarm)
@@ -173,7 +175,7 @@ TEST_F(StatusBar, PartsWiderThanTheBarAreNoHarm)
     m_bar.SetParts(3, widths.data());
     m_bar.SetText(0, CString(L'W', 20000));
     m_bar.SetText(1, L"");
-    const ts::Picture look = LookOf(m_bar);
+    const ts::Picture look = ts::LookOf(m_bar);
     EXPECT_TRUE(ts::AreaIs(look, CRect(300, 2, 301, 20), kDark));
     EXPECT_EQ(0, look.Count(kInk));
 }
@@ -184,14 +186,14 @@ TEST_F(StatusBar, WidthOfTheFirstPartIsIgnored)
     m_bar.SetParts(2, widths.data());
     m_bar.SetText(0, L"Text");
     const CRect inside(6, 2, 300, 20);
-    EXPECT_TRUE(ts::SamePicture(Text(inside, L"Text").Crop(inside), LookOf(m_bar).Crop(inside)));
+    EXPECT_TRUE(ts::SamePicture(Text(inside, L"Text").Crop(inside), ts::LookOf(m_bar).Crop(inside)));
 }
 
 TEST_F(StatusBar, LongTextIsCutInItsPart)
 {
     SetThree();
     m_bar.SetText(1, CString(L'W', 200));
-    const ts::Picture look = LookOf(m_bar);
+    const ts::Picture look = ts::LookOf(m_bar);
     EXPECT_EQ(0, look.Crop(CRect(322, 0, 400, 22)).Count(kInk));
     EXPECT_GT(look.Crop(CRect(206, 0, 320, 22)).Count(kInk), 0);
 }
@@ -201,7 +203,7 @@ TEST_F(StatusBar, SetPartsReplacesAllTexts)
     SetThree();
     m_bar.SetText(0, L"Text");
     SetThree();
-    EXPECT_EQ(0, LookOf(m_bar).Count(kInk));
+    EXPECT_EQ(0, ts::LookOf(m_bar).Count(kInk));
 }
 
 TEST_F(StatusBar, ChangesRepaint)
@@ -245,13 +247,13 @@ TEST_F(StatusBar, PaintingWithoutPartsThrows)
     EXPECT_TRUE(thrown);
     ::ValidateRect(m_bar, nullptr);
     SetThree();
-    EXPECT_TRUE(ts::PixelIs(LookOf(m_bar), 1, 1, kBack));
+    EXPECT_TRUE(ts::PixelIs(ts::LookOf(m_bar), 1, 1, kBack));
 }
 
 TEST_F(StatusBar, TextNeedsItsWidthAndTwelvePixels)
 {
     CClientDC dc(&m_bar);
-    const HGDIOBJ old = ::SelectObject(dc, GuiFont());
+    const HGDIOBJ old = ::SelectObject(dc, ts::GuiFont());
     const int width = dc.GetTextExtent(L"Some text", 9).cx;
     ::SelectObject(dc, old);
     EXPECT_EQ(width + 12, m_bar.GetTextExtent(L"Some text"));
@@ -263,7 +265,7 @@ TEST(StatusBarAlone, MeasuresWithoutAWindow)
 {
     CQorStatusBar bar;
     CClientDC screen(nullptr);
-    const HGDIOBJ old = ::SelectObject(screen, GuiFont());
+    const HGDIOBJ old = ::SelectObject(screen, ts::GuiFont());
     const int width = screen.GetTextExtent(L"Some text", 9).cx;
     ::SelectObject(screen, old);
     EXPECT_EQ(width + 12, bar.GetTextExtent(L"Some text"));
@@ -275,14 +277,14 @@ TEST_F(StatusBar, BadCountsAreNoHarm)
     EXPECT_FALSE(m_bar.SetText(0, L"x"));
     EXPECT_TRUE(m_bar.SetParts(2, nullptr));
     EXPECT_TRUE(m_bar.SetText(1, nullptr));
-    EXPECT_TRUE(ts::PixelIs(LookOf(m_bar), 1, 1, kBack));
+    EXPECT_TRUE(ts::PixelIs(ts::LookOf(m_bar), 1, 1, kBack));
 }
 
 TEST_F(StatusBar, LeavesNothingBehind)
 {
     EXPECT_TRUE(ts::NoLeak([this] {
         CQorStatusBar bar;
-        bar.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 30, 400, 52), &m_host, 3);
+        bar.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 30, 400, 52), &m_host, ts::kOtherId);
         std::array<int, 2> widths = {0, 100};
         bar.SetParts(2, widths.data());
         bar.SetText(1, L"Text");

@@ -92,7 +92,7 @@ TEST_F(DragLB, LosesSortingAndMultipleSelectionWhenSubclassed)
 TEST_F(DragLB, LosesSortingWhenCreated)
 {
     CDragLB list;
-    ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | LBS_SORT, CRect(30, 10, 130, 130), &m_host, 18));
+    ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | LBS_SORT, CRect(30, 10, 130, 130), &m_host, ts::kOtherId));
     EXPECT_EQ(0u, list.GetStyle() & LBS_SORT);
     list.AddString(L"b");
     EXPECT_EQ(1, list.AddString(L"a"));

@@ -1,6 +1,7 @@
 #include "Inputs.h"
 
 #include <QorUI/inputs/FlatChkList.h>
+#include <tests/support/ui/Look.h>
 
 namespace
 {
@@ -31,7 +32,7 @@ TEST_F(FlatChkList, ChecksItsItems)
     ts::Click(m_list, 7, 7);
     EXPECT_EQ(BST_CHECKED, m_list.GetCheck(0));
     EXPECT_EQ(BST_UNCHECKED, m_list.GetCheck(1));
-    EXPECT_EQ(1u, m_host.Log().Count(ts::Command(kControlId, CLBN_CHKCHANGE)));
+    EXPECT_EQ(1u, m_host.Log().Count(ts::Command(ts::kControlId, CLBN_CHKCHANGE)));
 }
 
 TEST_F(FlatChkList, ShowingPaintingAndClosingLeavesNothingBehind)
@@ -41,7 +42,7 @@ TEST_F(FlatChkList, ShowingPaintingAndClosingLeavesNothingBehind)
         list.SubclassWindow(AddSystem(m_host, L"LISTBOX", LBS_OWNERDRAWFIXED | LBS_HASSTRINGS));
         list.AddString(L"One");
         list.SetCheck(0, BST_CHECKED);
-        FrameOf(list);
+        ts::FrameOf(list);
         list.DestroyWindow();
     }));
 }

@@ -3,6 +3,7 @@
 #include <QorUI/inputs/ComboLook.h>
 #include <QorUI/inputs/FlatCombo.h>
 #include <tests/support/Imports.h>
+#include <tests/support/ui/Look.h>
 
 namespace
 {
@@ -69,7 +70,7 @@ TEST_F(FlatCombo, SelectionFieldOfACreatedOneIsThatOfItsFont)
     const HWND stock = ::CreateWindowW(L"COMBOBOX", L"", WS_CHILD | CBS_DROPDOWNLIST, 10, 60, 120, 140, m_host, nullptr,
                                        nullptr, nullptr);
     CFlatCombo combo;
-    ASSERT_TRUE(combo.Create(WS_CHILD | CBS_DROPDOWNLIST, CRect(10, 60, 130, 200), &m_host, 18));
+    ASSERT_TRUE(combo.Create(WS_CHILD | CBS_DROPDOWNLIST, CRect(10, 60, 130, 200), &m_host, ts::kOtherId));
     EXPECT_EQ(::SendMessageW(stock, CB_GETITEMHEIGHT, static_cast<WPARAM>(-1), 0), combo.GetItemHeight(-1));
     EXPECT_NE(m_combo.GetItemHeight(-1), combo.GetItemHeight(-1));
 }
@@ -119,7 +120,7 @@ TEST_F(FlatCombo, DataOfTheSelectionOrTheGivenValue)
 TEST_F(FlatCombo, BothPartsHaveAGreyAndAWhiteFrame)
 {
     const OddLook odd; // which the frames do not take part in
-    const ts::Picture look = LookOf(m_combo);
+    const ts::Picture look = ts::LookOf(m_combo);
     const QorComboParts parts = Parts();
     EXPECT_TRUE(ts::FrameIs(look, parts.button, kGrey));
     EXPECT_TRUE(ts::FrameIs(look, Inner(parts.button), kWhite));
@@ -138,7 +139,7 @@ TEST_F(FlatCombo, FramesAreWholeWhateverTheStandardBoxPaints)
     const QorComboParts parts = PartsOf(combo);
     for (const BOOL enabled : {TRUE, FALSE}) {
         combo.EnableWindow(enabled);
-        const ts::Picture look = LookOf(combo);
+        const ts::Picture look = ts::LookOf(combo);
         for (const RECT& part : {parts.text, parts.button}) {
             EXPECT_TRUE(ts::FrameIs(look, part, kGrey)) << enabled;
             EXPECT_TRUE(ts::FrameIs(look, Inner(part), kWhite)) << enabled;
@@ -149,7 +150,7 @@ TEST_F(FlatCombo, FramesAreWholeWhateverTheStandardBoxPaints)
 TEST_F(FlatCombo, ButtonIsFilledAroundABlackArrow)
 {
     const OddLook odd;
-    const ts::Picture look = LookOf(m_combo);
+    const ts::Picture look = ts::LookOf(m_combo);
     const QorComboParts parts = Parts();
     const ts::Picture face = look.Crop(parts.face);
     const CRect arrow(face.BoundsOf(RGB(0, 0, 0)));
@@ -162,9 +163,9 @@ TEST_F(FlatCombo, ButtonIsFilledAroundABlackArrow)
 TEST_F(FlatCombo, DisabledBoxHasAGreyArrowInTheSameFrame)
 {
     const OddLook odd;
-    const ts::Picture enabled = LookOf(m_combo);
+    const ts::Picture enabled = ts::LookOf(m_combo);
     m_combo.EnableWindow(FALSE);
-    const ts::Picture disabled = LookOf(m_combo);
+    const ts::Picture disabled = ts::LookOf(m_combo);
     const QorComboParts parts = Parts();
     EXPECT_EQ(0, disabled.Crop(parts.face).Count(RGB(0, 0, 0)));
     EXPECT_EQ(16, disabled.Crop(parts.face).Count(OddLook::kGrayText));
@@ -181,7 +182,7 @@ int WINAPI WideThumb(int index)
 TEST_F(FlatCombo, ButtonHasTheWidthOfAScrollBarsThumb)
 {
     const ts::ReplacedImport metrics(L"QorUI.dll", "GetSystemMetrics", &WideThumb);
-    const ts::Picture look = LookOf(m_combo);
+    const ts::Picture look = ts::LookOf(m_combo);
     const QorComboParts parts = QorComboLayout({0, 0, look.Width(), look.Height()}, 29);
     EXPECT_TRUE(ts::FrameIs(look, parts.button, kGrey));
     EXPECT_TRUE(ts::FrameIs(look, parts.text, kGrey));
@@ -204,14 +205,14 @@ TEST_F(FlatCombo, WithoutAWindowNothingIsFoundOrChanged)
     CFlatCombo combo;
     EXPECT_EQ(-1, combo.RemoveItem(0));
     EXPECT_EQ(-1, combo.SelectItem(0));
-    EXPECT_FALSE(combo.Create(WS_CHILD | CBS_DROPDOWNLIST, CRect(0, 0, 10, 10), nullptr, 19));
+    EXPECT_FALSE(combo.Create(WS_CHILD | CBS_DROPDOWNLIST, CRect(0, 0, 10, 10), nullptr, ts::kOtherId));
 }
 
 TEST_F(FlatCombo, TinyBoxIsPaintedWithoutHarm)
 {
     CFlatCombo combo;
-    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(10, 50, 13, 60), &m_host, 19));
-    EXPECT_EQ(3, LookOf(combo).Width());
+    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(10, 50, 13, 60), &m_host, ts::kOtherId));
+    EXPECT_EQ(3, ts::LookOf(combo).Width());
 }
 
 TEST_F(FlatCombo, ShowingPaintingAndClosingLeavesNothingBehind)
@@ -219,9 +220,9 @@ TEST_F(FlatCombo, ShowingPaintingAndClosingLeavesNothingBehind)
     EXPECT_TRUE(ts::NoLeak([this] {
         CFlatCombo combo;
         combo.SubclassWindow(AddSystem(m_host, L"COMBOBOX", CBS_DROPDOWNLIST, 0, {10, 60, 130, 200}));
-        LookOf(combo);
+        ts::LookOf(combo);
         combo.EnableWindow(FALSE);
-        LookOf(combo);
+        ts::LookOf(combo);
         combo.DestroyWindow();
     }));
 }

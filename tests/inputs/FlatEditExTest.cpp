@@ -2,6 +2,7 @@
 
 #include <QorApi/QorApi.h>
 #include <QorUI/inputs/FlatEditEx.h>
+#include <tests/support/ui/Control.h>
 
 namespace
 {
@@ -53,7 +54,7 @@ TEST_F(FlatEditEx, RefusedCharacterMarksTheTextAndShowsABalloon)
     ts::Type(L"a:b");
     EXPECT_EQ(-1, m_edit.IsValidText());
     EXPECT_EQ(2u, Shown()) << "for ':' and for the character behind it";
-    EXPECT_STREQ(L"a:b", TextOf(m_edit)) << "the character stays";
+    EXPECT_STREQ(L"a:b", ts::TextOf(m_edit)) << "the character stays";
 }
 
 TEST_F(FlatEditEx, BalloonNamesAllRefusedCharacters)
@@ -158,7 +159,7 @@ TEST_F(FlatEditEx, ParentGetsTheNotificationToo)
       protected:
         BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override
         {
-            updates += id == kControlId && code == EN_UPDATE;
+            updates += id == ts::kControlId && code == EN_UPDATE;
             return AfxHost::OnCmdMsg(id, code, extra, info);
         }
     } parent;

@@ -1,6 +1,8 @@
 #include "Inputs.h"
 
 #include <QorUI/inputs/FlatEdit.h>
+#include <tests/support/ui/Control.h>
+#include <tests/support/ui/Look.h>
 
 namespace
 {
@@ -13,7 +15,8 @@ class CPlain : public CWnd
   public:
     CPlain(CWnd& parent, DWORD exStyle)
     {
-        CreateEx(exStyle, AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(10, 10, 60, 40), &parent, 3);
+        CreateEx(exStyle, AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(10, 10, 60, 40), &parent,
+                 ts::kOtherId);
     }
 
   protected:
@@ -101,15 +104,15 @@ TEST_F(FlatEdit, ScrollBarInTheFrameIsStillPainted)
 TEST_F(FlatEdit, WithoutClientEdgeNothingIsPaintedAround)
 {
     ASSERT_TRUE(m_edit.SubclassWindow(AddSystem(m_host, L"EDIT", 0, 0)));
-    EXPECT_EQ(0, FrameOf(m_edit).Count(kGrey));
+    EXPECT_EQ(0, ts::FrameOf(m_edit).Count(kGrey));
 }
 
 TEST_F(FlatEdit, StillEdits)
 {
-    ASSERT_TRUE(m_edit.Create(WS_CHILD | WS_VISIBLE, kPlace, &m_host, kControlId));
+    ASSERT_TRUE(m_edit.Create(WS_CHILD | WS_VISIBLE, kPlace, &m_host, ts::kControlId));
     m_edit.SetFocus();
     ts::Type(L"abc");
-    EXPECT_STREQ(L"abc", TextOf(m_edit));
+    EXPECT_STREQ(L"abc", ts::TextOf(m_edit));
 }
 
 TEST_F(FlatEdit, ShowingPaintingAndClosingLeavesNothingBehind)
@@ -117,7 +120,7 @@ TEST_F(FlatEdit, ShowingPaintingAndClosingLeavesNothingBehind)
     EXPECT_TRUE(ts::NoLeak([this] {
         CFlatEdit edit;
         edit.SubclassWindow(AddSystem(m_host, L"EDIT", 0));
-        FrameOf(edit);
+        ts::FrameOf(edit);
         edit.DestroyWindow();
     }));
 }

@@ -3,6 +3,7 @@
 #include <QorUI/inputs/FlatChkList.h>
 #include <QorUI/inputs/FlatListBox.h>
 #include <tests/support/Imports.h>
+#include <tests/support/ui/Control.h>
 
 namespace
 {
@@ -40,7 +41,7 @@ TEST_F(FlatListBox, NewFontIsMeasuredAnew)
     ASSERT_TRUE(font.CreatePointFont(240, L"Tahoma"));
     m_list.SetFont(&font);
     m_list.AddString(kLong);
-    EXPECT_EQ(TextWidth(font, kLong) + 3 * ::GetSystemMetrics(SM_CXBORDER), m_list.GetHorizontalExtent());
+    EXPECT_EQ(ts::TextWidth(font, kLong) + 3 * ::GetSystemMetrics(SM_CXBORDER), m_list.GetHorizontalExtent());
     m_list.DestroyWindow();
 }
 
@@ -54,7 +55,7 @@ TEST_F(FlatListBox, FontOfAFormerWindowIsForgotten)
     ::SendMessageW(list, WM_SETFONT, reinterpret_cast<WPARAM>(font.m_hObject), FALSE);
     ASSERT_TRUE(m_list.SubclassWindow(list));
     m_list.AddString(kLong);
-    EXPECT_EQ(TextWidth(font, kLong) + 3 * ::GetSystemMetrics(SM_CXBORDER), m_list.GetHorizontalExtent());
+    EXPECT_EQ(ts::TextWidth(font, kLong) + 3 * ::GetSystemMetrics(SM_CXBORDER), m_list.GetHorizontalExtent());
     m_list.DestroyWindow();
 }
 

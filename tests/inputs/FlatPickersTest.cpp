@@ -1,6 +1,8 @@
 #include "Inputs.h"
 
 #include <QorUI/inputs/FlatPickers.h>
+#include <tests/support/ui/Control.h>
+#include <tests/support/ui/Look.h>
 
 namespace
 {
@@ -70,7 +72,7 @@ ts::HandleCounts LeftBehind(CWnd& parent, const wchar_t* className)
     const auto cycle = [&parent, className] {
         Control control;
         control.SubclassWindow(AddSystem(parent, className, 0));
-        FrameOf(control);
+        ts::FrameOf(control);
         control.DestroyWindow();
     };
     cycle();
@@ -108,7 +110,7 @@ TEST(FlatDateTime, StillTakesAFormat)
     ASSERT_TRUE(control.SetFormat(L"HH:mm"));
     const SYSTEMTIME set = {2024, 5, 3, 15, 13, 37, 0, 0};
     ASSERT_TRUE(control.SendMessage(DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&set)));
-    EXPECT_STREQ(L"13:37", TextOf(control));
+    EXPECT_STREQ(L"13:37", ts::TextOf(control));
 }
 
 TEST(FlatIPAddr, StillKeepsAnAddress)
@@ -117,7 +119,7 @@ TEST(FlatIPAddr, StillKeepsAnAddress)
     CFlatIPAddr control;
     ASSERT_TRUE(control.SubclassWindow(AddSystem(host, WC_IPADDRESSW, 0)));
     control.SendMessage(IPM_SETADDRESS, 0, static_cast<LPARAM>(MAKEIPADDRESS(192, 0, 2, 17)));
-    EXPECT_STREQ(L"192.0.2.17", TextOf(control));
+    EXPECT_STREQ(L"192.0.2.17", ts::TextOf(control));
 }
 
 } // namespace

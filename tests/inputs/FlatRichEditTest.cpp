@@ -2,6 +2,8 @@
 
 #include <QorUI/inputs/FlatRichEdit.h>
 #include <tests/support/Imports.h>
+#include <tests/support/ui/Control.h>
+#include <tests/support/ui/Look.h>
 
 namespace
 {
@@ -32,7 +34,7 @@ class RichEdit : public testing::Test
     void SetUp() override
     {
         ASSERT_TRUE(m_edit.CWnd::CreateEx(WS_EX_CLIENTEDGE, RICHEDIT_CLASSW, L"", WS_CHILD | WS_VISIBLE | ES_MULTILINE,
-                                          10, 10, 300, 120, m_host.m_hWnd, reinterpret_cast<HMENU>(kControlId)));
+                                          10, 10, 300, 120, m_host.m_hWnd, reinterpret_cast<HMENU>(ts::kControlId)));
     }
 
     static void SetUpTestSuite() { s_library = ::LoadLibraryW(L"riched20.dll"); }
@@ -72,7 +74,7 @@ class RichEdit : public testing::Test
 TEST_F(RichEdit, FormatStartsWithTheFaceOfDialogs)
 {
     LOGFONTW font = {};
-    ASSERT_NE(0, ::GetObjectW(GuiFont(), sizeof(font), &font));
+    ASSERT_NE(0, ::GetObjectW(ts::GuiFont(), sizeof(font), &font));
     EXPECT_EQ(92u, m_edit.m_cf.cbSize);
     EXPECT_EQ(0xC000000Fu | CFM_FACE, m_edit.m_cf.dwMask);
     EXPECT_STREQ(font.lfFaceName, m_edit.m_cf.szFaceName);
@@ -319,7 +321,7 @@ TEST_F(RichEdit, WithoutAWindowNothingIsInserted)
     EXPECT_FALSE(edit.SetAlign(PFA_CENTER));
     EXPECT_FALSE(edit.SetIndent(1, 2));
     EXPECT_EQ(0, edit.AutoURLDetect(TRUE));
-    EXPECT_FALSE(edit.Create(WS_CHILD, CRect(0, 0, 10, 10), nullptr, 18));
+    EXPECT_FALSE(edit.Create(WS_CHILD, CRect(0, 0, 10, 10), nullptr, ts::kOtherId));
 }
 
 TEST_F(RichEdit, PositionsOutsideTheTextAreItsEnds)
@@ -342,7 +344,7 @@ TEST_F(RichEdit, ScrollBarInTheFrameIsStillPainted)
 {
     COpenRichEdit edit;
     const DWORD style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | ES_MULTILINE | ES_DISABLENOSCROLL;
-    ASSERT_TRUE(edit.CreateEx(WS_EX_CLIENTEDGE, style, CRect(10, 10, 200, 120), &m_host, 18));
+    ASSERT_TRUE(edit.CreateEx(WS_EX_CLIENTEDGE, style, CRect(10, 10, 200, 120), &m_host, ts::kOtherId));
     EXPECT_TRUE(PaintsItsScrollBar(edit));
 }
 
@@ -351,10 +353,10 @@ TEST_F(RichEdit, ShowingPaintingAndClosingLeavesNothingBehind)
     EXPECT_TRUE(ts::NoLeak([this] {
         COpenRichEdit edit;
         edit.CWnd::CreateEx(WS_EX_CLIENTEDGE, RICHEDIT_CLASSW, L"", WS_CHILD | WS_VISIBLE | ES_MULTILINE, 10, 10, 300,
-                            120, m_host.m_hWnd, reinterpret_cast<HMENU>(18));
+                            120, m_host.m_hWnd, reinterpret_cast<HMENU>(ts::kOtherId));
         edit.SetFormat(12, kRed, CFE_BOLD);
         edit.InsertText(-2, L"text");
-        FrameOf(edit);
+        ts::FrameOf(edit);
         edit.DestroyWindow();
     }));
 }

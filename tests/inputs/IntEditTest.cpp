@@ -2,16 +2,14 @@
 
 #include <QorUI/inputs/IntEdit.h>
 #include <tests/support/Imports.h>
+#include <tests/support/Refusals.h>
+#include <tests/support/ui/Control.h>
+#include <tests/support/ui/Look.h>
 
 #include <climits>
 
 namespace
 {
-
-HWND WINAPI NoWindow(DWORD, LPCWSTR, LPCWSTR, DWORD, int, int, int, int, HWND, HMENU, HINSTANCE, LPVOID)
-{
-    return nullptr;
-}
 
 /** A number edit with the range from 0 to 100 and the value 50. */
 class IntEdit : public testing::Test
@@ -43,7 +41,7 @@ class IntEdit : public testing::Test
     size_t Changes()
     {
         return m_host.Log().Count(
-            ts::Msg(WM_COMMAND, MAKEWPARAM(kControlId, EN_CHANGE), reinterpret_cast<LPARAM>(m_edit.m_hWnd)));
+            ts::Msg(WM_COMMAND, MAKEWPARAM(ts::kControlId, EN_CHANGE), reinterpret_cast<LPARAM>(m_edit.m_hWnd)));
     }
 
     ts::AfxHost m_host{200, 100};
@@ -85,23 +83,23 @@ TEST_F(IntEdit, RangeTheWrongWayRoundIsIgnored)
     EXPECT_EQ(100, m_edit.GetRange(&minimum));
     EXPECT_EQ(0, minimum);
     EXPECT_EQ(3u, m_edit.GetLimitText());
-    EXPECT_STREQ(L"50", TextOf(m_edit));
+    EXPECT_STREQ(L"50", ts::TextOf(m_edit));
 }
 
 TEST_F(IntEdit, SingleNumberIsARange)
 {
     m_edit.SetRange(8, 8, 3);
-    EXPECT_STREQ(L"8", TextOf(m_edit));
+    EXPECT_STREQ(L"8", ts::TextOf(m_edit));
 }
 
 TEST_F(IntEdit, ValueIsClampedIntoTheRange)
 {
     m_edit.SetValue(101);
-    EXPECT_STREQ(L"100", TextOf(m_edit));
+    EXPECT_STREQ(L"100", ts::TextOf(m_edit));
     m_edit.SetValue(INT_MIN);
-    EXPECT_STREQ(L"0", TextOf(m_edit));
+    EXPECT_STREQ(L"0", ts::TextOf(m_edit));
     m_edit.SetRange(-20, -10, -15);
-    EXPECT_STREQ(L"-15", TextOf(m_edit));
+    EXPECT_STREQ(L"-15", ts::TextOf(m_edit));
     EXPECT_EQ(-15, m_edit.GetValue());
 }
 
@@ -121,27 +119,27 @@ TEST_F(IntEdit, TakesDigitsOnly)
 {
     EXPECT_TRUE(m_edit.GetStyle() & ES_NUMBER);
     ts::Type(L"1a-2");
-    EXPECT_STREQ(L"12", TextOf(m_edit));
+    EXPECT_STREQ(L"12", ts::TextOf(m_edit));
 }
 
 TEST_F(IntEdit, CreatedOneTakesDigitsOnlyToo)
 {
     CIntEdit edit;
-    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(10, 50, 60, 70), &m_host, 18));
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(10, 50, 60, 70), &m_host, ts::kOtherId));
     edit.SetRange(0, 100, 0);
     EXPECT_TRUE(edit.GetStyle() & ES_NUMBER);
     edit.SetFocus();
     edit.SetSel(0, -1);
     ts::Type(L"a4");
-    EXPECT_STREQ(L"4", TextOf(edit));
+    EXPECT_STREQ(L"4", ts::TextOf(edit));
 }
 
 TEST_F(IntEdit, TypedNumberIsClampedAtEveryKey)
 {
     ts::Type(L"10");
-    EXPECT_STREQ(L"10", TextOf(m_edit));
+    EXPECT_STREQ(L"10", ts::TextOf(m_edit));
     ts::Type(L"9");
-    EXPECT_STREQ(L"100", TextOf(m_edit));
+    EXPECT_STREQ(L"100", ts::TextOf(m_edit));
 }
 
 TEST_F(IntEdit, FirstDigitBelowTheMinimumBecomesTheMinimum)
@@ -149,7 +147,7 @@ TEST_F(IntEdit, FirstDigitBelowTheMinimumBecomesTheMinimum)
     m_edit.SetRange(5, 20, 10);
     m_edit.SetSel(0, -1);
     ts::Type(L"1");
-    EXPECT_STREQ(L"5", TextOf(m_edit));
+    EXPECT_STREQ(L"5", ts::TextOf(m_edit));
 }
 
 TEST_F(IntEdit, EmptiedTextBecomesAMinimumAboveZero)
@@ -157,13 +155,13 @@ TEST_F(IntEdit, EmptiedTextBecomesAMinimumAboveZero)
     m_edit.SetRange(5, 20, 7);
     m_edit.SetSel(0, -1);
     ts::Key(VK_BACK);
-    EXPECT_STREQ(L"5", TextOf(m_edit));
+    EXPECT_STREQ(L"5", ts::TextOf(m_edit));
 }
 
 TEST_F(IntEdit, NumberInsideTheRangeIsNotRewritten)
 {
     ts::Type(L"007");
-    EXPECT_STREQ(L"007", TextOf(m_edit));
+    EXPECT_STREQ(L"007", ts::TextOf(m_edit));
 }
 
 TEST_F(IntEdit, DeletingBelowTheMinimumGivesTheMinimum)
@@ -171,16 +169,16 @@ TEST_F(IntEdit, DeletingBelowTheMinimumGivesTheMinimum)
     m_edit.SetRange(5, 20, 12);
     m_edit.SetSel(0, 0);
     ts::KeyDown(VK_DELETE);
-    EXPECT_STREQ(L"2", TextOf(m_edit)) << "checked when the key goes up";
+    EXPECT_STREQ(L"2", ts::TextOf(m_edit)) << "checked when the key goes up";
     ts::KeyUp(VK_DELETE);
-    EXPECT_STREQ(L"5", TextOf(m_edit));
+    EXPECT_STREQ(L"5", ts::TextOf(m_edit));
 }
 
 TEST_F(IntEdit, DeletingInsideTheRangeChangesNothingElse)
 {
     m_edit.SetSel(0, 1);
     ts::Key(VK_DELETE);
-    EXPECT_STREQ(L"0", TextOf(m_edit));
+    EXPECT_STREQ(L"0", ts::TextOf(m_edit));
 }
 
 TEST_F(IntEdit, DeletingAboveTheMaximumChangesNothing)
@@ -188,7 +186,7 @@ TEST_F(IntEdit, DeletingAboveTheMaximumChangesNothing)
     m_edit.SetWindowText(L"999");
     m_edit.SetSel(3, 3);
     ts::Key(VK_DELETE);
-    EXPECT_STREQ(L"999", TextOf(m_edit));
+    EXPECT_STREQ(L"999", ts::TextOf(m_edit));
 }
 
 TEST_F(IntEdit, OnlyDeleteIsCheckedWhenAKeyGoesUp)
@@ -196,20 +194,20 @@ TEST_F(IntEdit, OnlyDeleteIsCheckedWhenAKeyGoesUp)
     m_edit.SetRange(5, 20, 12);
     m_edit.SetWindowText(L"1");
     ts::Key(VK_HOME);
-    EXPECT_STREQ(L"1", TextOf(m_edit));
+    EXPECT_STREQ(L"1", ts::TextOf(m_edit));
 }
 
 TEST_F(IntEdit, EnterClicksAsAButtonWhenItWantsReturn)
 {
     Take(ES_WANTRETURN);
     ts::Key(VK_RETURN);
-    EXPECT_EQ(1u, m_host.Log().Count(ts::Msg(WM_COMMAND, MAKEWPARAM(kControlId, 0), 0)));
+    EXPECT_EQ(1u, m_host.Log().Count(ts::Msg(WM_COMMAND, MAKEWPARAM(ts::kControlId, 0), 0)));
 }
 
 TEST_F(IntEdit, EnterDoesNothingWithoutWantReturn)
 {
     ts::Key(VK_RETURN);
-    EXPECT_FALSE(m_host.Log().Has(ts::Msg(WM_COMMAND, MAKEWPARAM(kControlId, 0), 0)));
+    EXPECT_FALSE(m_host.Log().Has(ts::Msg(WM_COMMAND, MAKEWPARAM(ts::kControlId, 0), 0)));
 }
 
 TEST_F(IntEdit, EnterDoesNothingWithASpin)
@@ -217,7 +215,7 @@ TEST_F(IntEdit, EnterDoesNothingWithASpin)
     Take(ES_WANTRETURN);
     ASSERT_TRUE(m_edit.AddSpin());
     ts::Key(VK_RETURN);
-    EXPECT_FALSE(m_host.Log().Has(ts::Msg(WM_COMMAND, MAKEWPARAM(kControlId, 0), 0)));
+    EXPECT_FALSE(m_host.Log().Has(ts::Msg(WM_COMMAND, MAKEWPARAM(ts::kControlId, 0), 0)));
 }
 
 /** Notes what has been done already when the system's handler gets a released key. */
@@ -235,8 +233,8 @@ class CKeyNotingEdit : public CIntEdit
     {
         if (message == WM_KEYUP) {
             ++keys;
-            text = TextOf(*this);
-            clicked = m_host.Log().Has(ts::Msg(WM_COMMAND, MAKEWPARAM(kControlId, 0), 0));
+            text = ts::TextOf(*this);
+            clicked = m_host.Log().Has(ts::Msg(WM_COMMAND, MAKEWPARAM(ts::kControlId, 0), 0));
         }
         return CIntEdit::DefWindowProc(message, wParam, lParam);
     }
@@ -336,10 +334,10 @@ TEST_F(IntEdit, SpinChangesTheValueByOne)
 {
     ASSERT_TRUE(m_edit.AddSpin());
     ClickSpin(true);
-    EXPECT_STREQ(L"51", TextOf(m_edit));
+    EXPECT_STREQ(L"51", ts::TextOf(m_edit));
     ClickSpin(false);
     ClickSpin(false);
-    EXPECT_STREQ(L"49", TextOf(m_edit));
+    EXPECT_STREQ(L"49", ts::TextOf(m_edit));
 }
 
 TEST_F(IntEdit, SpinWrapsAroundAtTheEnds)
@@ -347,9 +345,9 @@ TEST_F(IntEdit, SpinWrapsAroundAtTheEnds)
     ASSERT_TRUE(m_edit.AddSpin());
     m_edit.SetValue(100);
     ClickSpin(true);
-    EXPECT_STREQ(L"0", TextOf(m_edit));
+    EXPECT_STREQ(L"0", ts::TextOf(m_edit));
     ClickSpin(false);
-    EXPECT_STREQ(L"100", TextOf(m_edit));
+    EXPECT_STREQ(L"100", ts::TextOf(m_edit));
 }
 
 TEST_F(IntEdit, SpinReachesBothEndsBeforeItWraps)
@@ -357,10 +355,10 @@ TEST_F(IntEdit, SpinReachesBothEndsBeforeItWraps)
     ASSERT_TRUE(m_edit.AddSpin());
     m_edit.SetValue(99);
     ClickSpin(true);
-    EXPECT_STREQ(L"100", TextOf(m_edit));
+    EXPECT_STREQ(L"100", ts::TextOf(m_edit));
     m_edit.SetValue(1);
     ClickSpin(false);
-    EXPECT_STREQ(L"0", TextOf(m_edit));
+    EXPECT_STREQ(L"0", ts::TextOf(m_edit));
 }
 
 TEST_F(IntEdit, SpinWrapsFromATextOutsideTheRange)
@@ -368,7 +366,7 @@ TEST_F(IntEdit, SpinWrapsFromATextOutsideTheRange)
     ASSERT_TRUE(m_edit.AddSpin());
     m_edit.SetWindowText(L"500");
     ClickSpin(false);
-    EXPECT_STREQ(L"0", TextOf(m_edit));
+    EXPECT_STREQ(L"0", ts::TextOf(m_edit));
 }
 
 LRESULT Step(CIntEdit& edit, int delta, LRESULT* answer = nullptr)
@@ -431,7 +429,7 @@ TEST_F(IntEdit, ParentMayDestroyItWhenEnterIsPressed)
 {
     Take(ES_WANTRETURN);
     m_host.Log().Answer(WM_COMMAND, [this](const ts::Message& message) -> std::optional<LRESULT> {
-        if (message.wParam == kControlId && message.lParam == 0) {
+        if (message.wParam == ts::kControlId && message.lParam == 0) {
             m_edit.DestroyWindow();
         }
         return std::nullopt;
@@ -445,7 +443,7 @@ TEST_F(IntEdit, ParentMayDestroyItWhenTheValueChanges)
     Take(ES_MULTILINE);
     ASSERT_TRUE(m_edit.AddSpin());
     m_host.Log().Answer(WM_COMMAND, [this](const ts::Message& message) -> std::optional<LRESULT> {
-        if (message.wParam == MAKEWPARAM(kControlId, EN_CHANGE) && m_edit.m_hWnd) {
+        if (message.wParam == MAKEWPARAM(ts::kControlId, EN_CHANGE) && m_edit.m_hWnd) {
             m_edit.DestroyWindow();
         }
         return std::nullopt;
@@ -466,7 +464,7 @@ TEST_F(IntEdit, HugeNumbersInTheTextAreClamped)
 
 TEST_F(IntEdit, SpinThatCannotBeMadeIsTold)
 {
-    const ts::ReplacedImport none(L"afx.dll", "CreateWindowExW", &NoWindow);
+    const ts::ReplacedImport none(L"afx.dll", "CreateWindowExW", &ts::NoWindow);
     EXPECT_FALSE(m_edit.AddSpin());
 }
 
@@ -481,7 +479,7 @@ TEST_F(IntEdit, SpinWritesEveryStepOnceToTheParent)
 TEST_F(IntEdit, TextMayBeLeftEmptyAtAMinimumOfZero)
 {
     ts::Key(VK_BACK);
-    EXPECT_STREQ(L"", TextOf(m_edit));
+    EXPECT_STREQ(L"", ts::TextOf(m_edit));
 }
 
 TEST_F(IntEdit, WithoutAWindowOnlyTheRangeIsKept)
@@ -491,7 +489,7 @@ TEST_F(IntEdit, WithoutAWindowOnlyTheRangeIsKept)
     edit.SetValue(6);
     EXPECT_EQ(0, edit.GetValue());
     EXPECT_EQ(7, edit.GetRange(nullptr));
-    EXPECT_FALSE(edit.Create(WS_CHILD, CRect(0, 0, 10, 10), nullptr, 18));
+    EXPECT_FALSE(edit.Create(WS_CHILD, CRect(0, 0, 10, 10), nullptr, ts::kOtherId));
 }
 
 TEST_F(IntEdit, PaintsItsBorderFlat)
@@ -503,7 +501,7 @@ TEST_F(IntEdit, SpinStaysVisibleWhileTyping)
 {
     Take(ES_MULTILINE);
     ASSERT_TRUE(m_edit.AddSpin());
-    const ts::Picture before = LookOf(m_edit);
+    const ts::Picture before = ts::LookOf(m_edit);
     CRect spin(before.Width() - 16, 0, before.Width(), before.Height());
     ts::Type(L"7");
     const ts::Picture after = ts::CaptureWindow(m_edit);
@@ -517,7 +515,7 @@ TEST_F(IntEdit, ShowingPaintingAndClosingLeavesNothingBehind)
         edit.SubclassWindow(AddSystem(m_host, L"EDIT", ES_MULTILINE, WS_EX_CLIENTEDGE, {10, 50, 60, 70}));
         edit.SetRange(0, 9, 3);
         edit.AddSpin();
-        FrameOf(edit);
+        ts::FrameOf(edit);
         edit.DestroyWindow();
     }));
 }

@@ -3,6 +3,9 @@
 #include <QorUI/inputs/DragLB.h>
 #include <QorUI/inputs/FlatListBox.h>
 #include <tests/support/Imports.h>
+#include <tests/support/Refusals.h>
+#include <tests/support/ui/Control.h>
+#include <tests/support/ui/Look.h>
 
 namespace
 {
@@ -71,7 +74,7 @@ TYPED_TEST(WidestText, MeasuresInTheListsOwnFont)
     ASSERT_TRUE(font.CreatePointFont(240, L"Tahoma"));
     this->m_list.SetFont(&font);
     this->m_list.AddString(kLong);
-    EXPECT_EQ(TextWidth(font, kLong) + 3 * ::GetSystemMetrics(SM_CXBORDER), this->m_list.GetHorizontalExtent());
+    EXPECT_EQ(ts::TextWidth(font, kLong) + 3 * ::GetSystemMetrics(SM_CXBORDER), this->m_list.GetHorizontalExtent());
     EXPECT_GT(this->m_list.GetHorizontalExtent(), this->Width(kLong));
     this->m_list.DestroyWindow();
 }
@@ -109,7 +112,7 @@ TYPED_TEST(WidestText, WithoutAWindowNothingHappens)
     EXPECT_EQ(LB_ERR, list.DeleteString(0));
     EXPECT_NO_THROW(list.ResetContent());
     EXPECT_EQ(nullptr, list.m_hWnd);
-    EXPECT_FALSE(list.Create(WS_CHILD, CRect(0, 0, 10, 10), nullptr, 18));
+    EXPECT_FALSE(list.Create(WS_CHILD, CRect(0, 0, 10, 10), nullptr, ts::kOtherId));
 }
 
 TYPED_TEST(WidestText, NewWindowOfTheSameObjectStartsAnew)
@@ -140,12 +143,7 @@ TYPED_TEST(WidestText, MarginIsThatOfThreeBorders)
 {
     const ts::ReplacedImport metrics(L"QorUI.dll", "GetSystemMetrics", &WideBorder);
     this->m_list.AddString(kShort);
-    EXPECT_EQ(TextWidth(GuiFont(), kShort) + 15, this->m_list.GetHorizontalExtent());
-}
-
-HDC WINAPI NoDc(HWND)
-{
-    return nullptr;
+    EXPECT_EQ(ts::TextWidth(ts::GuiFont(), kShort) + 15, this->m_list.GetHorizontalExtent());
 }
 
 TYPED_TEST(WidestText, WithoutADeviceContextTheScrollRangeStays)
@@ -153,8 +151,8 @@ TYPED_TEST(WidestText, WithoutADeviceContextTheScrollRangeStays)
     this->m_list.AddString(kShort);
     const int extent = this->m_list.GetHorizontalExtent();
     {
-        const ts::ReplacedImport ours(L"QorUI.dll", "GetDC", &NoDc);
-        const ts::ReplacedImport frameworks(L"afx.dll", "GetDC", &NoDc);
+        const ts::ReplacedImport ours(L"QorUI.dll", "GetDC", &ts::NoDc);
+        const ts::ReplacedImport frameworks(L"afx.dll", "GetDC", &ts::NoDc);
         EXPECT_EQ(1, this->m_list.AddString(kLong));
         EXPECT_EQ(2, this->m_list.InsertString(2, kLong));
         EXPECT_EQ(2, this->m_list.DeleteString(2));
@@ -172,7 +170,7 @@ TYPED_TEST(WidestText, LeavesNothingBehind)
         list.AddString(kLong);
         list.AddString(kShort);
         list.DeleteString(0);
-        FrameOf(list);
+        ts::FrameOf(list);
         list.DestroyWindow();
     }));
 }

@@ -3,6 +3,9 @@
 #include <QorUI/inputs/SearchBox.h>
 #include <QorUI/res/resource.h>
 #include <tests/support/Imports.h>
+#include <tests/support/Refusals.h>
+#include <tests/support/ui/Control.h>
+#include <tests/support/ui/Look.h>
 
 namespace
 {
@@ -14,16 +17,6 @@ class COpenSearchBox : public CSearchBox
   public:
     using CSearchBox::m_hWndEdit;
 };
-
-HBITMAP WINAPI NoBitmap(HINSTANCE, LPCWSTR)
-{
-    return nullptr;
-}
-
-HDC WINAPI NoMemoryDc(HDC)
-{
-    return nullptr;
-}
 
 BOOL WINAPI NoComboBoxInfo(HWND, PCOMBOBOXINFO)
 {
@@ -41,7 +34,7 @@ class SearchBox : public testing::Test
             m_box.DestroyWindow();
         }
         ASSERT_TRUE(m_box.Create(WS_CHILD | WS_VISIBLE | CBS_AUTOHSCROLL | style, CRect(10, 10, 150, 160), &m_host,
-                                 kControlId));
+                                 ts::kControlId));
         ts::ParkMouse();
     }
 
@@ -51,7 +44,7 @@ class SearchBox : public testing::Test
 
 TEST_F(SearchBox, HasTheFontOfDialogs)
 {
-    EXPECT_EQ(reinterpret_cast<LRESULT>(GuiFont()), m_box.SendMessage(WM_GETFONT));
+    EXPECT_EQ(reinterpret_cast<LRESULT>(ts::GuiFont()), m_box.SendMessage(WM_GETFONT));
 }
 
 TEST_F(SearchBox, KnowsItsEditControl)
@@ -83,13 +76,13 @@ TEST_F(SearchBox, FailedCreationIsPassedOn)
             return message == WM_CREATE ? -1 : CSearchBox::DefWindowProc(message, wParam, lParam);
         }
     } failing;
-    EXPECT_FALSE(failing.Create(WS_CHILD | CBS_DROPDOWN, CRect(0, 0, 50, 50), &m_host, 18));
+    EXPECT_FALSE(failing.Create(WS_CHILD | CBS_DROPDOWN, CRect(0, 0, 50, 50), &m_host, ts::kOtherId));
     EXPECT_EQ(nullptr, failing.m_hWnd);
 }
 
 TEST_F(SearchBox, FramesAreGreyAndWhite)
 {
-    const ts::Picture look = LookOf(m_box);
+    const ts::Picture look = ts::LookOf(m_box);
     EXPECT_TRUE(ts::FrameIs(look, {0, 0, look.Width(), look.Height()}, kOuter));
     // The glyph may stand over the second line, and the edit control within it.
     const int glyph = look.Width() - 1 - 17;
@@ -106,7 +99,7 @@ TEST_F(SearchBox, MagnifierStandsOverTheButton)
     ::DeleteObject(bitmap);
     ASSERT_EQ(16, glyph.Width());
     ASSERT_EQ(17, glyph.Height());
-    const ts::Picture look = LookOf(m_box);
+    const ts::Picture look = ts::LookOf(m_box);
     const int x = look.Width() - 1 - 17;
     const int y = (look.Height() - 2 - 16) / 2;
     EXPECT_TRUE(ts::SamePicture(glyph, look.Crop({x, y, x + 16, y + 17})));
@@ -121,17 +114,17 @@ TEST_F(SearchBox, WithoutItsBitmapOrAMemoryDcTheButtonIsLeftAsItIs)
     };
     const HWND plain = ::CreateWindowW(L"COMBOBOX", L"", WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, 10, 40, 140, 150,
                                        m_host.m_hWnd, nullptr, nullptr, nullptr);
-    ::SendMessageW(plain, WM_SETFONT, reinterpret_cast<WPARAM>(GuiFont()), FALSE);
-    const ts::Picture bare = magnifier(LookOf(*CWnd::FromHandle(plain)));
+    ::SendMessageW(plain, WM_SETFONT, reinterpret_cast<WPARAM>(ts::GuiFont()), FALSE);
+    const ts::Picture bare = magnifier(ts::LookOf(*CWnd::FromHandle(plain)));
     {
-        const ts::ReplacedImport none(L"QorUI.dll", "LoadBitmapW", &NoBitmap);
-        EXPECT_TRUE(ts::SamePicture(bare, magnifier(LookOf(m_box))));
+        const ts::ReplacedImport none(L"QorUI.dll", "LoadBitmapW", &ts::NoBitmapResource);
+        EXPECT_TRUE(ts::SamePicture(bare, magnifier(ts::LookOf(m_box))));
     }
     {
-        const ts::ReplacedImport none(L"QorUI.dll", "CreateCompatibleDC", &NoMemoryDc);
-        EXPECT_TRUE(ts::SamePicture(bare, magnifier(LookOf(m_box))));
+        const ts::ReplacedImport none(L"QorUI.dll", "CreateCompatibleDC", &ts::NoMemoryDc);
+        EXPECT_TRUE(ts::SamePicture(bare, magnifier(ts::LookOf(m_box))));
     }
-    EXPECT_FALSE(ts::SamePicture(bare, magnifier(LookOf(m_box))));
+    EXPECT_FALSE(ts::SamePicture(bare, magnifier(ts::LookOf(m_box))));
 }
 
 TEST_F(SearchBox, ButtonStillDropsTheList)
@@ -147,15 +140,15 @@ TEST_F(SearchBox, ButtonStillDropsTheList)
 TEST_F(SearchBox, BoxWithoutEditControlPaintsToo)
 {
     Create(CBS_DROPDOWNLIST);
-    EXPECT_TRUE(ts::FrameIs(LookOf(m_box), {0, 0, LookOf(m_box).Width(), LookOf(m_box).Height()}, kOuter));
+    EXPECT_TRUE(ts::FrameIs(ts::LookOf(m_box), {0, 0, ts::LookOf(m_box).Width(), ts::LookOf(m_box).Height()}, kOuter));
 }
 
 TEST_F(SearchBox, ShowingPaintingAndClosingLeavesNothingBehind)
 {
     EXPECT_TRUE(ts::NoLeak([this] {
         CSearchBox box;
-        box.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, CRect(10, 60, 150, 160), &m_host, 18);
-        LookOf(box);
+        box.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, CRect(10, 60, 150, 160), &m_host, ts::kOtherId);
+        ts::LookOf(box);
         box.DestroyWindow();
     }));
 }

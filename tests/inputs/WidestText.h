@@ -2,6 +2,8 @@
 
 #include "Inputs.h"
 
+#include <tests/support/ui/Control.h>
+
 constexpr wchar_t kShort[] = L"a";
 constexpr wchar_t kLong[] = L"a text that is much longer than the others";
 
@@ -16,7 +18,10 @@ class WidestText : public testing::Test
         ASSERT_TRUE(m_list.SubclassWindow(list));
     }
 
-    static int Width(const wchar_t* text) { return TextWidth(GuiFont(), text) + 3 * ::GetSystemMetrics(SM_CXBORDER); }
+    static int Width(const wchar_t* text)
+    {
+        return ts::TextWidth(ts::GuiFont(), text) + 3 * ::GetSystemMetrics(SM_CXBORDER);
+    }
 
     CString ItemText(int index) const
     {

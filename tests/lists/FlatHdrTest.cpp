@@ -1,5 +1,9 @@
 #include "Lists.h"
 
+#include <tests/support/Refusals.h>
+#include <tests/support/ui/Control.h>
+#include <tests/support/ui/Look.h>
+
 #include <array>
 
 namespace
@@ -23,8 +27,8 @@ class FlatHdr : public testing::Test
     void SetUp() override
     {
         ASSERT_TRUE(m_header.CHeaderCtrl::Create(WS_CHILD | WS_VISIBLE | HDS_BUTTONS, CRect(0, 0, 300, 20), &m_host,
-                                                 kControlId));
-        ::SendMessageW(m_header, WM_SETFONT, reinterpret_cast<WPARAM>(GuiFont()), FALSE);
+                                                 ts::kControlId));
+        ::SendMessageW(m_header, WM_SETFONT, reinterpret_cast<WPARAM>(ts::GuiFont()), FALSE);
         Add(L"Name", 100, HDF_LEFT);
         Add(L"Size", 80, HDF_RIGHT);
         Add(L"Date", 60, HDF_CENTER);
@@ -146,7 +150,7 @@ TEST_F(FlatHdr, ItemsThatAreNotThereHaveNoValue)
 
 TEST_F(FlatHdr, PaintsItemsWithSeparatorAndBottomLine)
 {
-    const ts::Picture look = LookOf(m_header);
+    const ts::Picture look = ts::LookOf(m_header);
     EXPECT_TRUE(ts::PixelIs(look, 1, 1, kBack));
     EXPECT_TRUE(ts::AreaIs(look, CRect(0, 19, 300, 20), kLine));
     for (const int right : {100, 180, 240}) {
@@ -157,12 +161,12 @@ TEST_F(FlatHdr, PaintsItemsWithSeparatorAndBottomLine)
 
 TEST_F(FlatHdr, FillsTheSpaceRightOfTheLastColumn)
 {
-    EXPECT_TRUE(ts::AreaIs(LookOf(m_header), CRect(240, 0, 300, 19), kBack));
+    EXPECT_TRUE(ts::AreaIs(ts::LookOf(m_header), CRect(240, 0, 300, 19), kBack));
 }
 
 TEST_F(FlatHdr, PartialPaintsFillTheSpaceToo)
 {
-    LookOf(m_header);
+    ts::LookOf(m_header);
     const CRect part(250, 0, 290, 20);
     {
         CClientDC dc(&m_header);
@@ -180,7 +184,7 @@ ts::Picture ExpectedItem(const CRect& item, const wchar_t* text, CRect place, UI
     return ts::DrawTo(item.right + 10, item.bottom + 10, [&](HDC dc) {
         CDC* const to = CDC::FromHandle(dc);
         to->FillSolidRect(&item, kBack);
-        ::SelectObject(dc, GuiFont());
+        ::SelectObject(dc, ts::GuiFont());
         ::SetBkMode(dc, TRANSPARENT);
         ::DrawTextW(dc, text, -1, &place,
                     align | DT_VCENTER | DT_SINGLELINE | DT_NOCLIP | DT_NOPREFIX | DT_END_ELLIPSIS);
@@ -245,7 +249,7 @@ TEST_F(FlatHdr, TallTextIsNotClipped)
     const CRect ink = look.BoundsOf(RGB(0, 0, 0));
     EXPECT_LT(ink.top, item.top);
     EXPECT_EQ(0, look.Crop(CRect(0, 0, 230, 20)).Count(kBack)); // the text has no background
-    ::SendMessageW(m_header, WM_SETFONT, reinterpret_cast<WPARAM>(GuiFont()), FALSE);
+    ::SendMessageW(m_header, WM_SETFONT, reinterpret_cast<WPARAM>(ts::GuiFont()), FALSE);
 }
 
 TEST_F(FlatHdr, RepaintTouchesTheScreenOnce)
@@ -253,20 +257,20 @@ TEST_F(FlatHdr, RepaintTouchesTheScreenOnce)
     m_header.SetSortColumn(0, 1);
     m_header.UpdateWindow();
     const ts::ScreenDraws draws;
-    PaintNow(m_header);
+    ts::PaintNow(m_header);
     EXPECT_EQ(1, draws.Count());
 }
 
 TEST_F(FlatHdr, IsPaintedWithoutMemoryForItToo)
 {
     m_header.SetSortColumn(0, 1);
-    const ts::Picture look = LookOf(m_header);
+    const ts::Picture look = ts::LookOf(m_header);
     {
         CClientDC dc(&m_header);
         dc.FillSolidRect(0, 0, 300, 20, RGB(255, 0, 0));
         const ts::ImportRedirection failing(
-            {ts::ImportRedirection::Of(&::CreateCompatibleBitmap, &NoCompatibleBitmap)});
-        PaintNow(m_header);
+            {ts::ImportRedirection::Of(&::CreateCompatibleBitmap, &ts::NoCompatibleBitmap)});
+        ts::PaintNow(m_header);
     }
     EXPECT_TRUE(ts::SamePicture(look, ts::CaptureWindow(m_header)));
 }
@@ -276,31 +280,31 @@ TEST_F(FlatHdr, WithoutItemsIsFilledAsAWhole)
     while (m_header.GetItemCount() > 0) {
         m_header.DeleteItem(0);
     }
-    const ts::Picture look = LookOf(m_header);
+    const ts::Picture look = ts::LookOf(m_header);
     EXPECT_TRUE(ts::AreaIs(look, CRect(0, 0, 300, 19), kBack));
     EXPECT_TRUE(ts::AreaIs(look, CRect(0, 19, 300, 20), kLine));
     CTestHdr fresh;
-    ASSERT_TRUE(fresh.CHeaderCtrl::Create(WS_CHILD | WS_VISIBLE, CRect(0, 40, 300, 60), &m_host, 3));
-    EXPECT_TRUE(ts::SamePicture(look, LookOf(fresh)));
+    ASSERT_TRUE(fresh.CHeaderCtrl::Create(WS_CHILD | WS_VISIBLE, CRect(0, 40, 300, 60), &m_host, ts::kOtherId));
+    EXPECT_TRUE(ts::SamePicture(look, ts::LookOf(fresh)));
     fresh.DestroyWindow();
 }
 
 TEST_F(FlatHdr, WithoutAColumnThatHasWidthIsFilledAsAWhole)
 {
-    LookOf(m_header);
+    ts::LookOf(m_header);
     HDITEMW narrow = {};
     narrow.mask = HDI_WIDTH;
     for (int i = 0; i < m_header.GetItemCount(); ++i) {
         m_header.SetItem(i, &narrow);
     }
     CTestHdr fresh;
-    ASSERT_TRUE(fresh.CHeaderCtrl::Create(WS_CHILD | WS_VISIBLE, CRect(0, 40, 300, 60), &m_host, 3));
+    ASSERT_TRUE(fresh.CHeaderCtrl::Create(WS_CHILD | WS_VISIBLE, CRect(0, 40, 300, 60), &m_host, ts::kOtherId));
     narrow.mask = HDI_WIDTH | HDI_FORMAT;
     narrow.fmt = HDF_OWNERDRAW;
     fresh.InsertItem(0, &narrow);
     for (const CTestHdr* header : {&m_header, &fresh}) {
         CClientDC(const_cast<CTestHdr*>(header)).FillSolidRect(0, 0, 300, 20, RGB(255, 0, 0));
-        const ts::Picture look = LookOf(*header);
+        const ts::Picture look = ts::LookOf(*header);
         EXPECT_TRUE(ts::AreaIs(look, CRect(0, 0, 300, 19), kBack));
         EXPECT_TRUE(ts::AreaIs(look, CRect(0, 19, 300, 20), kLine));
     }
@@ -309,12 +313,12 @@ TEST_F(FlatHdr, WithoutAColumnThatHasWidthIsFilledAsAWhole)
 
 TEST_F(FlatHdr, SpaceFollowsTheColumnsThatAreShown)
 {
-    LookOf(m_header);
+    ts::LookOf(m_header);
     m_header.DeleteItem(2);
-    EXPECT_TRUE(ts::AreaIs(LookOf(m_header), CRect(180, 0, 300, 19), kBack));
+    EXPECT_TRUE(ts::AreaIs(ts::LookOf(m_header), CRect(180, 0, 300, 19), kBack));
     std::array<int, 2> order = {1, 0};
     ASSERT_TRUE(m_header.SetOrderArray(2, order.data()));
-    const ts::Picture look = LookOf(m_header);
+    const ts::Picture look = ts::LookOf(m_header);
     EXPECT_TRUE(ts::AreaIs(look, CRect(180, 0, 300, 19), kBack));
     EXPECT_TRUE(ts::AreaIs(look, CRect(79, 0, 80, 20), kLine));
 }
@@ -322,7 +326,7 @@ TEST_F(FlatHdr, SpaceFollowsTheColumnsThatAreShown)
 TEST_F(FlatHdr, SurvivesTheEndOfTheGdiObjects)
 {
     m_header.SetSortColumn(0, 1);
-    EXPECT_TRUE(SurvivesGdiShortage(m_header));
+    EXPECT_TRUE(ts::SurvivesGdiShortage(m_header));
 }
 
 TEST_F(FlatHdr, LinesNeedNoNewGdiObject)
@@ -345,7 +349,7 @@ TEST_F(FlatHdr, OtherColoursRepaintAtOnce)
     m_header.SetColor(kOtherBack, kOtherLine);
     EXPECT_TRUE(::GetUpdateRect(m_header, nullptr, FALSE));
     m_header.SetSortColumn(0, 1);
-    const ts::Picture look = LookOf(m_header);
+    const ts::Picture look = ts::LookOf(m_header);
     EXPECT_TRUE(ts::PixelIs(look, 1, 1, kOtherBack));
     EXPECT_TRUE(ts::AreaIs(look, CRect(0, 19, 300, 20), kOtherLine));
     EXPECT_TRUE(ts::AreaIs(look, CRect(240, 0, 300, 19), kOtherBack));
@@ -426,7 +430,7 @@ TEST_F(FlatHdr, LongTextIsCutWithoutHarm)
 {
     Add(CString(L'x', 1000), 50, HDF_LEFT);
     m_header.SetOwnerDraw();
-    EXPECT_TRUE(ts::PixelIs(LookOf(m_header), 241, 1, kBack));
+    EXPECT_TRUE(ts::PixelIs(ts::LookOf(m_header), 241, 1, kBack));
 }
 
 TEST_F(FlatHdr, MissingDrawingDataIsIgnored)
@@ -451,7 +455,7 @@ TEST_F(FlatHdr, LeavesNothingBehind)
 {
     EXPECT_TRUE(ts::NoLeak([this] {
         CFlatHdr header;
-        static_cast<CHeaderCtrl&>(header).Create(WS_CHILD | WS_VISIBLE, CRect(0, 30, 300, 50), &m_host, 5);
+        static_cast<CHeaderCtrl&>(header).Create(WS_CHILD | WS_VISIBLE, CRect(0, 30, 300, 50), &m_host, ts::kOtherId);
         HDITEMW item = {};
         item.mask = HDI_WIDTH | HDI_FORMAT;
         item.cxy = 50;

@@ -1,5 +1,11 @@
 #include "Lists.h"
 
+#include <tests/support/FaultCounter.h>
+#include <tests/support/OtherColours.h>
+#include <tests/support/Refusals.h>
+#include <tests/support/ui/Control.h>
+#include <tests/support/ui/Look.h>
+
 namespace
 {
 
@@ -26,15 +32,15 @@ class FlatList : public testing::Test
 
     bool Make(CFlatList& list, DWORD style = kStyle)
     {
-        const bool made = list.CreateEx(WS_EX_CLIENTEDGE, style, kPlace, &m_host, kControlId) != FALSE;
-        ::SendMessageW(list, WM_SETFONT, reinterpret_cast<WPARAM>(GuiFont()), FALSE);
+        const bool made = list.CreateEx(WS_EX_CLIENTEDGE, style, kPlace, &m_host, ts::kControlId) != FALSE;
+        ::SendMessageW(list, WM_SETFONT, reinterpret_cast<WPARAM>(ts::GuiFont()), FALSE);
         return made;
     }
 
     HWND SystemList(DWORD style = kStyle)
     {
         return ::CreateWindowExW(WS_EX_CLIENTEDGE, WC_LISTVIEWW, L"", style, 10, 10, 300, 200, m_host.m_hWnd,
-                                 reinterpret_cast<HMENU>(kControlId), nullptr, nullptr);
+                                 reinterpret_cast<HMENU>(ts::kControlId), nullptr, nullptr);
     }
 
     void AddRows(int count)
@@ -183,7 +189,7 @@ TEST_F(FlatList, ColumnsOfOthersAreNotTouchedByInsertColumn)
 TEST_F(FlatList, ColumnWithoutWidthGetsTheControlsOne)
 {
     CListCtrl stock;
-    ASSERT_TRUE(stock.Create(kStyle, kPlace, &m_host, 3));
+    ASSERT_TRUE(stock.Create(kStyle, kPlace, &m_host, ts::kOtherId));
     LVCOLUMNW column = {};
     column.mask = LVCF_TEXT;
     column.pszText = const_cast<LPWSTR>(L"Date");
@@ -254,7 +260,7 @@ TEST_F(FlatList, SharesTheSortColumnWithItsHeader)
 
 TEST_F(FlatList, SortColumnRepaintsTheHeaderOnly)
 {
-    LookOf(m_list);
+    ts::LookOf(m_list);
     ::ValidateRect(m_list, nullptr);
     ::ValidateRect(m_list.GetFlatHdr(), nullptr);
     m_list.SetSortColumn(0, 1);
@@ -265,7 +271,7 @@ TEST_F(FlatList, SortColumnRepaintsTheHeaderOnly)
 TEST_F(FlatList, HeaderIsDrawnByItsObject)
 {
     m_list.SetSortColumn(0, 1);
-    const ts::Picture look = LookOf(m_list.GetFlatHdr());
+    const ts::Picture look = ts::LookOf(m_list.GetFlatHdr());
     EXPECT_TRUE(ts::PixelIs(look, 1, 1, RGB(242, 242, 242)));
     EXPECT_TRUE(ts::PixelIs(look, 119, 3, RGB(213, 213, 213)));
     EXPECT_TRUE(ts::PixelIs(look, 111, look.Height() / 2, RGB(213, 213, 213)));
@@ -275,26 +281,26 @@ TEST_F(FlatList, HeaderIsDrawnByItsObject)
 TEST_F(FlatList, RowsStandOnTheSoftBackground)
 {
     AddRows(1);
-    const ts::Picture look = LookOf(m_list);
+    const ts::Picture look = ts::LookOf(m_list);
     EXPECT_TRUE(ts::PixelIs(look, look.Width() - 5, look.Height() - 5, kSoft));
 }
 
 TEST_F(FlatList, ShowsTheEmptyTextOnlyWithoutRows)
 {
-    const ts::Picture bare = LookOf(m_list);
+    const ts::Picture bare = ts::LookOf(m_list);
     m_list.SetEmptyText(L"Nothing here");
-    EXPECT_FALSE(ts::SamePicture(bare, LookOf(m_list)));
+    EXPECT_FALSE(ts::SamePicture(bare, ts::LookOf(m_list)));
     m_list.SetEmptyText(nullptr);
-    EXPECT_TRUE(ts::SamePicture(bare, LookOf(m_list)));
+    EXPECT_TRUE(ts::SamePicture(bare, ts::LookOf(m_list)));
     AddRows(1);
-    const ts::Picture row = LookOf(m_list);
+    const ts::Picture row = ts::LookOf(m_list);
     m_list.SetEmptyText(L"Nothing here");
-    EXPECT_TRUE(ts::SamePicture(row, LookOf(m_list)));
+    EXPECT_TRUE(ts::SamePicture(row, ts::LookOf(m_list)));
 }
 
 TEST_F(FlatList, SettingTheEmptyTextDoesNotRepaint)
 {
-    LookOf(m_list);
+    ts::LookOf(m_list);
     ::ValidateRect(m_list, nullptr);
     m_list.SetEmptyText(L"Nothing here");
     EXPECT_FALSE(::GetUpdateRect(m_list, nullptr, FALSE));
@@ -303,7 +309,7 @@ TEST_F(FlatList, SettingTheEmptyTextDoesNotRepaint)
 TEST_F(FlatList, EmptyTextStandsTenPixelsBelowTheHeaderInTheMiddle)
 {
     m_list.SetEmptyText(L"MMMM & WWWW");
-    const ts::Picture look = LookOf(m_list);
+    const ts::Picture look = ts::LookOf(m_list);
     CRect item;
     m_list.GetFlatHdr().GetItemRect(0, item);
     const CRect below(0, item.bottom, look.Width(), look.Height());
@@ -320,7 +326,7 @@ TEST_F(FlatList, EmptyTextIsDrawnAsItIs)
         many += L" several words";
     }
     for (const CString& text : {CString(L"Nothing & nobody"), many}) {
-        LookOf(m_list);
+        ts::LookOf(m_list);
         CRect place;
         m_list.GetClientRect(place);
         CRect item;
@@ -329,13 +335,13 @@ TEST_F(FlatList, EmptyTextIsDrawnAsItIs)
         place.DeflateRect(10, 10);
         {
             CClientDC dc(&m_list);
-            const HGDIOBJ old = ::SelectObject(dc, GuiFont());
+            const HGDIOBJ old = ::SelectObject(dc, ts::GuiFont());
             ::DrawTextW(dc, text, -1, &place, 0x911);
             ::SelectObject(dc, old);
         }
         const ts::Picture expected = ts::CaptureWindow(m_list);
         m_list.SetEmptyText(text);
-        EXPECT_TRUE(ts::SamePicture(expected, LookOf(m_list)));
+        EXPECT_TRUE(ts::SamePicture(expected, ts::LookOf(m_list)));
         m_list.SetEmptyText(nullptr);
     }
 }
@@ -343,11 +349,11 @@ TEST_F(FlatList, EmptyTextIsDrawnAsItIs)
 TEST_F(FlatList, EmptyTextWithoutHeaderItemsBeginsAtTheTop)
 {
     CFlatList list;
-    ASSERT_TRUE(list.Create(kStyle | LVS_NOCOLUMNHEADER, kPlace, &m_host, 3));
+    ASSERT_TRUE(list.Create(kStyle | LVS_NOCOLUMNHEADER, kPlace, &m_host, ts::kOtherId));
     m_list.ShowWindow(SW_HIDE); // it stands at the same place
     list.UpdateWindow();
     list.SetEmptyText(L"MMMM");
-    EXPECT_EQ(10, LookOf(list).BoundsOf(RGB(255, 255, 255)).top);
+    EXPECT_EQ(10, ts::LookOf(list).BoundsOf(RGB(255, 255, 255)).top);
     list.DestroyWindow();
 }
 
@@ -357,7 +363,7 @@ TEST_F(FlatList, EmptyTextWithoutAHeaderBeginsAtTheTop)
     m_list.SetEmptyText(L"MMMM");
     ts::MessageRecorder log(m_list);
     log.Answer(LVM_GETHEADER, [](const ts::Message& /*message*/) { return std::optional<LRESULT>(0); });
-    EXPECT_EQ(10, LookOf(m_list).BoundsOf(RGB(255, 255, 255)).top);
+    EXPECT_EQ(10, ts::LookOf(m_list).BoundsOf(RGB(255, 255, 255)).top);
 }
 
 TEST_F(FlatList, HasAThinGreyBorder)
@@ -369,7 +375,7 @@ TEST_F(FlatList, HasAThinGreyBorder)
 
 TEST_F(FlatList, BorderHasNoInnerFrame)
 {
-    const OtherColours inner({{&QorSysLook.m_clrWindow, RGB(255, 0, 255)}}); // of the controls that have one
+    const ts::OtherColours inner({{&QorSysLook.m_clrWindow, RGB(255, 0, 255)}}); // of the controls that have one
     ::RedrawWindow(m_list, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW);
     EXPECT_EQ(0, ts::CaptureFrame(m_list).Count(RGB(255, 0, 255)));
 }
@@ -408,7 +414,8 @@ TEST_F(FlatList, FocusIsDealtWithBeforeARowIsSelected)
     m_host.Log().SetFilter(
         [](const ts::Message& message) { return message.code == NM_SETFOCUS || message.code == LVN_ITEMCHANGED; });
     m_list.SetFocus();
-    EXPECT_TRUE(m_host.Log().Is({ts::Notify(kControlId, NM_SETFOCUS), ts::Notify(kControlId, LVN_ITEMCHANGED)}));
+    EXPECT_TRUE(
+        m_host.Log().Is({ts::Notify(ts::kControlId, NM_SETFOCUS), ts::Notify(ts::kControlId, LVN_ITEMCHANGED)}));
 }
 
 TEST_F(FlatList, FocusLeavesASelectionAndAnEmptyList)
@@ -526,7 +533,7 @@ int g_bitmapLoads = 0;
 HBITMAP WINAPI CountedNoBitmap(HINSTANCE module, LPCWSTR name)
 {
     ++g_bitmapLoads;
-    return NoBitmapResource(module, name);
+    return ts::NoBitmapResource(module, name);
 }
 
 /** The images are made once in a process, so one of its own sees that they are missing. */
@@ -550,7 +557,7 @@ TEST_F(FlatList, KeepsTheControlsCheckBoxesWhenTheLibrarysAreMissing)
         AddRows(1);
         m_list.SetCheck(0);
         EXPECT_TRUE(m_list.GetCheck(0));
-        LookOf(m_list);
+        ts::LookOf(m_list);
         CFlatList ending;
         ASSERT_TRUE(Make(ending));
         ending.SetExtendedStyle(LVS_EX_CHECKBOXES);
@@ -615,7 +622,7 @@ TEST_F(DestroyedList, WithItsObjectByTheNewsOfTheFocus)
         }
         return std::nullopt;
     });
-    const FaultCounter faults;
+    const ts::FaultCounter faults;
     list->SetFocus();
     EXPECT_EQ(nullptr, list);
     EXPECT_EQ(0, faults.Count());
@@ -671,7 +678,7 @@ TEST_F(FlatList, EndsWhileItIsPainted)
     PaintedToDeath list;
     ASSERT_TRUE(Make(list));
     list.SetEmptyText(L"Nothing here");
-    PaintNow(list);
+    ts::PaintNow(list);
     EXPECT_EQ(nullptr, list.m_hWnd);
     EXPECT_EQ(0, list.m_failures);
 }
@@ -692,19 +699,19 @@ TEST_F(FlatList, EmptyAndHugeTextsAreNoHarm)
     EXPECT_EQ(2, m_list.InsertColumn(2, huge, LVCFMT_LEFT, 50));
     EXPECT_EQ(3, m_list.InsertColumn(3, L"", LVCFMT_LEFT, 50));
     EXPECT_EQ(4, m_list.InsertColumn(4, nullptr, LVCFMT_LEFT, 50));
-    const ts::Picture bare = LookOf(m_list);
+    const ts::Picture bare = ts::LookOf(m_list);
     m_list.SetEmptyText(L"");
-    EXPECT_TRUE(ts::SamePicture(bare, LookOf(m_list)));
+    EXPECT_TRUE(ts::SamePicture(bare, ts::LookOf(m_list)));
     m_list.SetEmptyText(huge);
-    EXPECT_FALSE(ts::SamePicture(bare, LookOf(m_list)));
+    EXPECT_FALSE(ts::SamePicture(bare, ts::LookOf(m_list)));
 }
 
 TEST_F(FlatList, SurvivesTheEndOfTheGdiObjects)
 {
     m_list.SetEmptyText(L"Nothing here");
-    EXPECT_TRUE(SurvivesGdiShortage(m_list));
+    EXPECT_TRUE(ts::SurvivesGdiShortage(m_list));
     AddRows(2);
-    EXPECT_TRUE(SurvivesGdiShortage(m_list));
+    EXPECT_TRUE(ts::SurvivesGdiShortage(m_list));
 }
 
 TEST_F(FlatList, HundredThousandRowsWithRedrawOff)
@@ -717,7 +724,7 @@ TEST_F(FlatList, HundredThousandRowsWithRedrawOff)
     m_list.SetRedraw(TRUE);
     EXPECT_EQ(100000, m_list.GetItemCount());
     EXPECT_EQ(99999, m_list.FindItemData(99999));
-    LookOf(m_list);
+    ts::LookOf(m_list);
 }
 
 TEST(FlatListAlone, ChildNeedsAParent)

@@ -1,8 +1,8 @@
 #include <QorUI/app/draw/Draw.h>
-#include <tests/app/Drawn.h>
-#include <tests/app/OwnResources.h>
 #include <tests/app/res/resource.h>
 #include <tests/support/Imports.h>
+#include <tests/support/Resources.h>
+#include <tests/support/ui/Drawn.h>
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@ namespace
 
 ts::Picture DrawnBox()
 {
-    return Drawn(60, 40, [](CDC& dc) { QorDrawBox(dc, 5, 6, 40, 20, RGB(9, 8, 7)); });
+    return ts::Drawn(60, 40, [](CDC& dc) { QorDrawBox(dc, 5, 6, 40, 20, RGB(9, 8, 7)); });
 }
 
 TEST(DrawBox, OuterEdgeIsDarkAtTopAndLeftAndLightAtBottomAndRight)
@@ -31,8 +31,8 @@ TEST(DrawBox, OuterEdgeIsDarkAtTopAndLeftAndLightAtBottomAndRight)
 TEST(DrawBox, EdgeLinesExcludeTheirEndPoints)
 {
     const ts::Picture picture = DrawnBox();
-    EXPECT_EQ(kPaper, picture.At(45, 6));
-    EXPECT_EQ(kPaper, picture.At(5, 26));
+    EXPECT_EQ(ts::kPaper, picture.At(45, 6));
+    EXPECT_EQ(ts::kPaper, picture.At(5, 26));
 }
 
 TEST(DrawBox, InnerEdgeLiesOnePixelFurtherIn)
@@ -44,8 +44,8 @@ TEST(DrawBox, InnerEdgeLiesOnePixelFurtherIn)
     EXPECT_EQ(RGB(240, 236, 224), picture.At(44, 25));
     EXPECT_EQ(RGB(240, 236, 224), picture.At(44, 8));
     EXPECT_EQ(RGB(240, 236, 224), picture.At(7, 25));
-    EXPECT_EQ(kPaper, picture.At(44, 7));
-    EXPECT_EQ(kPaper, picture.At(6, 25));
+    EXPECT_EQ(ts::kPaper, picture.At(44, 7));
+    EXPECT_EQ(ts::kPaper, picture.At(6, 25));
 }
 
 TEST(DrawBox, FillsTheInside)
@@ -60,18 +60,18 @@ TEST(DrawBox, FillsTheInside)
 TEST(DrawBox, StaysInsideItsRectangle)
 {
     const ts::Picture picture = DrawnBox();
-    EXPECT_EQ(CRect(5, 6, 46, 27), CRect(picture.BoundsOfOthers(kPaper)));
+    EXPECT_EQ(CRect(5, 6, 46, 27), CRect(picture.BoundsOfOthers(ts::kPaper)));
 }
 
 TEST(DrawBox, NullDeviceContextDoesNothing)
 {
-    const ts::Picture picture = Drawn(20, 20, [](CDC&) { QorDrawBox(nullptr, 0, 0, 10, 10, 0); });
-    EXPECT_EQ(400, picture.Count(kPaper));
+    const ts::Picture picture = ts::Drawn(20, 20, [](CDC&) { QorDrawBox(nullptr, 0, 0, 10, 10, 0); });
+    EXPECT_EQ(400, picture.Count(ts::kPaper));
 }
 
 TEST(DrawBox, LeavesTheDeviceContextAsItWasAndNothingBehind)
 {
-    Drawn(60, 40, [](CDC& dc) {
+    ts::Drawn(60, 40, [](CDC& dc) {
         const HGDIOBJ pen = ::GetCurrentObject(dc, OBJ_PEN);
         const HGDIOBJ brush = ::GetCurrentObject(dc, OBJ_BRUSH);
         QorDrawBox(dc, 5, 6, 40, 20, RGB(9, 8, 7));
@@ -83,13 +83,13 @@ TEST(DrawBox, LeavesTheDeviceContextAsItWasAndNothingBehind)
 
 TEST(DrawGradientLine, IsTheRowAboveItsStart)
 {
-    const ts::Picture picture = Drawn(120, 10, [](CDC& dc) { QorDrawGradientLine(&dc, CPoint(10, 5), 100); });
-    EXPECT_EQ(CRect(10, 4, 110, 5), CRect(picture.BoundsOfOthers(kPaper)));
+    const ts::Picture picture = ts::Drawn(120, 10, [](CDC& dc) { QorDrawGradientLine(&dc, CPoint(10, 5), 100); });
+    EXPECT_EQ(CRect(10, 4, 110, 5), CRect(picture.BoundsOfOthers(ts::kPaper)));
 }
 
 TEST(DrawGradientLine, FadesFromBlueToWhite)
 {
-    const ts::Picture picture = Drawn(120, 10, [](CDC& dc) { QorDrawGradientLine(&dc, CPoint(10, 5), 100); });
+    const ts::Picture picture = ts::Drawn(120, 10, [](CDC& dc) { QorDrawGradientLine(&dc, CPoint(10, 5), 100); });
     const auto expectNear = [](COLORREF expected, COLORREF pixel) {
         EXPECT_NEAR(GetRValue(expected), GetRValue(pixel), 4);
         EXPECT_NEAR(GetGValue(expected), GetGValue(pixel), 4);
@@ -128,7 +128,7 @@ TEST(DrawGradientLine, IsOneGradientWithItsEndsInSixteenBitsAndNoAlpha)
 {
     const ts::ReplacedImport record(L"afx.dll", "GdiGradientFill", &RecordGradient);
     g_gradients.clear();
-    Drawn(120, 10, [](CDC& dc) { QorDrawGradientLine(&dc, CPoint(10, 5), 100); });
+    ts::Drawn(120, 10, [](CDC& dc) { QorDrawGradientLine(&dc, CPoint(10, 5), 100); });
     const Gradient rule = {
         {{10, 4, 0, 0, 0xC800, 0}, {110, 5, 0xFF00, 0xFF00, 0xFF00, 0}}, {{0, 1}}, GRADIENT_FILL_RECT_H};
     EXPECT_EQ(std::vector{rule}, g_gradients);
@@ -136,8 +136,8 @@ TEST(DrawGradientLine, IsOneGradientWithItsEndsInSixteenBitsAndNoAlpha)
 
 TEST(DrawGradientLine, NullDeviceContextDoesNothing)
 {
-    const ts::Picture picture = Drawn(20, 20, [](CDC&) { QorDrawGradientLine(nullptr, CPoint(1, 1), 10); });
-    EXPECT_EQ(400, picture.Count(kPaper));
+    const ts::Picture picture = ts::Drawn(20, 20, [](CDC&) { QorDrawGradientLine(nullptr, CPoint(1, 1), 10); });
+    EXPECT_EQ(400, picture.Count(ts::kPaper));
 }
 
 /** A bitmap of the screen's depth with one pixel of each colour. */
@@ -314,7 +314,7 @@ TEST(GrayBmp, WithoutScreenGivesNull)
 
 TEST(GrayIcon, IsDrawnGreyWithTheSameMask)
 {
-    const HICON icon = ::LoadIconW(Program(), MAKEINTRESOURCEW(IDI_SQUARE));
+    const HICON icon = ::LoadIconW(ts::Program(), MAKEINTRESOURCEW(IDI_SQUARE));
     const HICON gray = QorCreateGrayIcon(icon);
     ASSERT_NE(nullptr, gray);
     ICONINFO info = {};
@@ -383,7 +383,7 @@ HICON WINAPI NoIcon(ICONINFO*)
 
 TEST(GrayIcon, ThatCannotBeMadeGivesNullAndLeavesNothingBehind)
 {
-    const HICON icon = ::LoadIconW(Program(), MAKEINTRESOURCEW(IDI_SQUARE));
+    const HICON icon = ::LoadIconW(ts::Program(), MAKEINTRESOURCEW(IDI_SQUARE));
     const ts::ReplacedImport none(L"QorUI.dll", "CreateIconIndirect", &NoIcon);
     EXPECT_TRUE(ts::NoLeak([=] { EXPECT_EQ(nullptr, QorCreateGrayIcon(icon)); }));
 }
@@ -395,13 +395,13 @@ TEST(GrayIcon, NoIconGivesNull)
 
 TEST(GrayIcon, BitmapsAreFreedOnEveryPath)
 {
-    const HICON colours = ::LoadIconW(Program(), MAKEINTRESOURCEW(IDI_SQUARE));
+    const HICON colours = ::LoadIconW(ts::Program(), MAKEINTRESOURCEW(IDI_SQUARE));
     EXPECT_TRUE(ts::NoLeak([=] {
         const HICON gray = QorCreateGrayIcon(colours);
         EXPECT_NE(nullptr, gray);
         ::DestroyIcon(gray);
     }));
-    const HICON monochrome = ::LoadIconW(Program(), MAKEINTRESOURCEW(IDI_MONO));
+    const HICON monochrome = ::LoadIconW(ts::Program(), MAKEINTRESOURCEW(IDI_MONO));
     ASSERT_NE(nullptr, monochrome);
     EXPECT_TRUE(ts::NoLeak([=] { EXPECT_EQ(nullptr, QorCreateGrayIcon(monochrome)); }));
 }
@@ -410,7 +410,7 @@ TEST(ImageList, StripOf80By16GivesFiveSquareImages)
 {
     CImageList list;
     UINT size = 0;
-    EXPECT_EQ(5, QorCreateImageList(list, IDB_ICONS, Program(), RGB(255, 255, 255), &size));
+    EXPECT_EQ(5, QorCreateImageList(list, IDB_ICONS, ts::Program(), RGB(255, 255, 255), &size));
     EXPECT_EQ(16u, size);
     int cx = 0;
     int cy = 0;
@@ -428,10 +428,10 @@ TEST(ImageList, NullModuleMeansTheProgram)
 TEST(ImageList, MaskColourIsTransparent)
 {
     CImageList list;
-    ASSERT_EQ(5, QorCreateImageList(list, IDB_ICONS, Program(), RGB(255, 255, 255), nullptr));
+    ASSERT_EQ(5, QorCreateImageList(list, IDB_ICONS, ts::Program(), RGB(255, 255, 255), nullptr));
     const ts::Picture picture =
-        Drawn(16, 16, [&](CDC& dc) { ::ImageList_Draw(list.m_hImageList, 1, dc, 0, 0, ILD_TRANSPARENT); });
-    EXPECT_EQ(kPaper, picture.At(0, 5));
+        ts::Drawn(16, 16, [&](CDC& dc) { ::ImageList_Draw(list.m_hImageList, 1, dc, 0, 0, ILD_TRANSPARENT); });
+    EXPECT_EQ(ts::kPaper, picture.At(0, 5));
     EXPECT_EQ(RGB(0, 255, 0), picture.At(1, 5));
 }
 
@@ -439,7 +439,7 @@ TEST(ImageList, MissingBitmapGivesNoImages)
 {
     CImageList list;
     UINT size = 77;
-    EXPECT_EQ(0, QorCreateImageList(list, IDB_MISSING, Program(), 0, &size));
+    EXPECT_EQ(0, QorCreateImageList(list, IDB_MISSING, ts::Program(), 0, &size));
     EXPECT_EQ(77u, size);
     EXPECT_EQ(nullptr, list.m_hImageList);
 }
@@ -447,7 +447,7 @@ TEST(ImageList, MissingBitmapGivesNoImages)
 TEST(ImageList, StripWithoutHeightGivesNoImages)
 {
     CImageList list;
-    EXPECT_EQ(0, QorCreateImageList(list, IDB_FLAT, Program(), 0, nullptr));
+    EXPECT_EQ(0, QorCreateImageList(list, IDB_FLAT, ts::Program(), 0, nullptr));
 }
 
 /** Width, height, flags, initial number and growth of the image lists that were made. */
@@ -465,7 +465,7 @@ TEST(ImageList, IsMadeForTheImagesOfTheStripAndGrowsByOne)
     const ts::ReplacedImport record(L"afx.dll", "ImageList_Create", &RecordImageList);
     g_imageLists.clear();
     CImageList list;
-    EXPECT_EQ(5, QorCreateImageList(list, IDB_ICONS, Program(), 0, nullptr));
+    EXPECT_EQ(5, QorCreateImageList(list, IDB_ICONS, ts::Program(), 0, nullptr));
     EXPECT_EQ((std::vector<std::vector<UINT>>{{16, 16, ILC_COLORDDB | ILC_MASK, 5, 1}}), g_imageLists);
 }
 
@@ -480,7 +480,7 @@ TEST(ImageList, ThatCannotBeMadeGivesNoImagesAndLeavesNothingBehind)
     UINT size = 77;
     EXPECT_TRUE(ts::NoLeak([&] {
         CImageList list;
-        EXPECT_EQ(0, QorCreateImageList(list, IDB_ICONS, Program(), 0, &size));
+        EXPECT_EQ(0, QorCreateImageList(list, IDB_ICONS, ts::Program(), 0, &size));
         EXPECT_EQ(nullptr, list.m_hImageList);
     }));
     EXPECT_EQ(77u, size);
@@ -496,7 +496,7 @@ TEST(ImageList, ThatTakesNoImagesHasNoneButTheirSizeIsTold)
     const ts::ReplacedImport none(L"afx.dll", "ImageList_AddMasked", &NoImages);
     CImageList list;
     UINT size = 77;
-    EXPECT_EQ(0, QorCreateImageList(list, IDB_ICONS, Program(), 0, &size));
+    EXPECT_EQ(0, QorCreateImageList(list, IDB_ICONS, ts::Program(), 0, &size));
     EXPECT_EQ(16u, size);
 }
 
@@ -504,31 +504,31 @@ TEST(ImageList, BitmapIsFreedOnEveryPath)
 {
     EXPECT_TRUE(ts::NoLeak([] {
         CImageList list;
-        EXPECT_EQ(5, QorCreateImageList(list, IDB_ICONS, Program(), 0, nullptr));
+        EXPECT_EQ(5, QorCreateImageList(list, IDB_ICONS, ts::Program(), 0, nullptr));
         CImageList none;
-        EXPECT_EQ(0, QorCreateImageList(none, IDB_FLAT, Program(), 0, nullptr));
+        EXPECT_EQ(0, QorCreateImageList(none, IDB_FLAT, ts::Program(), 0, nullptr));
     }));
 }
 
 TEST(WithoutGdiHandles, BoxIsNotDrawnAndNothingIsThrown)
 {
-    const ts::Picture picture = Drawn(60, 40, [](CDC& dc) {
+    const ts::Picture picture = ts::Drawn(60, 40, [](CDC& dc) {
         const ts::GdiShortage shortage;
         QorDrawBox(dc, 5, 6, 40, 20, RGB(9, 8, 7));
     });
-    EXPECT_EQ(60 * 40, picture.Count(kPaper));
+    EXPECT_EQ(60 * 40, picture.Count(ts::kPaper));
 }
 
 TEST(WithoutGdiHandles, GreyPicturesAndImageListsAreRefused)
 {
     ColourRow source({RGB(255, 0, 0), 0});
-    const HICON icon = ::LoadIconW(Program(), MAKEINTRESOURCEW(IDI_SQUARE));
+    const HICON icon = ::LoadIconW(ts::Program(), MAKEINTRESOURCEW(IDI_SQUARE));
     CImageList list;
     UINT size = 77;
     const ts::GdiShortage shortage;
     EXPECT_EQ(nullptr, QorCreateGrayBmp(source.Handle()));
     EXPECT_EQ(nullptr, QorCreateGrayIcon(icon));
-    EXPECT_EQ(0, QorCreateImageList(list, IDB_ICONS, Program(), 0, &size));
+    EXPECT_EQ(0, QorCreateImageList(list, IDB_ICONS, ts::Program(), 0, &size));
     EXPECT_EQ(77u, size);
 }
 

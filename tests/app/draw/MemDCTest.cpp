@@ -1,14 +1,10 @@
 #include <QorUI/app/draw/MemDC.h>
-#include <tests/app/Drawn.h>
 #include <tests/support/Imports.h>
+#include <tests/support/Refusals.h>
+#include <tests/support/ui/Drawn.h>
 
 namespace
 {
-
-HBITMAP WINAPI NoBitmap(HDC, int, int)
-{
-    return nullptr;
-}
 
 HDC g_memory = nullptr;
 int g_deletedSelected = 0; // objects that were selected in the device context when they were deleted
@@ -24,7 +20,7 @@ BOOL WINAPI WatchDeletion(HGDIOBJ object)
 
 TEST(MemDC, DrawsAtTheTargetsCoordinates)
 {
-    const ts::Picture picture = Drawn(40, 30, [](CDC& dc) {
+    const ts::Picture picture = ts::Drawn(40, 30, [](CDC& dc) {
         CMemDC memory(&dc);
         memory.FillSolidRect(0, 0, 40, 30, RGB(10, 20, 30));
         memory.FillSolidRect(5, 6, 7, 8, RGB(200, 0, 0));
@@ -36,11 +32,11 @@ TEST(MemDC, DrawsAtTheTargetsCoordinates)
 
 TEST(MemDC, TargetChangesOnlyAtTheEnd)
 {
-    Drawn(40, 30, [](CDC& dc) {
+    ts::Drawn(40, 30, [](CDC& dc) {
         {
             CMemDC memory(&dc);
             memory.FillSolidRect(0, 0, 40, 30, RGB(10, 20, 30));
-            EXPECT_EQ(kPaper, dc.GetPixel(5, 5));
+            EXPECT_EQ(ts::kPaper, dc.GetPixel(5, 5));
         }
         EXPECT_EQ(RGB(10, 20, 30), dc.GetPixel(5, 5));
     });
@@ -48,7 +44,7 @@ TEST(MemDC, TargetChangesOnlyAtTheEnd)
 
 TEST(MemDC, PaintsTheClipBoxOnly)
 {
-    const ts::Picture picture = Drawn(40, 30, [](CDC& dc) {
+    const ts::Picture picture = ts::Drawn(40, 30, [](CDC& dc) {
         dc.IntersectClipRect(10, 5, 20, 15);
         CMemDC memory(&dc);
         EXPECT_EQ(CPoint(10, 5), memory.GetWindowOrg());
@@ -60,25 +56,25 @@ TEST(MemDC, PaintsTheClipBoxOnly)
 
 TEST(MemDC, EmptyClipBoxPaintsNothing)
 {
-    const ts::Picture picture = Drawn(20, 20, [](CDC& dc) {
+    const ts::Picture picture = ts::Drawn(20, 20, [](CDC& dc) {
         dc.IntersectClipRect(10, 5, 10, 5);
         CMemDC memory(&dc);
         memory.FillSolidRect(0, 0, 20, 20, RGB(10, 20, 30));
     });
-    EXPECT_EQ(400, picture.Count(kPaper));
+    EXPECT_EQ(400, picture.Count(ts::kPaper));
 }
 
 TEST(MemDC, WithoutMemoryForThePictureNothingIsPainted)
 {
-    const ts::ReplacedImport none(L"afx.dll", "CreateCompatibleBitmap", &NoBitmap);
+    const ts::ReplacedImport none(L"afx.dll", "CreateCompatibleBitmap", &ts::NoCompatibleBitmap);
     ts::Picture picture = ts::DrawTo(
         20, 20,
         [](HDC dc) {
             CMemDC memory(CDC::FromHandle(dc));
             memory.FillSolidRect(0, 0, 20, 20, RGB(10, 20, 30));
         },
-        kPaper);
-    EXPECT_EQ(400, picture.Count(kPaper));
+        ts::kPaper);
+    EXPECT_EQ(400, picture.Count(ts::kPaper));
 }
 
 TEST(MemDC, WithoutTargetNothingHappens)
@@ -91,7 +87,7 @@ TEST(MemDC, LeavesNoObjects)
 {
     EXPECT_TRUE(ts::NoLeak(
         [] {
-            Drawn(20, 20, [](CDC& dc) {
+            ts::Drawn(20, 20, [](CDC& dc) {
                 CMemDC memory(&dc);
                 memory.FillSolidRect(0, 0, 20, 20, RGB(10, 20, 30));
             });
@@ -104,7 +100,7 @@ TEST(MemDC, PictureIsLetGoBeforeItsEndEvenWhenTheFrameworkForgotTemporaryObjects
     const ts::ReplacedImport watch(L"afx.dll", "DeleteObject", &WatchDeletion);
     g_deletedSelected = 0;
     g_deletedFree = 0;
-    Drawn(20, 20, [](CDC& dc) {
+    ts::Drawn(20, 20, [](CDC& dc) {
         const CMemDC memory(&dc);
         g_memory = memory.m_hDC;
         CGdiObject::DeleteTempMap();

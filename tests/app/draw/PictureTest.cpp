@@ -2,9 +2,9 @@
 #include <QorUI/app/draw/GdiPlusFlat.h>
 #include <QorUI/app/draw/Picture.h>
 #include <tests/app/Blocks.h>
-#include <tests/app/OwnResources.h>
 #include <tests/app/res/resource.h>
 #include <tests/support/Imports.h>
+#include <tests/support/Resources.h>
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@ namespace
 
 std::unique_ptr<Gdiplus::Image> ImageOf(UINT id)
 {
-    const void* image = QorImageFromResource(Program(), MAKEINTRESOURCEW(id), L"PNG");
+    const void* image = QorImageFromResource(ts::Program(), MAKEINTRESOURCEW(id), L"PNG");
     return std::unique_ptr<Gdiplus::Image>(static_cast<Gdiplus::Image*>(const_cast<void*>(image)));
 }
 
@@ -31,7 +31,7 @@ TEST(ImageFromResource, DecodesThePicture)
 TEST(ImageFromResource, MissingResourceGivesNull)
 {
     EXPECT_EQ(nullptr, ImageOf(IDB_MISSING));
-    EXPECT_EQ(nullptr, QorImageFromResource(Program(), MAKEINTRESOURCEW(IDR_FRAMES), L"GIF"));
+    EXPECT_EQ(nullptr, QorImageFromResource(ts::Program(), MAKEINTRESOURCEW(IDR_FRAMES), L"GIF"));
 }
 
 TEST(ImageFromResource, DamagedPictureGivesAnImageWithABadStatus)
@@ -61,7 +61,7 @@ TEST(ImageFromResource, StreamIsReleased)
 TEST(ImageFromResource, WithoutStreamGivesNull)
 {
     const StreamShortage shortage;
-    EXPECT_EQ(nullptr, QorImageFromResource(Program(), MAKEINTRESOURCEW(IDR_FRAMES), L"PNG"));
+    EXPECT_EQ(nullptr, QorImageFromResource(ts::Program(), MAKEINTRESOURCEW(IDR_FRAMES), L"PNG"));
 }
 
 IStream* g_stream = nullptr;
@@ -83,7 +83,7 @@ TEST(ImageFromResource, WithoutMemoryGivesNullAndReleasesTheStream)
 {
     const ts::ReplacedImport stream(L"QorUI.dll", "_Z26QorCreateReadOnlyMemStreammPKvm", &SharedStream);
     const ts::ReplacedImport none(L"QorUI.dll", "GdipAlloc", &NoMemory);
-    EXPECT_EQ(nullptr, QorImageFromResource(Program(), MAKEINTRESOURCEW(IDR_FRAMES), L"PNG"));
+    EXPECT_EQ(nullptr, QorImageFromResource(ts::Program(), MAKEINTRESOURCEW(IDR_FRAMES), L"PNG"));
     EXPECT_EQ(0u, g_stream->Release());
 }
 

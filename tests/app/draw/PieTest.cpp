@@ -1,7 +1,7 @@
 #include <QorUI/app/draw/Draw.h>
 #include <QorUI/app/draw/GdiPlusFlat.h>
-#include <tests/app/Drawn.h>
 #include <tests/support/Imports.h>
+#include <tests/support/ui/Drawn.h>
 
 #include <gtest/gtest.h>
 
@@ -21,13 +21,13 @@ constexpr COLORREF kPieOutline = RGB(128, 128, 128);
 /** A pie whose box has its corner at the origin. */
 ts::Picture DrawnPie(double ratio)
 {
-    return Drawn(161, 77, [ratio](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, ratio); });
+    return ts::Drawn(161, 77, [ratio](CDC& dc) { QorDrawPie(dc, 0, 0, kUsed, kFree, ratio); });
 }
 
 TEST(DrawPie, FillsABoxOf160By76)
 {
-    const ts::Picture picture = Drawn(200, 120, [](CDC& dc) { QorDrawPie(dc, 10, 20, kUsed, kFree, 0.5); });
-    const CRect bounds = CRect(picture.BoundsOfOthers(kPaper));
+    const ts::Picture picture = ts::Drawn(200, 120, [](CDC& dc) { QorDrawPie(dc, 10, 20, kUsed, kFree, 0.5); });
+    const CRect bounds = CRect(picture.BoundsOfOthers(ts::kPaper));
     EXPECT_NEAR(10, bounds.left, 1);
     EXPECT_NEAR(20, bounds.top, 1);
     EXPECT_NEAR(170, bounds.right - 1, 1);
@@ -135,7 +135,7 @@ TEST(DrawPie, MoreThanHalfHasNoFreeRim)
 /** A share's colour under the sheen, over the whole box of a pie with its corner at 10, 20. */
 ts::Picture UnderSheen(COLORREF share)
 {
-    return Drawn(181, 97, [share](CDC& dc) {
+    return ts::Drawn(181, 97, [share](CDC& dc) {
         dc.FillSolidRect(0, 0, 181, 97, share);
         Gdiplus::Graphics graphics(dc);
         Gdiplus::LinearGradientBrush sheen(Gdiplus::Rect(10, 20, 160, 76), Gdiplus::Color(100, 128, 128, 128),
@@ -147,7 +147,7 @@ ts::Picture UnderSheen(COLORREF share)
 
 TEST(DrawPie, SheenOverTheRimIsABellOfGreyAndWhite)
 {
-    const ts::Picture picture = Drawn(181, 97, [](CDC& dc) { QorDrawPie(dc, 10, 20, kUsed, kFree, 0.25); });
+    const ts::Picture picture = ts::Drawn(181, 97, [](CDC& dc) { QorDrawPie(dc, 10, 20, kUsed, kFree, 0.25); });
     for (const int x : {24, 40, 56, 72, 100, 116, 132, 148, 160}) {
         const double part = (x - 90) / 80.0;
         const int y = static_cast<int>(50 + 30 * std::sqrt(1 - part * part) + 8);
@@ -175,8 +175,8 @@ TEST(DrawPie, IsOutlinedInGrey)
 
 TEST(DrawPie, NullDeviceContextDoesNothing)
 {
-    const ts::Picture picture = Drawn(20, 20, [](CDC&) { QorDrawPie(nullptr, 0, 0, kUsed, kFree, 0.5); });
-    EXPECT_EQ(400, picture.Count(kPaper));
+    const ts::Picture picture = ts::Drawn(20, 20, [](CDC&) { QorDrawPie(nullptr, 0, 0, kUsed, kFree, 0.5); });
+    EXPECT_EQ(400, picture.Count(ts::kPaper));
 }
 
 int g_drawings = 0;
@@ -239,7 +239,7 @@ TEST(DrawPie, SheenIsOneBrushThatDoesNotScaleItsAngle)
     const ts::ReplacedImport bell(L"QorUI.dll", "GdipSetLineSigmaBlend", &RecordBell);
     g_fadings.clear();
     g_bells.clear();
-    Drawn(181, 97, [](CDC& dc) { QorDrawPie(dc, 10, 20, kUsed, kFree, 0.25); });
+    ts::Drawn(181, 97, [](CDC& dc) { QorDrawPie(dc, 10, 20, kUsed, kFree, 0.25); });
     EXPECT_EQ((std::vector<Fading>{{10, 20, 160, 76, 0x64808080, 0x64FFFFFF, -180.0F, FALSE}}), g_fadings);
     EXPECT_EQ((std::vector{std::pair(0.7F, 1.0F)}), g_bells);
 }
@@ -294,7 +294,7 @@ void ExpectShares(double ratio, const std::vector<Sweep>& rims, const std::vecto
     g_filledPies.clear();
     g_drawnPies.clear();
     g_closed = 0;
-    Drawn(181, 97, [=](CDC& dc) { QorDrawPie(dc, 10, 20, kUsed, kFree, ratio); });
+    ts::Drawn(181, 97, [=](CDC& dc) { QorDrawPie(dc, 10, 20, kUsed, kFree, ratio); });
     EXPECT_EQ(rims, g_arcs);
     EXPECT_EQ(rims.size() / 2, static_cast<size_t>(g_closed));
     EXPECT_EQ(tops, g_filledPies);
@@ -355,7 +355,7 @@ void ExpectNoPie()
     const ts::ReplacedImport fill(L"QorUI.dll", "GdipFillPath", &CountFill);
     g_drawings = 0;
     const ts::Picture picture = DrawnPie(0.25);
-    EXPECT_EQ(161 * 77, picture.Count(kPaper));
+    EXPECT_EQ(161 * 77, picture.Count(ts::kPaper));
     EXPECT_EQ(0, g_drawings);
 }
 

@@ -1,8 +1,8 @@
 #include <QorUI/app/draw/QorBmp.h>
 #include <tests/app/Blocks.h>
-#include <tests/app/OwnResources.h>
 #include <tests/app/res/resource.h>
 #include <tests/support/Imports.h>
+#include <tests/support/Resources.h>
 
 #include <gtest/gtest.h>
 
@@ -19,7 +19,7 @@ class PictureFile : public testing::Test
   protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_bitmap.Load(Program(), IDR_FRAMES, L"PNG"));
+        ASSERT_TRUE(m_bitmap.Load(ts::Program(), IDR_FRAMES, L"PNG"));
         m_held = m_bitmap.GetSafeHandle();
         s_reads = 0;
         s_readSize = 0;
@@ -56,7 +56,7 @@ class PictureFile : public testing::Test
     static inline int s_reads;
     static inline DWORD s_readSize;
     ts::TempFolder m_folder;
-    std::wstring m_path = FileOf(m_folder, IDR_UPRIGHT, L"picture.png");
+    std::wstring m_path = ts::FileOf(m_folder, IDR_UPRIGHT, L"picture.png");
     CQorBmp m_bitmap;
     HGDIOBJ m_held = nullptr;
     LocalBlocks m_blocks;
@@ -67,9 +67,9 @@ TEST_F(PictureFile, IsReadAtOnceIntoABlockOfItsSize)
     const ts::ReplacedImport read(L"QorUI.dll", "ReadFile", &Read);
     EXPECT_TRUE(m_bitmap.Load(m_path.c_str()));
     EXPECT_EQ(1, LocalBlocks::Asked());
-    EXPECT_EQ(PictureBytes(IDR_UPRIGHT).size(), LocalBlocks::Size());
+    EXPECT_EQ(ts::PictureBytes(IDR_UPRIGHT).size(), LocalBlocks::Size());
     EXPECT_EQ(1, s_reads);
-    EXPECT_EQ(PictureBytes(IDR_UPRIGHT).size(), s_readSize);
+    EXPECT_EQ(ts::PictureBytes(IDR_UPRIGHT).size(), s_readSize);
     EXPECT_EQ(0, LocalBlocks::Held());
 }
 
@@ -136,7 +136,7 @@ TEST_F(PictureFile, WithoutStreamIsRefused)
 TEST_F(PictureFile, ResourceWithoutStreamIsRefusedAndKeepsThePicture)
 {
     const StreamShortage shortage;
-    EXPECT_FALSE(m_bitmap.Load(Program(), IDR_UPRIGHT, L"PNG"));
+    EXPECT_FALSE(m_bitmap.Load(ts::Program(), IDR_UPRIGHT, L"PNG"));
     EXPECT_EQ(m_held, m_bitmap.GetSafeHandle());
 }
 

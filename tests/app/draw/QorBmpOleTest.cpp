@@ -1,7 +1,7 @@
 #include <QorUI/app/draw/QorBmp.h>
-#include <tests/app/OwnResources.h>
 #include <tests/app/res/resource.h>
 #include <tests/support/Imports.h>
+#include <tests/support/Resources.h>
 
 #include <gtest/gtest.h>
 
@@ -86,7 +86,7 @@ class OlePicture : public testing::Test
     BOOL Load()
     {
         const ts::ReplacedImport load(L"QorUI.dll", "OleLoadPicture", &GivePicture);
-        const BOOL loaded = m_bitmap->Load(Program(), IDR_FRAMES, L"PNG");
+        const BOOL loaded = m_bitmap->Load(ts::Program(), IDR_FRAMES, L"PNG");
         EXPECT_EQ(0u, m_stream->Release()) << "the stream is held";
         return loaded;
     }
@@ -147,7 +147,7 @@ bool IsBitmap(HBITMAP bitmap)
 TEST_F(OlePicture, IsLoadedOfTheWholeStreamAndKeepsItsFormat)
 {
     EXPECT_TRUE(LoadWithHandle());
-    EXPECT_EQ(PictureBytes(IDR_FRAMES).size(), static_cast<size_t>(m_size));
+    EXPECT_EQ(ts::PictureBytes(IDR_FRAMES).size(), static_cast<size_t>(m_size));
     EXPECT_EQ(FALSE, m_runMode);
     EXPECT_TRUE(IsEqualIID(IID_IPicture, m_interface));
 }
@@ -183,7 +183,7 @@ TEST_F(OlePicture, OfAFailedLoadIsHeldUntilItIsFreed)
 TEST_F(OlePicture, WithoutHandleIsReleasedByTheNextLoad)
 {
     EXPECT_FALSE(Load());
-    EXPECT_TRUE(m_bitmap->Load(Program(), IDR_UPRIGHT, L"PNG"));
+    EXPECT_TRUE(m_bitmap->Load(ts::Program(), IDR_UPRIGHT, L"PNG"));
     EXPECT_EQ(0u, m_picture.m_references);
 }
 

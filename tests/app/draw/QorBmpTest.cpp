@@ -1,8 +1,8 @@
 #include <QorUI/app/draw/QorBmp.h>
 #include <tests/app/Blocks.h>
-#include <tests/app/Drawn.h>
-#include <tests/app/OwnResources.h>
 #include <tests/app/res/resource.h>
+#include <tests/support/Resources.h>
+#include <tests/support/ui/Drawn.h>
 
 #include <gtest/gtest.h>
 
@@ -30,7 +30,7 @@ TEST(QorBmp, StartsEmpty)
 TEST(QorBmp, LoadsAPictureOfAResource)
 {
     CQorBmp bitmap;
-    ASSERT_TRUE(bitmap.Load(Program(), IDR_FRAMES, L"PNG"));
+    ASSERT_TRUE(bitmap.Load(ts::Program(), IDR_FRAMES, L"PNG"));
     BITMAP header = {};
     ASSERT_NE(0, bitmap.GetBitmap(&header));
     EXPECT_EQ(80, header.bmWidth);
@@ -42,28 +42,28 @@ TEST(QorBmp, LoadsAPictureOfAResource)
 TEST(QorBmp, MissingResourceIsRefusedAndKeepsThePicture)
 {
     CQorBmp bitmap;
-    ASSERT_TRUE(bitmap.Load(Program(), IDR_FRAMES, L"PNG"));
+    ASSERT_TRUE(bitmap.Load(ts::Program(), IDR_FRAMES, L"PNG"));
     const HGDIOBJ held = bitmap.GetSafeHandle();
-    EXPECT_FALSE(bitmap.Load(Program(), IDB_MISSING, L"PNG"));
-    EXPECT_FALSE(bitmap.Load(Program(), IDR_FRAMES, L"JPG"));
+    EXPECT_FALSE(bitmap.Load(ts::Program(), IDB_MISSING, L"PNG"));
+    EXPECT_FALSE(bitmap.Load(ts::Program(), IDR_FRAMES, L"JPG"));
     EXPECT_EQ(held, bitmap.GetSafeHandle());
 }
 
 TEST(QorBmp, DamagedPictureIsRefusedAndLeavesTheObjectEmpty)
 {
     CQorBmp bitmap;
-    ASSERT_TRUE(bitmap.Load(Program(), IDR_FRAMES, L"PNG"));
-    EXPECT_FALSE(bitmap.Load(Program(), IDR_DAMAGED, L"PNG"));
+    ASSERT_TRUE(bitmap.Load(ts::Program(), IDR_FRAMES, L"PNG"));
+    EXPECT_FALSE(bitmap.Load(ts::Program(), IDR_DAMAGED, L"PNG"));
     EXPECT_EQ(nullptr, bitmap.GetSafeHandle());
-    EXPECT_TRUE(bitmap.Load(Program(), IDR_FRAMES, L"PNG")) << "and it can be used again";
+    EXPECT_TRUE(bitmap.Load(ts::Program(), IDR_FRAMES, L"PNG")) << "and it can be used again";
 }
 
 TEST(QorBmp, SecondPictureFreesTheFirst)
 {
     CQorBmp bitmap;
-    ASSERT_TRUE(bitmap.Load(Program(), IDR_FRAMES, L"PNG"));
+    ASSERT_TRUE(bitmap.Load(ts::Program(), IDR_FRAMES, L"PNG"));
     const HBITMAP first = bitmap;
-    ASSERT_TRUE(bitmap.Load(Program(), IDR_UPRIGHT, L"PNG"));
+    ASSERT_TRUE(bitmap.Load(ts::Program(), IDR_UPRIGHT, L"PNG"));
     EXPECT_TRUE(first == static_cast<HBITMAP>(bitmap) || !IsBitmap(first));
     EXPECT_EQ(RGB(0, 0, 255), PixelOf(bitmap, 0, 3));
 }
@@ -72,9 +72,9 @@ TEST(QorBmp, LoadingOverAndOverLeavesNothingBehind)
 {
     EXPECT_TRUE(ts::NoLeak([] {
         CQorBmp bitmap;
-        ASSERT_TRUE(bitmap.Load(Program(), IDR_FRAMES, L"PNG"));
-        ASSERT_TRUE(bitmap.Load(Program(), IDR_UPRIGHT, L"PNG"));
-        ASSERT_FALSE(bitmap.Load(Program(), IDR_DAMAGED, L"PNG"));
+        ASSERT_TRUE(bitmap.Load(ts::Program(), IDR_FRAMES, L"PNG"));
+        ASSERT_TRUE(bitmap.Load(ts::Program(), IDR_UPRIGHT, L"PNG"));
+        ASSERT_FALSE(bitmap.Load(ts::Program(), IDR_DAMAGED, L"PNG"));
     }));
 }
 
@@ -83,7 +83,7 @@ TEST(QorBmp, AttachedBitmapIsDeletedWithTheObject)
     HBITMAP handle = nullptr;
     {
         CQorBmp bitmap;
-        handle = ::LoadBitmapW(Program(), MAKEINTRESOURCEW(IDB_FRAMES));
+        handle = ::LoadBitmapW(ts::Program(), MAKEINTRESOURCEW(IDB_FRAMES));
         ASSERT_TRUE(bitmap.Attach(handle));
         EXPECT_TRUE(IsBitmap(handle));
     }
@@ -93,28 +93,28 @@ TEST(QorBmp, AttachedBitmapIsDeletedWithTheObject)
 TEST(QorBmp, AttachedBitmapIsDeletedWhenAPictureIsLoaded)
 {
     CQorBmp bitmap;
-    const HBITMAP handle = ::LoadBitmapW(Program(), MAKEINTRESOURCEW(IDB_FRAMES));
+    const HBITMAP handle = ::LoadBitmapW(ts::Program(), MAKEINTRESOURCEW(IDB_FRAMES));
     ASSERT_TRUE(bitmap.Attach(handle));
-    ASSERT_TRUE(bitmap.Load(Program(), IDR_UPRIGHT, L"PNG"));
+    ASSERT_TRUE(bitmap.Load(ts::Program(), IDR_UPRIGHT, L"PNG"));
     EXPECT_TRUE(handle == static_cast<HBITMAP>(bitmap) || !IsBitmap(handle));
 }
 
 TEST(QorBmp, AttachedBitmapIsNotRendered)
 {
     CQorBmp bitmap;
-    ASSERT_TRUE(bitmap.Attach(::LoadBitmapW(Program(), MAKEINTRESOURCEW(IDB_FRAMES))));
-    const ts::Picture picture = Drawn(80, 10, [&](CDC& dc) { EXPECT_FALSE(bitmap.Render(dc, 0, 0, 80, 10)); });
-    EXPECT_EQ(800, picture.Count(kPaper));
+    ASSERT_TRUE(bitmap.Attach(::LoadBitmapW(ts::Program(), MAKEINTRESOURCEW(IDB_FRAMES))));
+    const ts::Picture picture = ts::Drawn(80, 10, [&](CDC& dc) { EXPECT_FALSE(bitmap.Render(dc, 0, 0, 80, 10)); });
+    EXPECT_EQ(800, picture.Count(ts::kPaper));
 }
 
 TEST(QorBmp, DeleteObjectEmptiesBothKinds)
 {
     CQorBmp bitmap;
     EXPECT_FALSE(bitmap.DeleteObject());
-    ASSERT_TRUE(bitmap.Load(Program(), IDR_FRAMES, L"PNG"));
+    ASSERT_TRUE(bitmap.Load(ts::Program(), IDR_FRAMES, L"PNG"));
     EXPECT_TRUE(bitmap.DeleteObject());
     EXPECT_EQ(nullptr, bitmap.GetSafeHandle());
-    const HBITMAP handle = ::LoadBitmapW(Program(), MAKEINTRESOURCEW(IDB_FRAMES));
+    const HBITMAP handle = ::LoadBitmapW(ts::Program(), MAKEINTRESOURCEW(IDB_FRAMES));
     ASSERT_TRUE(bitmap.Attach(handle));
     EXPECT_TRUE(bitmap.DeleteObject());
     EXPECT_FALSE(IsBitmap(handle));
@@ -123,9 +123,9 @@ TEST(QorBmp, DeleteObjectEmptiesBothKinds)
 TEST(QorBmp, RendersUprightAndStretched)
 {
     CQorBmp bitmap;
-    ASSERT_TRUE(bitmap.Load(Program(), IDR_UPRIGHT, L"PNG"));
-    const ts::Picture picture = Drawn(50, 40, [&](CDC& dc) { EXPECT_TRUE(bitmap.Render(dc, 10, 4, 32, 24)); });
-    EXPECT_EQ(CRect(10, 4, 42, 28), CRect(picture.BoundsOfOthers(kPaper)));
+    ASSERT_TRUE(bitmap.Load(ts::Program(), IDR_UPRIGHT, L"PNG"));
+    const ts::Picture picture = ts::Drawn(50, 40, [&](CDC& dc) { EXPECT_TRUE(bitmap.Render(dc, 10, 4, 32, 24)); });
+    EXPECT_EQ(CRect(10, 4, 42, 28), CRect(picture.BoundsOfOthers(ts::kPaper)));
     EXPECT_EQ(RGB(255, 0, 0), picture.At(14, 8));
     EXPECT_EQ(RGB(0, 255, 0), picture.At(38, 8));
     EXPECT_EQ(RGB(0, 0, 255), picture.At(14, 24));
@@ -135,7 +135,7 @@ TEST(QorBmp, RendersUprightAndStretched)
 TEST(QorBmp, RenderNeedsADeviceContext)
 {
     CQorBmp bitmap;
-    ASSERT_TRUE(bitmap.Load(Program(), IDR_UPRIGHT, L"PNG"));
+    ASSERT_TRUE(bitmap.Load(ts::Program(), IDR_UPRIGHT, L"PNG"));
     EXPECT_FALSE(bitmap.Render(nullptr, 0, 0, 4, 4));
 }
 
@@ -143,7 +143,7 @@ TEST(QorBmp, LoadsAPictureOfAFile)
 {
     const ts::TempFolder folder;
     CQorBmp bitmap;
-    ASSERT_TRUE(bitmap.Load(FileOf(folder, IDR_UPRIGHT, L"picture.png").c_str()));
+    ASSERT_TRUE(bitmap.Load(ts::FileOf(folder, IDR_UPRIGHT, L"picture.png").c_str()));
     EXPECT_EQ(RGB(255, 0, 0), PixelOf(bitmap, 0, 0));
     EXPECT_EQ(RGB(255, 255, 255), PixelOf(bitmap, 3, 3));
 }
@@ -157,7 +157,7 @@ HANDLE OpenAsOther(const std::wstring& path, DWORD access, DWORD share)
 TEST(QorBmp, FileThatOthersReadIsLoaded)
 {
     const ts::TempFolder folder;
-    const std::wstring path = FileOf(folder, IDR_UPRIGHT, L"picture.png");
+    const std::wstring path = ts::FileOf(folder, IDR_UPRIGHT, L"picture.png");
     const HANDLE reader = OpenAsOther(path, GENERIC_READ, FILE_SHARE_READ);
     ASSERT_NE(INVALID_HANDLE_VALUE, reader);
     CQorBmp bitmap;
@@ -168,7 +168,7 @@ TEST(QorBmp, FileThatOthersReadIsLoaded)
 TEST(QorBmp, FileThatIsBeingWrittenIsRefused)
 {
     const ts::TempFolder folder;
-    const std::wstring path = FileOf(folder, IDR_UPRIGHT, L"picture.png");
+    const std::wstring path = ts::FileOf(folder, IDR_UPRIGHT, L"picture.png");
     const HANDLE writer = OpenAsOther(path, GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE);
     ASSERT_NE(INVALID_HANDLE_VALUE, writer);
     CQorBmp bitmap;
@@ -180,7 +180,7 @@ TEST(QorBmp, FileThatIsBeingWrittenIsRefused)
 TEST(QorBmp, FileIsClosedOnEveryPath)
 {
     const ts::TempFolder folder;
-    const std::wstring picture = FileOf(folder, IDR_UPRIGHT, L"picture.png");
+    const std::wstring picture = ts::FileOf(folder, IDR_UPRIGHT, L"picture.png");
     const std::wstring text = folder.File(L"text.png");
     const std::wstring empty = folder.File(L"empty.png");
     ts::WriteBytes(text, "this is no picture");
@@ -201,7 +201,7 @@ TEST(QorBmp, MissingFileIsRefusedAndKeepsThePicture)
 {
     const ts::TempFolder folder;
     CQorBmp bitmap;
-    ASSERT_TRUE(bitmap.Load(Program(), IDR_UPRIGHT, L"PNG"));
+    ASSERT_TRUE(bitmap.Load(ts::Program(), IDR_UPRIGHT, L"PNG"));
     const HGDIOBJ held = bitmap.GetSafeHandle();
     EXPECT_FALSE(bitmap.Load(folder.File(L"missing.png").c_str()));
     EXPECT_FALSE(bitmap.Load(static_cast<LPCWSTR>(nullptr)));
@@ -231,8 +231,8 @@ TEST(QorBmp, StreamIsReleasedOnEveryPath)
 {
     CQorBmp bitmap;
     ExpectNoBlocksLeft([&] {
-        EXPECT_TRUE(bitmap.Load(Program(), IDR_FRAMES, L"PNG"));
-        EXPECT_FALSE(bitmap.Load(Program(), IDR_DAMAGED, L"PNG"));
+        EXPECT_TRUE(bitmap.Load(ts::Program(), IDR_FRAMES, L"PNG"));
+        EXPECT_FALSE(bitmap.Load(ts::Program(), IDR_DAMAGED, L"PNG"));
     });
 }
 

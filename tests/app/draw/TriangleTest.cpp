@@ -1,6 +1,6 @@
 #include <QorUI/app/draw/Triangle.h>
-#include <tests/app/Drawn.h>
 #include <tests/support/Imports.h>
+#include <tests/support/ui/Drawn.h>
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@ constexpr RECT kPlace = {4, 3, 12, 9}; // mid is 8, 6
 
 ts::Picture DrawnTriangle(int direction, const RECT& place = kPlace)
 {
-    return Drawn(20, 14, [&](CDC& dc) { QorDrawTriangle(&dc, place, direction, kInk); });
+    return ts::Drawn(20, 14, [&](CDC& dc) { QorDrawTriangle(&dc, place, direction, kInk); });
 }
 
 /** Expects the corners and a point inside in the colour, and the given points outside untouched. */
@@ -23,7 +23,7 @@ void ExpectTriangle(int direction, std::initializer_list<POINT> inked, std::init
         EXPECT_TRUE(ts::PixelIs(picture, at.x, at.y, kInk));
     }
     for (const POINT& at : outside) {
-        EXPECT_TRUE(ts::PixelIs(picture, at.x, at.y, kPaper));
+        EXPECT_TRUE(ts::PixelIs(picture, at.x, at.y, ts::kPaper));
     }
 }
 
@@ -50,7 +50,7 @@ TEST(DrawTriangle, RightHasItsApexAtTheRight)
 TEST(DrawTriangle, StaysInsideItsRectangle)
 {
     for (int direction = 0; direction < 4; ++direction) {
-        EXPECT_EQ(CRect(4, 3, 13, 10), CRect(DrawnTriangle(direction).BoundsOfOthers(kPaper))) << direction;
+        EXPECT_EQ(CRect(4, 3, 13, 10), CRect(DrawnTriangle(direction).BoundsOfOthers(ts::kPaper))) << direction;
     }
 }
 
@@ -58,10 +58,10 @@ TEST(DrawTriangle, OddExtentsAreHalvedDownwards)
 {
     const ts::Picture wide = DrawnTriangle(0, {4, 3, 11, 9});
     EXPECT_EQ(kInk, wide.At(7, 3));
-    EXPECT_EQ(kPaper, wide.At(8, 3));
+    EXPECT_EQ(ts::kPaper, wide.At(8, 3));
     const ts::Picture high = DrawnTriangle(3, {4, 3, 12, 8});
     EXPECT_EQ(kInk, high.At(12, 5));
-    EXPECT_EQ(kPaper, high.At(12, 6));
+    EXPECT_EQ(ts::kPaper, high.At(12, 6));
 }
 
 TEST(DrawTriangle, OtherDirectionsDrawNothing)
@@ -74,7 +74,7 @@ TEST(DrawTriangle, OtherDirectionsDrawNothing)
 
 TEST(DrawTriangle, LeavesTheDeviceContextAsItWas)
 {
-    Drawn(20, 14, [](CDC& dc) {
+    ts::Drawn(20, 14, [](CDC& dc) {
         dc.SetPolyFillMode(ALTERNATE);
         const HGDIOBJ pen = ::GetCurrentObject(dc, OBJ_PEN);
         const HGDIOBJ brush = ::GetCurrentObject(dc, OBJ_BRUSH);
@@ -104,11 +104,11 @@ TEST(DrawTriangle, IsOnePolygonFilledByWinding)
 
 TEST(DrawTriangle, WithoutGdiHandlesNothingIsDrawnOrThrown)
 {
-    const ts::Picture picture = Drawn(20, 14, [](CDC& dc) {
+    const ts::Picture picture = ts::Drawn(20, 14, [](CDC& dc) {
         const ts::GdiShortage shortage;
         QorDrawTriangle(&dc, kPlace, 0, kInk);
     });
-    EXPECT_EQ(20 * 14, picture.Count(kPaper));
+    EXPECT_EQ(20 * 14, picture.Count(ts::kPaper));
 }
 
 TEST(DrawTriangle, LeavesNothingBehind)

@@ -1,20 +1,15 @@
 #include <QorUI/QorUI.h>
+#include <QorUI/res/resource.h>
 #include <tests/app/res/resource.h>
 #include <tests/doubles/QorApi/QorApiDouble.h>
 #include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>
+#include <tests/support/ui/Control.h>
 
 #include <gtest/gtest.h>
 
 namespace
 {
-
-std::wstring TextOf(HWND window)
-{
-    CString text;
-    CWnd::FromHandle(window)->GetWindowText(text);
-    return text.GetString();
-}
 
 /** The library while its services fail. */
 class Services : public testing::Test
@@ -34,7 +29,7 @@ TEST_F(Services, TextsAreThereWhileNothingFails)
 {
     ts::ModalDriver driver;
     driver.InDialog([](HWND dialog) {
-        EXPECT_NE(L"STR_OK", TextOf(::GetDlgItem(dialog, IDOK)));
+        EXPECT_STRNE(L"STR_OK", ts::TextOf(dialog, IDOK));
         ts::Key(VK_RETURN);
     });
     EXPECT_EQ(UINT{IDOK}, QorMsgBox(L"Text", QOR_MSG_ERROR, 0, nullptr));
@@ -46,10 +41,9 @@ TEST_F(Services, MessageBoxShowsKeysInPlaceOfTexts)
     FailTexts();
     ts::ModalDriver driver;
     driver.InDialog([](HWND dialog) {
-        EXPECT_EQ(L"STR_ERROR", TextOf(dialog));
-        EXPECT_EQ(L"STR_OK", TextOf(::GetDlgItem(dialog, IDOK)));
-        const std::wstring system = QorFormatMsg(ERROR_BUSY).GetString();
-        EXPECT_EQ(L"STR_OPERATE_FAIL\r\nSTR_ERROR: " + system, TextOf(::GetDlgItem(dialog, 1101)));
+        EXPECT_STREQ(L"STR_ERROR", ts::TextOf(dialog));
+        EXPECT_STREQ(L"STR_OK", ts::TextOf(dialog, IDOK));
+        EXPECT_EQ(L"STR_OPERATE_FAIL\r\nSTR_ERROR: " + QorFormatMsg(ERROR_BUSY), ts::TextOf(dialog, IDC_BOX_TEXT));
         ts::Key(VK_RETURN);
     });
     EXPECT_EQ(UINT{IDOK}, QorMsgBox(nullptr, QOR_MSG_ERROR, ERROR_BUSY, nullptr));
@@ -61,8 +55,8 @@ TEST_F(Services, MessageBoxOfThreeButtonsShowsKeys)
     FailTexts();
     ts::ModalDriver driver;
     driver.InDialog([](HWND dialog) {
-        EXPECT_EQ(L"STR_CONFIRM", TextOf(dialog));
-        EXPECT_EQ(L"STR_CANCEL", TextOf(::GetDlgItem(dialog, IDCANCEL)));
+        EXPECT_STREQ(L"STR_CONFIRM", ts::TextOf(dialog));
+        EXPECT_STREQ(L"STR_CANCEL", ts::TextOf(dialog, IDCANCEL));
         ts::Key(VK_ESCAPE);
     });
     EXPECT_EQ(UINT{IDCANCEL}, QorMsgBox(L"Text", QOR_MSG_RETRY, 0, nullptr));
@@ -74,7 +68,7 @@ TEST_F(Services, RefusedTextIsToldByItsKey)
     FailTexts();
     ts::AfxHost host(200, 100);
     CFlatEditEx edit;
-    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(5, 5, 100, 25), &host, 3));
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(5, 5, 100, 25), &host, ts::kControlId));
     edit.SetIllegalChars(L":/");
     std::wstring tip;
     ts::MessageRecorder recorder(edit);

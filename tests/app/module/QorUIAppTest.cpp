@@ -4,7 +4,7 @@
 #include <QorUI/app/module/ResourceSwitch.h>
 #include <QorUI/buttons/QorBtn.h>
 #include <QorUI/res/resource.h>
-#include <tests/app/Drawn.h>
+#include <tests/support/ui/Drawn.h>
 
 #include <gtest/gtest.h>
 
@@ -85,11 +85,11 @@ testing::AssertionResult Repeats(CBrush& brush, HMODULE library, UINT id, CSize 
     if (!brush.GetSafeHandle()) {
         return testing::AssertionFailure() << "no brush";
     }
-    const ts::Picture picture = ResourcePicture(library, id);
+    const ts::Picture picture = ts::ResourcePicture(library, id);
     if (CSize(picture.Width(), picture.Height()) != size) {
         return testing::AssertionFailure() << "picture is " << picture.Width() << " x " << picture.Height();
     }
-    const ts::Picture filled = Drawn(size.cx * 2, size.cy * 2, [&](CDC& dc) {
+    const ts::Picture filled = ts::Drawn(size.cx * 2, size.cy * 2, [&](CDC& dc) {
         const CRect all(0, 0, size.cx * 2, size.cy * 2);
         ::FillRect(dc, &all, brush);
     });
@@ -183,8 +183,8 @@ TEST_F(Module, InitLoadsTheGlyphStrips)
 TEST_F(Module, RadioStripIsBitmap200AndCheckStrip201)
 {
     InitWithPictures();
-    EXPECT_TRUE(ts::SamePicture(ResourcePicture(m_library, 200), ts::PictureOf(g_QorUIApp.m_bmpRadio)));
-    EXPECT_TRUE(ts::SamePicture(ResourcePicture(m_library, 201), ts::PictureOf(g_QorUIApp.m_bmpCheck)));
+    EXPECT_TRUE(ts::SamePicture(ts::ResourcePicture(m_library, 200), ts::PictureOf(g_QorUIApp.m_bmpRadio)));
+    EXPECT_TRUE(ts::SamePicture(ts::ResourcePicture(m_library, 201), ts::PictureOf(g_QorUIApp.m_bmpCheck)));
 }
 
 TEST_F(Module, StyleTableHasTheFourFaces)
@@ -229,13 +229,13 @@ TEST_F(Module, ButtonWithoutAFaceHasItsBordersOnly)
     ASSERT_TRUE(g_QorUIApp.InitInstance());
     CQorBtn button;
     for (UINT row = 0; row < 4; ++row) {
-        const ts::Picture picture = Drawn(60, 25, [&](CDC& dc) {
+        const ts::Picture picture = ts::Drawn(60, 25, [&](CDC& dc) {
             CRect rect(2, 3, 58, 24);
             button.DrawBack(&dc, rect, row, FALSE);
         });
         EXPECT_TRUE(ts::AreaIs(picture, CRect(8, 3, 52, 4), g_BtnStyles[row].outer)) << "row " << row;
         EXPECT_TRUE(ts::AreaIs(picture, CRect(8, 4, 52, 5), g_BtnStyles[row].inner)) << "row " << row;
-        EXPECT_TRUE(ts::AreaIs(picture, CRect(6, 7, 54, 20), kPaper)) << "row " << row;
+        EXPECT_TRUE(ts::AreaIs(picture, CRect(6, 7, 54, 20), ts::kPaper)) << "row " << row;
         EXPECT_TRUE(ts::AreaIs(picture, CRect(8, 22, 52, 23), g_BtnStyles[row].inner)) << "row " << row;
         EXPECT_TRUE(ts::AreaIs(picture, CRect(8, 23, 52, 24), g_BtnStyles[row].outer)) << "row " << row;
     }

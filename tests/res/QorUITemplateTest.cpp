@@ -112,13 +112,13 @@ TEST(MessageBoxTemplate, HasItsControlsAtTheirPlaces)
     ExpectPlace(dialog.Item(IDCANCEL), 188, 95, 50, 14);
     ExpectPlace(dialog.Item(IDOK), 134, 95, 50, 14);
     ExpectPlace(dialog.Item(4), 80, 95, 50, 14);
-    ExpectPlace(dialog.Item(1100), 17, 28, 20, 20);
-    ExpectPlace(dialog.Item(1101), 54, 28, 201, 60);
+    ExpectPlace(dialog.Item(IDC_BOX_ICON), 17, 28, 20, 20);
+    ExpectPlace(dialog.Item(IDC_BOX_TEXT), 54, 28, 201, 60);
     ExpectType(dialog, IDOK, BS_DEFPUSHBUTTON);
     ExpectType(dialog, IDCANCEL, BS_PUSHBUTTON);
     ExpectType(dialog, 4, BS_PUSHBUTTON);
     EXPECT_EQ(0u, dialog.Item(4).style & WS_VISIBLE) << "the third button starts hidden";
-    EXPECT_EQ(static_cast<DWORD>(SS_ICON), dialog.Item(1100).style & SS_TYPEMASK);
+    EXPECT_EQ(static_cast<DWORD>(SS_ICON), dialog.Item(IDC_BOX_ICON).style & SS_TYPEMASK);
 }
 
 TEST(MessageBoxTemplate, GivesTheDefaultButtonTheFirstFocus)
@@ -137,11 +137,12 @@ TEST(WaitingTemplate, HasItsControlsAtTheirPlaces)
     const Template dialog = ReadTemplate(IDD_DLG_WAITING);
     EXPECT_EQ(218, dialog.cx);
     EXPECT_EQ(134, dialog.cy);
-    ExpectPlace(dialog.Item(1150), 26, 40, 37, 35);
-    ExpectPlace(dialog.Item(1151), 70, 42, 123, 32);
+    ExpectPlace(dialog.Item(IDC_WAIT_ANIMATION), 26, 40, 37, 35);
+    ExpectPlace(dialog.Item(IDC_TEXT), 70, 42, 123, 32);
     ExpectPlace(dialog.Item(IDCANCEL), 155, 110, 50, 14);
-    ExpectClass(dialog, 1150, L"sysanimate32");
-    EXPECT_EQ(static_cast<DWORD>(WS_CHILD | WS_VISIBLE | ACS_TRANSPARENT | ACS_AUTOPLAY), dialog.Item(1150).style);
+    ExpectClass(dialog, IDC_WAIT_ANIMATION, L"sysanimate32");
+    EXPECT_EQ(static_cast<DWORD>(WS_CHILD | WS_VISIBLE | ACS_TRANSPARENT | ACS_AUTOPLAY),
+              dialog.Item(IDC_WAIT_ANIMATION).style);
     EXPECT_FALSE(dialog.Has(IDOK));
 }
 
@@ -150,11 +151,11 @@ TEST(ProgressTemplate, HasItsControlsAtTheirPlaces)
     const Template dialog = ReadTemplate(IDD_DLG_PROGRESS);
     EXPECT_EQ(271, dialog.cx);
     EXPECT_EQ(98, dialog.cy);
-    ExpectPlace(dialog.Item(1151), 13, 28, 241, 8);
-    ExpectPlace(dialog.Item(1006), 13, 39, 245, 13);
+    ExpectPlace(dialog.Item(IDC_TEXT), 13, 28, 241, 8);
+    ExpectPlace(dialog.Item(IDC_PROGRESS), 13, 39, 245, 13);
     ExpectPlace(dialog.Item(IDCANCEL), 208, 72, 50, 14);
-    ExpectClass(dialog, 1006, L"msctls_progress32");
-    EXPECT_EQ(static_cast<DWORD>(SS_WORDELLIPSIS), dialog.Item(1151).style & SS_ELLIPSISMASK);
+    ExpectClass(dialog, IDC_PROGRESS, L"msctls_progress32");
+    EXPECT_EQ(static_cast<DWORD>(SS_WORDELLIPSIS), dialog.Item(IDC_TEXT).style & SS_ELLIPSISMASK);
     EXPECT_FALSE(dialog.Has(IDOK));
 }
 
@@ -163,24 +164,24 @@ TEST(LogonTemplate, HasItsControls)
     const Template dialog = ReadTemplate(IDD_DLG_LOGON);
     EXPECT_EQ(266, dialog.cx);
     EXPECT_EQ(141, dialog.cy);
-    for (DWORD id : {1151u, 1152u, 1154u}) {
+    for (DWORD id : {IDC_TEXT, IDC_NAME_LABEL, IDC_PASSWORD_LABEL}) {
         ExpectClass(dialog, id, L"static");
     }
-    ExpectClass(dialog, 1153, L"edit");
-    EXPECT_EQ(117, dialog.Item(1153).cx);
-    EXPECT_EQ(12, dialog.Item(1153).cy);
-    EXPECT_NE(0u, dialog.Item(1155).style & ES_PASSWORD);
-    ExpectType(dialog, 1260, BS_AUTOCHECKBOX);
+    ExpectClass(dialog, IDC_NAME, L"edit");
+    EXPECT_EQ(117, dialog.Item(IDC_NAME).cx);
+    EXPECT_EQ(12, dialog.Item(IDC_NAME).cy);
+    EXPECT_NE(0u, dialog.Item(IDC_PASSWORD).style & ES_PASSWORD);
+    ExpectType(dialog, IDC_LOGON_REMEMBER, BS_AUTOCHECKBOX);
     ExpectType(dialog, IDOK, BS_DEFPUSHBUTTON);
     const TemplateItem& picture = dialog.Item(IDC_LOGON_PICTURE);
-    EXPECT_EQ(262, picture.picture);
-    EXPECT_LT(picture.x + picture.cx, dialog.Item(1153).x) << "the picture is at the left";
+    EXPECT_EQ(IDB_LOGON, picture.picture);
+    EXPECT_LT(picture.x + picture.cx, dialog.Item(IDC_NAME).x) << "the picture is at the left";
 }
 
 TEST(SheetTemplate, HasTheTabControlAndTheTwoButtons)
 {
     const Template dialog = ReadTemplate(IDD_DLG_SHEET);
-    ExpectClass(dialog, 1004, L"systabcontrol32");
+    ExpectClass(dialog, IDC_SHEET_TAB, L"systabcontrol32");
     EXPECT_TRUE(dialog.Has(IDOK));
     EXPECT_EQ(3u, dialog.items.size());
 }
@@ -190,8 +191,8 @@ TEST(RestrictTemplate, HasATitleAndEightCheckBoxes)
     const Template dialog = ReadTemplate(IDD_DLG_RESTRICT);
     EXPECT_EQ(210, dialog.cx);
     EXPECT_EQ(180, dialog.cy);
-    ExpectClass(dialog, 1240, L"static");
-    for (DWORD id = 1241; id <= 1248; ++id) {
+    ExpectClass(dialog, IDC_RESTRICT_TITLE, L"static");
+    for (DWORD id = IDC_RESTRICT_FIRST; id <= IDC_RESTRICT_LAST; ++id) {
         ExpectType(dialog, id, BS_AUTOCHECKBOX);
     }
 }
@@ -201,12 +202,12 @@ TEST(UpdateTemplates, HaveTheirControls)
     const Template check = ReadTemplate(IDD_DLG_CHKUPDATE);
     EXPECT_EQ(202, check.cx);
     EXPECT_EQ(112, check.cy);
-    ExpectClass(check, 1151, L"static");
-    ExpectType(check, 1460, BS_AUTOCHECKBOX);
+    ExpectClass(check, IDC_TEXT, L"static");
+    ExpectType(check, IDC_UPDATE_AUTO_CHECK, BS_AUTOCHECKBOX);
     const Template settings = ReadTemplate(IDD_DLG_UPDATE_SET);
-    ExpectClass(settings, 1476, L"static");
-    ExpectClass(settings, 1480, L"static");
-    for (DWORD id : {1478u, 1479u, 1482u, 1483u}) {
+    ExpectClass(settings, IDC_UPDATE_HEADING, L"static");
+    ExpectClass(settings, IDC_UPDATE_HEADING2, L"static");
+    for (DWORD id : {IDC_UPDATE_YES, IDC_UPDATE_NO, IDC_UPDATE_NO2, IDC_UPDATE_YES2}) {
         ExpectType(settings, id, BS_AUTORADIOBUTTON);
     }
 }
@@ -214,84 +215,90 @@ TEST(UpdateTemplates, HaveTheirControls)
 TEST(BoxTemplates, HaveTheControlsThatTheirCodeFills)
 {
     const Template about = ReadTemplate(IDD_DLG_ABOUTEX);
-    for (DWORD id : {1200u, 1215u, 1223u, 1224u}) {
+    for (DWORD id : {IDC_ABOUT_PRODUCT, IDC_ABOUT_SUPPORT_LABEL, IDC_ABOUT_WEB, IDC_ABOUT_FREEWARE}) {
         ExpectClass(about, id, L"static");
     }
     EXPECT_TRUE(about.Has(IDOK));
     const Template web = ReadTemplate(IDD_DLG_WEB_MSG);
-    EXPECT_EQ(static_cast<DWORD>(SS_ICON), web.Item(1100).style & SS_TYPEMASK);
+    EXPECT_EQ(static_cast<DWORD>(SS_ICON), web.Item(IDC_BOX_ICON).style & SS_TYPEMASK);
     EXPECT_TRUE(web.Has(IDOK));
 }
 
 TEST(UserTemplate, HasItsControls)
 {
     const Template dialog = ReadTemplate(IDD_DLG_USERINFO);
-    for (DWORD id : {1153u, 1389u, 1155u, 1391u}) {
+    for (DWORD id : {IDC_NAME, IDC_USER_DESCRIPTION, IDC_PASSWORD, IDC_USER_CONFIRM}) {
         ExpectClass(dialog, id, L"edit");
     }
-    EXPECT_NE(0u, dialog.Item(1155).style & ES_PASSWORD);
-    EXPECT_NE(0u, dialog.Item(1391).style & ES_PASSWORD);
-    ExpectType(dialog, 1395, BS_PUSHBUTTON);
-    ExpectType(dialog, 1396, BS_PUSHBUTTON);
-    ExpectType(dialog, 1394, BS_AUTOCHECKBOX);
-    ExpectClass(dialog, 1393, L"listbox");
+    EXPECT_NE(0u, dialog.Item(IDC_PASSWORD).style & ES_PASSWORD);
+    EXPECT_NE(0u, dialog.Item(IDC_USER_CONFIRM).style & ES_PASSWORD);
+    ExpectType(dialog, IDC_USER_RESET, BS_PUSHBUTTON);
+    ExpectType(dialog, IDC_USER_CHANGE, BS_PUSHBUTTON);
+    ExpectType(dialog, IDC_USER_ACTIVE, BS_AUTOCHECKBOX);
+    ExpectClass(dialog, IDC_USER_RIGHTS, L"listbox");
     EXPECT_EQ(static_cast<DWORD>(LBS_OWNERDRAWFIXED | LBS_HASSTRINGS),
-              dialog.Item(1393).style & (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS));
+              dialog.Item(IDC_USER_RIGHTS).style & (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS));
 }
 
 // A new account has no Reset and Change: the password fields take the description's width.
 TEST(UserTemplate, LeavesTheButtonsBesideThePasswordsInTheWidthOfTheDescription)
 {
     const Template dialog = ReadTemplate(IDD_DLG_USERINFO);
-    const TemplateItem& description = dialog.Item(1389);
-    EXPECT_EQ(description.x, dialog.Item(1155).x);
-    EXPECT_EQ(description.x + description.cx, dialog.Item(1395).x + dialog.Item(1395).cx);
-    EXPECT_EQ(description.cy, dialog.Item(1155).cy);
+    const TemplateItem& description = dialog.Item(IDC_USER_DESCRIPTION);
+    EXPECT_EQ(description.x, dialog.Item(IDC_PASSWORD).x);
+    EXPECT_EQ(description.x + description.cx, dialog.Item(IDC_USER_RESET).x + dialog.Item(IDC_USER_RESET).cx);
+    EXPECT_EQ(description.cy, dialog.Item(IDC_PASSWORD).cy);
 }
 
 TEST(TaskTemplate, HasTheControlsOfTheTable)
 {
     const Template dialog = ReadTemplate(IDD_DLG_TASKINFO);
-    for (DWORD id : {1401u, 1411u, 1413u, 1415u, 1417u, 1432u}) {
+    for (DWORD id :
+         {IDC_TASK_NAME, IDC_TASK_FIRST_HOUR, IDC_TASK_LAST_HOUR, IDC_TASK_DAY, IDC_TASK_MINUTE, IDC_TASK_KEEP_DAYS}) {
         ExpectClass(dialog, id, L"edit");
     }
-    for (DWORD id : {1403u, 1405u, 1409u, 1419u, 1427u}) {
+    for (DWORD id : {IDC_TASK_KIND, IDC_TASK_SCHEDULE, IDC_TASK_SUSPEND_DAY, IDC_TASK_WEEKDAY, IDC_TASK_SNAPSHOT}) {
         ExpectClass(dialog, id, L"combobox");
     }
-    for (DWORD id : {1406u, 1407u}) {
+    for (DWORD id : {IDC_TASK_DATE, IDC_TASK_TIME}) {
         ExpectClass(dialog, id, L"sysdatetimepick32");
     }
-    for (DWORD id : {1408u, 1422u, 1424u, 1431u, 1434u}) {
+    for (DWORD id : {IDC_TASK_SUSPEND, IDC_TASK_WEEKDAYS, IDC_TASK_LOCK, IDC_TASK_KEEP, IDC_TASK_SHUTDOWN}) {
         ExpectType(dialog, id, BS_AUTOCHECKBOX);
     }
-    for (DWORD id : {1420u, 1421u, 1425u, 1426u, 1429u, 1430u}) {
+    for (DWORD id : {IDC_TASK_AT, IDC_TASK_FIRST_BOOT, IDC_TASK_ROLL_LATEST, IDC_TASK_ROLL_SNAPSHOT, IDC_TASK_KEEP_ALL,
+                     IDC_TASK_REMOVE_UNLOCKED}) {
         ExpectType(dialog, id, BS_AUTORADIOBUTTON);
     }
-    for (DWORD id : {1410u, 1412u, 1414u, 1416u, 1418u, 1423u, 1433u}) {
+    for (DWORD id : {IDC_TASK_FROM_LABEL, IDC_TASK_TO_LABEL, IDC_TASK_HOUR_LABEL, IDC_TASK_DAY_LABEL,
+                     IDC_TASK_MINUTE_LABEL, IDC_TASK_SETTINGS_LABEL, IDC_TASK_KEEP_UNIT}) {
         ExpectClass(dialog, id, L"static");
     }
-    ExpectType(dialog, 1428, BS_GROUPBOX);
+    ExpectType(dialog, IDC_TASK_OTHERS_GROUP, BS_GROUPBOX);
 }
 
-// A daily task shows 1422 from 30 pixels left of the date and 1420 from 40 pixels left of the time.
+// A daily task shows the weekdays from 30 pixels left of the date and "at" from 40 pixels left of the time.
 TEST(TaskTemplate, LeavesRoomForTheControlsOfADailyTask)
 {
     const Template dialog = ReadTemplate(IDD_DLG_TASKINFO);
     const auto pixels = [](int units) { return units * 6 / 4; };
-    const int date = pixels(dialog.Item(1406).x), time = pixels(dialog.Item(1407).x);
+    const int date = pixels(dialog.Item(IDC_TASK_DATE).x), time = pixels(dialog.Item(IDC_TASK_TIME).x);
     EXPECT_GE(date - 30, pixels(kSide));
-    EXPECT_LE(date - 30 + pixels(dialog.Item(1422).cx), time - 40);
-    EXPECT_LE(time - 40 + pixels(dialog.Item(1420).cx), time);
-    EXPECT_GT(dialog.Item(1421).y, dialog.Item(1407).y + 13) << "the second choice is under the time";
-    EXPECT_EQ(dialog.Item(1420).x, dialog.Item(1421).x);
+    EXPECT_LE(date - 30 + pixels(dialog.Item(IDC_TASK_WEEKDAYS).cx), time - 40);
+    EXPECT_LE(time - 40 + pixels(dialog.Item(IDC_TASK_AT).cx), time);
+    EXPECT_GT(dialog.Item(IDC_TASK_FIRST_BOOT).y, dialog.Item(IDC_TASK_TIME).y + 13)
+        << "the second choice is under the time";
+    EXPECT_EQ(dialog.Item(IDC_TASK_AT).x, dialog.Item(IDC_TASK_FIRST_BOOT).x);
 }
 
 TEST(TaskTemplate, KeepsTheTwoChoicesOfASnapshotTaskTogether)
 {
     const Template dialog = ReadTemplate(IDD_DLG_TASKINFO);
-    EXPECT_GE(dialog.Item(1432).x, dialog.Item(1431).x + dialog.Item(1431).cx);
-    EXPECT_GE(dialog.Item(1433).x, dialog.Item(1432).x + dialog.Item(1432).cx);
-    EXPECT_GE(dialog.Item(1427).x, dialog.Item(1426).x + dialog.Item(1426).cx);
+    EXPECT_GE(dialog.Item(IDC_TASK_KEEP_DAYS).x, dialog.Item(IDC_TASK_KEEP).x + dialog.Item(IDC_TASK_KEEP).cx);
+    EXPECT_GE(dialog.Item(IDC_TASK_KEEP_UNIT).x,
+              dialog.Item(IDC_TASK_KEEP_DAYS).x + dialog.Item(IDC_TASK_KEEP_DAYS).cx);
+    EXPECT_GE(dialog.Item(IDC_TASK_SNAPSHOT).x,
+              dialog.Item(IDC_TASK_ROLL_SNAPSHOT).x + dialog.Item(IDC_TASK_ROLL_SNAPSHOT).cx);
 }
 
 TEST(RegistryTemplate, LeavesItsBodyBelowTheTextToTheCode)

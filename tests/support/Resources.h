@@ -4,10 +4,18 @@
 
 #include <string_view>
 
+namespace ts
+{
+
 /** The test program as a module: it carries the pictures of the tests. */
 inline HINSTANCE Program()
 {
     return ::GetModuleHandleW(nullptr);
+}
+
+inline HINSTANCE Library()
+{
+    return ::GetModuleHandleW(L"QorUI.dll");
 }
 
 /** The bytes of a picture in the program's resources. */
@@ -19,8 +27,10 @@ inline std::string_view PictureBytes(UINT id)
 }
 
 /** The bytes of a picture in the program's resources, in a file. */
-inline std::wstring FileOf(const ts::TempFolder& folder, UINT id, const wchar_t* name)
+inline std::wstring FileOf(const TempFolder& folder, UINT id, const wchar_t* name)
 {
-    ts::WriteBytes(folder.File(name), PictureBytes(id));
+    WriteBytes(folder.File(name), PictureBytes(id));
     return folder.File(name);
 }
+
+} // namespace ts

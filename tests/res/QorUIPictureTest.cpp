@@ -133,10 +133,10 @@ TEST(ProgressPattern, IsABitmapResourceOf472Bytes)
 
 TEST(PngPictures, AreThereUnderTheirType)
 {
-    for (UINT id : {281u, 282u, 283u}) {
+    for (UINT id : {IDR_PNG_BANNER, IDR_PNG_BANNER2, IDR_PNG_MENUBAR}) {
         EXPECT_EQ("\x89PNG\r\n\x1a\n", Text(id, L"PNG").substr(0, 8)) << id;
     }
-    const std::string bar = Text(283, L"PNG");
+    const std::string bar = Text(IDR_PNG_MENUBAR, L"PNG");
     ASSERT_GT(bar.size(), 24u);
     EXPECT_EQ(200, static_cast<BYTE>(bar[19])) << "width";
     EXPECT_EQ(20, static_cast<BYTE>(bar[23])) << "height";
@@ -145,13 +145,13 @@ TEST(PngPictures, AreThereUnderTheirType)
 // The frame's banner band is 84 pixels high, 64 with the application flag; the picture starts at y = 9.
 TEST(PngPictures, FitTheBandsOfTheFrame)
 {
-    EXPECT_LE(9 + static_cast<BYTE>(Text(281, L"PNG").at(23)), 84);
-    EXPECT_LE(9 + static_cast<BYTE>(Text(282, L"PNG").at(23)), 64);
+    EXPECT_LE(9 + static_cast<BYTE>(Text(IDR_PNG_BANNER, L"PNG").at(23)), 84);
+    EXPECT_LE(9 + static_cast<BYTE>(Text(IDR_PNG_BANNER2, L"PNG").at(23)), 64);
 }
 
 TEST(Animation, IsAnAviResource)
 {
-    const std::string avi = Text(280, L"AVI");
+    const std::string avi = Text(IDR_AVI_WAITING, L"AVI");
     EXPECT_EQ("RIFF", avi.substr(0, 4));
     EXPECT_EQ("AVI ", avi.substr(8, 4));
 }
