@@ -5,6 +5,9 @@
 namespace
 {
 
+constexpr UINT kMessage = WM_USER + 3;
+constexpr UINT kId = 7;
+
 TEST(HostWindow, HasExactlyTheGivenClientSize)
 {
     const ts::HostWindow host(321, 123);
@@ -40,16 +43,16 @@ TEST(HostWindow, ShowsItsBackgroundColour)
 TEST(HostWindow, RecordsTheCommandsOfItsControls)
 {
     ts::HostWindow host;
-    const HWND button = host.Add(L"BUTTON", L"Press", BS_PUSHBUTTON | BS_NOTIFY, 10, 10, 80, 24, 7);
+    const HWND button = host.Add(L"BUTTON", L"Press", BS_PUSHBUTTON | BS_NOTIFY, 10, 10, 80, 24, kId);
     host.Restart();
     SendMessageW(button, BM_CLICK, 0, 0);
-    EXPECT_TRUE(host.Log().Is({ts::Command(7, BN_SETFOCUS), ts::Command(7, BN_CLICKED)}));
+    EXPECT_TRUE(host.Log().Is({ts::Command(kId, BN_SETFOCUS), ts::Command(kId, BN_CLICKED)}));
 }
 
 TEST(HostWindow, RecordsTheNotificationsOfItsControls)
 {
     ts::HostWindow host;
-    const HWND tab = host.Add(WC_TABCONTROLW, L"", 0, 10, 10, 200, 100, 9);
+    const HWND tab = host.Add(WC_TABCONTROLW, L"", 0, 10, 10, 200, 100, kId);
     TCITEMW item = {};
     item.mask = TCIF_TEXT;
     wchar_t text[] = L"Page";
@@ -61,15 +64,15 @@ TEST(HostWindow, RecordsTheNotificationsOfItsControls)
     RECT second = {};
     TabCtrl_GetItemRect(tab, 1, &second);
     ts::Click(tab, second.left + 4, second.top + 4);
-    EXPECT_TRUE(host.Log().Is({ts::Notify(9, TCN_SELCHANGING), ts::Notify(9, TCN_SELCHANGE)}));
+    EXPECT_TRUE(host.Log().Is({ts::Notify(kId, TCN_SELCHANGING), ts::Notify(kId, TCN_SELCHANGE)}));
 }
 
 TEST(HostWindow, AnswersInPlaceOfTheWindow)
 {
     ts::HostWindow host;
-    host.Log().Answer(WM_USER + 3,
+    host.Log().Answer(kMessage,
                       [](const ts::Message& message) -> std::optional<LRESULT> { return LRESULT(message.wParam * 2); });
-    EXPECT_EQ(42, SendMessageW(host.Hwnd(), WM_USER + 3, 21, 0));
+    EXPECT_EQ(42, SendMessageW(host.Hwnd(), kMessage, 21, 0));
 }
 
 WNDPROC g_before = nullptr;

@@ -151,12 +151,4 @@ TEST(Input, MissingWindowFailsTheTest)
     EXPECT_NONFATAL_FAILURE(ts::MoveMouse(nullptr, 1, 1), "no such window");
 }
 
-TEST(FontGuard, FindsTheStandardDialogFont)
-{
-    EXPECT_TRUE(ts::HasStandardDialogFont());
-    const SIZE size = ts::DialogUnitsToPixels(265, 121);
-    EXPECT_EQ(398, size.cx);
-    EXPECT_EQ(197, size.cy);
-}
-
 } // namespace

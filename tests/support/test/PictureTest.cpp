@@ -2,10 +2,6 @@
 
 #include <gtest/gtest-spi.h>
 
-#include <objidl.h>
-
-#include <gdiplus.h>
-
 namespace
 {
 constexpr COLORREF kRed = RGB(200, 10, 20);
@@ -178,34 +174,6 @@ TEST(Picture, TextShowsLettersAndColours)
 {
     const ts::Picture picture = ts::DrawTo(3, 2, [](HDC dc) { SetPixel(dc, 1, 1, kRed); });
     EXPECT_EQ("...\n.#.\n# = (200, 10, 20)\n. = (255, 255, 255)\n", picture.Text());
-}
-
-TEST(Picture, PngFileOpensAsTheSamePicture)
-{
-    const ts::TempFolder folder;
-    // More rows than one stored block holds.
-    const ts::Picture picture = ts::DrawTo(
-        200, 150,
-        [](HDC dc) {
-            Fill(dc, {20, 20, 180, 140}, kBlue);
-        },
-        kGreen);
-    picture.SavePng(folder.File(L"p.png"));
-    const std::string bytes = ts::ReadBytes(folder.File(L"p.png"));
-    EXPECT_EQ(0u, bytes.find("\x89PNG"));
-
-    // An independent reader.
-    Gdiplus::GdiplusStartupInput input;
-    ULONG_PTR token = 0;
-    ASSERT_EQ(Gdiplus::Ok, Gdiplus::GdiplusStartup(&token, &input, nullptr));
-    {
-        Gdiplus::Bitmap image(folder.File(L"p.png").c_str());
-        HBITMAP bitmap = nullptr;
-        EXPECT_EQ(Gdiplus::Ok, image.GetHBITMAP(Gdiplus::Color(), &bitmap));
-        EXPECT_TRUE(ts::SamePicture(picture, ts::PictureOf(bitmap)));
-        DeleteObject(bitmap);
-    }
-    Gdiplus::GdiplusShutdown(token);
 }
 
 } // namespace

@@ -3,11 +3,14 @@
 namespace
 {
 
+constexpr UINT kMessage = WM_USER + 1;
+constexpr UINT kOtherMessage = WM_USER + 2;
+
 TEST(PumpUntil, HandlesMessagesUntilTheConditionHolds)
 {
     ts::HostWindow host;
-    PostMessageW(host.Hwnd(), WM_USER + 1, 0, 0);
-    EXPECT_TRUE(ts::PumpUntil([&] { return host.Log().Has(ts::Msg(WM_USER + 1)); }));
+    PostMessageW(host.Hwnd(), kMessage, 0, 0);
+    EXPECT_TRUE(ts::PumpUntil([&] { return host.Log().Has(ts::Msg(kMessage)); }));
 }
 
 TEST(PumpUntil, GivesUpAfterTheLimit)
@@ -35,9 +38,9 @@ TEST(Settle, EndsThoughATimerGoesOn)
 {
     ts::HostWindow host;
     SetTimer(host.Hwnd(), 4, 1, nullptr);
-    PostMessageW(host.Hwnd(), WM_USER + 1, 0, 0);
+    PostMessageW(host.Hwnd(), kMessage, 0, 0);
     ts::Settle();
-    EXPECT_TRUE(host.Log().Has(ts::Msg(WM_USER + 1)));
+    EXPECT_TRUE(host.Log().Has(ts::Msg(kMessage)));
 }
 
 TEST(Settle, PaintsWhatIsInvalid)
@@ -61,11 +64,11 @@ TEST(Settle, LeavesTheEndOfALoopForTheLoop)
 TEST(PreTranslate, TakesMessagesBeforeTheWindow)
 {
     ts::HostWindow host;
-    ts::SetPreTranslate([](MSG& message) { return message.message == WM_USER + 1; });
-    PostMessageW(host.Hwnd(), WM_USER + 1, 0, 0);
-    PostMessageW(host.Hwnd(), WM_USER + 2, 0, 0);
+    ts::SetPreTranslate([](MSG& message) { return message.message == kMessage; });
+    PostMessageW(host.Hwnd(), kMessage, 0, 0);
+    PostMessageW(host.Hwnd(), kOtherMessage, 0, 0);
     ts::Settle();
-    EXPECT_TRUE(host.Log().Is({ts::Msg(WM_USER + 2)}));
+    EXPECT_TRUE(host.Log().Is({ts::Msg(kOtherMessage)}));
 }
 
 TEST(DialogKeys, TabMovesTheFocus)
