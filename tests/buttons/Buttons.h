@@ -1,9 +1,9 @@
 #pragma once
 
 #include <tests/app/res/resource.h>
-#include <tests/support/AfxHost.h>
 #include <tests/support/Imports.h>
 #include <tests/support/Support.h>
+#include <tests/support/ui/AfxHost.h>
 #include <tests/support/ui/Control.h>
 #include <tests/support/ui/Drawn.h>
 #include <tests/support/ui/Look.h>

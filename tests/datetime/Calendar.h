@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QorUI/datetime/QorCalendar.h>
-#include <tests/support/AfxHost.h>
 #include <tests/support/Imports.h>
 #include <tests/support/Support.h>
+#include <tests/support/ui/AfxHost.h>
 
 /** @file What the tests of the calendar share. */
 

@@ -1,10 +1,10 @@
 #include <QorUI/datetime/ClockHands.h>
 #include <QorUI/datetime/QorClock.h>
-#include <tests/support/AfxHost.h>
 #include <tests/support/ImportRedirection.h>
 #include <tests/support/Imports.h>
 #include <tests/support/NoWindowClasses.h>
 #include <tests/support/Refusals.h>
+#include <tests/support/ui/AfxHost.h>
 #include <tests/support/ui/Drawn.h>
 
 #include <cmath>

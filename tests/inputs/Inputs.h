@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QorUI/app/look/SysLook.h>
-#include <tests/support/AfxHost.h>
 #include <tests/support/OtherColours.h>
 #include <tests/support/Support.h>
+#include <tests/support/ui/AfxHost.h>
 #include <tests/support/ui/Control.h>
 #include <tests/support/ui/Look.h>
 

@@ -2,8 +2,8 @@
 
 #include <QorUI/app/look/SysLook.h>
 #include <QorUI/QorUI.h>
-#include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>
+#include <tests/support/ui/AfxHost.h>
 
 /** @file What the tests of lists and indicators share. */
 

@@ -1,5 +1,5 @@
-#include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>
+#include <tests/support/ui/AfxHost.h>
 
 #include <afxcmn.h>
 #include <afxwin.h>

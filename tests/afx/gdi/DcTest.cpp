@@ -1,7 +1,7 @@
 #include "MemoryDc.h"
 
-#include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>
+#include <tests/support/ui/AfxHost.h>
 
 namespace
 {

@@ -1,6 +1,6 @@
 #include <QorUI/app/base/NotifyParent.h>
-#include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>
+#include <tests/support/ui/AfxHost.h>
 #include <tests/support/ui/Control.h>
 
 namespace

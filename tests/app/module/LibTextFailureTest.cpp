@@ -2,8 +2,8 @@
 #include <QorUI/res/resource.h>
 #include <tests/app/res/resource.h>
 #include <tests/doubles/QorApi/QorApiDouble.h>
-#include <tests/support/AfxHost.h>
 #include <tests/support/Support.h>
+#include <tests/support/ui/AfxHost.h>
 #include <tests/support/ui/Control.h>
 
 #include <gtest/gtest.h>
