@@ -48,7 +48,7 @@ class ExpectedChart
             GdipSetSmoothingMode(m_graphics.Get(), Gdiplus::SmoothingModeHighQuality);
             DrawTitle(dc);
             DrawItems(dc);
-            m_graphics.reset();
+            m_graphics.Reset();
         }
         return ts::CaptureWindow(window);
     }
