@@ -2,7 +2,9 @@
  * Loading the library, with the system's two libraries that it stands on already loaded, against loading those two.
  */
 
-#include "Ratio.h"
+#include "Runner.h"
+
+#include <common/Owner.h>
 
 #include <windows.h>
 
@@ -13,46 +15,38 @@ namespace
 
 constexpr std::array<LPCWSTR, 2> kSystem = {L"gdiplus.dll", L"comctl32.dll"};
 
-using Modules = std::array<HMODULE, kSystem.size()>;
+using Modules = std::array<own::Module, kSystem.size()>;
 
 Modules LoadSystem()
 {
-    Modules modules = {};
+    Modules modules;
     for (size_t i = 0; i < kSystem.size(); ++i) {
-        modules[i] = ::LoadLibraryW(kSystem[i]);
+        modules[i].Reset(::LoadLibraryW(kSystem[i]));
     }
     return modules;
-}
-
-void FreeSystem(const Modules& modules)
-{
-    for (const HMODULE module : modules) {
-        ::FreeLibrary(module);
-    }
 }
 
 void Attach(benchmark::State& state)
 {
     const Modules system = LoadSystem();
     for (auto _ : state) {
-        const HMODULE library = ::LoadLibraryW(L"QorUI.dll");
+        own::Module library(::LoadLibraryW(L"QorUI.dll"));
         if (!library) {
             state.SkipWithError("QorUI.dll could not be loaded");
             break;
         }
         state.PauseTiming();
-        ::FreeLibrary(library);
+        library.Reset();
         state.ResumeTiming();
     }
-    FreeSystem(system);
 }
 
 void LoadSystemLibraries(benchmark::State& state)
 {
     for (auto _ : state) {
-        const Modules modules = LoadSystem();
+        Modules modules = LoadSystem();
         state.PauseTiming();
-        FreeSystem(modules);
+        modules = {};
         state.ResumeTiming();
     }
 }

@@ -2,8 +2,8 @@
  * A full repaint of each kind of button, against the stock button of the same size that the system draws.
  */
 
-#include "Owner.h"
-#include "Ratio.h"
+#include "BenchWindow.h"
+#include "Runner.h"
 
 namespace
 {
@@ -19,7 +19,7 @@ void Repaint(benchmark::State& state, CWnd& wnd)
 template <class Button>
 void Draw(benchmark::State& state, DWORD style, const CRect& rect)
 {
-    COwner owner;
+    CBenchWindow owner;
     Button button;
     static_cast<CButton&>(button).Create(L"Text", WS_CHILD | WS_VISIBLE | style, rect, &owner, 100);
     Repaint(state, button);
@@ -27,7 +27,7 @@ void Draw(benchmark::State& state, DWORD style, const CRect& rect)
 
 void DrawBitmapButton(benchmark::State& state, const CRect& rect)
 {
-    COwner owner;
+    CBenchWindow owner;
     CBmpBtn button;
     button.Create(rect, &owner, 100);
     button.SetImage(::GetModuleHandleW(L"QorUI.dll"), kDialogCloseStrip, nullptr, CLR_NONE);

@@ -3,8 +3,10 @@
  * takes in grids of different sizes, which should stay the same.
  */
 
-#include "Owner.h"
-#include "Ratio.h"
+#include "BenchWindow.h"
+#include "Runner.h"
+
+#include <string>
 
 namespace
 {
@@ -26,26 +28,19 @@ class CStockCalendar : public CWnd
     }
 };
 
-void CountMonths(benchmark::State& state, int months)
-{
-    state.counters["per month"] = benchmark::Counter(
-        static_cast<double>(months), benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
-}
-
 void RepaintOurs(benchmark::State& state, int side)
 {
-    COwner owner;
+    CBenchWindow owner;
     CQorCalendar calendar;
     if (!calendar.Create(&owner, kId, &IsWeekend, nullptr, side, side)) {
         state.SkipWithError("the calendar could not be created");
     }
     MeasureRepaint(state, calendar);
-    CountMonths(state, side * side);
 }
 
 void RepaintStock(benchmark::State& state)
 {
-    COwner owner;
+    CBenchWindow owner;
     CStockCalendar calendar;
     if (!calendar.Make(owner)) {
         state.SkipWithError("the system's calendar could not be created");
@@ -55,18 +50,17 @@ void RepaintStock(benchmark::State& state)
 
 void CreateOurs(benchmark::State& state, int side)
 {
-    COwner owner;
+    CBenchWindow owner;
     for (auto _ : state) {
         CQorCalendar calendar;
         calendar.Create(&owner, kId, &IsWeekend, nullptr, side, side);
         calendar.DestroyWindow();
     }
-    CountMonths(state, side * side);
 }
 
 void CreateStock(benchmark::State& state)
 {
-    COwner owner;
+    CBenchWindow owner;
     for (auto _ : state) {
         CStockCalendar calendar;
         calendar.Make(owner);
@@ -85,9 +79,10 @@ int main(int argc, char** argv)
     ComparePair(
         "month calendar creation", [](benchmark::State& state) { CreateOurs(state, 1); }, &CreateStock);
     for (const int side : {1, 5, 20}) {
-        const std::string size = std::to_string(side) + " x " + std::to_string(side) + " months";
-        benchmark::RegisterBenchmark(("repaint of " + size).c_str(), &RepaintOurs, side)->Unit(benchmark::kMicrosecond);
-        benchmark::RegisterBenchmark(("creation of " + size).c_str(), &CreateOurs, side)->Unit(benchmark::kMicrosecond);
+        const int months = side * side;
+        const std::string size = std::to_string(months) + (side == 1 ? " month" : " months, one of them");
+        MeasureAlone("repaint of " + size, months, [side](benchmark::State& state) { RepaintOurs(state, side); });
+        MeasureAlone("creation of " + size, months, [side](benchmark::State& state) { CreateOurs(state, side); });
     }
     return RunBenchmarks(argc, argv);
 }

@@ -3,8 +3,8 @@
  * neighbour, with few and with many items.
  */
 
-#include "Owner.h"
-#include "Ratio.h"
+#include "BenchWindow.h"
+#include "Runner.h"
 
 #include <string>
 
@@ -19,7 +19,7 @@ constexpr int kInfoRows = 5;
 template <class Bar>
 void RepaintProgress(benchmark::State& state)
 {
-    COwner owner;
+    CBenchWindow owner;
     Bar bar;
     static_cast<CProgressCtrl&>(bar).Create(WS_CHILD | WS_VISIBLE, kBar, &owner, kId);
     bar.SetPos(45);
@@ -28,7 +28,7 @@ void RepaintProgress(benchmark::State& state)
 
 void RepaintStatusBar(benchmark::State& state)
 {
-    COwner owner;
+    CBenchWindow owner;
     CQorStatusBar bar;
     bar.CreateEx(0, AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, kBar, &owner, kId);
     int widths[] = {0, 80, 60};
@@ -41,7 +41,7 @@ void RepaintStatusBar(benchmark::State& state)
 
 void RepaintStockStatusBar(benchmark::State& state)
 {
-    COwner owner;
+    CBenchWindow owner;
     CWnd bar;
     bar.CreateEx(0, STATUSCLASSNAMEW, L"", WS_CHILD | WS_VISIBLE, kBar, &owner, kId);
     int edges[] = {160, 240, -1};
@@ -54,7 +54,7 @@ void RepaintStockStatusBar(benchmark::State& state)
 
 void RepaintInfo(benchmark::State& state)
 {
-    COwner owner;
+    CBenchWindow owner;
     CQorInfo info;
     info.Create(L"", WS_CHILD | WS_VISIBLE, kPanel, &owner, kId);
     for (int row = 0; row < kInfoRows; ++row) {
@@ -66,7 +66,7 @@ void RepaintInfo(benchmark::State& state)
 /** What a dialog without the panel has: two texts a row. */
 void RepaintStockInfo(benchmark::State& state)
 {
-    COwner owner;
+    CBenchWindow owner;
     CWnd panel;
     panel.CreateEx(WS_EX_CONTROLPARENT, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_BTNFACE)), L"",
                    WS_CHILD | WS_VISIBLE, kPanel, &owner, kId);
@@ -87,7 +87,7 @@ void RepaintStockInfo(benchmark::State& state)
 
 void RepaintChart(benchmark::State& state, int type, int items)
 {
-    COwner owner;
+    CBenchWindow owner;
     CChartCtrl chart;
     chart.Create(L"Snapshots", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 400), &owner, kId);
     chart.SetType(type);
@@ -95,15 +95,13 @@ void RepaintChart(benchmark::State& state, int type, int items)
         chart.AddItem(L"Weekly", static_cast<UINT>(i + 1));
     }
     MeasureRepaint(state, chart);
-    state.counters["per item"] = benchmark::Counter(
-        static_cast<double>(items), benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 
-void RegisterChart(const char* kind, int type)
+void RegisterChart(const std::string& kind, int type)
 {
     for (const int items : {5, 500}) {
-        const std::string name = std::string("chart of ") + std::to_string(items) + ' ' + kind;
-        benchmark::RegisterBenchmark(name.c_str(), &RepaintChart, type, items)->Unit(benchmark::kMicrosecond);
+        const std::string name = "chart of " + std::to_string(items) + ' ' + kind + ", one of them";
+        MeasureAlone(name, items, [type, items](benchmark::State& state) { RepaintChart(state, type, items); });
     }
 }
 

@@ -3,10 +3,11 @@
  * box.
  */
 
-#include "Owner.h"
-#include "Ratio.h"
+#include "BenchWindow.h"
+#include "Runner.h"
 
 #include <array>
+#include <string>
 #include <vector>
 
 namespace
@@ -25,7 +26,7 @@ template <class List>
 void Fill(benchmark::State& state, int count)
 {
     const std::vector<CString> texts = Texts(count);
-    COwner owner;
+    CBenchWindow owner;
     List list;
     static_cast<CListBox&>(list).Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_HSCROLL, CRect(10, 10, 210, 210),
                                         &owner, 100);
@@ -37,13 +38,12 @@ void Fill(benchmark::State& state, int count)
             list.AddString(text);
         }
     }
-    state.SetItemsProcessed(state.iterations() * count);
 }
 
 template <class Combo>
 void Repaint(benchmark::State& state)
 {
-    COwner owner;
+    CBenchWindow owner;
     Combo combo;
     static_cast<CComboBox&>(combo).Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(10, 10, 210, 210), &owner,
                                           100);
@@ -57,10 +57,9 @@ void Repaint(benchmark::State& state)
 
 int main(int argc, char** argv)
 {
-    static constexpr std::array<int, 3> counts = {1000, 10000, 100000};
-    for (const int count : counts) {
-        CStringA name;
-        name.Format("list box, %d texts", count);
+    static constexpr std::array<int, 3> kCounts = {1000, 10000, 100000};
+    for (const int count : kCounts) {
+        const std::string name = "list box, " + std::to_string(count) + " texts";
         ComparePair(
             name, [count](benchmark::State& state) { Fill<CFlatListBox>(state, count); },
             [count](benchmark::State& state) { Fill<CListBox>(state, count); });

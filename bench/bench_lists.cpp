@@ -2,10 +2,11 @@
  * The flat list and its header against the stock list view: many rows, and a full repaint of each.
  */
 
-#include "Owner.h"
-#include "Ratio.h"
+#include "BenchWindow.h"
+#include "Runner.h"
 
 #include <array>
+#include <string>
 
 namespace
 {
@@ -48,7 +49,7 @@ void AddRows(List& list, int count)
 template <class List>
 void Fill(benchmark::State& state, int count)
 {
-    COwner owner;
+    CBenchWindow owner;
     List list;
     Make(list, owner);
     list.SetRedraw(FALSE);
@@ -58,13 +59,12 @@ void Fill(benchmark::State& state, int count)
         list.DeleteAllItems();
         state.ResumeTiming();
     }
-    state.SetItemsProcessed(state.iterations() * count);
 }
 
 template <class List>
 void RepaintList(benchmark::State& state)
 {
-    COwner owner;
+    CBenchWindow owner;
     List list;
     Make(list, owner);
     AddRows(list, 100);
@@ -75,7 +75,7 @@ void RepaintList(benchmark::State& state)
 template <class Header>
 void RepaintHeader(benchmark::State& state)
 {
-    COwner owner;
+    CBenchWindow owner;
     Header header;
     header.Create(WS_CHILD | WS_VISIBLE | HDS_HORZ | HDS_BUTTONS, CRect(10, 10, 510, 30), &owner, kId);
     header.SetFont(GuiFont());
@@ -98,10 +98,9 @@ void RepaintHeader(benchmark::State& state)
 
 int main(int argc, char** argv)
 {
-    static constexpr std::array<int, 3> counts = {1000, 10000, 100000};
-    for (const int count : counts) {
-        CStringA name;
-        name.Format("list, %d rows", count);
+    static constexpr std::array<int, 3> kCounts = {1000, 10000, 100000};
+    for (const int count : kCounts) {
+        const std::string name = "list, " + std::to_string(count) + " rows";
         ComparePair(
             name, [count](benchmark::State& state) { Fill<CFlatList>(state, count); },
             [count](benchmark::State& state) { Fill<CListCtrl>(state, count); });

@@ -2,8 +2,9 @@
  * Opening, painting and closing the library's message box, against the system's.
  */
 
-#include "Ratio.h"
+#include "Runner.h"
 
+#include <common/Owner.h>
 #include <QorUI/QorUI.h>
 
 namespace
@@ -12,18 +13,18 @@ namespace
 constexpr UINT kBoxIsActive = WM_APP; // wParam: the box
 
 /** Owner of the boxes: as soon as a box is active, has it painted whole and closes it. */
-class COwner : public CWnd
+class CBoxOwner : public CWnd
 {
   public:
-    COwner()
+    CBoxOwner()
     {
         CreateEx(0, AfxRegisterWndClass(0), L"Owner", WS_POPUP | WS_VISIBLE, 0, 0, 200, 200, nullptr, nullptr);
         s_owner = m_hWnd;
-        m_hook = ::SetWindowsHookExW(WH_CBT, &OnHook, nullptr, ::GetCurrentThreadId());
+        m_hook.Reset(::SetWindowsHookExW(WH_CBT, &OnHook, nullptr, ::GetCurrentThreadId()));
     }
-    ~COwner() override
+    ~CBoxOwner() override
     {
-        ::UnhookWindowsHookEx(m_hook);
+        m_hook.Reset();
         DestroyWindow();
     }
 
@@ -47,18 +48,18 @@ class COwner : public CWnd
     }
 
     static inline HWND s_owner = nullptr;
-    HHOOK m_hook;
+    own::Owner<own::FreedBy<HHOOK, ::UnhookWindowsHookEx>> m_hook;
 };
 
-BEGIN_MESSAGE_MAP(COwner, CWnd)
-    ON_MESSAGE(kBoxIsActive, &COwner::OnBoxIsActive)
+BEGIN_MESSAGE_MAP(CBoxOwner, CWnd)
+    ON_MESSAGE(kBoxIsActive, &CBoxOwner::OnBoxIsActive)
 END_MESSAGE_MAP()
 
 constexpr LPCWSTR kText = L"The snapshot could not be taken because the disk is full.";
 
 void OwnBox(benchmark::State& state)
 {
-    COwner owner;
+    CBoxOwner owner;
     for (auto _ : state) {
         benchmark::DoNotOptimize(QorMsgBox(kText, QOR_MSG_INFO, 0, &owner));
     }
@@ -66,7 +67,7 @@ void OwnBox(benchmark::State& state)
 
 void SystemBox(benchmark::State& state)
 {
-    COwner owner;
+    CBoxOwner owner;
     for (auto _ : state) {
         benchmark::DoNotOptimize(::MessageBoxW(owner, kText, L"Information", MB_OK | MB_ICONINFORMATION));
     }

@@ -5,10 +5,10 @@
 #include <benchmark/benchmark.h>
 
 /** A visible window that carries what is measured. */
-class COwner : public CWnd
+class CBenchWindow : public CWnd
 {
   public:
-    explicit COwner(int cx = 1000, int cy = 700)
+    explicit CBenchWindow(int cx = 1000, int cy = 700)
     {
         CreateEx(0, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_BTNFACE)), L"Owner", WS_POPUP | WS_VISIBLE,
                  0, 0, cx, cy, nullptr, nullptr);
