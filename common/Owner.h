@@ -7,6 +7,8 @@
 
 #include <windows.h>
 
+#include <objbase.h>
+
 #include <utility>
 
 namespace own
@@ -99,6 +101,7 @@ using KernelObject = Owner<FreedBy<HANDLE, ::CloseHandle>>; ///< events, threads
 using File = Owner<ValidFreedBy<::CloseHandle>>;            ///< what `CreateFileW` gives
 using FileSearch = Owner<ValidFreedBy<::FindClose>>;        ///< what `FindFirstFileW` gives
 using LocalMemory = Owner<FreedBy<HLOCAL, ::LocalFree>>;    ///< what `LocalAlloc` gives
+using TaskMemory = Owner<FreedBy<void*, ::CoTaskMemFree>>;  ///< what the caller frees with `CoTaskMemFree`
 using Module = Owner<FreedBy<HMODULE, ::FreeLibrary>>;
 using RegistryKey = Owner<FreedBy<HKEY, ::RegCloseKey>>;
 using Icon = Owner<FreedBy<HICON, ::DestroyIcon>>;

@@ -1,11 +1,12 @@
 #include "ConsoleFrame.h"
 
 #include "ConsoleText.h"
+#include "ControlIds.h"
+#include "PageRegistry.h"
 
 namespace
 {
 
-constexpr UINT kListId = 2000;
 constexpr int kListWidth = 180;
 constexpr int kGap = 6;
 constexpr int kWidth = 940;
@@ -19,7 +20,7 @@ BEGIN_MESSAGE_MAP(CConsoleFrame, CQorFrame)
     ON_WM_DESTROY()
     ON_WM_CLOSE()
     ON_WM_CTLCOLOR()
-    ON_LBN_SELCHANGE(kListId, &CConsoleFrame::OnSelectPage)
+    ON_LBN_SELCHANGE(ids::frame::kPageList, &CConsoleFrame::OnSelectPage)
     ON_COMMAND(IDOK, &CConsoleFrame::OnEnter)
     ON_MESSAGE(WM_NEXTDLGCTL, &CConsoleFrame::OnNextDlgCtl)
 END_MESSAGE_MAP()
@@ -38,7 +39,7 @@ int CConsoleFrame::OnCreate(LPCREATESTRUCT create)
     if (CQorFrame::OnCreate(create) == -1) {
         return -1;
     }
-    if (!m_list.Create(this, ListArea(), kListId)) {
+    if (!m_list.Create(this, ListArea(), ids::frame::kPageList)) {
         return -1;
     }
     for (const PageInfo& page : AllPages()) {
@@ -94,17 +95,6 @@ void CConsoleFrame::OnSize(UINT type, int cx, int cy)
     if (type != SIZE_MINIMIZED) {
         PlaceChildren();
     }
-}
-
-int CConsoleFrame::FindPage(LPCWSTR name)
-{
-    const auto& pages = AllPages();
-    for (size_t i = 0; i < pages.size(); ++i) {
-        if (::lstrcmpiW(pages[i].name, name) == 0) {
-            return static_cast<int>(i);
-        }
-    }
-    return -1;
 }
 
 bool CConsoleFrame::ShowPage(size_t index)

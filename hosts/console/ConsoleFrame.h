@@ -3,6 +3,8 @@
 #include "ConsolePage.h"
 #include "PageList.h"
 
+#include <memory>
+
 /** The console's main window: the list of pages at the left, the chosen page beside it. */
 class CConsoleFrame : public CQorFrame
 {
@@ -12,9 +14,6 @@ class CConsoleFrame : public CQorFrame
 
     /** Shows a page. @return false when the index is out of range or the page could not be created. */
     bool ShowPage(size_t index);
-
-    /** Index of the page of that name, -1 when there is none. */
-    static int FindPage(LPCWSTR name);
 
     /** The page that is shown; null before the first. */
     CConsolePage* CurrentPage() const { return m_page.get(); }

@@ -17,6 +17,17 @@ BOOL CConsolePage::Create(CWnd* parent, const CRect& area)
     return CreateEx(WS_EX_CONTROLPARENT, nullptr, L"", WS_CHILD, area, parent, 0);
 }
 
+bool CConsolePage::ShowState(LPCWSTR name)
+{
+    for (const PageState& state : States()) {
+        if (state.name == name) {
+            state.show();
+            return true;
+        }
+    }
+    return false;
+}
+
 BOOL CConsolePage::PreCreateWindow(CREATESTRUCT& cs)
 {
     cs.lpszClass = AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW));
@@ -154,18 +165,4 @@ LRESULT CConsolePage::OnDrawParentBack(WPARAM dc, LPARAM control)
     reinterpret_cast<CWnd*>(control)->GetClientRect(client);
     reinterpret_cast<CDC*>(dc)->FillRect(client, CBrush::FromHandle(QorGetDlgBkBrush()));
     return 0;
-}
-
-const std::vector<PageInfo>& AllPages()
-{
-    static const std::vector<PageInfo> pages = {
-        {L"buttons", L"STR_CON_BUTTONS", &MakeButtonsPage},    {L"links", L"STR_CON_LINK_PAGE", &MakeLinksPage},
-        {L"layout", L"STR_CON_LAYOUT", &MakeLayoutPage},       {L"messages", L"STR_CON_MESSAGES", &MakeMessagePage},
-        {L"drawing", L"STR_CON_DRAWING", &MakeDrawingPage},    {L"account", L"STR_CON_ACCOUNT", &MakeAccountPage},
-        {L"edits", L"STR_CON_EDIT_PAGE", &MakeEditsPage},      {L"pickers", L"STR_CON_PICKER_PAGE", &MakePickersPage},
-        {L"calendar", L"STR_CON_CALENDAR", &MakeCalendarPage}, {L"clock", L"STR_CON_CLOCK", &MakeClockPage},
-        {L"list", L"STR_CON_LIST_PAGE", &MakeListPage},        {L"progress", L"STR_CON_PROG_PAGE", &MakeProgressPage},
-        {L"info", L"STR_CON_INFO_PAGE", &MakeInfoPage},
-    };
-    return pages;
 }

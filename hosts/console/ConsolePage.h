@@ -1,26 +1,12 @@
 #pragma once
 
+#include "PageShots.h"
+
 #include <QorUI/QorUI.h>
 
-#include <functional>
 #include <memory>
 #include <utility>
 #include <vector>
-
-/** A modal dialog that a page can show, for the pictures. */
-struct ModalShot
-{
-    CString name;               ///< stem of the picture's file name
-    std::function<void()> show; ///< returns when the dialog was closed
-};
-
-/** A window that a page can open beside itself, for the pictures. */
-struct PopupShot
-{
-    CString name;               ///< stem of the picture's file name
-    std::function<HWND()> open; ///< opens the window; null when that failed
-    std::function<void()> close;
-};
 
 /**
  * One page of the console: a child window with the dialog background, some controls, and drawing of its own.
@@ -33,11 +19,11 @@ class CConsolePage : public CWnd
     /** @param area place in the parent's client coordinates, pixels. */
     BOOL Create(CWnd* parent, const CRect& area);
 
-    /** How many states of the page get a picture of their own; state 0 is the one that it opens in. */
-    virtual size_t StateCount() const { return 1; }
+    /** States that get a picture of their own; none when the page always looks the same. */
+    virtual std::vector<PageState> States() { return {}; }
 
-    /** Brings the page into a state. */
-    virtual void ShowState(size_t /*state*/) {}
+    /** Brings the page into one of its states. @return false when it has none of that name. */
+    bool ShowState(LPCWSTR name);
 
     /** Dialogs that get a picture of their own. */
     virtual std::vector<ModalShot> Modals() { return {}; }
@@ -95,31 +81,3 @@ class CConsolePage : public CWnd
     std::vector<std::unique_ptr<CWnd>> m_children;
     CFont m_boldFont;
 };
-
-/** An entry of the console's list of pages. */
-struct PageInfo
-{
-    LPCWSTR name;     ///< for the command line and file names
-    LPCWSTR titleKey; ///< key of the title in the console's language data
-    std::unique_ptr<CConsolePage> (*make)();
-};
-
-/** All pages, in the order of the list. */
-const std::vector<PageInfo>& AllPages();
-
-/** @name The pages
- * @{ */
-std::unique_ptr<CConsolePage> MakeButtonsPage();
-std::unique_ptr<CConsolePage> MakeLayoutPage();
-std::unique_ptr<CConsolePage> MakeMessagePage();
-std::unique_ptr<CConsolePage> MakeDrawingPage();
-std::unique_ptr<CConsolePage> MakeAccountPage();
-std::unique_ptr<CConsolePage> MakeLinksPage();
-std::unique_ptr<CConsolePage> MakeCalendarPage();
-std::unique_ptr<CConsolePage> MakeClockPage();
-std::unique_ptr<CConsolePage> MakeEditsPage();
-std::unique_ptr<CConsolePage> MakePickersPage();
-std::unique_ptr<CConsolePage> MakeListPage();
-std::unique_ptr<CConsolePage> MakeProgressPage();
-std::unique_ptr<CConsolePage> MakeInfoPage();
-/** @} */

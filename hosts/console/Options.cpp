@@ -12,12 +12,12 @@ struct ValueOption
 
 const ValueOption* FindValueOption(const CString& name)
 {
-    static const ValueOption valueOptions[] = {
+    static const ValueOption kValueOptions[] = {
         {L"--lang", &ConsoleOptions::language, L"--lang needs the name of a locale, for example: --lang de"},
         {L"--shots", &ConsoleOptions::shotsFolder, L"--shots needs a folder, for example: --shots pictures"},
         {L"--page", &ConsoleOptions::page, L"--page needs the name of a page, for example: --page buttons"},
     };
-    for (const ValueOption& option : valueOptions) {
+    for (const ValueOption& option : kValueOptions) {
         if (name == option.name) {
             return &option;
         }

@@ -2,9 +2,11 @@
 #include "ConsoleOutput.h"
 #include "ConsoleText.h"
 #include "Options.h"
+#include "PageRegistry.h"
 #include "res/ConsoleResource.h"
 #include "Shots.h"
 
+#include <common/Owner.h>
 #include <QorApi/QorApi.h>
 
 #include <shellapi.h>
@@ -12,11 +14,13 @@
 namespace
 {
 
+using CommandLine = own::Owner<own::FreedBy<LPWSTR*, ::LocalFree>>;
+
 /** Sample data is added by the built-in account, which has no password as long as nobody gave it one. */
 DWORD FillDemoStore()
 {
     const DWORD status = QorLogonUser(QORUSER_BUILTIN_NAME, L"");
-    if (status != 0) {
+    if (status != ERROR_SUCCESS) {
         return status;
     }
     const DWORD filled = QorFillDemoStore();
@@ -54,7 +58,7 @@ class CConsoleApp : public CWinApp
     bool m_storeOpen = false;
 };
 
-CConsoleApp g_App;
+CConsoleApp g_app;
 
 BOOL CConsoleApp::InitInstance()
 {
@@ -99,10 +103,9 @@ bool CConsoleApp::Fail(const CString& text, int status)
 bool CConsoleApp::ReadOptions()
 {
     int argc = 0;
-    LPWSTR* argv = ::CommandLineToArgvW(::GetCommandLineW(), &argc);
+    const CommandLine argv(::CommandLineToArgvW(::GetCommandLineW(), &argc));
     CString message;
-    const bool understood = argv && ParseOptions(argc, argv, m_options, message);
-    ::LocalFree(argv);
+    const bool understood = argv && ParseOptions(argc, argv.Get(), m_options, message);
     if (!understood) {
         return Fail(message, kExitBadOptions);
     }
@@ -110,7 +113,7 @@ bool CConsoleApp::ReadOptions()
         Say(STD_OUTPUT_HANDLE, OptionsHelp(PageNames()));
         return false;
     }
-    if (!m_options.page.IsEmpty() && CConsoleFrame::FindPage(m_options.page) < 0) {
+    if (!m_options.page.IsEmpty() && !FindPage(m_options.page)) {
         return Fail(L"there is no page '" + m_options.page + L"'; the pages: " + PageNames(), kExitBadOptions);
     }
     return true;
@@ -128,11 +131,11 @@ bool CConsoleApp::PrepareLanguage()
 bool CConsoleApp::PrepareStore()
 {
     DWORD status = QorOpen();
-    m_storeOpen = status == 0;
+    m_storeOpen = status == ERROR_SUCCESS;
     if (m_storeOpen && m_options.demo) {
         status = FillDemoStore();
     }
-    if (status != 0) {
+    if (status != ERROR_SUCCESS) {
         ConsoleWriteLine(STD_ERROR_HANDLE, L"QorConsole: the store: " + QorFormatMsg(status));
     }
     return true;
@@ -145,8 +148,7 @@ bool CConsoleApp::OpenFrame()
         return Fail(L"the main window could not be created", 1);
     }
     m_pMainWnd = &m_frame;
-    const int page = CConsoleFrame::FindPage(m_options.page);
-    if (!m_frame.ShowPage(page < 0 ? 0 : static_cast<size_t>(page))) {
+    if (!m_frame.ShowPage(FindPage(m_options.page).value_or(0))) {
         return Fail(L"the page could not be created", 1);
     }
     return true;

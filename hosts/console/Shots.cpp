@@ -1,6 +1,9 @@
 #include "Shots.h"
 
 #include "ConsoleOutput.h"
+#include "PageRegistry.h"
+
+#include <common/Owner.h>
 
 #include <shlobj.h>
 
@@ -12,6 +15,8 @@ namespace
 constexpr DWORD kSettleTime = 150; // ms without a message that count as settled
 constexpr DWORD kSettleLimit = 5000;
 constexpr UINT kModalPoll = 100; // ms
+
+using GdipBitmap = own::Owner<own::FreedBy<Gdiplus::GpBitmap*, Gdiplus::DllExports::GdipDisposeImage>>;
 
 /** Handles messages until none comes for a while. */
 void Settle()
@@ -30,14 +35,12 @@ void Settle()
 bool SavePng(CBitmap& picture, const CString& path)
 {
     GUID png;
-    Gdiplus::GpBitmap* bitmap = nullptr;
+    GdipBitmap bitmap;
     if (!QorGetImageEncoder(L"image/png", png) ||
-        Gdiplus::DllExports::GdipCreateBitmapFromHBITMAP(picture, nullptr, &bitmap) != Gdiplus::Ok) {
+        Gdiplus::DllExports::GdipCreateBitmapFromHBITMAP(picture, nullptr, bitmap.Receive()) != Gdiplus::Ok) {
         return false;
     }
-    const auto status = Gdiplus::DllExports::GdipSaveImageToFile(bitmap, path, &png, nullptr);
-    Gdiplus::DllExports::GdipDisposeImage(bitmap);
-    return status == Gdiplus::Ok;
+    return Gdiplus::DllExports::GdipSaveImageToFile(bitmap.Get(), path, &png, nullptr) == Gdiplus::Ok;
 }
 
 /** Copies what the screen shows of a window. */
@@ -141,15 +144,7 @@ class ShotsWalk
             Count(false, name);
             return;
         }
-        for (size_t state = 0; state < m_frame.CurrentPage()->StateCount(); ++state) {
-            m_frame.CurrentPage()->ShowState(state);
-            Settle();
-            CString stem(name);
-            if (state > 0) {
-                stem.AppendFormat(L"-%u", static_cast<unsigned>(state));
-            }
-            Count(SaveWindow(m_frame, PathOf(stem)), stem);
-        }
+        WalkStates(name);
         for (const PopupShot& popup : m_frame.CurrentPage()->Popups()) {
             const HWND wnd = popup.open();
             Settle();
@@ -161,6 +156,25 @@ class ShotsWalk
             modal.show();
             Count(photographer.Saved(), modal.name);
         }
+    }
+
+    /** The first state's picture, the only one of a page without states, bears the page's name alone. */
+    void WalkStates(const CString& page)
+    {
+        const std::vector<PageState> states = m_frame.CurrentPage()->States();
+        if (states.empty()) {
+            TakeFrame(page);
+        }
+        for (size_t i = 0; i < states.size(); ++i) {
+            states[i].show();
+            TakeFrame(i == 0 ? page : page + L"-" + states[i].name);
+        }
+    }
+
+    void TakeFrame(const CString& name)
+    {
+        Settle();
+        Count(SaveWindow(m_frame, PathOf(name)), name);
     }
 
     CConsoleFrame& m_frame;

@@ -1,17 +1,13 @@
-#include "../ConsolePage.h"
-#include "../ConsoleText.h"
-
+#include <hosts/console/ConsoleText.h>
+#include <hosts/console/ControlIds.h>
+#include <hosts/console/PageRegistry.h>
 #include <QorApi/QorApi.h>
 
 namespace
 {
 
-constexpr UINT kName = 2601;
-constexpr UINT kPassword = 2602;
-constexpr UINT kLogon = 2603;
-constexpr UINT kLogoff = 2604;
-constexpr UINT kUser = 2605;
-constexpr UINT kStore = 2606;
+using namespace ids::account;
+
 constexpr UINT kMaxName = 31;
 constexpr UINT kMaxPassword = 63;
 
@@ -19,14 +15,12 @@ constexpr UINT kMaxPassword = 63;
 class CAccountPage : public CConsolePage
 {
   public:
-    size_t StateCount() const override { return 2; }
-
-    void ShowState(size_t state) override
+    std::vector<PageState> States() override
     {
-        if (state == 1) {
-            QorLogonUser(BuiltInName(), L"");
-        }
-        ShowUser();
+        return {{L"opened", [this] { ShowUser(); }}, {L"logged-on", [this] {
+                                                          QorLogonUser(BuiltInName(), L"");
+                                                          ShowUser();
+                                                      }}};
     }
 
   protected:
@@ -63,7 +57,7 @@ class CAccountPage : public CConsolePage
         QorGetText(*GetDlgItem(kName), name);
         GetDlgItemText(kPassword, password);
         const DWORD status = QorLogonUser(name, password);
-        if (status != 0) {
+        if (status != ERROR_SUCCESS) {
             QorMsgBox(ConText(L"STR_CON_LOGON_FAILED"), QOR_MSG_ERROR, status, this);
         } else {
             QorSetLastLogonInfo(TRUE, name);
@@ -83,14 +77,14 @@ class CAccountPage : public CConsolePage
     static CString BuiltInName()
     {
         _QORVEX_USER user = {};
-        return QorGetUserInfo(user) == 0 ? CString(user.szName) : CString();
+        return QorGetUserInfo(user) == ERROR_SUCCESS ? CString(user.szName) : CString();
     }
 
     void ShowUser()
     {
         _QORVEX_USER user = {};
         CString text(ConText(L"STR_CON_NOBODY"));
-        if (QorGetLogonUser(user) == 0) {
+        if (QorGetLogonUser(user) == ERROR_SUCCESS) {
             text.Format(ConFormat(L"STR_CON_USER", L"%s (%s) %x"), user.szName, user.szDesc,
                         static_cast<int>(user.dwRights));
         }
@@ -101,7 +95,7 @@ class CAccountPage : public CConsolePage
     {
         const DWORD status = QorOpen();
         CString text(ConText(L"STR_CON_STORE_OK"));
-        if (status != 0) {
+        if (status != ERROR_SUCCESS) {
             text.Format(ConFormat(L"STR_CON_STORE_BAD", L"%s"), QorFormatMsg(status).GetString());
         } else {
             QorClose();

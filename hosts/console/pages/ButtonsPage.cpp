@@ -1,12 +1,15 @@
-#include "../ConsoleLook.h"
-#include "../ConsolePage.h"
-#include "../ConsoleText.h"
-#include "../res/ConsoleResource.h"
+#include <hosts/console/ConsoleLook.h>
+#include <hosts/console/ConsoleText.h>
+#include <hosts/console/ControlIds.h>
+#include <hosts/console/PageRegistry.h>
+#include <hosts/console/res/ConsoleResource.h>
 
 #include <type_traits>
 
 namespace
 {
+
+using namespace ids::buttons;
 
 /** How a sample of the table looks, whatever the mouse and the focus do. */
 enum class Look
@@ -21,10 +24,10 @@ enum class Look
 
 /** A button that keeps one look: a sample in the table of states. */
 template <class Button>
-class Sample : public Button
+class CSample : public Button
 {
   public:
-    explicit Sample(Look look) : m_look(look) {}
+    explicit CSample(Look look) : m_look(look) {}
 
     /** To be called when the button has its window. */
     void Freeze()
@@ -81,14 +84,6 @@ class Sample : public Button
 constexpr int kColumns = static_cast<int>(Look::Count);
 constexpr int kColumnWidth = 112;
 constexpr int kColumnLeft = 100;
-constexpr UINT kFirstLive = 2201;
-constexpr UINT kLivePush = kFirstLive;
-constexpr UINT kLiveCommand = kFirstLive + 1;
-constexpr UINT kLiveCheck = kFirstLive + 2;
-constexpr UINT kLiveRadioFirst = kFirstLive + 3;
-constexpr UINT kLiveRadioLast = kFirstLive + 5;
-constexpr UINT kLiveBitmap = kFirstLive + 6;
-constexpr UINT kResult = kFirstLive + 7;
 
 constexpr int kRowPush = 62;
 constexpr int kRowCheck = 96;
@@ -137,11 +132,11 @@ class CButtonsPage : public CConsolePage
         CRect client;
         GetClientRect(client);
         DrawHeading(dc, ConText(L"STR_CON_STATES"), CRect(12, 8, client.right - 16, 28));
-        static constexpr LPCWSTR columns[] = {L"STR_CON_NORMAL", L"STR_CON_HOT", L"STR_CON_PRESSED",
-                                              L"STR_CON_DISABLED", L"STR_CON_FOCUSED"};
+        static constexpr LPCWSTR kColumnKeys[] = {L"STR_CON_NORMAL", L"STR_CON_HOT", L"STR_CON_PRESSED",
+                                                  L"STR_CON_DISABLED", L"STR_CON_FOCUSED"};
         for (int i = 0; i < kColumns; ++i) {
             CRect cell(ColumnLeft(i), 36, ColumnLeft(i) + kColumnWidth, 54);
-            dc.DrawText(ConText(columns[i]), -1, cell, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
+            dc.DrawText(ConText(kColumnKeys[i]), -1, cell, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
         }
         struct RowName
         {
@@ -149,12 +144,12 @@ class CButtonsPage : public CConsolePage
             int top;
             int height;
         };
-        static constexpr RowName rows[] = {
+        static constexpr RowName kRows[] = {
             {L"STR_CON_PUSH", kRowPush, 20},          {L"STR_CON_CHECK", kRowCheck, 16},
             {L"STR_CON_CHECKED", kRowChecked, 16},    {L"STR_CON_RADIO", kRowRadio, 16},
             {L"STR_CON_RADIO_SET", kRowRadioSet, 16}, {L"STR_CON_BITMAP", kRowBitmap, 16},
         };
-        for (const RowName& row : rows) {
+        for (const RowName& row : kRows) {
             CRect cell(12, row.top, kColumnLeft - 4, row.top + row.height);
             dc.DrawText(ConText(row.key), -1, cell, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
         }
@@ -199,7 +194,7 @@ class CButtonsPage : public CConsolePage
     template <class Button>
     bool AddSample(Look look, LPCWSTR text, const CRect& rect, DWORD style, bool checked = false)
     {
-        auto& sample = Own<Sample<Button>>(look);
+        auto& sample = Own<CSample<Button>>(look);
         CButton& button = sample;
         if (!button.Create(text, WS_CHILD | WS_VISIBLE | style, rect, this, kNoId)) {
             return false;
@@ -229,7 +224,7 @@ class CButtonsPage : public CConsolePage
 
     bool AddBitmapSample(Look look)
     {
-        auto& sample = Own<Sample<CBmpBtn>>(look);
+        auto& sample = Own<CSample<CBmpBtn>>(look);
         if (!sample.Create(Cell(look, kRowBitmap, 42, 17), this, kNoId)) {
             return false;
         }
@@ -243,7 +238,7 @@ class CButtonsPage : public CConsolePage
     {
         int index = 0;
         for (const CommandSample& command : kCommands) {
-            auto& sample = Own<Sample<CCmdBtn>>(command.look);
+            auto& sample = Own<CSample<CCmdBtn>>(command.look);
             const CRect rect(CommandPlace(index++), kCommandSize);
             if (!sample.Create(command.icon, ConText(command.noteKey), rect, this, kNoId)) {
                 return false;

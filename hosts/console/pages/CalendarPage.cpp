@@ -1,24 +1,11 @@
-#include "../ConsolePage.h"
-#include "../ConsoleText.h"
+#include <hosts/console/ConsoleText.h>
+#include <hosts/console/ControlIds.h>
+#include <hosts/console/PageRegistry.h>
 
 namespace
 {
 
-constexpr UINT kCalendar = 2601;
-constexpr UINT kGridFirst = 2602;
-constexpr UINT kGridLast = 2604;
-constexpr UINT kDaysFirst = 2605;
-constexpr UINT kDaysLast = 2607;
-constexpr UINT kWeekFirst = 2608;
-constexpr UINT kWeekLast = 2609;
-constexpr UINT kMarks = 2610;
-constexpr UINT kEarlier = 2611;
-constexpr UINT kLater = 2612;
-constexpr UINT kToday = 2613;
-constexpr UINT kResult = 2614;
-constexpr UINT kPrevious = 2615;
-constexpr UINT kNext = 2616;
-constexpr UINT kLonger = 2617;
+using namespace ids::calendar;
 
 constexpr int kLeft = 12;
 constexpr int kTop = 40;
@@ -80,29 +67,23 @@ class CPageCalendar : public CQorCalendar
 class CCalendarPage : public CConsolePage
 {
   public:
-    size_t StateCount() const override { return 4; }
-
-    void ShowState(size_t state) override
+    std::vector<PageState> States() override
     {
-        static constexpr struct
-        {
-            UINT grid, days, week;
-            bool marks;
-            int firstDay, lastDay;
-        } states[] = {
-            {1, 2, 0, true, 10, 16}, {0, 1, 1, false, 20, 20}, {2, 2, 1, true, 28, 31}, {0, 0, 0, true, 1, 1}};
-        const auto& shown = states[state % std::size(states)];
-        m_marks = shown.marks;
-        SendDlgItemMessage(kMarks, BM_SETCHECK, m_marks ? BST_CHECKED : BST_UNCHECKED);
-        Choose(kGridFirst, kGridLast, m_grid = shown.grid);
-        Choose(kDaysFirst, kDaysLast, m_days = shown.days);
-        Choose(kWeekFirst, kWeekLast, m_week = shown.week);
-        Rebuild();
-        m_calendar->SetCurrentYearMonth(2009, 3);
-        COleDateTime start(2009, 3, shown.firstDay, 0, 0, 0);
-        COleDateTime end(2009, 3, shown.lastDay, 0, 0, 0);
-        m_calendar->SetSelDate(start, end);
-        ShowResult();
+        return {{L"four-months",
+                 [this] {
+                     Show({1, 2, 0, true, 10, 16});
+                 }},
+                {L"one-month",
+                 [this] {
+                     Show({0, 1, 1, false, 20, 20});
+                 }},
+                {L"twelve-months",
+                 [this] {
+                     Show({2, 2, 1, true, 28, 31});
+                 }},
+                {L"no-selection", [this] {
+                     Show({0, 0, 0, true, 1, 1});
+                 }}};
     }
 
     std::vector<PopupShot> Popups() override
@@ -185,16 +166,42 @@ class CCalendarPage : public CConsolePage
     DECLARE_MESSAGE_MAP()
 
   private:
+    /** What is chosen on the page: indexes of radio buttons, and days of March 2009. */
+    struct Choices
+    {
+        UINT grid;
+        UINT days;
+        UINT week;
+        bool marks;
+        int firstDay;
+        int lastDay;
+    };
+
+    void Show(const Choices& shown)
+    {
+        m_marks = shown.marks;
+        SendDlgItemMessage(kMarks, BM_SETCHECK, m_marks ? BST_CHECKED : BST_UNCHECKED);
+        Choose(kGridFirst, kGridLast, m_grid = shown.grid);
+        Choose(kDaysFirst, kDaysLast, m_days = shown.days);
+        Choose(kWeekFirst, kWeekLast, m_week = shown.week);
+        Rebuild();
+        m_calendar->SetCurrentYearMonth(2009, 3);
+        COleDateTime start(2009, 3, shown.firstDay, 0, 0, 0);
+        COleDateTime end(2009, 3, shown.lastDay, 0, 0, 0);
+        m_calendar->SetSelDate(start, end);
+        ShowResult();
+    }
+
     bool BuildChoices()
     {
-        static constexpr LPCWSTR radios[] = {L"STR_CON_CAL_ONE",  L"STR_CON_CAL_FOUR", L"STR_CON_CAL_TWELVE",
-                                             L"STR_CON_CAL_NONE", L"STR_CON_CAL_DAY",  L"STR_CON_CAL_WEEK",
-                                             L"STR_CON_CAL_SUN",  L"STR_CON_CAL_MON"};
+        static constexpr LPCWSTR kRadioKeys[] = {L"STR_CON_CAL_ONE",  L"STR_CON_CAL_FOUR", L"STR_CON_CAL_TWELVE",
+                                                 L"STR_CON_CAL_NONE", L"STR_CON_CAL_DAY",  L"STR_CON_CAL_WEEK",
+                                                 L"STR_CON_CAL_SUN",  L"STR_CON_CAL_MON"};
         int y = kTop;
         for (UINT id = kGridFirst; id <= kWeekLast; ++id) {
             const bool first = id == kGridFirst || id == kDaysFirst || id == kWeekFirst;
             y += first && id != kGridFirst ? 16 : 0;
-            if (!AddRadio(ConText(radios[id - kGridFirst]), CRect(kSideLeft, y, kSideRight, y + 18), id, first)) {
+            if (!AddRadio(ConText(kRadioKeys[id - kGridFirst]), CRect(kSideLeft, y, kSideRight, y + 18), id, first)) {
                 return false;
             }
             y += 22;

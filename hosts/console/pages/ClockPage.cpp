@@ -1,20 +1,13 @@
-#include "../ConsoleLook.h"
-#include "../ConsolePage.h"
-#include "../ConsoleText.h"
-#include "../res/ConsoleResource.h"
+#include <hosts/console/ConsoleLook.h>
+#include <hosts/console/ConsoleText.h>
+#include <hosts/console/ControlIds.h>
+#include <hosts/console/PageRegistry.h>
+#include <hosts/console/res/ConsoleResource.h>
 
 namespace
 {
 
-constexpr UINT kClock = 2701;
-constexpr UINT kHour = 2702;
-constexpr UINT kMinute = 2703;
-constexpr UINT kSet = 2704;
-constexpr UINT kForward = 2705;
-constexpr UINT kBackward = 2706;
-constexpr UINT kNow = 2707;
-constexpr UINT kTime = 2708;
-constexpr UINT kLog = 2709;
+using namespace ids::clock;
 
 constexpr UINT_PTR kRefresh = 7;
 constexpr UINT kRefreshPeriod = 100; // ms
@@ -25,14 +18,11 @@ constexpr int kSide = 220;
 class CClockPage : public CConsolePage
 {
   public:
-    size_t StateCount() const override { return 3; }
-
-    void ShowState(size_t state) override
+    std::vector<PageState> States() override
     {
-        static constexpr UINT times[][2] = {{1, 30}, {15, 50}, {12, 0}};
-        const auto& time = times[state % std::size(times)];
-        m_clock.SetTime(time[0], time[1]);
-        ShowTime();
+        return {{L"early", [this] { Show(1, 30); }}, {L"afternoon", [this] { Show(15, 50); }}, {L"noon", [this] {
+                                                                                                    Show(12, 0);
+                                                                                                }}};
     }
 
   protected:
@@ -116,6 +106,12 @@ class CClockPage : public CConsolePage
     CString TimeText() { return COleDateTime(2000, 1, 1, Hour(), Minute(), 0).Format(L"%H:%M"); }
     int Hour() { return static_cast<int>(m_clock.GetHour()); }
     int Minute() { return static_cast<int>(m_clock.GetMinute()); }
+
+    void Show(UINT hour, UINT minute)
+    {
+        m_clock.SetTime(hour, minute);
+        ShowTime();
+    }
 
     void ShowTime()
     {

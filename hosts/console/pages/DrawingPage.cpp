@@ -1,16 +1,18 @@
-#include "../ConsoleLook.h"
-#include "../ConsolePage.h"
-#include "../ConsoleText.h"
-#include "../res/ConsoleResource.h"
+#include <common/Owner.h>
+#include <hosts/console/ConsoleLook.h>
+#include <hosts/console/ConsoleText.h>
+#include <hosts/console/ControlIds.h>
+#include <hosts/console/PageRegistry.h>
+#include <hosts/console/res/ConsoleResource.h>
 
 namespace
 {
 
+using namespace ids::drawing;
+
 constexpr COLORREF kUsed = RGB(47, 130, 200);
 constexpr COLORREF kFree = RGB(180, 220, 140);
 constexpr double kStep = 0.05;
-constexpr UINT kLess = 2501;
-constexpr UINT kMore = 2502;
 constexpr double kFixedRatios[] = {0.0, 0.25, 0.6, 1.0};
 constexpr int kPieTop = 60;
 constexpr int kLivePieTop = 190;
@@ -20,19 +22,16 @@ constexpr int kGrayTop = 420;
 class CDrawingPage : public CConsolePage
 {
   public:
-    size_t StateCount() const override { return 2; }
-
-    void ShowState(size_t state) override
+    std::vector<PageState> States() override
     {
-        m_ratio = state == 0 ? 0.4 : 0.85;
-        Invalidate();
+        return {{L"smaller-share", [this] { Show(0.4); }}, {L"larger-share", [this] { Show(0.85); }}};
     }
 
   protected:
     bool Build() override
     {
         m_icon = ::LoadIconW(AfxGetInstanceHandle(), MAKEINTRESOURCEW(IDI_CONSOLE));
-        m_grayIcon = QorCreateGrayIcon(m_icon);
+        m_grayIcon.Reset(QorCreateGrayIcon(m_icon));
         m_banner.Attach(::LoadBitmapW(AfxFindResourceHandle(MAKEINTRESOURCEW(kLogonPicture), RT_BITMAP),
                                       MAKEINTRESOURCEW(kLogonPicture)));
         m_grayBanner.Attach(QorCreateGrayBmp(m_banner));
@@ -55,15 +54,15 @@ class CDrawingPage : public CConsolePage
 
     afx_msg void OnLess() { SetRatio(m_ratio - kStep); }
     afx_msg void OnMore() { SetRatio(m_ratio + kStep); }
-
-    afx_msg void OnDestroy()
-    {
-        CConsolePage::OnDestroy();
-        ::DestroyIcon(m_grayIcon);
-    }
     DECLARE_MESSAGE_MAP()
 
   private:
+    void Show(double ratio)
+    {
+        m_ratio = ratio;
+        Invalidate();
+    }
+
     static void DrawPercent(CDC& dc, int x, int y, double ratio)
     {
         CString text;
@@ -94,7 +93,7 @@ class CDrawingPage : public CConsolePage
     void DrawGrayCopies(CDC& dc)
     {
         ::DrawIconEx(dc, 12, kGrayTop, m_icon, 32, 32, 0, nullptr, DI_NORMAL);
-        ::DrawIconEx(dc, 56, kGrayTop, m_grayIcon, 32, 32, 0, nullptr, DI_NORMAL);
+        ::DrawIconEx(dc, 56, kGrayTop, m_grayIcon.Get(), 32, 32, 0, nullptr, DI_NORMAL);
         DrawBitmap(dc, 110, m_banner);
         DrawBitmap(dc, 200, m_grayBanner);
     }
@@ -119,13 +118,12 @@ class CDrawingPage : public CConsolePage
 
     double m_ratio = 0.4;
     HICON m_icon = nullptr; // shared
-    HICON m_grayIcon = nullptr;
+    own::Icon m_grayIcon;
     CBitmap m_banner;
     CBitmap m_grayBanner;
 };
 
 BEGIN_MESSAGE_MAP(CDrawingPage, CConsolePage)
-    ON_WM_DESTROY()
     ON_BN_CLICKED(kLess, &CDrawingPage::OnLess)
     ON_BN_CLICKED(kMore, &CDrawingPage::OnMore)
 END_MESSAGE_MAP()

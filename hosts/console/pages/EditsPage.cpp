@@ -1,25 +1,14 @@
-#include "../ConsoleLook.h"
-#include "../ConsolePage.h"
-#include "../ConsoleText.h"
+#include <hosts/console/ConsoleLook.h>
+#include <hosts/console/ConsoleText.h>
+#include <hosts/console/ControlIds.h>
+#include <hosts/console/PageRegistry.h>
 
 #include <array>
 
 namespace
 {
 
-constexpr UINT kPlain = 2701;
-constexpr UINT kName = 2702;
-constexpr UINT kNameState = 2703;
-constexpr UINT kSecret = 2704;
-constexpr UINT kHours = 2705;
-constexpr UINT kDays = 2706;
-constexpr UINT kNumber = 2707;
-constexpr UINT kNumbers = 2708;
-constexpr UINT kLog = 2709;
-constexpr UINT kAddLine = 2710;
-constexpr UINT kAddWarning = 2711;
-constexpr UINT kAddLink = 2712;
-constexpr UINT kClear = 2713;
+using namespace ids::edits;
 
 constexpr LPCWSTR kRefused = L"\\/:*?\"<>|";
 constexpr int kLeft = 12;
@@ -46,17 +35,11 @@ class CLogEdit : public CFlatRichEdit
 class CEditsPage : public CConsolePage
 {
   public:
-    size_t StateCount() const override { return 3; }
-
-    void ShowState(size_t state) override
+    std::vector<PageState> States() override
     {
-        m_name->SetWindowText(state == 1 ? L"report: 1/2" : L"report");
-        m_hours->SetValue(state == 1 ? INT_MAX : 8);
-        for (CWnd* child = GetTopWindow(); child; child = child->GetNextWindow()) {
-            child->EnableWindow(state != 2);
-        }
-        ShowNameState();
-        ShowNumbers();
+        return {{L"valid", [this] { Show(L"report", 8, TRUE); }},
+                {L"refused", [this] { Show(L"report: 1/2", INT_MAX, TRUE); }},
+                {L"disabled", [this] { Show(L"report", 8, FALSE); }}};
     }
 
   protected:
@@ -105,6 +88,17 @@ class CEditsPage : public CConsolePage
     DECLARE_MESSAGE_MAP()
 
   private:
+    void Show(LPCWSTR name, int hours, BOOL enabled)
+    {
+        m_name->SetWindowText(name);
+        m_hours->SetValue(hours);
+        for (CWnd* child = GetTopWindow(); child; child = child->GetNextWindow()) {
+            child->EnableWindow(enabled);
+        }
+        ShowNameState();
+        ShowNumbers();
+    }
+
     static CRect Row(int row, int left, int right)
     {
         const int top = kFirstRow + row * kRowHeight;
@@ -190,9 +184,9 @@ class CEditsPage : public CConsolePage
 
     void ShowNameState()
     {
-        static constexpr std::array<LPCWSTR, 3> keys = {L"STR_CON_REFUSED", L"STR_CON_EMPTY", L"STR_CON_VALID"};
+        static constexpr std::array<LPCWSTR, 3> kKeys = {L"STR_CON_REFUSED", L"STR_CON_EMPTY", L"STR_CON_VALID"};
         const int state = m_name->IsValidText() + 1;
-        SetDlgItemText(kNameState, ConText(keys.at(static_cast<size_t>(state))));
+        SetDlgItemText(kNameState, ConText(kKeys.at(static_cast<size_t>(state))));
     }
 
     void ShowNumbers()

@@ -1,22 +1,16 @@
-#include "../ConsolePage.h"
-#include "../ConsoleText.h"
-
+#include <common/Owner.h>
+#include <hosts/console/ConsoleText.h>
+#include <hosts/console/ControlIds.h>
+#include <hosts/console/PageRegistry.h>
 #include <QorApi/QorApi.h>
 
 #include <array>
-#include <memory>
 #include <span>
 
 namespace
 {
 
-constexpr UINT kChart = 2701;
-constexpr UINT kRing = 2702;
-constexpr UINT kBars = 2703;
-constexpr UINT kSnapshots = 2704;
-constexpr UINT kInfo = 2705;
-constexpr UINT kStatus = 2706;
-constexpr UINT kTip = 2707;
+using namespace ids::info;
 
 constexpr int kLeft = 12;
 constexpr int kRight = 716;
@@ -24,23 +18,15 @@ constexpr int kChartBottom = 264;
 constexpr int kInfoTop = 314;
 constexpr ULONGLONG kMegabyte = 1024ULL * 1024;
 
-struct TaskMemoryFreer
-{
-    void operator()(void* memory) const { ::CoTaskMemFree(memory); }
-};
-
 /** A chart of the store's snapshots and what is known about each of them. */
 class CInfoPage : public CConsolePage
 {
   public:
-    size_t StateCount() const override { return 3; }
-
-    void ShowState(size_t state) override
+    std::vector<PageState> States() override
     {
-        CheckRadioButton(kRing, kBars, state == 1 ? kBars : kRing);
-        m_chart.SetType(state == 1 ? QOR_CHART_BARS : QOR_CHART_RING);
-        m_choice->SetCurSel(state == 2 ? -1 : 0);
-        OnChoice();
+        return {{L"ring", [this] { Show(QOR_CHART_RING, 0); }},
+                {L"bars", [this] { Show(QOR_CHART_BARS, 0); }},
+                {L"nothing-chosen", [this] { Show(QOR_CHART_RING, -1); }}};
     }
 
     std::vector<PopupShot> Popups() override
@@ -107,6 +93,14 @@ class CInfoPage : public CConsolePage
     DECLARE_MESSAGE_MAP()
 
   private:
+    void Show(int chart, int choice)
+    {
+        CheckRadioButton(kRing, kBars, chart == QOR_CHART_BARS ? kBars : kRing);
+        m_chart.SetType(chart);
+        m_choice->SetCurSel(choice);
+        OnChoice();
+    }
+
     static size_t Index(int choice) { return static_cast<size_t>(choice); }
 
     bool BuildInfo()
@@ -141,13 +135,12 @@ class CInfoPage : public CConsolePage
     void ReadSnapshots()
     {
         int count = 0;
-        const std::unique_ptr<void, TaskMemoryFreer> list(
-            QorGetAllInfo(QORLIST_SNAPSHOTS, sizeof(_QORVEX_SNAP), &count, 0));
+        const own::TaskMemory list(QorGetAllInfo(QORLIST_SNAPSHOTS, sizeof(_QORVEX_SNAP), &count, 0));
         if (!list) {
             count = 0;
         }
         ULONGLONG sum = 0;
-        for (const auto& snapshot : std::span(static_cast<const _QORVEX_SNAP*>(list.get()), Index(count))) {
+        for (const auto& snapshot : std::span(static_cast<const _QORVEX_SNAP*>(list.Get()), Index(count))) {
             m_snapshots.push_back(snapshot);
             m_chart.AddItem(snapshot.szName, static_cast<UINT>(snapshot.nSize / kMegabyte));
             m_choice->AddString(snapshot.szName);

@@ -1,9 +1,12 @@
-#include "../ConsolePage.h"
-#include "../ConsoleText.h"
-#include "../res/ConsoleResource.h"
+#include <hosts/console/ConsoleText.h>
+#include <hosts/console/ControlIds.h>
+#include <hosts/console/PageRegistry.h>
+#include <hosts/console/res/ConsoleResource.h>
 
 namespace
 {
+
+using namespace ids::layout;
 
 constexpr LONG kTopicHeight = -16;
 constexpr int kMoveStep = 20;
@@ -106,9 +109,6 @@ BEGIN_MESSAGE_MAP(CLayoutDlg, CQorDialog)
     ON_COMMAND(IDC_LAYOUT_SHOW, &CLayoutDlg::OnShowBlock)
     ON_COMMAND(IDC_LAYOUT_ENABLE, &CLayoutDlg::OnEnableBlock)
 END_MESSAGE_MAP()
-
-constexpr UINT kOpen = 2301;
-constexpr UINT kResult = 2302;
 
 class CLayoutPage : public CConsolePage
 {

@@ -1,20 +1,12 @@
-#include "../ConsoleLook.h"
-#include "../ConsolePage.h"
-#include "../ConsoleText.h"
+#include <hosts/console/ConsoleLook.h>
+#include <hosts/console/ConsoleText.h>
+#include <hosts/console/ControlIds.h>
+#include <hosts/console/PageRegistry.h>
 
 namespace
 {
 
-constexpr UINT kAddress = 3001;
-constexpr UINT kSet = 3002;
-constexpr UINT kOpen = 3003;
-constexpr UINT kLink = 3004;
-constexpr UINT kUnderlined = 3005;
-constexpr UINT kVisited = 3006;
-constexpr UINT kAutoSize = 3007;
-constexpr UINT kLabel = 3008;
-constexpr UINT kResult = 3009;
-constexpr UINT kClickLabel = 3010;
+using namespace ids::links;
 
 constexpr int kLeft = 12;
 constexpr int kRight = 704;
@@ -47,7 +39,7 @@ enum class Look
 };
 
 /** A link that keeps one look. */
-class SampleLink : public CQorLink
+class CSampleLink : public CQorLink
 {
   public:
     /** To be called when the link has its window. */
@@ -77,21 +69,17 @@ class SampleLink : public CQorLink
 class CLinksPage : public CConsolePage
 {
   public:
-    size_t StateCount() const override { return 2; }
-
-    void ShowState(size_t state) override
+    std::vector<PageState> States() override
     {
-        const UINT check = state == 1 ? BST_CHECKED : BST_UNCHECKED;
-        CheckDlgButton(kUnderlined, check);
-        CheckDlgButton(kVisited, check);
-        OnUnderlined();
-        OnVisited();
-        m_clicks = 0;
-        if (state == 1) {
-            OnLabel();
-        } else {
-            SetDlgItemText(kResult, ConText(L"STR_CON_NOTHING"));
-        }
+        return {{L"fresh",
+                 [this] {
+                     Show(BST_UNCHECKED);
+                     SetDlgItemText(kResult, ConText(L"STR_CON_NOTHING"));
+                 }},
+                {L"visited", [this] {
+                     Show(BST_CHECKED);
+                     OnLabel();
+                 }}};
     }
 
   protected:
@@ -161,6 +149,15 @@ class CLinksPage : public CConsolePage
     DECLARE_MESSAGE_MAP()
 
   private:
+    void Show(UINT check)
+    {
+        CheckDlgButton(kUnderlined, check);
+        CheckDlgButton(kVisited, check);
+        OnUnderlined();
+        OnVisited();
+        m_clicks = 0;
+    }
+
     static CRect Cell(Look look, int top)
     {
         const int left = kColumnLeft + static_cast<int>(look) * kColumnWidth;
@@ -178,11 +175,11 @@ class CLinksPage : public CConsolePage
 
     void DrawTableNames(CDC& dc) const
     {
-        static constexpr LPCWSTR columns[] = {L"STR_CON_NORMAL", L"STR_CON_HOT", L"STR_CON_LINK_VISITED",
-                                              L"STR_CON_LINK_LINE"};
+        static constexpr LPCWSTR kColumnKeys[] = {L"STR_CON_NORMAL", L"STR_CON_HOT", L"STR_CON_LINK_VISITED",
+                                                  L"STR_CON_LINK_LINE"};
         for (int i = 0; i < static_cast<int>(Look::Count); ++i) {
             CRect cell = Cell(static_cast<Look>(i), 36);
-            dc.DrawText(ConText(columns[i]), -1, cell, DT_SINGLELINE | DT_NOPREFIX);
+            dc.DrawText(ConText(kColumnKeys[i]), -1, cell, DT_SINGLELINE | DT_NOPREFIX);
         }
         CRect standard(kLeft, kRowStandard, kColumnLeft - 8, kRowStandard + 18);
         CRect own(kLeft, kRowOwn, kColumnLeft - 8, kRowOwn + 18);
@@ -192,10 +189,10 @@ class CLinksPage : public CConsolePage
 
     static void DrawBoxes(CDC& dc)
     {
-        static constexpr LPCWSTR names[] = {L"STR_CON_LINK_LEFT", L"STR_CON_LINK_CENTER", L"STR_CON_LINK_RIGHT",
-                                            L"STR_CON_LINK_MIDDLE", L"STR_CON_LINK_WRAPPED"};
+        static constexpr LPCWSTR kNameKeys[] = {L"STR_CON_LINK_LEFT", L"STR_CON_LINK_CENTER", L"STR_CON_LINK_RIGHT",
+                                                L"STR_CON_LINK_MIDDLE", L"STR_CON_LINK_WRAPPED"};
         int index = 0;
-        for (const LPCWSTR name : names) {
+        for (const LPCWSTR name : kNameKeys) {
             CRect box = Box(index++);
             CRect above(box.left, box.top - 20, box.right, box.top - 4);
             dc.DrawText(ConText(name), -1, above, DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
@@ -242,7 +239,7 @@ class CLinksPage : public CConsolePage
         for (int i = 0; i < static_cast<int>(Look::Count); ++i) {
             const auto look = static_cast<Look>(i);
             for (const int top : {kRowStandard, kRowOwn}) {
-                auto& link = OwnLink<SampleLink>();
+                auto& link = OwnLink<CSampleLink>();
                 if (top == kRowOwn) {
                     link.SetColors(kOwnLink, kOwnVisited, kOwnHover);
                 }
@@ -257,9 +254,9 @@ class CLinksPage : public CConsolePage
 
     bool BuildAlignments()
     {
-        static constexpr DWORD styles[] = {SS_LEFT, SS_CENTER, SS_RIGHT, SS_CENTER | SS_CENTERIMAGE};
+        static constexpr DWORD kStyles[] = {SS_LEFT, SS_CENTER, SS_RIGHT, SS_CENTER | SS_CENTERIMAGE};
         int index = 0;
-        for (const DWORD style : styles) {
+        for (const DWORD style : kStyles) {
             if (!Take(OwnLink(), ConText(L"STR_CON_LINK_TEXT"), style, Box(index++))) {
                 return false;
             }

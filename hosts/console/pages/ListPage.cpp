@@ -1,15 +1,11 @@
-#include "../ConsolePage.h"
-#include "../ConsoleText.h"
+#include <hosts/console/ConsoleText.h>
+#include <hosts/console/ControlIds.h>
+#include <hosts/console/PageRegistry.h>
 
 namespace
 {
 
-constexpr UINT kList = 2701;
-constexpr UINT kChecks = 2702;
-constexpr UINT kFill = 2703;
-constexpr UINT kRemove = 2704;
-constexpr UINT kState = 2705;
-constexpr UINT kOrder = 2706;
+using namespace ids::list;
 
 constexpr int kLeft = 12;
 constexpr int kRight = 716;
@@ -44,22 +40,11 @@ int Compare(int column, int one, int other)
 class CListPage : public CConsolePage
 {
   public:
-    size_t StateCount() const override { return 3; }
-
-    void ShowState(size_t state) override
+    std::vector<PageState> States() override
     {
-        ShowChecks(state == 2);
-        if (state == 1) {
-            OnRemove();
-            return;
-        }
-        Fill(state == 2 ? kShownRows : kRows);
-        Sort(1, 0);
-        if (state == 2) {
-            m_list.SetCheck(1);
-            m_list.SetCheck(4);
-        }
-        m_list.SelectItem(2, TRUE);
+        return {{L"full", [this] { ShowFull(); }}, {L"empty", [this] { ShowEmpty(); }}, {L"checks", [this] {
+                                                                                             ShowChecked();
+                                                                                         }}};
     }
 
   protected:
@@ -128,6 +113,30 @@ class CListPage : public CConsolePage
     DECLARE_MESSAGE_MAP()
 
   private:
+    void ShowFull()
+    {
+        ShowChecks(false);
+        Fill(kRows);
+        Sort(1, 0);
+        m_list.SelectItem(2, TRUE);
+    }
+
+    void ShowEmpty()
+    {
+        ShowChecks(false);
+        OnRemove();
+    }
+
+    void ShowChecked()
+    {
+        ShowChecks(true);
+        Fill(kShownRows);
+        Sort(1, 0);
+        m_list.SetCheck(1);
+        m_list.SetCheck(4);
+        m_list.SelectItem(2, TRUE);
+    }
+
     bool BuildButtons()
     {
         return AddCheck(ConText(L"STR_CON_ROW_CHECKS"), CRect(kLeft, 492, 232, 509), kChecks) &&

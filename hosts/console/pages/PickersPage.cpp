@@ -1,27 +1,11 @@
-#include "../ConsolePage.h"
-#include "../ConsoleText.h"
+#include <hosts/console/ConsoleText.h>
+#include <hosts/console/ControlIds.h>
+#include <hosts/console/PageRegistry.h>
 
 namespace
 {
 
-constexpr UINT kKind = 2801;
-constexpr UINT kKindData = 2802;
-constexpr UINT kFixed = 2803;
-constexpr UINT kFree = 2804;
-constexpr UINT kHotKey = 2805;
-constexpr UINT kDate = 2806;
-constexpr UINT kTime = 2807;
-constexpr UINT kAddress = 2808;
-constexpr UINT kSearch = 2809;
-constexpr UINT kTexts = 2810;
-constexpr UINT kChecks = 2811;
-constexpr UINT kDrag = 2812;
-constexpr UINT kDragOn = 2813;
-constexpr UINT kAdd = 2814;
-constexpr UINT kDelete = 2815;
-constexpr UINT kChecked = 2816;
-constexpr UINT kUp = 2817;
-constexpr UINT kDown = 2818;
+using namespace ids::pickers;
 
 constexpr int kLeft = 12;
 constexpr int kFieldLeft = 120;
@@ -32,6 +16,9 @@ constexpr int kDragRow = 480;
 constexpr int kFirstRow = 40;
 constexpr int kRowHeight = 30;
 constexpr int kDropHeight = 150;
+constexpr LPCWSTR kKindKeys[] = {L"STR_CON_KIND1", L"STR_CON_KIND2", L"STR_CON_KIND3", L"STR_CON_KIND4"};
+constexpr DWORD_PTR kFirstKind = 100; // item data of the kinds
+constexpr DWORD_PTR kLastKind = std::size(kKindKeys) * kFirstKind;
 constexpr DWORD kChild = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_GROUP;
 constexpr DWORD kList = kChild | WS_VSCROLL | WS_HSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT;
 
@@ -39,24 +26,16 @@ constexpr DWORD kList = kChild | WS_VSCROLL | WS_HSCROLL | LBS_NOTIFY | LBS_NOIN
 class CPickersPage : public CConsolePage
 {
   public:
-    size_t StateCount() const override { return 3; }
-
-    void ShowState(size_t state) override
+    std::vector<PageState> States() override
     {
-        m_kind->SelectItem(state == 1 ? 400 : 100);
-        OnKind();
-        if (state == 1) {
-            m_texts->SetCurSel(1);
-            m_checks->SetCurSel(0);
-        }
-        for (CWnd* child = GetTopWindow(); child; child = child->GetNextWindow()) {
-            child->EnableWindow(state != 2 && child != m_fixed);
-        }
+        return {{L"fresh", [this] { Show(kFirstKind, TRUE); }},
+                {L"chosen", [this] { ShowChosen(); }},
+                {L"disabled", [this] { Show(kFirstKind, FALSE); }}};
     }
 
     std::vector<PopupShot> Popups() override
     {
-        ShowState(0);
+        Show(kFirstKind, TRUE);
         return {ListOf(L"pickers-combo", *m_kind), ListOf(L"pickers-search", *m_search)};
     }
 
@@ -103,6 +82,22 @@ class CPickersPage : public CConsolePage
     DECLARE_MESSAGE_MAP()
 
   private:
+    void Show(DWORD_PTR kind, BOOL enabled)
+    {
+        m_kind->SelectItem(kind);
+        OnKind();
+        for (CWnd* child = GetTopWindow(); child; child = child->GetNextWindow()) {
+            child->EnableWindow(enabled && child != m_fixed);
+        }
+    }
+
+    void ShowChosen()
+    {
+        Show(kLastKind, TRUE);
+        m_texts->SetCurSel(1);
+        m_checks->SetCurSel(0);
+    }
+
     static PopupShot ListOf(LPCWSTR name, CComboBox& combo)
     {
         return {name,
@@ -140,11 +135,10 @@ class CPickersPage : public CConsolePage
     {
         CFlatCombo* combo =
             AddPicker<CFlatCombo>(row, label, WC_COMBOBOXW, id, style | CBS_AUTOHSCROLL | WS_VSCROLL, 0, kDropHeight);
-        static constexpr LPCWSTR keys[] = {L"STR_CON_KIND1", L"STR_CON_KIND2", L"STR_CON_KIND3", L"STR_CON_KIND4"};
         DWORD_PTR data = 0;
-        for (const LPCWSTR key : keys) {
+        for (const LPCWSTR key : kKindKeys) {
             if (combo) {
-                combo->SetItemData(combo->AddString(ConText(key)), data += 100);
+                combo->SetItemData(combo->AddString(ConText(key)), data += kFirstKind);
             }
         }
         return combo;
@@ -156,7 +150,7 @@ class CPickersPage : public CConsolePage
         if (!m_kind || !AddLabel(L"", Row(1), kKindData)) {
             return false;
         }
-        m_kind->SelectItem(100);
+        m_kind->SelectItem(kFirstKind);
         OnKind();
         m_fixed = AddCombo(2, L"STR_CON_FIXED", kFixed, CBS_DROPDOWNLIST);
         CFlatCombo* free = AddCombo(3, L"STR_CON_FREE", kFree, CBS_DROPDOWN);
@@ -188,7 +182,7 @@ class CPickersPage : public CConsolePage
         time->SetFormat(L"HH:mm");
         time->SendMessage(DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&moment));
         address->SendMessage(IPM_SETADDRESS, 0, static_cast<LPARAM>(MAKEIPADDRESS(192, 0, 2, 17)));
-        for (const LPCWSTR key : {L"STR_CON_KIND1", L"STR_CON_KIND2", L"STR_CON_KIND3", L"STR_CON_KIND4"}) {
+        for (const LPCWSTR key : kKindKeys) {
             m_search->AddString(ConText(key));
         }
         m_search->SetWindowText(ConText(L"STR_CON_SEARCH_TEXT"));
@@ -232,8 +226,7 @@ class CPickersPage : public CConsolePage
 
     void FillLists()
     {
-        static constexpr LPCWSTR keys[] = {L"STR_CON_KIND1", L"STR_CON_KIND2", L"STR_CON_KIND3", L"STR_CON_KIND4"};
-        for (const LPCWSTR key : keys) {
+        for (const LPCWSTR key : kKindKeys) {
             m_texts->AddString(ConText(key));
             m_checks->AddString(ConText(key));
             m_drag->AddString(ConText(key));

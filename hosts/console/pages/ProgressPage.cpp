@@ -1,20 +1,14 @@
-#include "../ConsolePage.h"
-#include "../ConsoleText.h"
+#include <hosts/console/ConsoleText.h>
+#include <hosts/console/ControlIds.h>
+#include <hosts/console/PageRegistry.h>
 
 #include <array>
 
 namespace
 {
 
-constexpr UINT kPercent = 2701;
-constexpr UINT kFiles = 2702;
-constexpr UINT kSilent = 2703;
-constexpr UINT kList = 2704;
-constexpr UINT kRun = 2705;
-constexpr UINT kStop = 2706;
-constexpr UINT kReset = 2707;
+using namespace ids::progress;
 
-constexpr UINT_PTR kTimer = 7;
 constexpr UINT kPeriod = 50; // ms
 constexpr int kLeft = 12;
 constexpr int kRight = 716;
@@ -28,13 +22,11 @@ constexpr int kDoneFile = kEnd / 5; // the files of the list are copied one afte
 class CProgressPage : public CConsolePage
 {
   public:
-    size_t StateCount() const override { return 3; }
-
-    void ShowState(size_t state) override
+    std::vector<PageState> States() override
     {
-        static constexpr std::array<int, 3> positions = {333, kEnd, 0};
-        OnStop();
-        Show(positions.at(state % positions.size()));
+        return {{L"third", [this] { StopAt(kEnd / 3); }}, {L"done", [this] { StopAt(kEnd); }}, {L"empty", [this] {
+                                                                                                    StopAt(0);
+                                                                                                }}};
     }
 
   protected:
@@ -86,6 +78,12 @@ class CProgressPage : public CConsolePage
     DECLARE_MESSAGE_MAP()
 
   private:
+    void StopAt(int position)
+    {
+        OnStop();
+        Show(position);
+    }
+
     bool AddBar(CProgressBar& bar, LPCWSTR label, int row, UINT id)
     {
         const int top = 44 + row * 32;
@@ -106,9 +104,9 @@ class CProgressPage : public CConsolePage
         }
         m_list.InsertColumn(0, ConText(L"STR_CON_ROW_NAME"), LVCFMT_LEFT, 260);
         m_list.InsertColumn(1, ConText(L"STR_CON_PROG_STATE"), LVCFMT_LEFT, 300);
-        static constexpr std::array<LPCWSTR, 5> files = {L"Archive.zip", L"Budget.xls", L"Letter.doc", L"Photo.jpg",
-                                                         L"Report.pdf"};
-        for (const LPCWSTR file : files) {
+        static constexpr std::array<LPCWSTR, 5> kNames = {L"Archive.zip", L"Budget.xls", L"Letter.doc", L"Photo.jpg",
+                                                          L"Report.pdf"};
+        for (const LPCWSTR file : kNames) {
             m_list.InsertItem(m_list.GetItemCount(), file);
         }
         return true;

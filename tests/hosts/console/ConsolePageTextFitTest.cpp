@@ -1,4 +1,6 @@
 #include <hosts/console/ConsoleFrame.h>
+#include <hosts/console/ControlIds.h>
+#include <hosts/console/PageRegistry.h>
 #include <QorApi/QorApi.h>
 #include <tests/support/Support.h>
 
@@ -8,7 +10,6 @@
 namespace
 {
 
-constexpr UINT kPageList = 2000;
 constexpr int kMargin = 2;        // of check boxes and radio buttons
 constexpr int kGlyph = 17;        // and what their glyph takes
 constexpr int kPushMargin = 3;    // of push buttons, at each side: border, bevel, focus
@@ -40,13 +41,13 @@ testing::AssertionResult FitsInto(const CString& text, CSize needed, CSize place
                                        << " and has " << place.cx << " x " << place.cy;
 }
 
-/** Whether a command button has nothing more to show under its title when it is higher. */
+/** Whether a command button has nothing kMore to show under its title when it is higher. */
 testing::AssertionResult NoteFits(CWnd& button, const CString& title, const CRect& client)
 {
-    constexpr int more = 100;
-    button.SetWindowPos(nullptr, 0, 0, client.Width(), client.Height() + more, SWP_NOMOVE | SWP_NOZORDER);
-    const ts::Picture below = ts::CaptureWindow(button).Crop(
-        CRect(kCommandMargin, client.bottom - kCommandMargin, client.right - kCommandMargin, client.bottom + more / 2));
+    constexpr int kMore = 100;
+    button.SetWindowPos(nullptr, 0, 0, client.Width(), client.Height() + kMore, SWP_NOMOVE | SWP_NOZORDER);
+    const ts::Picture below = ts::CaptureWindow(button).Crop(CRect(
+        kCommandMargin, client.bottom - kCommandMargin, client.right - kCommandMargin, client.bottom + kMore / 2));
     button.SetWindowPos(nullptr, 0, 0, client.Width(), client.Height(), SWP_NOMOVE | SWP_NOZORDER);
     if (below.Count(below.At(0, 0)) == below.Width() * below.Height()) {
         return testing::AssertionSuccess();
@@ -162,7 +163,7 @@ TEST_P(TextFit, NothingIsCutOffOnThePages)
 
 TEST_P(TextFit, NothingIsCutOffInTheListOfPages)
 {
-    auto& list = static_cast<CPageList&>(*CWnd::FromHandlePermanent(::GetDlgItem(m_frame, kPageList)));
+    auto& list = static_cast<CPageList&>(*CWnd::FromHandlePermanent(::GetDlgItem(m_frame, ids::frame::kPageList)));
     CRect client;
     list.GetClientRect(client);
     ASSERT_GT(list.GetCount(), 0);

@@ -1,5 +1,5 @@
 #include <hosts/console/ConsoleText.h>
-#include <tests/hosts/PagesFixture.h>
+#include <tests/hosts/console/PagesFixture.h>
 
 namespace
 {
@@ -16,6 +16,8 @@ class PageList : public Pages
         List().GetItemRect(index, row);
         return ts::CaptureWindow(List()).Crop(row);
     }
+
+    static int Index(const wchar_t* page) { return static_cast<int>(FindPage(page).value()); }
 
     static COLORREF Body()
     {
@@ -63,7 +65,7 @@ TEST_F(PageList, ChosenRowIsHighlightedAndFramedWhileItHasTheFocus)
 TEST_F(PageList, ClickOpensThePage)
 {
     Show(L"buttons");
-    const int drawing = CConsoleFrame::FindPage(L"drawing");
+    const int drawing = Index(L"drawing");
     const HWND before = *m_frame.CurrentPage();
     ts::Click(List(), 20, drawing * CPageList::kRowHeight + 3);
     EXPECT_FALSE(::IsWindow(before));
@@ -74,7 +76,7 @@ TEST_F(PageList, FirstLetterFindsAPage)
 {
     Show(L"buttons");
     ts::Key('D');
-    EXPECT_EQ(CConsoleFrame::FindPage(L"drawing"), List().GetCurSel());
+    EXPECT_EQ(Index(L"drawing"), List().GetCurSel());
 }
 
 TEST_F(PageList, RowOutOfRangeIsDrawnWithoutText)

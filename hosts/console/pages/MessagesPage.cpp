@@ -1,17 +1,12 @@
-#include "../ConsolePage.h"
-#include "../ConsoleText.h"
+#include <hosts/console/ConsoleText.h>
+#include <hosts/console/ControlIds.h>
+#include <hosts/console/PageRegistry.h>
 
 namespace
 {
 
-constexpr UINT kText = 2401;
-constexpr UINT kKindFirst = 2402;
-constexpr UINT kKinds = QOR_MSG_YESNO + 1;
-constexpr UINT kTopmost = kKindFirst + kKinds;
-constexpr UINT kAutoClose = kTopmost + 1;
-constexpr UINT kErrorCode = kTopmost + 2;
-constexpr UINT kShow = kTopmost + 3;
-constexpr UINT kResult = kTopmost + 4;
+using namespace ids::messages;
+
 constexpr BYTE kAutoCloseSeconds = 5;
 
 constexpr LPCWSTR kKindKeys[kKinds] = {L"STR_CON_MSG_ERROR",   L"STR_CON_MSG_WARNING", L"STR_CON_MSG_INFO",
@@ -19,7 +14,7 @@ constexpr LPCWSTR kKindKeys[kKinds] = {L"STR_CON_MSG_ERROR",   L"STR_CON_MSG_WAR
 constexpr LPCWSTR kShotNames[kKinds] = {L"messagebox-error",   L"messagebox-warning", L"messagebox-information",
                                         L"messagebox-confirm", L"messagebox-retry",   L"messagebox-yesno"};
 
-class CMessagePage : public CConsolePage
+class CMessagesPage : public CConsolePage
 {
   public:
     std::vector<ModalShot> Modals() override
@@ -107,13 +102,13 @@ class CMessagePage : public CConsolePage
     }
 };
 
-BEGIN_MESSAGE_MAP(CMessagePage, CConsolePage)
-    ON_BN_CLICKED(kShow, &CMessagePage::OnShow)
+BEGIN_MESSAGE_MAP(CMessagesPage, CConsolePage)
+    ON_BN_CLICKED(kShow, &CMessagesPage::OnShow)
 END_MESSAGE_MAP()
 
 } // namespace
 
-std::unique_ptr<CConsolePage> MakeMessagePage()
+std::unique_ptr<CConsolePage> MakeMessagesPage()
 {
-    return std::make_unique<CMessagePage>();
+    return std::make_unique<CMessagesPage>();
 }

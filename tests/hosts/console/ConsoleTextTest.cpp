@@ -1,5 +1,6 @@
 #include <hosts/console/ConsoleFrame.h>
 #include <hosts/console/ConsoleText.h>
+#include <hosts/console/PageRegistry.h>
 #include <QorApi/QorApi.h>
 #include <tests/support/Support.h>
 
@@ -59,13 +60,13 @@ TEST_F(ConsoleText, NoPageTakesAFormatForMoreThanItGives)
     frame.ShowWindow(SW_SHOW);
     size_t pages = 0;
     while (frame.ShowPage(pages)) {
-        for (size_t state = 0; state < frame.CurrentPage()->StateCount(); ++state) {
-            frame.CurrentPage()->ShowState(state);
+        for (const PageState& state : frame.CurrentPage()->States()) {
+            state.show();
             ts::Settle();
         }
         ++pages;
     }
-    EXPECT_EQ(13u, pages);
+    EXPECT_EQ(AllPages().size(), pages);
     frame.DestroyWindow();
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <hosts/console/ConsoleFrame.h>
+#include <hosts/console/ControlIds.h>
+#include <hosts/console/PageRegistry.h>
 #include <QorApi/QorApi.h>
 #include <tests/support/Support.h>
 
@@ -10,7 +12,6 @@
 class Pages : public testing::Test
 {
   protected:
-    static constexpr UINT kPageList = 2000; // of the frame
     static constexpr int kMostTabStops = 30;
 
     void SetUp() override
@@ -36,12 +37,14 @@ class Pages : public testing::Test
 
     void Show(const wchar_t* page)
     {
-        ASSERT_TRUE(m_frame.ShowPage(static_cast<size_t>(CConsoleFrame::FindPage(page))));
+        ASSERT_TRUE(m_frame.ShowPage(FindPage(page).value()));
         ::SetFocus(PageList());
         ts::Settle();
     }
 
-    HWND PageList() { return ::GetDlgItem(m_frame, kPageList); }
+    void ShowState(const wchar_t* name) { ASSERT_TRUE(m_frame.CurrentPage()->ShowState(name)); }
+
+    HWND PageList() { return ::GetDlgItem(m_frame, ids::frame::kPageList); }
     HWND Control(UINT id) { return ::GetDlgItem(*m_frame.CurrentPage(), static_cast<int>(id)); }
 
     template <class T>

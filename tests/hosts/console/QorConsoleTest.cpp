@@ -1,3 +1,4 @@
+#include <common/Owner.h>
 #include <QorApi/QorApi.h>
 #include <tests/support/Support.h>
 
@@ -32,7 +33,7 @@ class Console : public testing::Test
     {
         const ts::EnvironmentVariable store(L"QOR_STORE", m_folder.File(L"store.db").c_str());
         int count = 0;
-        CoTaskMemFree(QorGetAllInfo(QORLIST_SNAPSHOTS, sizeof(_QORVEX_SNAP), &count, 0));
+        const own::TaskMemory list(QorGetAllInfo(QORLIST_SNAPSHOTS, sizeof(_QORVEX_SNAP), &count, 0));
         return count;
     }
 
@@ -76,7 +77,7 @@ TEST_F(Console, ShotsLeavesAPictureOfEveryPageAndBox)
     const std::set<std::wstring> pictures = Pictures();
     for (const wchar_t* name : {L"buttons.png",
                                 L"links.png",
-                                L"links-1.png",
+                                L"links-visited.png",
                                 L"layout.png",
                                 L"layout-dialog.png",
                                 L"messages.png",
@@ -84,12 +85,12 @@ TEST_F(Console, ShotsLeavesAPictureOfEveryPageAndBox)
                                 L"messagebox-yesno.png",
                                 L"messagebox-code.png",
                                 L"drawing.png",
-                                L"drawing-1.png",
+                                L"drawing-larger-share.png",
                                 L"account.png",
-                                L"edits-2.png",
-                                L"pickers-2.png",
-                                L"calendar-3.png",
-                                L"clock-2.png",
+                                L"edits-disabled.png",
+                                L"pickers-disabled.png",
+                                L"calendar-no-selection.png",
+                                L"clock-noon.png",
                                 L"list.png",
                                 L"progress.png",
                                 L"info.png",
