@@ -1,6 +1,7 @@
 #include "Buttons.h"
 
 #include <QorUI/buttons/BmpBtn.h>
+#include <QorUI/res/resource.h>
 #include <tests/support/Resources.h>
 #include <tests/support/ui/Control.h>
 #include <tests/support/ui/Drawn.h>
@@ -254,7 +255,7 @@ TEST_F(BmpBtn, DestroyingTheWindowDeletesTheImage)
 
 TEST_F(BmpBtn, CloseButtonStripHasFourFramesOf42By17)
 {
-    const ts::Picture strip = ts::ResourcePicture(ts::Library(), 223);
+    const ts::Picture strip = ts::ResourcePicture(ts::Library(), IDB_DLG_CLOSE);
     EXPECT_EQ(168, strip.Width());
     EXPECT_EQ(17, strip.Height());
 }

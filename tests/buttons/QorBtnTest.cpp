@@ -1,6 +1,7 @@
 #include "Buttons.h"
 
 #include <QorUI/buttons/QorBtn.h>
+#include <QorUI/res/resource.h>
 #include <tests/support/Resources.h>
 #include <tests/support/ui/Control.h>
 #include <tests/support/ui/Drawn.h>
@@ -15,12 +16,14 @@ struct StyleRow
     UINT face;
 };
 
-constexpr StyleRow kRows[] = {{RGB(111, 111, 111), RGB(242, 242, 242), 202},
-                              {RGB(59, 126, 176), RGB(231, 244, 251), 203},
-                              {RGB(43, 97, 138), RGB(231, 244, 251), 204},
-                              {RGB(172, 177, 180), RGB(251, 251, 251), 205}};
-constexpr COLORREF kNormal = kRows[0].outer;
-constexpr COLORREF kHot = kRows[1].outer;
+constexpr StyleRow kRows[] = {{RGB(111, 111, 111), RGB(242, 242, 242), IDB_BTN_NORMAL},
+                              {RGB(59, 126, 176), RGB(231, 244, 251), IDB_BTN_HOT},
+                              {RGB(43, 97, 138), RGB(231, 244, 251), IDB_BTN_PRESSED},
+                              {RGB(172, 177, 180), RGB(251, 251, 251), IDB_BTN_DISABLED}};
+constexpr UINT kNormalRow = 0;
+constexpr UINT kHotRow = 1;
+constexpr COLORREF kNormal = kRows[kNormalRow].outer;
+constexpr COLORREF kHot = kRows[kHotRow].outer;
 constexpr COLORREF kPressed = kRows[2].outer;
 constexpr COLORREF kDisabled = kRows[3].outer;
 
@@ -171,7 +174,7 @@ TEST_F(QorBtn, FaceStartsJustUnderTheTopBorder)
 
 TEST_F(QorBtn, CornersAreRound)
 {
-    const ts::Picture picture = DrawnBack(m_button, 0);
+    const ts::Picture picture = DrawnBack(m_button, kNormalRow);
     for (const CPoint at : {CPoint(2, 3), CPoint(57, 3), CPoint(2, 23), CPoint(57, 23)}) {
         EXPECT_TRUE(ts::PixelIs(picture, at.x, at.y, ts::kPaper));
     }
@@ -180,8 +183,8 @@ TEST_F(QorBtn, CornersAreRound)
 
 TEST_F(QorBtn, FocusRectangleLiesTwoPixelsInside)
 {
-    const ts::Picture without = DrawnBack(m_button, 0);
-    const ts::Picture with = DrawnBack(m_button, 0, TRUE);
+    const ts::Picture without = DrawnBack(m_button, kNormalRow);
+    const ts::Picture with = DrawnBack(m_button, kNormalRow, TRUE);
     CRect changed(60, 25, 0, 0);
     for (int y = 0; y < 25; ++y) {
         for (int x = 0; x < 60; ++x) {
@@ -199,18 +202,18 @@ TEST_F(QorBtn, DrawBackLeavesTheRoomInside)
 {
     ts::Drawn(60, 25, [this](CDC& dc) {
         CRect rect(2, 3, 58, 24);
-        m_button.DrawBack(&dc, rect, 0, FALSE);
+        m_button.DrawBack(&dc, rect, kNormalRow, FALSE);
         EXPECT_EQ(CRect(3, 4, 57, 23), rect);
         rect = CRect(2, 3, 58, 24);
-        m_button.DrawBack(&dc, rect, 0, TRUE);
+        m_button.DrawBack(&dc, rect, kNormalRow, TRUE);
         EXPECT_EQ(CRect(4, 5, 56, 22), rect);
     });
 }
 
 TEST_F(QorBtn, RowOutOfRangeDrawsNothing)
 {
-    EXPECT_EQ(60 * 25, DrawnBack(m_button, 4).Count(ts::kPaper));
-    EXPECT_EQ(60 * 25, DrawnBack(m_button, 0xFFFFFFFF).Count(ts::kPaper));
+    EXPECT_EQ(60 * 25, DrawnBack(m_button, std::size(kRows)).Count(ts::kPaper));
+    EXPECT_EQ(60 * 25, DrawnBack(m_button, UINT_MAX).Count(ts::kPaper));
 }
 
 TEST_F(QorBtn, DrawBackLeavesTheDeviceContextAsItWas)
@@ -220,7 +223,7 @@ TEST_F(QorBtn, DrawBackLeavesTheDeviceContextAsItWas)
         const HGDIOBJ pen = ::GetCurrentObject(dc, OBJ_PEN);
         const HGDIOBJ brush = ::GetCurrentObject(dc, OBJ_BRUSH);
         CRect rect(2, 3, 58, 24);
-        m_button.DrawBack(&dc, rect, 1, TRUE);
+        m_button.DrawBack(&dc, rect, kHotRow, TRUE);
         EXPECT_EQ(CPoint(5, 6), dc.GetBrushOrg());
         EXPECT_EQ(pen, ::GetCurrentObject(dc, OBJ_PEN));
         EXPECT_EQ(brush, ::GetCurrentObject(dc, OBJ_BRUSH));
@@ -331,7 +334,7 @@ TEST_F(QorBtn, IsDrawnOnTheScreen)
     const ts::Picture picture = Look(m_button);
     EXPECT_TRUE(ts::PixelIs(picture, 40, 0, kNormal));
     EXPECT_TRUE(ts::PixelIs(picture, 40, 1, kRows[0].inner));
-    EXPECT_TRUE(ts::PixelIs(picture, 40, 10, ts::ResourcePicture(ts::Library(), 202).At(3, 8)));
+    EXPECT_TRUE(ts::PixelIs(picture, 40, 10, ts::ResourcePicture(ts::Library(), IDB_BTN_NORMAL).At(3, 8)));
 }
 
 TEST_F(QorBtn, IsHotWhileTheMouseIsOverIt)
@@ -424,7 +427,7 @@ TEST_F(QorBtn, WithoutWindowItHasAFaceAndNoText)
 TEST_F(QorBtn, WithoutDeviceContextNothingIsDrawn)
 {
     CRect rect(0, 0, 80, 21);
-    m_button.DrawBack(nullptr, rect, 0, TRUE);
+    m_button.DrawBack(nullptr, rect, kNormalRow, TRUE);
     m_button.DrawText(nullptr, rect, FALSE);
     EXPECT_EQ(CRect(0, 0, 80, 21), rect);
 }

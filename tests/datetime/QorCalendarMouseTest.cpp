@@ -434,9 +434,9 @@ TEST_F(CalendarMouse, NotificationIsSentAfterARepaint)
         return std::nullopt;
     });
     m_calendar.SetBkColor(RGB(1, 2, 3));
-    m_calendar.FireNotify(5);
+    m_calendar.FireNotify(NM_CLICK);
     EXPECT_TRUE(painted);
-    EXPECT_TRUE(m_host.Log().Is({ts::Notify(kCalendarId, 5)}));
+    EXPECT_TRUE(m_host.Log().Is({ts::Notify(kCalendarId, NM_CLICK)}));
 }
 
 TEST_F(CalendarMouse, ParentMayDestroyTheCalendarWhenTold)

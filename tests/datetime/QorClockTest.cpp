@@ -1,3 +1,5 @@
+#include "resource.h"
+
 #include <QorUI/datetime/ClockHands.h>
 #include <QorUI/datetime/QorClock.h>
 #include <tests/support/ImportRedirection.h>
@@ -12,8 +14,8 @@
 namespace
 {
 
-constexpr UINT kDial = 300;     // 161 x 161
-constexpr UINT kFlatDial = 302; // 78 x 13
+constexpr UINT_PTR kTimer = 1;
+
 constexpr UINT kClockId = 78;
 constexpr COLORREF kBack = RGB(250, 240, 230);
 constexpr COLORREF kInk = RGB(58, 58, 58);
@@ -26,8 +28,9 @@ ts::Expected News(int code)
     return news;
 }
 
-const ts::Expected kBegin = News(-4000);
-const ts::Expected kEnd = News(-4001);
+static_assert(QCN_BEGINDRAG == -4000 && QCN_ENDDRAG == -4001);
+const ts::Expected kBegin = News(QCN_BEGINDRAG);
+const ts::Expected kEnd = News(QCN_ENDDRAG);
 
 UINT g_period = 0;
 
@@ -95,7 +98,7 @@ class Clock : public testing::Test
 
     void Make()
     {
-        ASSERT_TRUE(m_clock.Create(kDial, &m_host, kClockId, kBack));
+        ASSERT_TRUE(m_clock.Create(IDB_DIAL, &m_host, kClockId, kBack));
         Show();
     }
 
@@ -176,7 +179,7 @@ TEST_F(Clock, WindowClassHasNothing)
 TEST_F(Clock, CreateRefusesToGoOnWithoutItsWindowClass)
 {
     const ts::NoWindowClasses none;
-    EXPECT_FALSE(m_clock.Create(kDial, &m_host, kClockId, kBack));
+    EXPECT_FALSE(m_clock.Create(IDB_DIAL, &m_host, kClockId, kBack));
     EXPECT_EQ(nullptr, m_clock.m_hWnd);
 }
 
@@ -184,22 +187,22 @@ TEST_F(Clock, CreateRefusesAMissingBitmapOrParent)
 {
     EXPECT_FALSE(m_clock.Create(301, &m_host, kClockId, kBack));
     EXPECT_FALSE(m_clock.Create(0, &m_host, kClockId, kBack));
-    EXPECT_FALSE(m_clock.Create(kDial, nullptr, kClockId, kBack));
+    EXPECT_FALSE(m_clock.Create(IDB_DIAL, nullptr, kClockId, kBack));
     CWnd noWindow;
-    EXPECT_FALSE(m_clock.Create(kDial, &noWindow, kClockId, kBack));
+    EXPECT_FALSE(m_clock.Create(IDB_DIAL, &noWindow, kClockId, kBack));
     EXPECT_EQ(nullptr, m_clock.m_hWnd);
-    EXPECT_TRUE(m_clock.Create(kDial, &m_host, kClockId, kBack));
-    EXPECT_FALSE(m_clock.Create(kDial, &m_host, kClockId, kBack));
+    EXPECT_TRUE(m_clock.Create(IDB_DIAL, &m_host, kClockId, kBack));
+    EXPECT_FALSE(m_clock.Create(IDB_DIAL, &m_host, kClockId, kBack));
 }
 
 TEST_F(Clock, CreateRefusesABitmapThatCannotBeRead)
 {
     {
         const ts::ImportRedirection failing({ts::ImportRedirection::Of(&::GetObjectW, &ts::NothingKnown)});
-        EXPECT_FALSE(m_clock.Create(kDial, &m_host, kClockId, kBack));
+        EXPECT_FALSE(m_clock.Create(IDB_DIAL, &m_host, kClockId, kBack));
     }
     EXPECT_EQ(nullptr, m_clock.m_hWnd);
-    EXPECT_TRUE(m_clock.Create(kDial, &m_host, kClockId, kBack));
+    EXPECT_TRUE(m_clock.Create(IDB_DIAL, &m_host, kClockId, kBack));
 }
 
 TEST_F(Clock, TimesAreTakenIntoTheDay)
@@ -237,8 +240,8 @@ TEST_F(Clock, FormerTimeIsErased)
     m_clock.SetTime(4, 10);
     EXPECT_TRUE(LeavesNoTrace());
     m_clock.SetTimeAnimate(9, 55, TRUE);
-    m_clock.OnTimer(1);
-    m_clock.KillTimer(1);
+    m_clock.OnTimer(kTimer);
+    m_clock.KillTimer(kTimer);
     EXPECT_TRUE(LeavesNoTrace());
     Grab();
     MoveToMinute(50);
@@ -249,7 +252,7 @@ TEST_F(Clock, FormerTimeIsErased)
 TEST_F(Clock, ErasingDrawsTheDial)
 {
     Make();
-    const ts::Picture dial = ts::ResourcePicture(GetModuleHandleW(nullptr), kDial);
+    const ts::Picture dial = ts::ResourcePicture(GetModuleHandleW(nullptr), IDB_DIAL);
     const ts::Picture erased = ts::Drawn(161, 161, [this](CDC& dc) {
         EXPECT_EQ(1, m_clock.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.m_hDC)));
     });
@@ -274,20 +277,20 @@ TEST_F(Clock, PaintsTheHandsAndTheHalfOfTheDay)
     for (const auto& time : times) {
         m_clock.SetTime(time.first, time.second);
         Show();
-        const ts::Picture expected = FaceOf(kDial, kCenter, 80, time.first, time.second);
+        const ts::Picture expected = FaceOf(IDB_DIAL, kCenter, 80, time.first, time.second);
         EXPECT_TRUE(ts::SamePicture(expected, Look())) << time.first << ":" << time.second;
     }
 }
 
 TEST_F(Clock, DialNeedNotBeSquare)
 {
-    ASSERT_TRUE(m_clock.Create(kFlatDial, &m_host, kClockId, kBack));
+    ASSERT_TRUE(m_clock.Create(IDB_FLAT_DIAL, &m_host, kClockId, kBack));
     m_clock.SetTime(4, 50);
     Show();
     CRect rect;
     m_clock.GetWindowRect(rect);
     EXPECT_EQ(CSize(78, 13), rect.Size());
-    EXPECT_TRUE(ts::SamePicture(FaceOf(kFlatDial, CPoint(39, 6), 6, 4, 50), Look()));
+    EXPECT_TRUE(ts::SamePicture(FaceOf(IDB_FLAT_DIAL, CPoint(39, 6), 6, 4, 50), Look()));
 }
 
 TEST_F(Clock, HandsAreInkOnTheDial)
@@ -545,7 +548,7 @@ TEST_F(Clock, AnimationEndsWithTheWindow)
     m_clock.SetTimeAnimate(14, 0, TRUE);
     m_clock.DestroyWindow();
     Make();
-    m_clock.OnTimer(1);
+    m_clock.OnTimer(kTimer);
     EXPECT_EQ("1:30", Time());
 }
 
@@ -556,16 +559,16 @@ TEST_F(Clock, AnimationForwardsPassesMidnight)
     m_clock.SetTimeAnimate(0, 10, TRUE);
     EXPECT_EQ("23:50", Time());
     for (int tick = 0; tick < 5; ++tick) {
-        m_clock.OnTimer(1);
+        m_clock.OnTimer(kTimer);
     }
     EXPECT_EQ("0:00", Time());
     for (int tick = 0; tick < 5; ++tick) {
-        m_clock.OnTimer(1);
+        m_clock.OnTimer(kTimer);
     }
     EXPECT_EQ("0:10", Time());
-    m_clock.OnTimer(1);
+    m_clock.OnTimer(kTimer);
     EXPECT_EQ("0:10", Time());
-    EXPECT_FALSE(m_clock.KillTimer(1));
+    EXPECT_FALSE(m_clock.KillTimer(kTimer));
 }
 
 TEST_F(Clock, AnimationBackwardsPassesMidnight)
@@ -573,10 +576,10 @@ TEST_F(Clock, AnimationBackwardsPassesMidnight)
     Make();
     m_clock.SetTime(1, 0);
     m_clock.SetTimeAnimate(23, 0, FALSE);
-    m_clock.OnTimer(1);
+    m_clock.OnTimer(kTimer);
     EXPECT_EQ("0:48", Time());
     for (int tick = 0; tick < 9; ++tick) {
-        m_clock.OnTimer(1);
+        m_clock.OnTimer(kTimer);
     }
     EXPECT_EQ("23:00", Time());
 }
@@ -585,9 +588,9 @@ TEST_F(Clock, ShortAnimationTakesOneTick)
 {
     Make();
     m_clock.SetTimeAnimate(1, 35, TRUE);
-    m_clock.OnTimer(1);
+    m_clock.OnTimer(kTimer);
     EXPECT_EQ("1:35", Time());
-    EXPECT_FALSE(m_clock.KillTimer(1));
+    EXPECT_FALSE(m_clock.KillTimer(kTimer));
 }
 
 TEST_F(Clock, AnimationRunsByItself)
@@ -595,7 +598,7 @@ TEST_F(Clock, AnimationRunsByItself)
     Make();
     m_clock.SetTimeAnimate(14, 0, TRUE);
     EXPECT_TRUE(ts::PumpUntil([this] { return Time() == "14:00"; }));
-    EXPECT_TRUE(ts::PumpUntil([this] { return !m_clock.KillTimer(1); }));
+    EXPECT_TRUE(ts::PumpUntil([this] { return !m_clock.KillTimer(kTimer); }));
 }
 
 TEST_F(Clock, AnimationTakesAboutHalfASecond)
@@ -615,7 +618,7 @@ TEST_F(Clock, WithoutATimerTheTimeIsShownAtOnce)
     EXPECT_EQ(50u, g_period);
     EXPECT_EQ("14:05", Time());
     EXPECT_TRUE(NeedsPaint());
-    m_clock.OnTimer(1);
+    m_clock.OnTimer(kTimer);
     EXPECT_EQ("14:05", Time());
 }
 
@@ -626,17 +629,17 @@ TEST_F(Clock, NewAnimationTakesTheOthersPlace)
     m_clock.SetTimeAnimate(0, 10, TRUE);
     m_clock.SetTimeAnimate(20, 30, FALSE);
     for (int tick = 0; tick < 10; ++tick) {
-        m_clock.OnTimer(1);
+        m_clock.OnTimer(kTimer);
     }
     EXPECT_EQ("20:30", Time());
-    EXPECT_FALSE(m_clock.KillTimer(1));
+    EXPECT_FALSE(m_clock.KillTimer(kTimer));
 }
 
 TEST_F(Clock, AnimationToTheShownTimeSetsNoTimer)
 {
     Make();
     m_clock.SetTimeAnimate(25, 90, TRUE);
-    EXPECT_FALSE(m_clock.KillTimer(1));
+    EXPECT_FALSE(m_clock.KillTimer(kTimer));
 }
 
 TEST_F(Clock, SettingTheTimeEndsAnAnimation)
@@ -644,27 +647,27 @@ TEST_F(Clock, SettingTheTimeEndsAnAnimation)
     Make();
     m_clock.SetTimeAnimate(14, 0, TRUE);
     m_clock.SetTime(5, 6);
-    EXPECT_FALSE(m_clock.KillTimer(1));
-    m_clock.OnTimer(1);
+    EXPECT_FALSE(m_clock.KillTimer(kTimer));
+    m_clock.OnTimer(kTimer);
     EXPECT_EQ("5:06", Time());
 }
 
 TEST_F(Clock, TimerThatComesWithoutAnAnimationIsEnded)
 {
     Make();
-    m_clock.SetTimer(1, 10000, nullptr);
-    m_clock.OnTimer(1);
+    m_clock.SetTimer(kTimer, 10000, nullptr);
+    m_clock.OnTimer(kTimer);
     EXPECT_EQ("1:30", Time());
-    EXPECT_FALSE(m_clock.KillTimer(1));
+    EXPECT_FALSE(m_clock.KillTimer(kTimer));
 }
 
 TEST_F(Clock, TimersOfOthersMoveNothing)
 {
     Make();
     m_clock.SetTimeAnimate(14, 0, TRUE);
-    m_clock.SendMessage(WM_TIMER, 2, 0);
+    m_clock.SendMessage(WM_TIMER, kTimer + 1, 0);
     EXPECT_EQ("1:30", Time());
-    m_clock.SendMessage(WM_TIMER, 1, 0);
+    m_clock.SendMessage(WM_TIMER, kTimer, 0);
     EXPECT_NE("1:30", Time());
 }
 
@@ -690,7 +693,7 @@ TEST_F(Clock, LeavesNothingBehind)
     EXPECT_TRUE(ts::NoLeak(
         [this] {
             CQorClock clock;
-            clock.Create(kDial, &m_host, kClockId, kBack);
+            clock.Create(IDB_DIAL, &m_host, kClockId, kBack);
             clock.SetTimeAnimate(5, 6, TRUE);
             clock.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
             clock.DestroyWindow();

@@ -117,14 +117,17 @@ class MonthList : public CalendarFixture
 
 } // namespace
 
+constexpr LONG_PTR kLowBits = 0x108; // which no class gives a meaning
+
 TEST_F(MonthList, OpensAsAPopUpAtTheMouse)
 {
     Open();
     EXPECT_TRUE(m_calendar.m_bTrackMonth);
     EXPECT_EQ(m_calendar.m_hWnd, GetCapture());
-    EXPECT_EQ(static_cast<LONG_PTR>(WS_POPUP | WS_BORDER | WS_VISIBLE | 0x108),
+    EXPECT_EQ(static_cast<LONG_PTR>(WS_POPUP | WS_BORDER | WS_VISIBLE | kLowBits),
               GetWindowLongPtrW(List(), GWL_STYLE) & ~static_cast<LONG_PTR>(WS_CLIPSIBLINGS) & 0xFFFFFFFF);
-    EXPECT_EQ(0x100Bu, GetClassLongPtrW(List(), GCL_STYLE));
+    EXPECT_EQ(ULONG_PTR{CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS | CS_BYTEALIGNCLIENT},
+              GetClassLongPtrW(List(), GCL_STYLE));
     EXPECT_EQ(0u, GetClassLongPtrW(List(), GCLP_HCURSOR));
     EXPECT_EQ(0u, GetClassLongPtrW(List(), GCLP_HBRBACKGROUND));
     EXPECT_EQ(0u, GetClassLongPtrW(List(), GCLP_HICON));

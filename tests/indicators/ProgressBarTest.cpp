@@ -1,7 +1,10 @@
+#include <QorUI/res/resource.h>
 #include <tests/lists/Lists.h>
 #include <tests/support/OtherColours.h>
 #include <tests/support/Refusals.h>
+#include <tests/support/Resources.h>
 #include <tests/support/ui/Control.h>
+#include <tests/support/ui/Drawn.h>
 #include <tests/support/ui/Look.h>
 
 #include <algorithm>
@@ -44,18 +47,13 @@ class ProgressBar : public testing::Test
     }
 
     /** What the pattern looks like at a place of the bar. */
-    static ts::Picture Pattern()
-    {
-        CBitmap bitmap;
-        bitmap.Attach(::LoadBitmapW(::GetModuleHandleW(L"QorUI.dll"), MAKEINTRESOURCEW(212)));
-        return ts::PictureOf(bitmap);
-    }
+    static ts::Picture Pattern() { return ts::ResourcePicture(ts::Library(), IDB_PROGRESS); }
 
     /** What the bar should look like, drawn by GDI. @param filled width of the fill in pixels. */
     static ts::Picture Expected(int filled, const wchar_t* text)
     {
         CBitmap bitmap;
-        bitmap.Attach(::LoadBitmapW(::GetModuleHandleW(L"QorUI.dll"), MAKEINTRESOURCEW(212)));
+        bitmap.Attach(::LoadBitmapW(ts::Library(), MAKEINTRESOURCEW(IDB_PROGRESS)));
         CBrush pattern(&bitmap);
         return ts::DrawTo(200, 20, [&](HDC dc) {
             CDC* const to = CDC::FromHandle(dc);

@@ -163,7 +163,7 @@ TEST_F(FlatList, NewColumnIsInsertedFirstAndFormattedThen)
     EXPECT_EQ(static_cast<UINT>(LVCF_TEXT), inserted[1].mask);
     for (const Settings& settings : changed) {
         EXPECT_EQ(static_cast<UINT>(LVCF_FMT), settings.mask);
-        EXPECT_EQ(LVCFMT_RIGHT | 0x8000, settings.fmt);
+        EXPECT_EQ(LVCFMT_RIGHT | LVCFMT_COL_HAS_IMAGES, settings.fmt);
     }
 }
 
@@ -336,7 +336,7 @@ TEST_F(FlatList, EmptyTextIsDrawnAsItIs)
         {
             CClientDC dc(&m_list);
             const HGDIOBJ old = ::SelectObject(dc, ts::GuiFont());
-            ::DrawTextW(dc, text, -1, &place, 0x911);
+            ::DrawTextW(dc, text, -1, &place, DT_CENTER | DT_WORDBREAK | DT_NOCLIP | DT_NOPREFIX);
             ::SelectObject(dc, old);
         }
         const ts::Picture expected = ts::CaptureWindow(m_list);
