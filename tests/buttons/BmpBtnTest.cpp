@@ -40,7 +40,7 @@ TEST_F(BmpBtn, IsCreatedVisibleOwnerDrawnAndWithoutText)
 {
     const auto style = static_cast<DWORD>(::GetWindowLongPtrW(m_button, GWL_STYLE));
     EXPECT_EQ(DWORD{WS_CHILD | WS_VISIBLE | BS_OWNERDRAW}, style);
-    EXPECT_EQ(9, ::GetDlgCtrlID(m_button));
+    EXPECT_EQ(int{ts::kControlId}, ::GetDlgCtrlID(m_button));
     EXPECT_EQ(0, m_button.GetWindowTextLength());
     EXPECT_EQ(CRect(30, 40, 50, 50), ts::PlaceIn(m_host, m_button));
 }

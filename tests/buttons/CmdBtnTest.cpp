@@ -63,7 +63,7 @@ TEST_F(CmdBtn, IsCreatedVisibleAndOwnerDrawn)
 {
     const auto style = static_cast<DWORD>(::GetWindowLongPtrW(m_button, GWL_STYLE));
     EXPECT_EQ(DWORD{WS_CHILD | WS_VISIBLE | BS_OWNERDRAW}, style);
-    EXPECT_EQ(6, ::GetDlgCtrlID(m_button));
+    EXPECT_EQ(int{ts::kControlId}, ::GetDlgCtrlID(m_button));
     EXPECT_EQ(CRect(20, 10, 220, 70), ts::PlaceIn(m_host, m_button));
 }
 
