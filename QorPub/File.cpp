@@ -1,4 +1,4 @@
-#include <QorPub/File.h>
+#include "File.h"
 
 namespace qor
 {
@@ -10,7 +10,7 @@ bool IsPrefixed(const CString& path)
     return path.Left(4) == L"\\\\?\\" || path.Left(4) == L"\\\\.\\";
 }
 
-constexpr int MOST_PARTS = 1000;
+constexpr int kMostParts = 1000;
 
 DWORD WriteAndFlush(HANDLE file, const void* data, DWORD size)
 {
@@ -26,7 +26,7 @@ DWORD WriteAndFlush(HANDLE file, const void* data, DWORD size)
 CString FullPath(LPCWSTR path)
 {
     CString full;
-    if (path == nullptr || *path == 0) {
+    if (!path || *path == 0) {
         return full;
     }
     DWORD size = GetFullPathNameW(path, 0, nullptr, nullptr);
@@ -52,13 +52,13 @@ CString LongPath(LPCWSTR path)
 
 DWORD ReadToEnd(HANDLE file, size_t limit, std::vector<BYTE>& bytes)
 {
-    constexpr DWORD BLOCK = 64 * 1024;
+    constexpr DWORD kBlock = 64 * 1024;
     bytes.clear();
     for (;;) {
         size_t used = bytes.size();
-        bytes.resize(used + BLOCK);
+        bytes.resize(used + kBlock);
         DWORD got = 0;
-        BOOL ok = ReadFile(file, bytes.data() + used, BLOCK, &got, nullptr);
+        BOOL ok = ReadFile(file, bytes.data() + used, kBlock, &got, nullptr);
         DWORD status = ok ? ERROR_SUCCESS : GetLastError();
         bytes.resize(used + got);
         if (status != ERROR_SUCCESS || got == 0) {
@@ -76,9 +76,9 @@ DWORD ReadWholeFile(LPCWSTR path, size_t limit, std::vector<BYTE>& bytes)
     if (name.IsEmpty()) {
         return ERROR_INVALID_NAME;
     }
-    Handle file(CreateFileW(name, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                            OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-    return file.IsValid() ? ReadToEnd(file.Get(), limit, bytes) : GetLastError();
+    own::File file(CreateFileW(name, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                               OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    return file ? ReadToEnd(file.Get(), limit, bytes) : GetLastError();
 }
 
 DWORD WriteAll(HANDLE file, const void* data, DWORD size)
@@ -93,16 +93,16 @@ DWORD WriteAll(HANDLE file, const void* data, DWORD size)
     return written == size ? ERROR_SUCCESS : ERROR_DISK_FULL;
 }
 
-DWORD CreatePart(const CString& stem, Handle& file, CString& path)
+DWORD CreatePart(const CString& stem, own::File& file, CString& path)
 {
     DWORD status = ERROR_FILE_EXISTS;
-    for (int i = 1; i <= MOST_PARTS && status == ERROR_FILE_EXISTS; ++i) {
+    for (int i = 1; i <= kMostParts && status == ERROR_FILE_EXISTS; ++i) {
         path = stem + L".part";
         if (i > 1) {
             path.AppendFormat(L"%d", i);
         }
         file.Reset(CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
-        status = file.IsValid() ? ERROR_SUCCESS : GetLastError();
+        status = file ? ERROR_SUCCESS : GetLastError();
     }
     return status;
 }
@@ -113,14 +113,14 @@ DWORD ReplaceWholeFile(LPCWSTR path, const void* data, DWORD size)
     if (name.IsEmpty()) {
         return ERROR_INVALID_NAME;
     }
-    Handle file;
+    own::File file;
     CString part;
     DWORD status = CreatePart(name, file, part);
     if (status != ERROR_SUCCESS) {
         return status;
     }
     status = WriteAndFlush(file.Get(), data, size);
-    file.Close();
+    file.Reset();
     if (status == ERROR_SUCCESS && !MoveFileExW(part, name, MOVEFILE_REPLACE_EXISTING)) {
         status = GetLastError();
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <common/Owner.h>
 #include <QorPub/QorPubDef.h>
 
 #include <vector>
@@ -7,34 +8,6 @@
 /** File helpers inside the library. */
 namespace qor
 {
-
-/** A kernel handle, closed by its object. */
-class Handle
-{
-  public:
-    explicit Handle(HANDLE handle = INVALID_HANDLE_VALUE) : m_handle(handle) {}
-    ~Handle() { Close(); }
-    Handle(const Handle&) = delete;
-    Handle& operator=(const Handle&) = delete;
-
-    bool IsValid() const { return m_handle != INVALID_HANDLE_VALUE && m_handle != nullptr; }
-    HANDLE Get() const { return m_handle; }
-    void Close()
-    {
-        if (IsValid()) {
-            CloseHandle(m_handle);
-        }
-        m_handle = INVALID_HANDLE_VALUE;
-    }
-    void Reset(HANDLE handle)
-    {
-        Close();
-        m_handle = handle;
-    }
-
-  private:
-    HANDLE m_handle;
-};
 
 /** Full path with the prefix that lifts the length limit of file calls; empty for an empty or impossible path. */
 CString LongPath(LPCWSTR path);
@@ -45,20 +18,20 @@ CString FullPath(LPCWSTR path);
 /** Reads everything from an open file's position on; ERROR_FILE_TOO_LARGE above @p limit bytes. */
 DWORD ReadToEnd(HANDLE file, size_t limit, std::vector<BYTE>& bytes);
 
-/** Reads a whole file; 0 or the system's code. */
+/** Reads a whole file; ERROR_SUCCESS or the system's code. */
 DWORD ReadWholeFile(LPCWSTR path, size_t limit, std::vector<BYTE>& bytes);
 
-/** Writes all bytes; 0 or the system's code. */
+/** Writes all bytes; ERROR_SUCCESS or the system's code. */
 DWORD WriteAll(HANDLE file, const void* data, DWORD size);
 
 /**
  * Makes a new, empty file called @p stem with ".part" added, and a number behind it when that name is taken.
  * @param[out] file open for writing. @param[out] path its name.
- * @return 0 or the system's code.
+ * @return ERROR_SUCCESS or the system's code.
  */
-DWORD CreatePart(const CString& stem, Handle& file, CString& path);
+DWORD CreatePart(const CString& stem, own::File& file, CString& path);
 
-/** Writes a file beside its place and moves it there when complete; 0 or the system's code. */
+/** Writes a file beside its place and moves it there when complete; ERROR_SUCCESS or the system's code. */
 DWORD ReplaceWholeFile(LPCWSTR path, const void* data, DWORD size);
 
 } // namespace qor

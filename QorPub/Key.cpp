@@ -1,10 +1,10 @@
-#include <QorPub/QorPub.h>
+#include "QorPub.h"
 
 namespace
 {
 
-constexpr DWORD MAX_KEY_NAME = 256;
-constexpr DWORD MAX_VALUE_NAME = 16384;
+constexpr DWORD kMaxKeyName = 256;
+constexpr DWORD kMaxValueName = 16384;
 
 struct PrimaryKey
 {
@@ -29,7 +29,7 @@ CString WithoutLastBackslash(LPCWSTR path)
 /** Reads a value whose size may change between the calls. */
 LONG QueryBytes(HKEY key, LPCWSTR name, DWORD& type, std::vector<BYTE>& bytes)
 {
-    if (key == nullptr) {
+    if (!key) {
         return ERROR_INVALID_HANDLE;
     }
     DWORD size = 0;
@@ -71,10 +71,10 @@ std::vector<WCHAR> ToChars(const std::vector<BYTE>& bytes)
 
 LONG SetBytes(HKEY key, LPCWSTR name, DWORD type, const void* data, size_t size)
 {
-    if (key == nullptr) {
+    if (!key) {
         return ERROR_INVALID_HANDLE;
     }
-    if ((data == nullptr && size != 0) || size > MAXDWORD) {
+    if ((!data && size != 0) || size > MAXDWORD) {
         return ERROR_INVALID_PARAMETER;
     }
     return RegSetValueExW(key, name, 0, type, static_cast<const BYTE*>(data), static_cast<DWORD>(size));
@@ -92,8 +92,8 @@ CQorKey::~CQorKey()
 LONG CQorKey::Open(HKEY parent, LPCWSTR path, REGSAM access, DWORD options)
 {
     HKEY key = nullptr;
-    LONG status = parent != nullptr ? RegOpenKeyExW(parent, WithoutLastBackslash(path), options, access, &key)
-                                    : static_cast<LONG>(ERROR_INVALID_HANDLE);
+    LONG status = parent ? RegOpenKeyExW(parent, WithoutLastBackslash(path), options, access, &key)
+                         : static_cast<LONG>(ERROR_INVALID_HANDLE);
     Close();
     if (status == ERROR_SUCCESS) {
         m_key = key;
@@ -104,9 +104,9 @@ LONG CQorKey::Open(HKEY parent, LPCWSTR path, REGSAM access, DWORD options)
 LONG CQorKey::Create(HKEY parent, LPCWSTR path, REGSAM access, DWORD options, DWORD* disposition)
 {
     HKEY key = nullptr;
-    LONG status = parent != nullptr ? RegCreateKeyExW(parent, WithoutLastBackslash(path), 0, nullptr, options, access,
-                                                      nullptr, &key, disposition)
-                                    : static_cast<LONG>(ERROR_INVALID_HANDLE);
+    LONG status = parent ? RegCreateKeyExW(parent, WithoutLastBackslash(path), 0, nullptr, options, access, nullptr,
+                                           &key, disposition)
+                         : static_cast<LONG>(ERROR_INVALID_HANDLE);
     Close();
     if (status == ERROR_SUCCESS) {
         m_key = key;
@@ -116,7 +116,7 @@ LONG CQorKey::Create(HKEY parent, LPCWSTR path, REGSAM access, DWORD options, DW
 
 void CQorKey::Close()
 {
-    if (m_key != nullptr && QorPrimaryKey2Acronym(m_key) == nullptr) {
+    if (m_key && !QorPrimaryKey2Acronym(m_key)) {
         RegCloseKey(m_key);
     }
     m_key = nullptr;
@@ -131,16 +131,16 @@ HKEY CQorKey::Detach()
 
 LONG CQorKey::QueryInfo(LPCWSTR name, DWORD* type, DWORD* size) const
 {
-    if (m_key == nullptr) {
+    if (!m_key) {
         return ERROR_INVALID_HANDLE;
     }
     DWORD foundType = 0;
     DWORD foundSize = 0;
     LONG status = RegQueryValueExW(m_key, name, nullptr, &foundType, nullptr, &foundSize);
-    if (status == ERROR_SUCCESS && type != nullptr) {
+    if (status == ERROR_SUCCESS && type) {
         *type = foundType;
     }
-    if (status == ERROR_SUCCESS && size != nullptr) {
+    if (status == ERROR_SUCCESS && size) {
         *size = foundSize;
     }
     return status;
@@ -198,7 +198,7 @@ LONG CQorKey::QueryMultiString(LPCWSTR name, CStringArray& value) const
 
 LONG CQorKey::SetString(LPCWSTR name, LPCWSTR value, DWORD type)
 {
-    if (value == nullptr) {
+    if (!value) {
         value = L"";
     }
     return SetBytes(m_key, name, type, value, (wcslen(value) + 1) * sizeof(WCHAR));
@@ -230,11 +230,11 @@ LONG CQorKey::SetMultiString(LPCWSTR name, const CStringArray& value)
 
 LONG CQorKey::EnumKey(DWORD index, CString& name) const
 {
-    if (m_key == nullptr) {
+    if (!m_key) {
         return ERROR_INVALID_HANDLE;
     }
-    WCHAR text[MAX_KEY_NAME] = {};
-    LONG status = RegEnumKeyW(m_key, index, text, MAX_KEY_NAME);
+    WCHAR text[kMaxKeyName] = {};
+    LONG status = RegEnumKeyW(m_key, index, text, kMaxKeyName);
     if (status == ERROR_SUCCESS) {
         name = text;
     }
@@ -243,18 +243,18 @@ LONG CQorKey::EnumKey(DWORD index, CString& name) const
 
 LONG CQorKey::EnumValue(DWORD index, CString& name, DWORD* type) const
 {
-    if (m_key == nullptr) {
+    if (!m_key) {
         return ERROR_INVALID_HANDLE;
     }
-    std::vector<WCHAR> text(MAX_VALUE_NAME);
-    DWORD length = MAX_VALUE_NAME;
+    std::vector<WCHAR> text(kMaxValueName);
+    DWORD length = kMaxValueName;
     DWORD foundType = 0;
     LONG status = RegEnumValueW(m_key, index, text.data(), &length, nullptr, &foundType, nullptr, nullptr);
     if (status != ERROR_SUCCESS) {
         return status;
     }
     name = CString(text.data(), static_cast<int>(length));
-    if (type != nullptr) {
+    if (type) {
         *type = foundType;
     }
     return ERROR_SUCCESS;
@@ -262,12 +262,12 @@ LONG CQorKey::EnumValue(DWORD index, CString& name, DWORD* type) const
 
 LONG CQorKey::DeleteValue(LPCWSTR name)
 {
-    return m_key != nullptr ? RegDeleteValueW(m_key, name) : static_cast<LONG>(ERROR_INVALID_HANDLE);
+    return m_key ? RegDeleteValueW(m_key, name) : static_cast<LONG>(ERROR_INVALID_HANDLE);
 }
 
 LONG CQorKey::DeleteKey(LPCWSTR path)
 {
-    if (m_key == nullptr) {
+    if (!m_key) {
         return ERROR_INVALID_HANDLE;
     }
     CString name = WithoutLastBackslash(path);
@@ -277,15 +277,15 @@ LONG CQorKey::DeleteKey(LPCWSTR path)
 
 HKEY QorAcronym2PrimaryKey(LPCWSTR entry, int* acronymLength)
 {
-    if (acronymLength != nullptr) {
+    if (acronymLength) {
         *acronymLength = 0;
     }
     for (const PrimaryKey& primary : g_primaryKeys) {
         size_t length = wcslen(primary.acronym);
-        if (entry == nullptr || _wcsnicmp(entry, primary.acronym, length) != 0) {
+        if (!entry || _wcsnicmp(entry, primary.acronym, length) != 0) {
             continue;
         }
-        if (acronymLength != nullptr) {
+        if (acronymLength) {
             *acronymLength = static_cast<int>(length);
         }
         return primary.key;

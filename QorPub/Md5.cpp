@@ -1,4 +1,4 @@
-#include <QorPub/QorPub.h>
+#include "QorPub.h"
 
 #include <bcrypt.h>
 
@@ -29,7 +29,7 @@ struct Cng
 Cng::Cng()
 {
     HMODULE module = LoadLibraryW(L"bcrypt.dll");
-    if (module == nullptr) {
+    if (!module) {
         return;
     }
     bool found = Find(module, "BCryptOpenAlgorithmProvider", openAlgorithm) &&
@@ -58,7 +58,7 @@ CQorMd5::~CQorMd5()
 BOOL CQorMd5::Begin()
 {
     const Cng& cng = TheCng();
-    if (m_hash == nullptr && cng.md5 != nullptr && cng.createHash(cng.md5, &m_hash, nullptr, 0, nullptr, 0, 0) < 0) {
+    if (!m_hash && cng.md5 && cng.createHash(cng.md5, &m_hash, nullptr, 0, nullptr, 0, 0) < 0) {
         m_hash = nullptr;
     }
     return m_hash != nullptr;
@@ -66,7 +66,7 @@ BOOL CQorMd5::Begin()
 
 void CQorMd5::Drop()
 {
-    if (m_hash != nullptr) {
+    if (m_hash) {
         TheCng().destroyHash(m_hash);
     }
     m_hash = nullptr;
@@ -74,7 +74,7 @@ void CQorMd5::Drop()
 
 BOOL CQorMd5::Update(const void* data, DWORD size)
 {
-    if ((data == nullptr && size != 0) || !Begin()) {
+    if ((!data && size != 0) || !Begin()) {
         return FALSE;
     }
     auto bytes = static_cast<PUCHAR>(const_cast<void*>(data));
@@ -83,7 +83,7 @@ BOOL CQorMd5::Update(const void* data, DWORD size)
 
 BOOL CQorMd5::Final(BYTE* digest)
 {
-    if (digest == nullptr || !Begin()) {
+    if (!digest || !Begin()) {
         return FALSE;
     }
     BOOL done = TheCng().finishHash(m_hash, digest, MD5_DIGEST_SIZE, 0) >= 0;
@@ -100,7 +100,7 @@ BOOL CQorMd5::Digest(const void* data, DWORD size, BYTE* digest)
 CString CQorMd5::ToHex(const BYTE* digest)
 {
     CString hex;
-    for (DWORD i = 0; digest != nullptr && i < MD5_DIGEST_SIZE; ++i) {
+    for (DWORD i = 0; digest && i < MD5_DIGEST_SIZE; ++i) {
         hex.AppendFormat(L"%02x", digest[i]);
     }
     return hex;

@@ -1,4 +1,4 @@
-#include <QorPub/QorPub.h>
+#include "QorPub.h"
 
 #include <algorithm>
 #include <new>
@@ -39,7 +39,7 @@ class ReadOnlyMemStream final : public IStream
 
 HRESULT ReadOnlyMemStream::QueryInterface(REFIID iid, void** object)
 {
-    if (object == nullptr) {
+    if (!object) {
         return E_POINTER;
     }
     bool known = iid == IID_IUnknown || iid == IID_ISequentialStream || iid == IID_IStream;
@@ -62,7 +62,7 @@ ULONG ReadOnlyMemStream::Release()
 
 HRESULT ReadOnlyMemStream::Read(void* buffer, ULONG size, ULONG* read)
 {
-    if (buffer == nullptr) {
+    if (!buffer) {
         return STG_E_INVALIDPOINTER;
     }
     ULONG count = (std::min)(size, Rest());
@@ -70,7 +70,7 @@ HRESULT ReadOnlyMemStream::Read(void* buffer, ULONG size, ULONG* read)
         memcpy(buffer, m_data + m_pos, count);
     }
     m_pos += count;
-    if (read != nullptr) {
+    if (read) {
         *read = count;
     }
     return S_OK;
@@ -87,7 +87,7 @@ HRESULT ReadOnlyMemStream::Seek(LARGE_INTEGER move, DWORD origin, ULARGE_INTEGER
         return STG_E_INVALIDFUNCTION;
     }
     m_pos = static_cast<ULONGLONG>(target);
-    if (pos != nullptr) {
+    if (pos) {
         pos->QuadPart = m_pos;
     }
     return S_OK;
@@ -95,17 +95,17 @@ HRESULT ReadOnlyMemStream::Seek(LARGE_INTEGER move, DWORD origin, ULARGE_INTEGER
 
 HRESULT ReadOnlyMemStream::CopyTo(IStream* to, ULARGE_INTEGER size, ULARGE_INTEGER* read, ULARGE_INTEGER* written)
 {
-    if (to == nullptr) {
+    if (!to) {
         return STG_E_INVALIDPOINTER;
     }
     auto count = static_cast<ULONG>((std::min)(size.QuadPart, static_cast<ULONGLONG>(Rest())));
     ULONG done = 0;
     HRESULT result = count != 0 ? to->Write(m_data + m_pos, count, &done) : S_OK;
     m_pos += count;
-    if (read != nullptr) {
+    if (read) {
         read->QuadPart = count;
     }
-    if (written != nullptr) {
+    if (written) {
         written->QuadPart = done;
     }
     return result;
@@ -113,7 +113,7 @@ HRESULT ReadOnlyMemStream::CopyTo(IStream* to, ULARGE_INTEGER size, ULARGE_INTEG
 
 HRESULT ReadOnlyMemStream::Stat(STATSTG* stat, DWORD)
 {
-    if (stat == nullptr) {
+    if (!stat) {
         return STG_E_INVALIDPOINTER;
     }
     *stat = {};
@@ -125,11 +125,11 @@ HRESULT ReadOnlyMemStream::Stat(STATSTG* stat, DWORD)
 
 HRESULT ReadOnlyMemStream::Clone(IStream** clone)
 {
-    if (clone == nullptr) {
+    if (!clone) {
         return STG_E_INVALIDPOINTER;
     }
     *clone = new (std::nothrow) ReadOnlyMemStream(m_data, m_size, m_pos);
-    return *clone != nullptr ? S_OK : STG_E_INSUFFICIENTMEMORY;
+    return *clone ? S_OK : STG_E_INSUFFICIENTMEMORY;
 }
 
 } // namespace
@@ -137,10 +137,10 @@ HRESULT ReadOnlyMemStream::Clone(IStream** clone)
 const void* QorLoadResource(HINSTANCE inst, LPCWSTR name, LPCWSTR type, DWORD& size)
 {
     size = 0;
-    HRSRC found = name != nullptr && type != nullptr ? FindResourceW(inst, name, type) : nullptr;
-    HGLOBAL loaded = found != nullptr ? LoadResource(inst, found) : nullptr;
-    const void* data = loaded != nullptr ? LockResource(loaded) : nullptr;
-    if (data != nullptr) {
+    HRSRC found = name && type ? FindResourceW(inst, name, type) : nullptr;
+    HGLOBAL loaded = found ? LoadResource(inst, found) : nullptr;
+    const void* data = loaded ? LockResource(loaded) : nullptr;
+    if (data) {
         size = SizeofResource(inst, found);
     }
     return data;
@@ -148,7 +148,7 @@ const void* QorLoadResource(HINSTANCE inst, LPCWSTR name, LPCWSTR type, DWORD& s
 
 IStream* QorCreateReadOnlyMemStream(DWORD, const void* data, DWORD size)
 {
-    if (data == nullptr) {
+    if (!data) {
         return nullptr;
     }
     return new (std::nothrow) ReadOnlyMemStream(static_cast<const BYTE*>(data), size, 0);

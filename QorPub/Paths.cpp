@@ -1,10 +1,10 @@
-#include <QorPub/File.h>
-#include <QorPub/QorPub.h>
+#include "File.h"
+#include "QorPub.h"
 
 namespace
 {
 
-constexpr DWORD MAX_LONG_PATH = 32768;
+constexpr DWORD kMaxLongPath = 32768;
 
 CString GetVariable(LPCWSTR name)
 {
@@ -35,8 +35,8 @@ CString TempFolder()
 CString FindAppPath()
 {
     CString path;
-    DWORD length = GetModuleFileNameW(nullptr, path.GetBuffer(MAX_LONG_PATH), MAX_LONG_PATH);
-    path.ReleaseBuffer(length < MAX_LONG_PATH ? static_cast<int>(length) : 0);
+    DWORD length = GetModuleFileNameW(nullptr, path.GetBuffer(kMaxLongPath), kMaxLongPath);
+    path.ReleaseBuffer(length < kMaxLongPath ? static_cast<int>(length) : 0);
     return path.Left(path.ReverseFind(L'\\') + 1);
 }
 

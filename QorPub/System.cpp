@@ -1,5 +1,5 @@
-#include <QorPub/OsVersion.h>
-#include <QorPub/QorPub.h>
+#include "OsVersion.h"
+#include "QorPub.h"
 
 namespace
 {
@@ -11,10 +11,9 @@ OSVERSIONINFOEXW SystemVersion()
     info.dwOSVersionInfoSize = sizeof(info);
     HMODULE ntdll = GetModuleHandleW(L"ntdll.dll");
     auto getVersion =
-        ntdll != nullptr
-            ? reinterpret_cast<RtlGetVersionFn>(reinterpret_cast<void*>(GetProcAddress(ntdll, "RtlGetVersion")))
-            : nullptr;
-    if (getVersion != nullptr) {
+        ntdll ? reinterpret_cast<RtlGetVersionFn>(reinterpret_cast<void*>(GetProcAddress(ntdll, "RtlGetVersion")))
+              : nullptr;
+    if (getVersion) {
         getVersion(&info);
     }
     return info;
@@ -31,7 +30,7 @@ HWND FindVisibleWindow(LPCWSTR className, LPCWSTR title)
     HWND found = nullptr;
     do {
         found = FindWindowExW(nullptr, found, className, title);
-    } while (found != nullptr && !IsWindowVisible(found));
+    } while (found && !IsWindowVisible(found));
     return found;
 }
 
@@ -42,11 +41,11 @@ WORD g_SpVer = SystemVersion().wServicePackMajor;
 
 BOOL QorShowPreInstanceWnd(LPCWSTR className, LPCWSTR title)
 {
-    if (title == nullptr || *title == 0) {
+    if (!title || *title == 0) {
         return FALSE;
     }
-    HWND found = FindVisibleWindow(className != nullptr && *className != 0 ? className : nullptr, title);
-    if (found == nullptr) {
+    HWND found = FindVisibleWindow(className && *className != 0 ? className : nullptr, title);
+    if (!found) {
         return FALSE;
     }
     if (IsIconic(found)) {

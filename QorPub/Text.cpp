@@ -1,9 +1,9 @@
-#include <QorPub/QorPub.h>
+#include "QorPub.h"
 
 namespace
 {
 
-constexpr ULONGLONG UNIT_STEP = 1024;
+constexpr ULONGLONG kUnitStep = 1024;
 
 CString LocaleText(LCTYPE type, LPCWSTR fallback)
 {
@@ -64,13 +64,13 @@ CString LastComponent(LPCWSTR path)
 
 CStringA WStrToUTF8(LPCWSTR text)
 {
-    return WStrToUTF8(text, text != nullptr ? static_cast<int>(wcslen(text)) : 0);
+    return WStrToUTF8(text, text ? static_cast<int>(wcslen(text)) : 0);
 }
 
 CStringA WStrToUTF8(LPCWSTR text, int length)
 {
     CStringA utf8;
-    if (text == nullptr || length <= 0) {
+    if (!text || length <= 0) {
         return utf8;
     }
     int size = WideCharToMultiByte(CP_UTF8, 0, text, length, nullptr, 0, nullptr, nullptr);
@@ -83,13 +83,13 @@ CStringA WStrToUTF8(LPCWSTR text, int length)
 
 CString UTF8ToWStr(LPCSTR text)
 {
-    return UTF8ToWStr(text, text != nullptr ? static_cast<int>(strlen(text)) : 0);
+    return UTF8ToWStr(text, text ? static_cast<int>(strlen(text)) : 0);
 }
 
 CString UTF8ToWStr(LPCSTR text, int length)
 {
     CString wide;
-    if (text == nullptr || length <= 0) {
+    if (!text || length <= 0) {
         return wide;
     }
     int size = MultiByteToWideChar(CP_UTF8, 0, text, length, nullptr, 0);
@@ -102,24 +102,24 @@ CString UTF8ToWStr(LPCSTR text, int length)
 
 CString QorFormatSize(ULONGLONG size)
 {
-    static constexpr LPCWSTR units[] = {L" KB", L" MB", L" GB", L" TB", L" PB", L" EB"};
-    if (size < UNIT_STEP) {
+    static constexpr LPCWSTR kUnits[] = {L" KB", L" MB", L" GB", L" TB", L" PB", L" EB"};
+    if (size < kUnitStep) {
         return GroupDigits(size) + (size == 1 ? L" byte" : L" bytes");
     }
     size_t unit = 0;
-    ULONGLONG divisor = UNIT_STEP;
-    while (size / divisor >= UNIT_STEP) {
-        divisor *= UNIT_STEP;
+    ULONGLONG divisor = kUnitStep;
+    while (size / divisor >= kUnitStep) {
+        divisor *= kUnitStep;
         ++unit;
     }
     ULONGLONG whole = size / divisor;
     ULONGLONG rest = size % divisor;
     if (divisor > ~0ULL / 100) {
         // A hundred times the rest would overflow; ten bits fewer change nothing that is shown.
-        rest /= UNIT_STEP;
-        divisor /= UNIT_STEP;
+        rest /= kUnitStep;
+        divisor /= kUnitStep;
     }
-    return FormatUnits(whole, static_cast<unsigned>(rest * 100 / divisor)) + units[unit];
+    return FormatUnits(whole, static_cast<unsigned>(rest * 100 / divisor)) + kUnits[unit];
 }
 
 BOOL QorFindExtName(LPCWSTR filter, LPCWSTR path)

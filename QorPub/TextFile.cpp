@@ -1,28 +1,28 @@
-#include <QorPub/File.h>
-#include <QorPub/Guard.h>
-#include <QorPub/QorPub.h>
+#include "File.h"
+#include "Guard.h"
+#include "QorPub.h"
 
 #include <cstdarg>
 
 namespace
 {
 
-constexpr size_t READ_LIMIT = size_t{256} * 1024 * 1024;
-constexpr int TEXTFILE_UTF16BE = 3;
-constexpr int BOM_SIZE_UTF8 = 3;
-constexpr int BOM_SIZE_UTF16 = 2;
+constexpr size_t kReadLimit = size_t{256} * 1024 * 1024;
+constexpr int kTextFileUtf16Be = 3;
+constexpr int kBomSizeUtf8 = 3;
+constexpr int kBomSizeUtf16 = 2;
 
 /** Encoding that a byte-order mark names, or -1. */
 int EncodingOfMark(const BYTE* bytes, size_t size)
 {
-    if (size >= BOM_SIZE_UTF8 && bytes[0] == 0xEF && bytes[1] == 0xBB && bytes[2] == 0xBF) {
+    if (size >= kBomSizeUtf8 && bytes[0] == 0xEF && bytes[1] == 0xBB && bytes[2] == 0xBF) {
         return TEXTFILE_UTF8_BOM;
     }
-    if (size >= BOM_SIZE_UTF16 && bytes[0] == 0xFF && bytes[1] == 0xFE) {
+    if (size >= kBomSizeUtf16 && bytes[0] == 0xFF && bytes[1] == 0xFE) {
         return TEXTFILE_UTF16LE;
     }
-    if (size >= BOM_SIZE_UTF16 && bytes[0] == 0xFE && bytes[1] == 0xFF) {
-        return TEXTFILE_UTF16BE;
+    if (size >= kBomSizeUtf16 && bytes[0] == 0xFE && bytes[1] == 0xFF) {
+        return kTextFileUtf16Be;
     }
     return -1;
 }
@@ -43,12 +43,12 @@ CString Decode(const BYTE* bytes, size_t size, int encoding)
 {
     int marked = EncodingOfMark(bytes, size);
     if (marked >= 0) {
-        size_t mark = marked == TEXTFILE_UTF8_BOM ? BOM_SIZE_UTF8 : BOM_SIZE_UTF16;
+        size_t mark = marked == TEXTFILE_UTF8_BOM ? kBomSizeUtf8 : kBomSizeUtf16;
         bytes += mark;
         size -= mark;
         encoding = marked;
     }
-    if (encoding == TEXTFILE_UTF16LE || encoding == TEXTFILE_UTF16BE) {
+    if (encoding == TEXTFILE_UTF16LE || encoding == kTextFileUtf16Be) {
         return DecodeUtf16(bytes, size, encoding == TEXTFILE_UTF16LE);
     }
     return UTF8ToWStr(reinterpret_cast<LPCSTR>(bytes), static_cast<int>(size));
@@ -121,7 +121,7 @@ DWORD CTextFile::OpenFile(LPCWSTR path, int mode, int encoding)
 DWORD CTextFile::LoadText(int encoding)
 {
     std::vector<BYTE> bytes;
-    DWORD status = qor::ReadToEnd(m_file, READ_LIMIT, bytes);
+    DWORD status = qor::ReadToEnd(m_file, kReadLimit, bytes);
     if (status != ERROR_SUCCESS) {
         return status;
     }
@@ -133,7 +133,7 @@ DWORD CTextFile::LoadText(int encoding)
 BOOL CTextFile::StartWriting(int encoding)
 {
     m_encoding = FindEncoding(encoding);
-    if (m_encoding == TEXTFILE_UTF16BE) {
+    if (m_encoding == kTextFileUtf16Be) {
         SetLastError(ERROR_NOT_SUPPORTED);
         return FALSE;
     }
@@ -144,13 +144,13 @@ BOOL CTextFile::StartWriting(int encoding)
     if (size.QuadPart != 0 || m_encoding == TEXTFILE_UTF8) {
         return TRUE;
     }
-    return m_encoding == TEXTFILE_UTF8_BOM ? WriteBytes("\xEF\xBB\xBF", BOM_SIZE_UTF8)
-                                           : WriteBytes("\xFF\xFE", BOM_SIZE_UTF16);
+    return m_encoding == TEXTFILE_UTF8_BOM ? WriteBytes("\xEF\xBB\xBF", kBomSizeUtf8)
+                                           : WriteBytes("\xFF\xFE", kBomSizeUtf16);
 }
 
 int CTextFile::FindEncoding(int encoding)
 {
-    BYTE head[BOM_SIZE_UTF8] = {};
+    BYTE head[kBomSizeUtf8] = {};
     DWORD got = 0;
     int marked = ReadFile(m_file, head, sizeof(head), &got, nullptr) ? EncodingOfMark(head, got) : -1;
     return marked >= 0 ? marked : encoding;
@@ -172,7 +172,7 @@ BOOL CTextFile::WriteString(LPCWSTR text)
         SetLastError(ERROR_INVALID_HANDLE);
         return FALSE;
     }
-    if (text == nullptr) {
+    if (!text) {
         text = L"";
     }
     if (m_encoding == TEXTFILE_UTF16LE) {
@@ -190,7 +190,7 @@ BOOL CTextFile::WriteStringV(LPCWSTR format, ...)
     va_list args;
     va_start(args, format);
     BOOL formatted = Succeeds([&] {
-        if (format != nullptr) {
+        if (format) {
             text.FormatV(format, args);
         }
         return static_cast<DWORD>(ERROR_SUCCESS);

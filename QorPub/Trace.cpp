@@ -1,13 +1,13 @@
-#include <QorPub/File.h>
-#include <QorPub/QorPub.h>
+#include "File.h"
+#include "QorPub.h"
 
 #include <cstdarg>
 
 namespace
 {
 
-constexpr int TRACE_TEXT_LIMIT = 2000;
-constexpr DWORD TRACE_LOCK_WAIT = 2000;
+constexpr int kTraceTextLimit = 2000;
+constexpr DWORD kTraceLockWait = 2000;
 
 /** Keeps the thread's last error as it was. */
 class LastErrorKeeper
@@ -28,7 +28,7 @@ class LogLock
   public:
     explicit LogLock(const CString& path) : m_mutex(CreateMutexW(nullptr, FALSE, MutexName(path)))
     {
-        DWORD waited = m_mutex.IsValid() ? WaitForSingleObject(m_mutex.Get(), TRACE_LOCK_WAIT) : WAIT_FAILED;
+        DWORD waited = m_mutex ? WaitForSingleObject(m_mutex.Get(), kTraceLockWait) : WAIT_FAILED;
         m_owned = waited == WAIT_OBJECT_0 || waited == WAIT_ABANDONED;
     }
     ~LogLock()
@@ -43,19 +43,19 @@ class LogLock
   private:
     static CString MutexName(CString path)
     {
-        constexpr ULONGLONG FNV_START = 14695981039346656037ULL;
-        constexpr ULONGLONG FNV_PRIME = 1099511628211ULL;
+        constexpr ULONGLONG kFnvStart = 14695981039346656037ULL;
+        constexpr ULONGLONG kFnvPrime = 1099511628211ULL;
         path.MakeUpper();
-        ULONGLONG hash = FNV_START;
+        ULONGLONG hash = kFnvStart;
         for (int i = 0; i < path.GetLength(); ++i) {
-            hash = (hash ^ path[i]) * FNV_PRIME;
+            hash = (hash ^ path[i]) * kFnvPrime;
         }
         CString name;
         name.Format(L"Local\\QorTrace-%016I64x", hash);
         return name;
     }
 
-    qor::Handle m_mutex;
+    own::KernelObject m_mutex;
     bool m_owned = false;
 };
 
@@ -90,17 +90,17 @@ void AppendToLog(const CString& folder, const CStringA& line)
 {
     CString path = folder + L"\\qor.log";
     LogLock lock(path);
-    qor::Handle file(OpenLog(path));
-    if (!file.IsValid() && QorCreateFolder(folder)) {
+    own::File file(OpenLog(path));
+    if (!file && QorCreateFolder(folder)) {
         file.Reset(OpenLog(path));
     }
     LARGE_INTEGER size = {};
-    if (file.IsValid() && GetFileSizeEx(file.Get(), &size) && size.QuadPart >= TRACE_LOG_LIMIT) {
-        file.Close();
+    if (file && GetFileSizeEx(file.Get(), &size) && size.QuadPart >= TRACE_LOG_LIMIT) {
+        file.Reset();
         MoveFileExW(path, path + L".1", MOVEFILE_REPLACE_EXISTING);
         file.Reset(OpenLog(path));
     }
-    if (file.IsValid()) {
+    if (file) {
         qor::WriteAll(file.Get(), line.GetString(), static_cast<DWORD>(line.GetLength()));
     }
 }
@@ -110,11 +110,11 @@ void AppendToLog(const CString& folder, const CStringA& line)
 void QorTrace(DWORD level, DWORD code, LPCWSTR function, LPCWSTR source, int line, LPCWSTR format, ...)
 {
     LastErrorKeeper keeper;
-    WCHAR text[TRACE_TEXT_LIMIT + 1] = {};
+    WCHAR text[kTraceTextLimit + 1] = {};
     va_list args;
     va_start(args, format);
-    if (format != nullptr) {
-        _vsnwprintf(text, TRACE_TEXT_LIMIT, format, args);
+    if (format) {
+        _vsnwprintf(text, kTraceTextLimit, format, args);
     }
     va_end(args);
     try {

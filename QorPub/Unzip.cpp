@@ -1,7 +1,7 @@
-#include <QorPub/File.h>
-#include <QorPub/Guard.h>
-#include <QorPub/QorPub.h>
-#include <QorPub/ZipNames.h>
+#include "File.h"
+#include "Guard.h"
+#include "QorPub.h"
+#include "ZipNames.h"
 
 #include <minizip/unzip.h>
 
@@ -10,40 +10,30 @@
 namespace
 {
 
-constexpr DWORD BLOCK_SIZE = 256 * 1024;
-constexpr uLong FLAG_UTF8_NAME = 1 << 11;
+constexpr DWORD kBlockSize = 256 * 1024;
+constexpr uLong kFlagUtf8Name = 1 << 11;
 
 /** An archive open for reading. */
 class Archive
 {
   public:
-    Archive() = default;
-    ~Archive()
-    {
-        if (m_file != nullptr) {
-            unzClose(m_file);
-        }
-    }
-    Archive(const Archive&) = delete;
-    Archive& operator=(const Archive&) = delete;
-
-    /** 0 or the system's code. An archive without entries is open, but without file. */
+    /** ERROR_SUCCESS or the system's code. An archive without entries is open, but without file. */
     DWORD Open(LPCWSTR path);
-    unzFile Get() const { return m_file; }
+    unzFile Get() const { return m_file.Get(); }
 
-    /** Calls @p visit with every entry until one gives a code other than 0. */
+    /** Calls @p visit with every entry until one gives another code than ERROR_SUCCESS. */
     template <typename F>
     DWORD ForEach(F visit)
     {
-        if (m_file == nullptr) {
+        if (!m_file) {
             return ERROR_SUCCESS;
         }
         unz_global_info64 global = {};
-        if (unzGetGlobalInfo64(m_file, &global) != UNZ_OK) {
+        if (unzGetGlobalInfo64(m_file.Get(), &global) != UNZ_OK) {
             return ERROR_INVALID_DATA;
         }
-        int found = global.number_entry != 0 ? unzGoToFirstFile(m_file) : UNZ_END_OF_LIST_OF_FILE;
-        for (; found == UNZ_OK; found = unzGoToNextFile(m_file)) {
+        int found = global.number_entry != 0 ? unzGoToFirstFile(m_file.Get()) : UNZ_END_OF_LIST_OF_FILE;
+        for (; found == UNZ_OK; found = unzGoToNextFile(m_file.Get())) {
             DWORD status = visit();
             if (status != ERROR_SUCCESS) {
                 return status;
@@ -56,17 +46,17 @@ class Archive
     DWORD Current(CString& name, uLong& dosTime) const;
 
   private:
-    unzFile m_file = nullptr;
+    own::Owner<own::FreedBy<unzFile, ::unzClose>> m_file;
 };
 
 /** Tells an archive without entries, which the archive library takes for a damaged one. */
 bool IsEmptyArchive(HANDLE file)
 {
-    static constexpr BYTE empty[] = {'P', 'K', 5, 6, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0};
-    BYTE bytes[sizeof(empty) + 1] = {};
+    static constexpr BYTE kEmpty[] = {'P', 'K', 5, 6, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0};
+    BYTE bytes[sizeof(kEmpty) + 1] = {};
     DWORD got = 0;
-    return ReadFile(file, bytes, sizeof(bytes), &got, nullptr) && got == sizeof(empty) &&
-           memcmp(bytes, empty, sizeof(empty)) == 0;
+    return ReadFile(file, bytes, sizeof(bytes), &got, nullptr) && got == sizeof(kEmpty) &&
+           memcmp(bytes, kEmpty, sizeof(kEmpty)) == 0;
 }
 
 DWORD Archive::Open(LPCWSTR path)
@@ -76,19 +66,19 @@ DWORD Archive::Open(LPCWSTR path)
         return ERROR_INVALID_NAME;
     }
     // The archive library does not tell a missing file from a damaged one.
-    qor::Handle probe(
+    own::File probe(
         CreateFileW(name, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (!probe.IsValid()) {
+    if (!probe) {
         return GetLastError();
     }
     if (IsEmptyArchive(probe.Get())) {
         return ERROR_SUCCESS;
     }
-    probe.Close();
+    probe.Reset();
     zlib_filefunc64_def files = {};
     fill_win32_filefunc64W(&files);
-    m_file = unzOpen2_64(name.GetString(), &files);
-    return m_file != nullptr ? ERROR_SUCCESS : ERROR_INVALID_DATA;
+    m_file.Reset(unzOpen2_64(name.GetString(), &files));
+    return m_file ? ERROR_SUCCESS : ERROR_INVALID_DATA;
 }
 
 CString DecodeName(const std::vector<char>& bytes, bool utf8)
@@ -105,14 +95,15 @@ CString DecodeName(const std::vector<char>& bytes, bool utf8)
 DWORD Archive::Current(CString& name, uLong& dosTime) const
 {
     unz_file_info64 info = {};
-    if (unzGetCurrentFileInfo64(m_file, &info, nullptr, 0, nullptr, 0, nullptr, 0) != UNZ_OK) {
+    if (unzGetCurrentFileInfo64(m_file.Get(), &info, nullptr, 0, nullptr, 0, nullptr, 0) != UNZ_OK) {
         return ERROR_INVALID_DATA;
     }
     std::vector<char> bytes(info.size_filename + 1);
-    if (unzGetCurrentFileInfo64(m_file, &info, bytes.data(), info.size_filename, nullptr, 0, nullptr, 0) != UNZ_OK) {
+    if (unzGetCurrentFileInfo64(m_file.Get(), &info, bytes.data(), info.size_filename, nullptr, 0, nullptr, 0) !=
+        UNZ_OK) {
         return ERROR_INVALID_DATA;
     }
-    name = DecodeName(bytes, (info.flag & FLAG_UTF8_NAME) != 0);
+    name = DecodeName(bytes, (info.flag & kFlagUtf8Name) != 0);
     dosTime = info.dosDate;
     return ERROR_SUCCESS;
 }
@@ -122,7 +113,7 @@ class Unpacker
 {
   public:
     Unpacker(Archive& archive, CString folder, bool overwrite)
-        : m_archive(archive), m_folder(std::move(folder)), m_overwrite(overwrite), m_block(BLOCK_SIZE)
+        : m_archive(archive), m_folder(std::move(folder)), m_overwrite(overwrite), m_block(kBlockSize)
     {
     }
 
@@ -183,7 +174,7 @@ DWORD Unpacker::UnpackFile(const CString& path, uLong dosTime)
     if (!m_overwrite && GetFileAttributesW(path) != INVALID_FILE_ATTRIBUTES) {
         return ERROR_FILE_EXISTS;
     }
-    qor::Handle file;
+    own::File file;
     CString part;
     // Not called after the entry, whose name may be as long as a name can be.
     DWORD status = qor::CreatePart(path.Left(path.ReverseFind(L'\\')) + L"\\~unpacked", file, part);
@@ -191,7 +182,7 @@ DWORD Unpacker::UnpackFile(const CString& path, uLong dosTime)
         return status;
     }
     status = WriteEntry(file.Get(), dosTime);
-    file.Close();
+    file.Reset();
     if (status == ERROR_SUCCESS) {
         status = MoveIntoPlace(part, path);
     }
@@ -225,7 +216,7 @@ DWORD Unpacker::MoveIntoPlace(const CString& part, const CString& path) const
 DWORD Unpacker::WriteFileData(HANDLE file)
 {
     for (;;) {
-        int got = unzReadCurrentFile(m_archive.Get(), m_block.data(), BLOCK_SIZE);
+        int got = unzReadCurrentFile(m_archive.Get(), m_block.data(), kBlockSize);
         if (got <= 0) {
             return got == 0 ? ERROR_SUCCESS : ERROR_INVALID_DATA;
         }

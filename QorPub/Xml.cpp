@@ -1,7 +1,7 @@
-#include <QorPub/File.h>
-#include <QorPub/Guard.h>
-#include <QorPub/QorPub.h>
-#include <QorPub/XmlParse.h>
+#include "File.h"
+#include "Guard.h"
+#include "QorPub.h"
+#include "XmlParse.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -27,7 +27,7 @@ std::string Narrow(const std::wstring& text)
 
 LPCWSTR OrEmpty(LPCWSTR text)
 {
-    return text != nullptr ? text : L"";
+    return text ? text : L"";
 }
 
 bool IsXmlName(LPCWSTR name)
@@ -58,7 +58,7 @@ void Fill(CXmlElem& elem, const qor::xml::Node& node)
     }
     for (const qor::xml::Node& child : node.children) {
         CXmlElem* added = elem.AddChild(Widen(child.name).c_str());
-        if (added != nullptr) {
+        if (added) {
             Fill(*added, child);
         }
     }
@@ -97,7 +97,7 @@ LPCWSTR CXmlElem::GetData() const
 LPCWSTR CXmlElem::GetChildData(LPCWSTR key, int flag) const
 {
     const CXmlElem* child = FindChild(key);
-    if (child != nullptr) {
+    if (child) {
         return child->GetData();
     }
     if (flag != 1) {
@@ -121,7 +121,7 @@ int CXmlElem::GetAttrInt(LPCWSTR name, int missing) const
 {
     int value = 0;
     LPCWSTR text = GetAttr(name);
-    return text != nullptr && ParseInt(text, value) ? value : missing;
+    return text && ParseInt(text, value) ? value : missing;
 }
 
 int CXmlElem::GetAttrCount() const
@@ -167,7 +167,7 @@ CXmlElem* CXmlElem::FindChildByAttr(LPCWSTR name, LPCWSTR attr, LPCWSTR value) c
             continue;
         }
         LPCWSTR found = child->GetAttr(attr);
-        if (found != nullptr && wcscmp(found, OrEmpty(value)) == 0) {
+        if (found && wcscmp(found, OrEmpty(value)) == 0) {
             return child.get();
         }
     }
@@ -240,7 +240,7 @@ DWORD CQorXml::Load(LPCWSTR path)
     Clear();
     return qor::GuardMemory([&] {
         std::vector<BYTE> bytes;
-        DWORD status = qor::ReadWholeFile(path, qor::xml::MAX_SIZE, bytes);
+        DWORD status = qor::ReadWholeFile(path, qor::xml::kMaxSize, bytes);
         return status == ERROR_SUCCESS ? LoadMemory(bytes.data(), bytes.size()) : status;
     });
 }
@@ -248,7 +248,7 @@ DWORD CQorXml::Load(LPCWSTR path)
 DWORD CQorXml::LoadMemory(const void* data, size_t size)
 {
     Clear();
-    if (size > qor::xml::MAX_SIZE) {
+    if (size > qor::xml::kMaxSize) {
         return ERROR_FILE_TOO_LARGE;
     }
     return qor::GuardMemory([&]() -> DWORD {
@@ -268,7 +268,7 @@ DWORD CQorXml::LoadMemory(const void* data, size_t size)
 
 DWORD CQorXml::Save(LPCWSTR path) const
 {
-    if (m_root == nullptr) {
+    if (!m_root) {
         return ERROR_INVALID_DATA;
     }
     return qor::GuardMemory([&] {
@@ -279,7 +279,7 @@ DWORD CQorXml::Save(LPCWSTR path) const
 
 BOOL CQorXml::SaveMemory(CStringA& text) const
 {
-    if (m_root == nullptr) {
+    if (!m_root) {
         return FALSE;
     }
     DWORD status = qor::GuardMemory([&] {

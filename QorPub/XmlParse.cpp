@@ -1,4 +1,4 @@
-#include <QorPub/XmlParse.h>
+#include "XmlParse.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -13,9 +13,9 @@ namespace
 {
 
 // References are replaced here: the parser would take one to the null character for the end of the text.
-constexpr unsigned PARSE_FLAGS =
+constexpr unsigned kParseFlags =
     (pugi::parse_default & ~pugi::parse_escapes) | pugi::parse_ws_pcdata_single | pugi::parse_fragment;
-constexpr uint32_t LAST_CODE = 0x10FFFF;
+constexpr uint32_t kLastCode = 0x10FFFF;
 
 bool Fail(Error& error, const char* message, size_t offset)
 {
@@ -40,14 +40,14 @@ pugi::xml_encoding FindEncoding(const uint8_t* data, size_t size)
 
 bool IsCharacter(uint32_t code)
 {
-    return code != 0 && code <= LAST_CODE && (code < 0xD800 || code > 0xDFFF);
+    return code != 0 && code <= kLastCode && (code < 0xD800 || code > 0xDFFF);
 }
 
 /** Smallest code point that needs a UTF-8 sequence of this length. */
 uint32_t SmallestOfLength(int length)
 {
-    constexpr uint32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
-    return smallest[length];
+    constexpr uint32_t kSmallest[] = {0, 0, 0x80, 0x800, 0x10000};
+    return kSmallest[length];
 }
 
 int Utf8Length(uint8_t lead)
@@ -135,7 +135,7 @@ bool IsText(const pugi::xml_node& node)
 
 void AppendUtf8(std::string& text, uint32_t code)
 {
-    constexpr uint32_t marks[] = {0, 0, 0xC0, 0xE0, 0xF0};
+    constexpr uint32_t kMarks[] = {0, 0, 0xC0, 0xE0, 0xF0};
     int length = 1;
     while (length < 4 && code >= SmallestOfLength(length + 1)) {
         ++length;
@@ -145,7 +145,7 @@ void AppendUtf8(std::string& text, uint32_t code)
         return;
     }
     int shift = 6 * (length - 1);
-    text += static_cast<char>(marks[length] | code >> shift);
+    text += static_cast<char>(kMarks[length] | code >> shift);
     while (shift > 0) {
         shift -= 6;
         text += static_cast<char>(0x80 | (code >> shift & 0x3F));
@@ -176,7 +176,7 @@ bool ReadCode(std::string_view number, uint32_t& code)
         if (DigitValue(digit) >= base) {
             return false;
         }
-        code = (std::min)(code * base + DigitValue(digit), LAST_CODE + 1);
+        code = (std::min)(code * base + DigitValue(digit), kLastCode + 1);
     }
     return !number.empty();
 }
@@ -224,7 +224,7 @@ bool ConvertAttrs(const pugi::xml_node& from, Node& to, Error& error)
 {
     for (const pugi::xml_attribute& attr : from.attributes()) {
         auto same = [&](const auto& other) { return other.first == attr.name(); };
-        if (to.attrs.size() == MAX_ATTRS || std::any_of(to.attrs.begin(), to.attrs.end(), same)) {
+        if (to.attrs.size() == kMaxAttrs || std::any_of(to.attrs.begin(), to.attrs.end(), same)) {
             return Fail(error, "Too many attributes, or the same one twice", static_cast<size_t>(from.offset_debug()));
         }
         if (!TakeText(attr.value(), to.attrs.emplace_back(attr.name(), "").second, error)) {
@@ -236,7 +236,7 @@ bool ConvertAttrs(const pugi::xml_node& from, Node& to, Error& error)
 
 bool Convert(const pugi::xml_node& from, int depth, Node& to, Error& error)
 {
-    if (depth > MAX_DEPTH) {
+    if (depth > kMaxDepth) {
         return Fail(error, "Elements are nested too deeply", static_cast<size_t>(from.offset_debug()));
     }
     to.name = from.name();
@@ -301,11 +301,11 @@ bool IsNamePart(char16_t c)
 bool Parse(const void* data, size_t size, Node& root, Error& error)
 {
     error = {};
-    if (data == nullptr || size == 0) {
+    if (!data || size == 0) {
         return Fail(error, "No document", 0);
     }
-    if (size > MAX_SIZE) {
-        return Fail(error, "The document is too large", MAX_SIZE);
+    if (size > kMaxSize) {
+        return Fail(error, "The document is too large", kMaxSize);
     }
     pugi::xml_encoding encoding = FindEncoding(static_cast<const uint8_t*>(data), size);
     if (!CheckText(data, size, encoding, error)) {
@@ -313,7 +313,7 @@ bool Parse(const void* data, size_t size, Node& root, Error& error)
     }
 
     pugi::xml_document document;
-    pugi::xml_parse_result result = document.load_buffer(data, size, PARSE_FLAGS, encoding);
+    pugi::xml_parse_result result = document.load_buffer(data, size, kParseFlags, encoding);
     if (!result) {
         return Fail(error, result.description(), static_cast<size_t>(result.offset));
     }
@@ -335,7 +335,7 @@ std::string Write(const Node& root)
 
 bool IsName(const char16_t* name)
 {
-    if (name == nullptr || !IsNameStart(*name)) {
+    if (!name || !IsNameStart(*name)) {
         return false;
     }
     for (; *name != 0; ++name) {

@@ -10,11 +10,11 @@ namespace qor::xml
 {
 
 /** Largest document read, in bytes. */
-constexpr size_t MAX_SIZE = size_t{64} * 1024 * 1024;
+constexpr size_t kMaxSize = size_t{64} * 1024 * 1024;
 /** Deepest nesting of elements read. */
-constexpr int MAX_DEPTH = 200;
+constexpr int kMaxDepth = 200;
 /** Most attributes of one element. */
-constexpr size_t MAX_ATTRS = 256;
+constexpr size_t kMaxAttrs = 256;
 
 /** An element; all texts are UTF-8. */
 struct Node

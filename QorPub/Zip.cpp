@@ -1,6 +1,6 @@
-#include <QorPub/Guard.h>
-#include <QorPub/QorPub.h>
-#include <QorPub/ZipJob.h>
+#include "Guard.h"
+#include "QorPub.h"
+#include "ZipJob.h"
 
 #include <process.h>
 
@@ -21,7 +21,7 @@ struct CQorZip::Job
     {
         auto handle = _beginthreadex(nullptr, 0, ThreadMain, this, 0, nullptr);
         thread.Reset(reinterpret_cast<HANDLE>(handle));
-        return thread.IsValid();
+        return static_cast<bool>(thread);
     }
 
     bool Wait(DWORD timeout);
@@ -33,13 +33,13 @@ struct CQorZip::Job
     }
 
     qor::ZipPacker packer;
-    qor::Handle thread{nullptr};
+    own::KernelObject thread;
 };
 
 bool CQorZip::Job::Wait(DWORD timeout)
 {
     ULONGLONG start = GetTickCount64();
-    while (thread.IsValid()) {
+    while (thread) {
         // Inside the window's own handling of a report the thread would wait for us, and we for it.
         if (packer.IsReporting() && InSendMessage()) {
             ReplyMessage(0);
@@ -63,10 +63,10 @@ CQorZip::~CQorZip() = default;
 
 LONG CQorZip::Start(HWND notify, LPCWSTR source, LPCWSTR archive, DWORD flags)
 {
-    if (source == nullptr || *source == 0 || archive == nullptr || *archive == 0) {
+    if (!source || *source == 0 || !archive || *archive == 0) {
         return E_INVALIDARG;
     }
-    if (notify != nullptr && !IsWindow(notify)) {
+    if (notify && !IsWindow(notify)) {
         return HRESULT_FROM_WIN32(ERROR_INVALID_WINDOW_HANDLE);
     }
     if (IsRunning()) {
@@ -88,22 +88,22 @@ LONG CQorZip::Start(HWND notify, LPCWSTR source, LPCWSTR archive, DWORD flags)
 
 void CQorZip::Cancel()
 {
-    if (m_job != nullptr) {
+    if (m_job) {
         m_job->packer.Cancel();
     }
 }
 
 BOOL CQorZip::IsRunning() const
 {
-    return m_job != nullptr && !m_job->packer.IsFinished();
+    return m_job && !m_job->packer.IsFinished();
 }
 
 BOOL CQorZip::Wait(DWORD timeout)
 {
-    return m_job == nullptr || m_job->Wait(timeout);
+    return !m_job || m_job->Wait(timeout);
 }
 
 LONG CQorZip::GetResult() const
 {
-    return m_job != nullptr && m_job->packer.IsFinished() ? m_job->packer.Result() : 0;
+    return m_job && m_job->packer.IsFinished() ? m_job->packer.Result() : 0;
 }

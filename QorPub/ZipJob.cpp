@@ -1,6 +1,7 @@
-#include <QorPub/Guard.h>
-#include <QorPub/QorPub.h>
-#include <QorPub/ZipJob.h>
+#include "ZipJob.h"
+
+#include "Guard.h"
+#include "QorPub.h"
 
 #include <minizip/iowin32.h>
 
@@ -11,15 +12,15 @@ namespace qor
 namespace
 {
 
-constexpr DWORD BLOCK_SIZE = 256 * 1024;
-constexpr ULONGLONG ZIP64_FROM = 0x7FFFFFFF;
-constexpr uLong FLAG_UTF8_NAME = 1 << 11;
-constexpr int DEFLATE_MEMORY = 8;
-constexpr LRESULT ANSWER_TIMED_OUT = 32000;
+constexpr DWORD kBlockSize = 256 * 1024;
+constexpr ULONGLONG kZip64From = 0x7FFFFFFF;
+constexpr uLong kFlagUtf8Name = 1 << 11;
+constexpr int kDeflateMemory = 8;
+constexpr LRESULT kAnswerTimedOut = 32000;
 
 /** The moments that an archive's date can tell. */
-constexpr SYSTEMTIME FIRST_TIME = {1980, 1, 0, 1, 0, 0, 0, 0};
-constexpr SYSTEMTIME LAST_TIME = {2107, 12, 0, 31, 23, 59, 58, 0};
+constexpr SYSTEMTIME kFirstTime = {1980, 1, 0, 1, 0, 0, 0, 0};
+constexpr SYSTEMTIME kLastTime = {2107, 12, 0, 31, 23, 59, 58, 0};
 
 tm_zip ZipTime(const FILETIME& time)
 {
@@ -27,10 +28,10 @@ tm_zip ZipTime(const FILETIME& time)
     SYSTEMTIME parts = {};
     FileTimeToLocalFileTime(&time, &local);
     FileTimeToSystemTime(&local, &parts);
-    if (parts.wYear < FIRST_TIME.wYear) {
-        parts = FIRST_TIME;
-    } else if (parts.wYear > LAST_TIME.wYear) {
-        parts = LAST_TIME;
+    if (parts.wYear < kFirstTime.wYear) {
+        parts = kFirstTime;
+    } else if (parts.wYear > kLastTime.wYear) {
+        parts = kLastTime;
     }
     tm_zip zip = {};
     zip.tm_sec = parts.wSecond;
@@ -44,11 +45,10 @@ tm_zip ZipTime(const FILETIME& time)
 
 CString SystemText(DWORD error)
 {
-    LPWSTR found = nullptr;
+    own::LocalMemory found;
     FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-                   error, 0, reinterpret_cast<LPWSTR>(&found), 0, nullptr);
-    CString text = found;
-    LocalFree(found);
+                   error, 0, reinterpret_cast<LPWSTR>(found.Receive()), 0, nullptr);
+    CString text = static_cast<LPCWSTR>(found.Get());
     return text.TrimRight();
 }
 
@@ -78,30 +78,11 @@ bool IsDots(LPCWSTR name)
     return wcscmp(name, L".") == 0 || wcscmp(name, L"..") == 0;
 }
 
-/** Closes a directory search. */
-class FindHandle
-{
-  public:
-    explicit FindHandle(HANDLE handle) : m_handle(handle) {}
-    ~FindHandle()
-    {
-        if (m_handle != INVALID_HANDLE_VALUE) {
-            FindClose(m_handle);
-        }
-    }
-    FindHandle(const FindHandle&) = delete;
-    FindHandle& operator=(const FindHandle&) = delete;
-    HANDLE Get() const { return m_handle; }
-
-  private:
-    HANDLE m_handle;
-};
-
 } // namespace
 
 ZipPacker::~ZipPacker()
 {
-    if (m_zip != nullptr) {
+    if (m_zip) {
         CloseArchive(ERROR_CANCELLED);
     }
 }
@@ -138,16 +119,16 @@ DWORD ZipPacker::Open(LPCWSTR source, LPCWSTR archive)
 DWORD ZipPacker::OpenPart()
 {
     // The archive library does not tell why a file could not be created, and takes one that is there already.
-    Handle probe;
+    own::File probe;
     DWORD status = CreatePart(m_archive, probe, m_part);
     if (status != ERROR_SUCCESS) {
         return status;
     }
-    probe.Close();
+    probe.Reset();
     zlib_filefunc64_def files = {};
     fill_win32_filefunc64W(&files);
     m_zip = zipOpen2_64(m_part.GetString(), APPEND_STATUS_CREATE, nullptr, &files);
-    if (m_zip != nullptr) {
+    if (m_zip) {
         return ERROR_SUCCESS;
     }
     DeleteFileW(m_part);
@@ -157,13 +138,13 @@ DWORD ZipPacker::OpenPart()
 void ZipPacker::Run()
 {
     DWORD status = GuardMemory([this] {
-        m_block.resize(BLOCK_SIZE);
+        m_block.resize(kBlockSize);
         return Pack();
     });
     status = CloseArchive(status);
     m_result = HRESULT_FROM_WIN32(status);
     m_finished = true;
-    if (m_notify != nullptr && !m_silent) {
+    if (m_notify && !m_silent) {
         PostMessageW(m_notify, WM_QORZIP, ZIPREPORT_FINISHED, m_result);
     }
 }
@@ -219,8 +200,8 @@ bool ZipPacker::ScanSource()
         std::sort(m_items.begin(), m_items.end(), less);
     } else {
         WIN32_FIND_DATAW data = {};
-        FindHandle find(FindFirstFileW(m_source, &data));
-        if (find.Get() == INVALID_HANDLE_VALUE) {
+        own::FileSearch find(FindFirstFileW(m_source, &data));
+        if (!find) {
             return Fail(GetLastError());
         }
         m_items.push_back(MakeItem(m_source.Mid(m_source.ReverseFind(L'\\') + 1), data));
@@ -247,8 +228,8 @@ ZipStep ZipPacker::TryScanFolder(const CString& folder, std::vector<ZipItem>& fo
     found.clear();
     WIN32_FIND_DATAW data = {};
     CString path = PathOf(folder);
-    FindHandle find(FindFirstFileW(path + (path.Right(1) == L"\\" ? L"*" : L"\\*"), &data));
-    if (find.Get() == INVALID_HANDLE_VALUE) {
+    own::FileSearch find(FindFirstFileW(path + (path.Right(1) == L"\\" ? L"*" : L"\\*"), &data));
+    if (!find) {
         return GetLastError() == ERROR_FILE_NOT_FOUND ? ZipStep::Done : Ask(path, GetLastError());
     }
     do {
@@ -283,7 +264,7 @@ bool ZipPacker::PackFile(const ZipItem& item)
 {
     CString path = PathOf(item.name);
     ULONGLONG planned = m_done + item.size;
-    Handle file;
+    own::File file;
     DWORD got = 0;
     ZipStep step = ZipStep::Retry;
     while (step == ZipStep::Retry) {
@@ -292,21 +273,21 @@ bool ZipPacker::PackFile(const ZipItem& item)
     if (step == ZipStep::Stop) {
         return false;
     }
-    bool packed = !file.IsValid() || (BeginEntry(item) && CopyData(path, file.Get(), got) && EndEntry());
+    bool packed = !file || (BeginEntry(item) && CopyData(path, file.Get(), got) && EndEntry());
     m_done = planned;
     return packed;
 }
 
 /** Opens a file and reads its first block; Done without a file means that it is left out. */
-ZipStep ZipPacker::TryOpen(const CString& path, Handle& file, DWORD& got)
+ZipStep ZipPacker::TryOpen(const CString& path, own::File& file, DWORD& got)
 {
     file.Reset(CreateFileW(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                            OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-    if (file.IsValid() && ReadFile(file.Get(), m_block.data(), BLOCK_SIZE, &got, nullptr)) {
+    if (file && ReadFile(file.Get(), m_block.data(), kBlockSize, &got, nullptr)) {
         return ZipStep::Done;
     }
     DWORD error = GetLastError();
-    file.Close();
+    file.Reset();
     return Ask(path, error);
 }
 
@@ -333,7 +314,7 @@ bool ZipPacker::CopyData(const CString& path, HANDLE file, DWORD got)
 bool ZipPacker::ReadBlock(const CString& path, HANDLE file, DWORD& got)
 {
     for (;;) {
-        if (ReadFile(file, m_block.data(), BLOCK_SIZE, &got, nullptr)) {
+        if (ReadFile(file, m_block.data(), kBlockSize, &got, nullptr)) {
             return true;
         }
         got = 0;
@@ -358,8 +339,8 @@ bool ZipPacker::BeginEntry(const ZipItem& item)
     SetLastError(ERROR_SUCCESS);
     int status =
         zipOpenNewFileInZip4_64(m_zip, utf8.GetString(), &info, nullptr, 0, nullptr, 0, nullptr,
-                                item.isFolder ? 0 : Z_DEFLATED, Z_DEFAULT_COMPRESSION, 0, -MAX_WBITS, DEFLATE_MEMORY,
-                                Z_DEFAULT_STRATEGY, nullptr, 0, 0, FLAG_UTF8_NAME, item.size >= ZIP64_FROM ? 1 : 0);
+                                item.isFolder ? 0 : Z_DEFLATED, Z_DEFAULT_COMPRESSION, 0, -MAX_WBITS, kDeflateMemory,
+                                Z_DEFAULT_STRATEGY, nullptr, 0, 0, kFlagUtf8Name, item.size >= kZip64From ? 1 : 0);
     return status == ZIP_OK ? true : Fail(LastErrorOr(ERROR_WRITE_FAULT));
 }
 
@@ -371,7 +352,7 @@ bool ZipPacker::EndEntry()
 
 LRESULT ZipPacker::Report(WPARAM kind, LPARAM value)
 {
-    if (m_notify == nullptr) {
+    if (!m_notify) {
         return 0;
     }
     m_reporting = true;
@@ -383,7 +364,7 @@ LRESULT ZipPacker::Report(WPARAM kind, LPARAM value)
 void ZipPacker::ReportProgress()
 {
     int percent = 100;
-    if (m_zip != nullptr) {
+    if (m_zip) {
         percent = m_total != 0 ? static_cast<int>((std::min)(m_done * 100.0 / m_total, 99.0)) : 0;
     }
     if (percent <= m_percent) {
@@ -395,7 +376,7 @@ void ZipPacker::ReportProgress()
 
 ZipStep ZipPacker::Ask(const CString& path, DWORD error)
 {
-    if (m_notify == nullptr) {
+    if (!m_notify) {
         Fail(error);
         return ZipStep::Stop;
     }
@@ -404,7 +385,7 @@ ZipStep ZipPacker::Ask(const CString& path, DWORD error)
     if (answer == IDRETRY) {
         return ZipStep::Retry;
     }
-    if (answer == IDIGNORE || answer == ANSWER_TIMED_OUT) {
+    if (answer == IDIGNORE || answer == kAnswerTimedOut) {
         return ZipStep::Done;
     }
     Fail(ERROR_CANCELLED);

@@ -61,7 +61,7 @@ class ZipPacker
     bool PackItem(const ZipItem& item);
     bool PackFolder(const ZipItem& item);
     bool PackFile(const ZipItem& item);
-    ZipStep TryOpen(const CString& path, Handle& file, DWORD& got);
+    ZipStep TryOpen(const CString& path, own::File& file, DWORD& got);
     bool CopyData(const CString& path, HANDLE file, DWORD got);
     bool ReadBlock(const CString& path, HANDLE file, DWORD& got);
     bool BeginEntry(const ZipItem& item);

@@ -1,4 +1,4 @@
-#include <QorPub/ZipNames.h>
+#include "ZipNames.h"
 
 #include <algorithm>
 #include <cwctype>
@@ -12,11 +12,11 @@ namespace
 
 bool IsDevice(std::wstring_view part)
 {
-    static constexpr std::wstring_view devices[] = {L"CON", L"PRN", L"AUX", L"NUL", L"CONIN$", L"CONOUT$"};
+    static constexpr std::wstring_view kDevices[] = {L"CON", L"PRN", L"AUX", L"NUL", L"CONIN$", L"CONOUT$"};
     std::wstring stem(part.substr(0, part.find(L'.')));
     stem.erase(stem.find_last_not_of(L' ') + 1);
     std::transform(stem.begin(), stem.end(), stem.begin(), [](wchar_t c) { return static_cast<wchar_t>(towupper(c)); });
-    if (std::find(std::begin(devices), std::end(devices), stem) != std::end(devices)) {
+    if (std::find(std::begin(kDevices), std::end(kDevices), stem) != std::end(kDevices)) {
         return true;
     }
     bool port = stem.size() == 4 && (stem.substr(0, 3) == L"COM" || stem.substr(0, 3) == L"LPT");
