@@ -1,3 +1,5 @@
+#include "Connection.h"
+
 #include "Store.h"
 
 #include <QorPub/Guard.h>
@@ -12,15 +14,15 @@ namespace
 struct ThreadLink
 {
     int depth = 0;
-    CDatabase db;
+    Database db;
 };
 
 /** The threads' links, each dropped when its thread ends. */
-class CLinkTable
+class LinkTable
 {
   public:
-    CLinkTable() : m_index(IsProcessEnding() ? FLS_OUT_OF_INDEXES : FlsAlloc(Drop)) {}
-    ~CLinkTable()
+    LinkTable() : m_index(IsProcessEnding() ? FLS_OUT_OF_INDEXES : FlsAlloc(Drop)) {}
+    ~LinkTable()
     {
         if (IsProcessEnding()) {
             return;
@@ -30,8 +32,8 @@ class CLinkTable
         }
         sqlite3_shutdown();
     }
-    CLinkTable(const CLinkTable&) = delete;
-    CLinkTable& operator=(const CLinkTable&) = delete;
+    LinkTable(const LinkTable&) = delete;
+    LinkTable& operator=(const LinkTable&) = delete;
 
     /** The calling thread's link, or null. */
     ThreadLink* Find() const
@@ -45,10 +47,10 @@ class CLinkTable
     // system, and the next process that opens the store takes over its log.
     static bool IsProcessEnding()
     {
-        using Query = BOOLEAN(NTAPI*)();
+        using EndQuery = BOOLEAN(NTAPI*)();
         // Looked up by the constructor: Drop() runs under a lock of the system that ending threads take while they have
         // the loader's, so it must not ask the loader for anything.
-        static const auto query = reinterpret_cast<Query>(
+        static const auto query = reinterpret_cast<EndQuery>(
             reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "RtlDllShutdownInProgress")));
         return query && query();
     }
@@ -62,40 +64,40 @@ class CLinkTable
     DWORD m_index;
 };
 
-CLinkTable& GetLinks()
+LinkTable& GetLinks()
 {
-    static CLinkTable links;
+    static LinkTable links;
     return links;
 }
 
 /** Opens the store that is meant now, unless it is open already. */
-DWORD OpenStore(CDatabase& db)
+DWORD OpenStore(Database& db)
 {
     const DWORD status = qor::GuardMemory([&] {
         const std::wstring path = QorGetStorePath().GetString();
-        return db.IsOpen() && db.GetPath() == path ? 0 : db.Open(path);
+        return db.IsOpen() && db.GetPath() == path ? static_cast<DWORD>(ERROR_SUCCESS) : db.Open(path);
     });
-    if (status != 0) {
+    if (status != ERROR_SUCCESS) {
         db.Close();
     }
     return status;
 }
 
-DWORD RunInTransaction(CDatabase& db, bool write, StoreWork work, void* context)
+DWORD RunInTransaction(Database& db, bool write, StoreWork work, void* context)
 {
     DWORD status = db.Begin(write);
-    if (status != 0) {
+    if (status != ERROR_SUCCESS) {
         return status;
     }
     status = qor::GuardMemory([&] { return work(db, context); });
     // A failed statement counts, whatever the work made of it.
-    if (db.GetStatus() != 0) {
+    if (db.GetStatus() != ERROR_SUCCESS) {
         status = db.GetStatus();
     }
-    if (status == 0) {
+    if (status == ERROR_SUCCESS) {
         status = db.Commit();
     }
-    if (status != 0) {
+    if (status != ERROR_SUCCESS) {
         db.Rollback();
     }
     return status;
@@ -107,12 +109,12 @@ DWORD RunOnStore(bool write, StoreWork work, void* context)
 {
     ThreadLink* link = GetLinks().Find();
     if (!link || link->depth == 0) {
-        CDatabase db;
+        Database db;
         const DWORD status = OpenStore(db);
-        return status ? status : RunInTransaction(db, write, work, context);
+        return status == ERROR_SUCCESS ? RunInTransaction(db, write, work, context) : status;
     }
     const DWORD status = OpenStore(link->db);
-    return status ? status : RunInTransaction(link->db, write, work, context);
+    return status == ERROR_SUCCESS ? RunInTransaction(link->db, write, work, context) : status;
 }
 
 DWORD QorOpen()
@@ -126,7 +128,7 @@ DWORD QorOpen()
         link = fresh.release();
     }
     const DWORD status = OpenStore(link->db);
-    if (status == 0) {
+    if (status == ERROR_SUCCESS) {
         ++link->depth;
     }
     return status;

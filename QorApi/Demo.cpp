@@ -1,19 +1,14 @@
+#include "Demo.h"
+
 #include "Names.h"
-#include "Session.h"
 
-#include <objbase.h>
-
-#include <memory>
+#include <common/Owner.h>
+#include <QorApi/logon/Session.h>
 
 namespace
 {
 
-struct FreeTaskMem
-{
-    void operator()(void* memory) const { CoTaskMemFree(memory); }
-};
-
-struct DEMOUSER
+struct DemoUser
 {
     LPCWSTR name;
     LPCWSTR description;
@@ -21,7 +16,7 @@ struct DEMOUSER
     WORD flags;
 };
 
-constexpr DEMOUSER USERS[] = {
+constexpr DemoUser kUsers[] = {
     {L"Anna", L"Looks after the computers of the office", QORRIGHT_ALL & ~QORRIGHT_UNINSTALL, 0},
     {L"Ben", L"Takes snapshots and restores files", QORRIGHT_TAKESNAP | QORRIGHT_RESFILES | QORRIGHT_PASSWORD, 0},
     {L"Carla", L"May roll the system back", QORRIGHT_ROLLSYS | QORRIGHT_TAKESNAP | QORRIGHT_SCHROLL | QORRIGHT_PASSWORD,
@@ -29,7 +24,7 @@ constexpr DEMOUSER USERS[] = {
     {L"Guest", L"Not in use at present", 0, QORUSER_INACTIVE},
 };
 
-struct DEMOSNAP
+struct DemoSnapshot
 {
     LPCWSTR name;
     _QORTIME time;
@@ -37,7 +32,7 @@ struct DEMOSNAP
     WORD flags;
 };
 
-constexpr DEMOSNAP SNAPSHOTS[] = {
+constexpr DemoSnapshot kSnapshots[] = {
     {L"Clean installation", {2024, 3, 1, 4, 9, 15, 0}, 18432, QORSNAP_LOCKED},
     {L"After office software", {2024, 3, 1, 4, 11, 42, 10}, 3120, 0},
     {L"Before printer driver", {2024, 3, 4, 14, 8, 5, 33}, 212, 0},
@@ -45,7 +40,7 @@ constexpr DEMOSNAP SNAPSHOTS[] = {
     {L"Before system update", {2024, 4, 3, 10, 17, 30, 5}, 1490, QORSNAP_LOCKED},
 };
 
-constexpr LPCWSTR REGISTRY_LIST[] = {
+constexpr LPCWSTR kRegistryList[] = {
     L"HKCU\\Software\\Qor\\",
     L"HKCU\\Control Panel\\Desktop\\Wallpaper",
     L"HKLM\\SOFTWARE\\Qor\\",
@@ -70,11 +65,11 @@ _QORVEX_TASK MakeTask(LPCWSTR name, BYTE kind, BYTE schedule)
 
 std::vector<_QORVEX_TASK> MakeTasks()
 {
-    constexpr BYTE workdays = 0x3E;
+    constexpr BYTE kWorkdays = 0x3E;
     _QORVEX_TASK hourly = MakeTask(L"Snapshot every hour", QORTASK_SNAPSHOT, QORSCHED_HOURLY);
     hourly.nFirstHour = 8;
     hourly.nLastHour = 18;
-    hourly.nDayMask = workdays;
+    hourly.nDayMask = kWorkdays;
     hourly.nKeepDays = 3;
     hourly.start.nMinute = 30;
 
@@ -98,8 +93,8 @@ template <class Record>
 bool HasName(UINT kind, LPCWSTR name)
 {
     int count = 0;
-    const std::unique_ptr<void, FreeTaskMem> memory(QorGetAllInfo(kind, sizeof(Record), &count, 0));
-    const auto* records = static_cast<const Record*>(memory.get());
+    const own::TaskMemory memory(QorGetAllInfo(kind, sizeof(Record), &count, 0));
+    const auto* records = static_cast<const Record*>(memory.Get());
     for (int i = 0; i < count; ++i) {
         if (FoldName(records[i].szName) == FoldName(name)) {
             return true;
@@ -110,7 +105,7 @@ bool HasName(UINT kind, LPCWSTR name)
 
 DWORD FillUsers()
 {
-    for (const DEMOUSER& sample : USERS) {
+    for (const DemoUser& sample : kUsers) {
         if (HasName<_QORVEX_USER>(QORLIST_USERS, sample.name)) {
             continue;
         }
@@ -121,30 +116,30 @@ DWORD FillUsers()
         user.dwRights = sample.rights;
         WriteField(user.szName, sample.name);
         WriteField(user.szDesc, sample.description);
-        if (const DWORD status = QorAddUser(user, nullptr)) {
+        if (const DWORD status = QorAddUser(user, nullptr); status != ERROR_SUCCESS) {
             return status;
         }
     }
-    return 0;
+    return ERROR_SUCCESS;
 }
 
 DWORD FillSnapshots()
 {
-    constexpr ULONGLONG megabyte = 1024ULL * 1024;
-    for (const DEMOSNAP& sample : SNAPSHOTS) {
+    constexpr ULONGLONG kMegabyte = 1024ULL * 1024;
+    for (const DemoSnapshot& sample : kSnapshots) {
         if (HasName<_QORVEX_SNAP>(QORLIST_SNAPSHOTS, sample.name)) {
             continue;
         }
         _QORVEX_SNAP snapshot = {};
         snapshot.wFlags = sample.flags;
         snapshot.time = sample.time;
-        snapshot.nSize = sample.megabytes * megabyte;
+        snapshot.nSize = sample.megabytes * kMegabyte;
         WriteField(snapshot.szName, sample.name);
-        if (const DWORD status = QorAddSnapshot(snapshot)) {
+        if (const DWORD status = QorAddSnapshot(snapshot); status != ERROR_SUCCESS) {
             return status;
         }
     }
-    return 0;
+    return ERROR_SUCCESS;
 }
 
 DWORD FillTasks()
@@ -153,17 +148,17 @@ DWORD FillTasks()
         if (HasName<_QORVEX_TASK>(QORLIST_TASKS, task.szName)) {
             continue;
         }
-        if (const DWORD status = QorAddTask(task)) {
+        if (const DWORD status = QorAddTask(task); status != ERROR_SUCCESS) {
             return status;
         }
     }
-    return 0;
+    return ERROR_SUCCESS;
 }
 
 DWORD FillRegistryList()
 {
     CStringArray entries;
-    for (LPCWSTR entry : REGISTRY_LIST) {
+    for (LPCWSTR entry : kRegistryList) {
         entries.Add(entry);
     }
     return QorSetMultiString(QORINFO_SYNC_REG, entries, 0);
@@ -173,15 +168,15 @@ DWORD FillRegistryList()
 
 DWORD QorFillDemoStore()
 {
-    DWORD status = ReadStore([](CDatabase& db) { return NeedRights(db, QORRIGHT_ALL); });
-    if (status == 0) {
+    DWORD status = ReadStore([](Database& db) { return NeedRights(db, QORRIGHT_ALL); });
+    if (status == ERROR_SUCCESS) {
         status = FillUsers();
     }
-    if (status == 0) {
+    if (status == ERROR_SUCCESS) {
         status = FillSnapshots();
     }
-    if (status == 0) {
+    if (status == ERROR_SUCCESS) {
         status = FillTasks();
     }
-    return status ? status : FillRegistryList();
+    return status == ERROR_SUCCESS ? FillRegistryList() : status;
 }

@@ -1,16 +1,17 @@
-#include <QorApi/QorApi.h>
+#include "FormatMsg.h"
+
+#include <common/Owner.h>
 
 namespace
 {
 
 CString GetSystemText(DWORD code)
 {
-    LPWSTR text = nullptr;
+    own::LocalMemory text;
     const DWORD length =
         FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
-                       nullptr, code, 0, reinterpret_cast<LPWSTR>(&text), 0, nullptr);
-    CString result(length ? text : L"");
-    LocalFree(text);
+                       nullptr, code, 0, reinterpret_cast<LPWSTR>(text.Receive()), 0, nullptr);
+    CString result(length ? static_cast<LPCWSTR>(text.Get()) : L"");
     result.TrimRight();
     return result;
 }

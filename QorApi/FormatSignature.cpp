@@ -15,7 +15,7 @@ bool IsDigit(wchar_t ch)
     return ch >= L'0' && ch <= L'9';
 }
 
-// Digits, or an asterisk that takes its number from the arguments.
+/** Digits, or an asterisk that takes its number from the arguments. */
 void SkipNumber(Text text, size_t& pos, std::wstring& item)
 {
     if (pos < text.size() && text[pos] == L'*') {
@@ -35,14 +35,14 @@ struct SizePrefix
 };
 
 // Longer prefixes first. "l" and "w" name the usual size of numbers and of texts in wide formats.
-constexpr SizePrefix SIZE_PREFIXES[] = {{L"I64", L'q'}, {L"I32", 0},  {L"ll", L'q'}, {L"hh", L'b'},
+constexpr SizePrefix kSizePrefixes[] = {{L"I64", L'q'}, {L"I32", 0},  {L"ll", L'q'}, {L"hh", L'b'},
                                         {L"h", L'h'},   {L"l", 0},    {L"w", 0},     {L"L", 0},
                                         {L"j", L'q'},   {L"z", L'z'}, {L"t", L'z'},  {L"I", L'z'}};
 
 wchar_t SkipSize(Text text, size_t& pos)
 {
     const Text rest = text.substr(pos);
-    for (const SizePrefix& candidate : SIZE_PREFIXES) {
+    for (const SizePrefix& candidate : kSizePrefixes) {
         if (rest.substr(0, candidate.prefix.size()) == candidate.prefix) {
             pos += candidate.prefix.size();
             return candidate.size;
@@ -51,7 +51,7 @@ wchar_t SkipSize(Text text, size_t& pos)
     return 0;
 }
 
-// The kind of a conversion character with its size; empty when the character is none.
+/** The kind of a conversion character with its size; empty when the character is none. */
 std::wstring KindOf(wchar_t ch, wchar_t size)
 {
     if (IsOneOf(ch, L"diuoxX")) {
@@ -73,7 +73,7 @@ std::wstring KindOf(wchar_t ch, wchar_t size)
     return {};
 }
 
-// One placeholder; pos stands behind its percent sign. False for "%n".
+/** One placeholder; pos stands behind its percent sign. False for "%n". */
 bool ParsePlaceholder(Text text, size_t& pos, std::wstring& signature)
 {
     const size_t start = pos;
@@ -121,4 +121,11 @@ bool GetFormatSignature(std::wstring_view text, std::wstring& signature)
         }
     }
     return true;
+}
+
+bool HaveSameFormat(std::wstring_view text, std::wstring_view model)
+{
+    std::wstring own;
+    std::wstring wanted;
+    return GetFormatSignature(text, own) && GetFormatSignature(model, wanted) && own == wanted;
 }

@@ -17,3 +17,6 @@
  * @return false when the text has "%n", which writes to memory and is never taken.
  */
 bool GetFormatSignature(std::wstring_view text, std::wstring& signature);
+
+/** Whether two texts have the same placeholders in number, order and kind; never when one of them has "%n". */
+bool HaveSameFormat(std::wstring_view text, std::wstring_view model);

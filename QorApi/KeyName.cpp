@@ -1,4 +1,4 @@
-#include <QorApi/QorApi.h>
+#include "KeyName.h"
 
 #include <algorithm>
 #include <cwchar>
@@ -8,30 +8,30 @@
 namespace
 {
 
-constexpr size_t MAX_KEY_NAME = 255;
-constexpr size_t MAX_VALUE_NAME = 16383;
+constexpr size_t kMaxKeyName = 255;
+constexpr size_t kMaxValueName = 16383;
 
 /** A root as entries may name it, and what stands for it in the list. */
-struct ROOT
+struct Root
 {
     LPCWSTR name;
     LPCWSTR stored;
     size_t minDepth; ///< least number of names that an entry must have below the root
 };
 
-constexpr LPCWSTR CLASSES = L"HKLM\\SOFTWARE\\Classes\\";
+constexpr LPCWSTR kClasses = L"HKLM\\SOFTWARE\\Classes\\";
 
-constexpr ROOT ROOTS[] = {
+constexpr Root kRoots[] = {
     {L"HKCU", L"HKCU\\", 1}, {L"HKEY_CURRENT_USER", L"HKCU\\", 1},
     {L"HKLM", L"HKLM\\", 2}, {L"HKEY_LOCAL_MACHINE", L"HKLM\\", 2},
     {L"HKU", L"HKU\\", 2},   {L"HKEY_USERS", L"HKU\\", 2},
     {L"HKCC", L"HKCC\\", 1}, {L"HKEY_CURRENT_CONFIG", L"HKCC\\", 1},
-    {L"HKCR", CLASSES, 1},   {L"HKEY_CLASSES_ROOT", CLASSES, 1},
+    {L"HKCR", kClasses, 1},  {L"HKEY_CLASSES_ROOT", kClasses, 1},
 };
 
-const ROOT* FindRoot(const std::wstring& name)
+const Root* FindRoot(const std::wstring& name)
 {
-    for (const ROOT& root : ROOTS) {
+    for (const Root& root : kRoots) {
         if (_wcsicmp(root.name, name.c_str()) == 0) {
             return &root;
         }
@@ -57,7 +57,7 @@ bool AreNamesValid(const std::vector<std::wstring>& names, bool isKey)
 {
     for (size_t i = 0; i < names.size(); ++i) {
         const bool isValue = !isKey && i + 1 == names.size();
-        if (names[i].size() > (isValue ? MAX_VALUE_NAME : MAX_KEY_NAME)) {
+        if (names[i].size() > (isValue ? kMaxValueName : kMaxKeyName)) {
             return false;
         }
     }
@@ -73,7 +73,7 @@ DWORD QorConvertKeyName(CString& entry)
         return ERROR_INVALID_NAME;
     }
     const size_t slash = text.find(L'\\');
-    const ROOT* root = slash == std::wstring::npos ? nullptr : FindRoot(text.substr(0, slash));
+    const Root* root = slash == std::wstring::npos ? nullptr : FindRoot(text.substr(0, slash));
     if (!root) {
         return ERROR_INVALID_PARAMETER;
     }
@@ -93,5 +93,5 @@ DWORD QorConvertKeyName(CString& entry)
         result.pop_back();
     }
     entry = result.c_str();
-    return 0;
+    return ERROR_SUCCESS;
 }

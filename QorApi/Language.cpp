@@ -2,21 +2,21 @@
 
 #include "Environment.h"
 #include "FormatSignature.h"
+#include "ModuleLang.h"
 
 #include <QorPub/Guard.h>
 
 #include <cwctype>
+#include <mutex>
 
 namespace
 {
 
-constexpr wchar_t ENGLISH[] = L"en";
-constexpr wchar_t ROOT_NAME[] = L"QorLang";
-constexpr wchar_t PRODUCT_MODULE[] = L"Product";
-constexpr wchar_t STRINGS_SECTION[] = L"Strings";
-constexpr wchar_t WINDOW_TEXT[] = L"Text";
-constexpr wchar_t CONTROL_PREFIX[] = L"Ctrl";
-constexpr int SET_TEXTS = 1;
+constexpr wchar_t kProductModule[] = L"Product";
+constexpr wchar_t kStringsSection[] = L"Strings";
+constexpr wchar_t kWindowText[] = L"Text";
+constexpr wchar_t kControlPrefix[] = L"Ctrl";
+constexpr int kSetTexts = 1;
 
 std::wstring GetLangFolder()
 {
@@ -48,7 +48,7 @@ bool IsFileName(LPCWSTR name)
 std::vector<std::wstring> GetChain(std::wstring locale)
 {
     std::vector<std::wstring> chain;
-    while (!locale.empty() && _wcsicmp(locale.c_str(), ENGLISH) != 0) {
+    while (!locale.empty() && _wcsicmp(locale.c_str(), kEnglish) != 0) {
         chain.push_back(locale);
         const size_t hyphen = locale.rfind(L'-');
         locale.resize(hyphen == std::wstring::npos ? 0 : hyphen);
@@ -75,32 +75,25 @@ std::wstring FindFolder(const std::wstring& locale)
 
 bool IsEnglish(const std::wstring& locale)
 {
-    return _wcsicmp(locale.substr(0, locale.find(L'-')).c_str(), ENGLISH) == 0;
+    return _wcsicmp(locale.substr(0, locale.find(L'-')).c_str(), kEnglish) == 0;
 }
 
 std::wstring GetUserLocale()
 {
     wchar_t name[LOCALE_NAME_MAX_LENGTH] = {};
-    return GetUserDefaultLocaleName(name, LOCALE_NAME_MAX_LENGTH) ? name : ENGLISH;
+    return GetUserDefaultLocaleName(name, LOCALE_NAME_MAX_LENGTH) ? name : kEnglish;
 }
 
 // The control that an element such as Ctrl1152 is for; 0 for any other.
 int GetControlId(LPCWSTR name)
 {
-    constexpr size_t length = std::size(CONTROL_PREFIX) - 1;
-    if (wcsncmp(name, CONTROL_PREFIX, length) != 0 || !iswdigit(name[length])) {
+    constexpr size_t kLength = std::size(kControlPrefix) - 1;
+    if (wcsncmp(name, kControlPrefix, kLength) != 0 || !iswdigit(name[kLength])) {
         return 0;
     }
     wchar_t* end = nullptr;
-    const unsigned long id = wcstoul(name + length, &end, 10);
+    const unsigned long id = wcstoul(name + kLength, &end, 10);
     return *end == 0 && id <= 0xFFFF ? static_cast<int>(id) : 0;
-}
-
-bool HaveSameFormat(std::wstring_view text, std::wstring_view model)
-{
-    std::wstring own;
-    std::wstring wanted;
-    return GetFormatSignature(text, own) && GetFormatSignature(model, wanted) && own == wanted;
 }
 
 void SetTexts(HWND window, const CXmlElem& element)
@@ -108,7 +101,7 @@ void SetTexts(HWND window, const CXmlElem& element)
     for (int i = 0; i < element.GetChildCount(); ++i) {
         const CXmlElem* child = element.GetChild(i);
         HWND target = nullptr;
-        if (wcscmp(child->GetName(), WINDOW_TEXT) == 0) {
+        if (wcscmp(child->GetName(), kWindowText) == 0) {
             target = window;
         } else if (const int id = GetControlId(child->GetName())) {
             target = GetDlgItem(window, id);
@@ -119,120 +112,34 @@ void SetTexts(HWND window, const CXmlElem& element)
     }
 }
 
-} // namespace
-
-// ------------------------------------------------------------------ one module's texts
-
-CModuleLang::CModuleLang(const std::wstring& folder, const std::vector<std::wstring>& locales,
-                         const std::wstring& module)
-    : m_root(std::make_unique<CXmlElem>(ROOT_NAME)), m_empty(std::make_unique<CXmlElem>())
+/** The process's language and all texts that were read. */
+class LanguageState
 {
-    const std::wstring file = L"\\" + module + L".xml";
-    Sections english;
-    Read(folder + L"\\" + ENGLISH + file, true, english);
+  public:
+    static LanguageState& Get();
 
-    Sections texts;
-    for (const std::wstring& locale : locales) {
-        std::wstring path(folder);
-        path.append(L"\\").append(locale).append(file);
-        Sections translation;
-        if (Read(path, false, translation)) {
-            Translate(texts, translation, english, path);
-        }
-    }
-    for (const auto& [name, section] : english) {
-        for (const auto& [key, text] : section) {
-            std::wstring signature;
-            if (GetFormatSignature(text, signature)) {
-                texts[name].try_emplace(key, text);
-            }
-        }
-        texts[name];
-    }
-    Build(texts);
-}
+    /** Never null; also for null names, and when memory runs out. */
+    CXmlElem* GetSection(LPCWSTR module, LPCWSTR section);
+    BOOL Choose(LPCWSTR locale);
+    std::wstring GetFolderName();
 
-CXmlElem* CModuleLang::GetSection(LPCWSTR name) const
+  private:
+    CXmlElem* FindSection(LPCWSTR module, LPCWSTR section);
+    std::wstring GetLocale() const;
+
+    std::mutex m_lock;
+    std::wstring m_chosen;
+    std::map<std::wstring, std::unique_ptr<ModuleLang>> m_modules;
+    CXmlElem m_empty;
+};
+
+LanguageState& LanguageState::Get()
 {
-    CXmlElem* section = name ? m_root->FindChild(name) : nullptr;
-    return section ? section : m_empty.get();
-}
-
-/** @param needed a file that is not there is traced too. @return whether there are texts. */
-bool CModuleLang::Read(const std::wstring& path, bool needed, Sections& sections)
-{
-    CQorXml xml;
-    DWORD status = xml.Load(path.c_str());
-    const CXmlElem* root = status == 0 ? xml.GetRoot() : nullptr;
-    if (root && wcscmp(root->GetName(), ROOT_NAME) != 0) {
-        status = ERROR_INVALID_DATA;
-    }
-    if (status != 0) {
-        if (needed || (status != ERROR_FILE_NOT_FOUND && status != ERROR_PATH_NOT_FOUND)) {
-            QorTrace(1, status, L"CModuleLang::Read", L"Language", __LINE__, L"Language file '%s' ignored. %s",
-                     path.c_str(), xml.GetErrorText());
-        }
-        return false;
-    }
-    for (int i = 0; i < root->GetChildCount(); ++i) {
-        const CXmlElem* element = root->GetChild(i);
-        Section& section = sections[element->GetName()];
-        for (int j = 0; j < element->GetChildCount(); ++j) {
-            section.try_emplace(element->GetChild(j)->GetName(), element->GetChild(j)->GetData());
-        }
-    }
-    return true;
-}
-
-/** Whether a translation may stand for the English text, or for a text that English does not have (null). */
-bool CModuleLang::IsFit(const std::wstring& text, const std::wstring* english)
-{
-    return HaveSameFormat(text, english ? *english : std::wstring());
-}
-
-void CModuleLang::Translate(Sections& texts, const Sections& translation, const Sections& english,
-                            const std::wstring& path)
-{
-    for (const auto& [name, section] : translation) {
-        const auto model = english.find(name);
-        for (const auto& [key, text] : section) {
-            const std::wstring* original = nullptr;
-            if (model != english.end()) {
-                const auto found = model->second.find(key);
-                original = found != model->second.end() ? &found->second : nullptr;
-            }
-            if (IsFit(text, original)) {
-                texts[name].try_emplace(key, text);
-            } else {
-                QorTrace(1, ERROR_INVALID_DATA, L"CModuleLang::Translate", L"Language", __LINE__,
-                         L"Text '%s' of '%s' in '%s' ignored: its placeholders are not the English ones.", key.c_str(),
-                         name.c_str(), path.c_str());
-            }
-        }
-    }
-}
-
-void CModuleLang::Build(const Sections& texts)
-{
-    for (const auto& [name, section] : texts) {
-        CXmlElem* element = m_root->AddChild(name.c_str());
-        for (const auto& [key, text] : section) {
-            if (element) {
-                element->AddChild(key.c_str(), text.c_str());
-            }
-        }
-    }
-}
-
-// ------------------------------------------------------------------ the process's language
-
-CLanguage& CLanguage::Get()
-{
-    static CLanguage language;
+    static LanguageState language;
     return language;
 }
 
-CXmlElem* CLanguage::GetSection(LPCWSTR module, LPCWSTR section)
+CXmlElem* LanguageState::GetSection(LPCWSTR module, LPCWSTR section)
 {
     CXmlElem* found = &m_empty;
     if (IsFileName(module)) {
@@ -244,26 +151,26 @@ CXmlElem* CLanguage::GetSection(LPCWSTR module, LPCWSTR section)
     return found;
 }
 
-CXmlElem* CLanguage::FindSection(LPCWSTR module, LPCWSTR section)
+CXmlElem* LanguageState::FindSection(LPCWSTR module, LPCWSTR section)
 {
     const std::lock_guard guard(m_lock);
     const std::wstring folder = GetLangFolder();
     const std::wstring locale = GetLocale();
-    std::unique_ptr<CModuleLang>& texts = m_modules[folder + L"|" + locale + L"|" + module];
+    std::unique_ptr<ModuleLang>& texts = m_modules[folder + L"|" + locale + L"|" + module];
     if (!texts) {
-        texts = std::make_unique<CModuleLang>(folder, GetChain(locale), module);
+        texts = std::make_unique<ModuleLang>(folder, GetChain(locale), module);
     }
     return texts->GetSection(section);
 }
 
-BOOL CLanguage::Choose(LPCWSTR locale)
+BOOL LanguageState::Choose(LPCWSTR locale)
 {
     const std::wstring name = locale ? locale : L"";
     if (!name.empty()) {
         if (!IsLocaleName(name)) {
             return FALSE;
         }
-        if (FindFolder(name).empty() && !(IsEnglish(name) && HasFolder(GetLangFolder() + L"\\" + ENGLISH))) {
+        if (FindFolder(name).empty() && !(IsEnglish(name) && HasFolder(GetLangFolder() + L"\\" + kEnglish))) {
             return FALSE;
         }
     }
@@ -272,14 +179,14 @@ BOOL CLanguage::Choose(LPCWSTR locale)
     return TRUE;
 }
 
-std::wstring CLanguage::GetFolderName()
+std::wstring LanguageState::GetFolderName()
 {
     const std::lock_guard guard(m_lock);
     const std::wstring name = FindFolder(GetLocale());
-    return name.empty() ? ENGLISH : name;
+    return name.empty() ? kEnglish : name;
 }
 
-std::wstring CLanguage::GetLocale() const
+std::wstring LanguageState::GetLocale() const
 {
     if (!m_chosen.empty()) {
         return m_chosen;
@@ -288,12 +195,12 @@ std::wstring CLanguage::GetLocale() const
     return IsLocaleName(named) ? named : GetUserLocale();
 }
 
-// ------------------------------------------------------------------ exported
+} // namespace
 
 CXmlElem* QorSetDlgLang(HWND window, LPCWSTR module, LPCWSTR dialogKey, int flag)
 {
-    CXmlElem* element = CLanguage::Get().GetSection(module, dialogKey);
-    if ((flag & SET_TEXTS) && window && IsWindow(window)) {
+    CXmlElem* element = LanguageState::Get().GetSection(module, dialogKey);
+    if ((flag & kSetTexts) && window && IsWindow(window)) {
         SetTexts(window, *element);
     }
     return element;
@@ -301,17 +208,17 @@ CXmlElem* QorSetDlgLang(HWND window, LPCWSTR module, LPCWSTR dialogKey, int flag
 
 CXmlElem* QorGetModuleLang(LPCWSTR module, LPCWSTR section)
 {
-    return CLanguage::Get().GetSection(module, section);
+    return LanguageState::Get().GetSection(module, section);
 }
 
 LPCWSTR QorGetString(LPCWSTR key)
 {
-    return QorGetModuleLang(PRODUCT_MODULE, STRINGS_SECTION)->GetChildData(key, 1);
+    return QorGetModuleLang(kProductModule, kStringsSection)->GetChildData(key, 1);
 }
 
 BOOL QorSetLanguage(LPCWSTR locale)
 {
-    return CLanguage::Get().Choose(locale);
+    return LanguageState::Get().Choose(locale);
 }
 
 BOOL QorIsSameFormat(LPCWSTR text, LPCWSTR model)
@@ -326,5 +233,5 @@ BOOL QorIsSameFormat(LPCWSTR text, LPCWSTR model)
 
 CString QorGetLanguage()
 {
-    return CLanguage::Get().GetFolderName().c_str();
+    return LanguageState::Get().GetFolderName().c_str();
 }

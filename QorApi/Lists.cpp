@@ -1,5 +1,6 @@
-#include "Names.h"
-#include "Store.h"
+#include "Lists.h"
+
+#include <QorApi/logon/Account.h>
 
 #include <objbase.h>
 
@@ -14,9 +15,9 @@ void Append(std::vector<BYTE>& records, const Record& record)
 }
 
 template <class Record>
-DWORD ListRecords(CDatabase& db, const char* sql, std::vector<BYTE>& records)
+DWORD ListRecords(Database& db, const char* sql, std::vector<BYTE>& records)
 {
-    CQuery query(db, sql);
+    Query query(db, sql);
     while (query.Next()) {
         Record record;
         query.GetRecord(0, record);
@@ -25,39 +26,34 @@ DWORD ListRecords(CDatabase& db, const char* sql, std::vector<BYTE>& records)
     return db.GetStatus();
 }
 
-DWORD ListSnapshots(CDatabase& db, std::vector<BYTE>& records)
+DWORD ListSnapshots(Database& db, std::vector<BYTE>& records)
 {
     return ListRecords<_QORVEX_SNAP>(db, "SELECT record FROM snapshot ORDER BY number", records);
 }
 
-DWORD ListTasks(CDatabase& db, std::vector<BYTE>& records)
+DWORD ListTasks(Database& db, std::vector<BYTE>& records)
 {
     return ListRecords<_QORVEX_TASK>(db, "SELECT record FROM task ORDER BY number", records);
 }
 
-DWORD ListUsers(CDatabase& db, std::vector<BYTE>& records)
+DWORD ListUsers(Database& db, std::vector<BYTE>& records)
 {
-    CQuery query(db, "SELECT number, flags, rights, name, description FROM user ORDER BY number");
-    while (query.Next()) {
-        _QORVEX_USER user = {};
-        user.wNumber = static_cast<WORD>(query.GetNumber(0));
-        user.wFlags = static_cast<WORD>(query.GetNumber(1));
-        user.dwRights = static_cast<DWORD>(query.GetNumber(2));
-        WriteField(user.szName, query.GetText(3));
-        WriteField(user.szDesc, query.GetText(4));
+    std::vector<_QORVEX_USER> users;
+    const DWORD status = LoadUsers(db, users);
+    for (const _QORVEX_USER& user : users) {
         Append(records, user);
     }
-    return db.GetStatus();
+    return status;
 }
 
-struct LISTKIND
+struct ListKind
 {
     UINT kind;
     int recordSize;
-    DWORD (*list)(CDatabase& db, std::vector<BYTE>& records);
+    DWORD (*list)(Database& db, std::vector<BYTE>& records);
 };
 
-constexpr LISTKIND LIST_KINDS[] = {
+constexpr ListKind kListKinds[] = {
     {QORLIST_SNAPSHOTS, sizeof(_QORVEX_SNAP), ListSnapshots},
     {QORLIST_USERS, sizeof(_QORVEX_USER), ListUsers},
     {QORLIST_TASKS, sizeof(_QORVEX_TASK), ListTasks},
@@ -65,9 +61,9 @@ constexpr LISTKIND LIST_KINDS[] = {
 
 DWORD ListAll(UINT kind, int recordSize, int flags, std::vector<BYTE>& records)
 {
-    for (const LISTKIND& candidate : LIST_KINDS) {
+    for (const ListKind& candidate : kListKinds) {
         if (candidate.kind == kind && candidate.recordSize == recordSize && flags == 0) {
-            return ReadStore([&](CDatabase& db) { return candidate.list(db, records); });
+            return ReadStore([&](Database& db) { return candidate.list(db, records); });
         }
     }
     return ERROR_INVALID_PARAMETER;
@@ -83,7 +79,7 @@ void* QorGetAllInfo(UINT kind, int recordSize, int* count, int flags)
     std::vector<BYTE> records;
     DWORD status = ListAll(kind, recordSize, flags, records);
     void* result = nullptr;
-    if (status == 0 && !records.empty()) {
+    if (status == ERROR_SUCCESS && !records.empty()) {
         result = CoTaskMemAlloc(records.size());
         if (result) {
             memcpy(result, records.data(), records.size());

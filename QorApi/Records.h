@@ -3,31 +3,31 @@
 #include "Store.h"
 
 /** The records kept as they are, in the tables `snapshot` and `task`: one per number. */
-class CRecordTable
+class RecordTable
 {
   public:
     /** @param recordSize bytes of a record. @param first, last numbers that a record may have. */
-    constexpr CRecordTable(const char* name, size_t recordSize, WORD first, WORD last)
+    constexpr RecordTable(const char* name, size_t recordSize, WORD first, WORD last)
         : m_name(name), m_recordSize(recordSize), m_first(first), m_last(last)
     {
     }
 
     /** @return ERROR_NOT_FOUND, or the database's status. */
     template <class Record>
-    DWORD Load(CDatabase& db, WORD number, Record& record) const
+    DWORD Load(Database& db, WORD number, Record& record) const
     {
-        CQuery query(db, Sql("SELECT record FROM ", " WHERE number = ?1").c_str());
+        Query query(db, Sql("SELECT record FROM ", " WHERE number = ?1").c_str());
         if (!query.Bind(1, number).Next()) {
-            return db.GetStatus() ? db.GetStatus() : ERROR_NOT_FOUND;
+            return db.GetStatus() == ERROR_SUCCESS ? static_cast<DWORD>(ERROR_NOT_FOUND) : db.GetStatus();
         }
         query.GetRecord(0, record);
         return db.GetStatus();
     }
-    DWORD Store(CDatabase& db, WORD number, const void* record) const;
+    DWORD Store(Database& db, WORD number, const void* record) const;
     /** @return ERROR_NOT_FOUND, or the database's status. */
-    DWORD Delete(CDatabase& db, WORD number) const;
+    DWORD Delete(Database& db, WORD number) const;
     /** The lowest free number. @return ERROR_NOT_ENOUGH_QUOTA when all are in use. */
-    DWORD FindFree(CDatabase& db, WORD& number) const;
+    DWORD FindFree(Database& db, WORD& number) const;
 
   private:
     std::string Sql(const char* before, const char* after) const { return before + std::string(m_name) + after; }
@@ -44,26 +44,26 @@ class CRecordTable
  * @return status; ERROR_NOT_ENOUGH_QUOTA when all numbers are in use.
  */
 template <class Record, class Allow>
-DWORD AddRecord(const CRecordTable& table, Record& record, Allow allow)
+DWORD AddRecord(const RecordTable& table, Record& record, Allow allow)
 {
     WORD number = 0;
-    const DWORD status = WriteStore([&](CDatabase& db) {
+    const DWORD status = WriteStore([&](Database& db) {
         DWORD result = allow(db);
-        if (result == 0) {
+        if (result == ERROR_SUCCESS) {
             result = table.FindFree(db, number);
         }
-        if (result != 0) {
+        if (result != ERROR_SUCCESS) {
             return result;
         }
         Record added = record;
         added.wNumber = number;
         return table.Store(db, number, &added);
     });
-    if (status == 0) {
+    if (status == ERROR_SUCCESS) {
         record.wNumber = number;
     }
     return status;
 }
 
-constexpr CRecordTable SNAPSHOT_TABLE("snapshot", sizeof(_QORVEX_SNAP), 1, QORSNAP_MAX);
-constexpr CRecordTable TASK_TABLE("task", sizeof(_QORVEX_TASK), 0, QORTASK_MAX);
+constexpr RecordTable kSnapshotTable("snapshot", sizeof(_QORVEX_SNAP), 1, QORSNAP_MAX);
+constexpr RecordTable kTaskTable("task", sizeof(_QORVEX_TASK), 0, QORTASK_MAX);

@@ -1,6 +1,9 @@
+#include "Snapshots.h"
+
 #include "Names.h"
 #include "Records.h"
-#include "Session.h"
+
+#include <QorApi/logon/Session.h>
 
 namespace
 {
@@ -27,27 +30,27 @@ DWORD Clean(const _QORVEX_SNAP& snapshot, _QORVEX_SNAP& clean)
     } else if (!QorTime2SysTime(snapshot.time, time)) {
         return ERROR_INVALID_TIME;
     }
-    return SysTime2QorTime(time, clean.time) ? 0 : ERROR_INVALID_TIME;
+    return SysTime2QorTime(time, clean.time) ? ERROR_SUCCESS : ERROR_INVALID_TIME;
 }
 
 /** Loads a snapshot for somebody who needs a right for what he will do with it. */
-DWORD LoadFor(CDatabase& db, DWORD right, WORD number, _QORVEX_SNAP& snapshot)
+DWORD LoadFor(Database& db, DWORD right, WORD number, _QORVEX_SNAP& snapshot)
 {
     const DWORD status = NeedRights(db, right);
-    return status ? status : SNAPSHOT_TABLE.Load(db, number, snapshot);
+    return status == ERROR_SUCCESS ? kSnapshotTable.Load(db, number, snapshot) : status;
 }
 
 /** Changes one snapshot with the right to take them. */
 template <class Change>
 DWORD ChangeSnapshot(WORD number, Change change)
 {
-    return WriteStore([&](CDatabase& db) {
+    return WriteStore([&](Database& db) {
         _QORVEX_SNAP snapshot;
-        if (const DWORD status = LoadFor(db, QORRIGHT_TAKESNAP, number, snapshot)) {
+        if (const DWORD status = LoadFor(db, QORRIGHT_TAKESNAP, number, snapshot); status != ERROR_SUCCESS) {
             return status;
         }
         change(snapshot);
-        return SNAPSHOT_TABLE.Store(db, number, &snapshot);
+        return kSnapshotTable.Store(db, number, &snapshot);
     });
 }
 
@@ -57,11 +60,11 @@ DWORD QorAddSnapshot(_QORVEX_SNAP& snapshot)
 {
     _QORVEX_SNAP clean = {};
     DWORD status = Clean(snapshot, clean);
-    if (status != 0) {
+    if (status != ERROR_SUCCESS) {
         return status;
     }
-    status = AddRecord(SNAPSHOT_TABLE, clean, [](CDatabase& db) { return NeedRights(db, QORRIGHT_TAKESNAP); });
-    if (status == 0) {
+    status = AddRecord(kSnapshotTable, clean, [](Database& db) { return NeedRights(db, QORRIGHT_TAKESNAP); });
+    if (status == ERROR_SUCCESS) {
         snapshot = clean;
     }
     return status;
@@ -69,12 +72,12 @@ DWORD QorAddSnapshot(_QORVEX_SNAP& snapshot)
 
 DWORD QorDeleteSnapshot(WORD number)
 {
-    return WriteStore([&](CDatabase& db) {
+    return WriteStore([&](Database& db) {
         _QORVEX_SNAP snapshot;
-        if (const DWORD status = LoadFor(db, QORRIGHT_DELSNAP, number, snapshot)) {
+        if (const DWORD status = LoadFor(db, QORRIGHT_DELSNAP, number, snapshot); status != ERROR_SUCCESS) {
             return status;
         }
-        return snapshot.wFlags & QORSNAP_LOCKED ? static_cast<DWORD>(ERROR_LOCKED) : SNAPSHOT_TABLE.Delete(db, number);
+        return snapshot.wFlags & QORSNAP_LOCKED ? static_cast<DWORD>(ERROR_LOCKED) : kSnapshotTable.Delete(db, number);
     });
 }
 

@@ -10,13 +10,13 @@
 #include <vector>
 
 /** One connection to the store. The first failure stays its status until Begin(). */
-class CDatabase
+class Database
 {
   public:
-    CDatabase() = default;
-    ~CDatabase();
-    CDatabase(const CDatabase&) = delete;
-    CDatabase& operator=(const CDatabase&) = delete;
+    Database() = default;
+    ~Database();
+    Database(const Database&) = delete;
+    Database& operator=(const Database&) = delete;
 
     /** Opens the store, which is made when the file is missing or has no content. A store that is refused stays as it
      * is. */
@@ -29,13 +29,13 @@ class CDatabase
     DWORD Commit();
     void Rollback();
 
-    /** Status of everything since Begin(): 0 or the first failure. */
+    /** Status of everything since Begin(): ERROR_SUCCESS or the first failure. */
     DWORD GetStatus() const { return m_status; }
     /** Notes that what was read makes no sense. */
     DWORD SetDamaged();
 
   private:
-    friend class CQuery;
+    friend class Query;
 
     DWORD OpenFile(bool create, bool readOnly);
     DWORD Check(bool fresh);
@@ -48,22 +48,22 @@ class CDatabase
 
     sqlite3* m_db = nullptr;
     std::wstring m_path;
-    DWORD m_status = 0;
+    DWORD m_status = ERROR_SUCCESS;
 };
 
 /** One statement with its parameters (from 1) and its result columns (from 0). Failures go to the database's status. */
-class CQuery
+class Query
 {
   public:
-    CQuery(CDatabase& db, const char* sql);
-    ~CQuery();
-    CQuery(const CQuery&) = delete;
-    CQuery& operator=(const CQuery&) = delete;
+    Query(Database& db, const char* sql);
+    ~Query();
+    Query(const Query&) = delete;
+    Query& operator=(const Query&) = delete;
 
-    CQuery& Bind(int index, long long value);
-    CQuery& Bind(int index, LPCWSTR text);
+    Query& Bind(int index, long long value);
+    Query& Bind(int index, LPCWSTR text);
     /** A null pointer binds NULL. */
-    CQuery& Bind(int index, const void* data, size_t size);
+    Query& Bind(int index, const void* data, size_t size);
 
     /** Goes to the next row; false behind the last and after a failure. */
     bool Next();
@@ -88,12 +88,12 @@ class CQuery
   private:
     void ReadRecord(int column, void* record, size_t size) const;
 
-    CDatabase& m_db;
+    Database& m_db;
     sqlite3_stmt* m_statement = nullptr;
 };
 
-/** Work on the store within one transaction; a status other than 0 undoes it. */
-using StoreWork = DWORD (*)(CDatabase& db, void* context);
+/** Work on the store within one transaction; a status other than ERROR_SUCCESS undoes it. */
+using StoreWork = DWORD (*)(Database& db, void* context);
 
 DWORD RunOnStore(bool write, StoreWork work, void* context);
 
@@ -101,12 +101,12 @@ template <class Work>
 DWORD ReadStore(Work work)
 {
     return RunOnStore(
-        false, [](CDatabase& db, void* context) { return (*static_cast<Work*>(context))(db); }, &work);
+        false, [](Database& db, void* context) { return (*static_cast<Work*>(context))(db); }, &work);
 }
 
 template <class Work>
 DWORD WriteStore(Work work)
 {
     return RunOnStore(
-        true, [](CDatabase& db, void* context) { return (*static_cast<Work*>(context))(db); }, &work);
+        true, [](Database& db, void* context) { return (*static_cast<Work*>(context))(db); }, &work);
 }

@@ -1,11 +1,14 @@
+#include "Tasks.h"
+
 #include "Names.h"
 #include "Records.h"
-#include "Session.h"
+
+#include <QorApi/logon/Session.h>
 
 namespace
 {
 
-constexpr BYTE LAST_HOUR = 23;
+constexpr BYTE kLastHour = 23;
 
 int GetKind(const _QORVEX_TASK& task)
 {
@@ -30,11 +33,11 @@ bool IsValid(const _QORVEX_TASK& task)
     CString name;
     const int kind = GetKind(task);
     return kind >= QORTASK_ROLLBACK && kind <= QORTASK_DEFRAG && IsSchedule(task.nSchedule) &&
-           DoGoTogether(kind, task.nSchedule) && task.nFirstHour <= LAST_HOUR && task.nLastHour <= LAST_HOUR &&
+           DoGoTogether(kind, task.nSchedule) && task.nFirstHour <= kLastHour && task.nLastHour <= kLastHour &&
            ReadField(task.szName, name) && !name.IsEmpty();
 }
 
-DWORD NeedRightFor(CDatabase& db, const _QORVEX_TASK& task)
+DWORD NeedRightFor(Database& db, const _QORVEX_TASK& task)
 {
     switch (GetKind(task)) {
     case QORTASK_ROLLBACK:
@@ -47,14 +50,14 @@ DWORD NeedRightFor(CDatabase& db, const _QORVEX_TASK& task)
 }
 
 /** Loads a task that the logged-on user may change. */
-DWORD LoadOwn(CDatabase& db, WORD number, _QORVEX_TASK& task)
+DWORD LoadOwn(Database& db, WORD number, _QORVEX_TASK& task)
 {
-    ACCOUNT user;
-    DWORD status = CSession::GetUser(db, user);
-    if (status == 0) {
-        status = TASK_TABLE.Load(db, number, task);
+    Account user;
+    DWORD status = Session::GetUser(db, user);
+    if (status == ERROR_SUCCESS) {
+        status = kTaskTable.Load(db, number, task);
     }
-    return status ? status : NeedRightFor(db, task);
+    return status == ERROR_SUCCESS ? NeedRightFor(db, task) : status;
 }
 
 } // namespace
@@ -62,8 +65,8 @@ DWORD LoadOwn(CDatabase& db, WORD number, _QORVEX_TASK& task)
 DWORD QorGetTask(_QORVEX_TASK& task)
 {
     _QORVEX_TASK found = {};
-    const DWORD status = ReadStore([&](CDatabase& db) { return TASK_TABLE.Load(db, task.wNumber, found); });
-    if (status == 0) {
+    const DWORD status = ReadStore([&](Database& db) { return kTaskTable.Load(db, task.wNumber, found); });
+    if (status == ERROR_SUCCESS) {
         task = found;
     }
     return status;
@@ -74,7 +77,7 @@ DWORD QorAddTask(_QORVEX_TASK& task)
     if (!IsValid(task)) {
         return ERROR_INVALID_DATA;
     }
-    return AddRecord(TASK_TABLE, task, [&](CDatabase& db) { return NeedRightFor(db, task); });
+    return AddRecord(kTaskTable, task, [&](Database& db) { return NeedRightFor(db, task); });
 }
 
 DWORD QorSetTask(const _QORVEX_TASK& task)
@@ -82,21 +85,21 @@ DWORD QorSetTask(const _QORVEX_TASK& task)
     if (!IsValid(task)) {
         return ERROR_INVALID_DATA;
     }
-    return WriteStore([&](CDatabase& db) {
+    return WriteStore([&](Database& db) {
         _QORVEX_TASK former;
         DWORD status = LoadOwn(db, task.wNumber, former);
-        if (status == 0) {
+        if (status == ERROR_SUCCESS) {
             status = NeedRightFor(db, task);
         }
-        return status ? status : TASK_TABLE.Store(db, task.wNumber, &task);
+        return status == ERROR_SUCCESS ? kTaskTable.Store(db, task.wNumber, &task) : status;
     });
 }
 
 DWORD QorDeleteTask(WORD number)
 {
-    return WriteStore([&](CDatabase& db) {
+    return WriteStore([&](Database& db) {
         _QORVEX_TASK task;
         const DWORD status = LoadOwn(db, number, task);
-        return status ? status : TASK_TABLE.Delete(db, number);
+        return status == ERROR_SUCCESS ? kTaskTable.Delete(db, number) : status;
     });
 }

@@ -1,10 +1,10 @@
-#include <QorApi/QorApi.h>
+#include "TimeRecord.h"
 
 namespace
 {
 
-constexpr WORD FIRST_YEAR = 1601;
-constexpr WORD LAST_YEAR = 9999;
+constexpr WORD kFirstYear = 1601;
+constexpr WORD kLastYear = 9999;
 
 // The system tells the day of the week. Some versions of it move days that do not exist into the next month, so that
 // only a date that comes back as it went in is one.
@@ -12,7 +12,7 @@ bool Complete(SYSTEMTIME& time)
 {
     FILETIME fileTime = {};
     SYSTEMTIME back = {};
-    if (time.wYear < FIRST_YEAR || time.wYear > LAST_YEAR || !SystemTimeToFileTime(&time, &fileTime) ||
+    if (time.wYear < kFirstYear || time.wYear > kLastYear || !SystemTimeToFileTime(&time, &fileTime) ||
         !FileTimeToSystemTime(&fileTime, &back) || back.wDay != time.wDay || back.wMonth != time.wMonth) {
         return false;
     }
@@ -24,7 +24,7 @@ bool Complete(SYSTEMTIME& time)
 
 BOOL QorTime2SysTime(const _QORTIME& time, SYSTEMTIME& sysTime)
 {
-    constexpr BYTE everyDay = 7;
+    constexpr BYTE kEveryDay = 7;
     SYSTEMTIME result = {};
     result.wYear = time.wYear;
     result.wMonth = time.nMonth;
@@ -32,7 +32,7 @@ BOOL QorTime2SysTime(const _QORTIME& time, SYSTEMTIME& sysTime)
     result.wHour = time.nHour;
     result.wMinute = time.nMinute;
     result.wSecond = time.nSecond;
-    const bool valid = time.nDayOfWeek <= everyDay && Complete(result);
+    const bool valid = time.nDayOfWeek <= kEveryDay && Complete(result);
     sysTime = valid ? result : SYSTEMTIME();
     return valid;
 }

@@ -1,53 +1,19 @@
-#include "Settings.h"
+#include "Update.h"
+
+#include "InfoTable.h"
+#include "UpdateMark.h"
 #include "Version.h"
 
 #include <objidl.h>
 #include <urlmon.h>
 
-#include <memory>
-
 namespace
 {
 
-constexpr ULONG MAX_DESCRIPTION = 1024 * 1024; // bytes
-constexpr LPCWSTR PRODUCT_VERSION = QOR_PRODUCT_VERSION;
+constexpr ULONG kMaxDescription = 1024 * 1024; // bytes
+constexpr LPCWSTR kProductVersion = QOR_PRODUCT_VERSION;
 
-/** Marks the check as running, for all processes, as long as the object lives. */
-class CRunningMark
-{
-  public:
-    CRunningMark() : m_event(CreateEventW(nullptr, TRUE, FALSE, GetUpdateEventName()))
-    {
-        m_status = m_event ? 0 : GetLastError();
-        if (m_event && GetLastError() == ERROR_ALREADY_EXISTS) {
-            m_status = ERROR_BUSY;
-        }
-    }
-    ~CRunningMark()
-    {
-        if (m_event) {
-            CloseHandle(m_event);
-        }
-    }
-    CRunningMark(const CRunningMark&) = delete;
-    CRunningMark& operator=(const CRunningMark&) = delete;
-
-    DWORD GetStatus() const { return m_status; }
-
-  private:
-    HANDLE m_event;
-    DWORD m_status;
-};
-
-struct ReleaseStream
-{
-    void operator()(IStream* stream) const { stream->Release(); }
-};
-
-struct FreeModule
-{
-    void operator()(HMODULE module) const { FreeLibrary(module); }
-};
+constexpr int kMaxSource = 4096; // bytes, as any setting
 
 bool IsUrl(const CString& source)
 {
@@ -64,37 +30,42 @@ DWORD ReadAll(IStream& stream, std::vector<BYTE>& content)
             return result;
         }
         content.insert(content.end(), buffer, buffer + read);
-        if (content.size() > MAX_DESCRIPTION) {
+        if (content.size() > kMaxDescription) {
             return ERROR_FILE_TOO_LARGE;
         }
         if (read == 0) {
-            return 0;
+            return ERROR_SUCCESS;
         }
     }
 }
 
 DWORD ReadUrl(const CString& url, std::vector<BYTE>& content)
 {
-    const std::unique_ptr<std::remove_pointer_t<HMODULE>, FreeModule> module(
-        LoadLibraryExW(L"urlmon.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32));
+    const own::Module module(LoadLibraryExW(L"urlmon.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32));
     if (!module) {
         return GetLastError();
     }
     const auto open = reinterpret_cast<decltype(&URLOpenBlockingStreamW)>(
-        reinterpret_cast<void*>(GetProcAddress(module.get(), "URLOpenBlockingStreamW")));
+        reinterpret_cast<void*>(GetProcAddress(module.Get(), "URLOpenBlockingStreamW")));
     if (!open) {
         return ERROR_PROC_NOT_FOUND;
     }
-    IStream* opened = nullptr;
-    const HRESULT result = open(nullptr, url, &opened, 0, nullptr);
+    own::Com<IStream> stream;
+    const HRESULT result = open(nullptr, url, stream.Receive(), 0, nullptr);
     if (FAILED(result)) {
         return result;
     }
-    if (!opened) {
-        return ERROR_HOST_UNREACHABLE;
-    }
-    const std::unique_ptr<IStream, ReleaseStream> stream(opened);
-    return ReadAll(*stream, content);
+    return stream ? ReadAll(*stream.Get(), content) : static_cast<DWORD>(ERROR_HOST_UNREACHABLE);
+}
+
+DWORD GetSource(CString& source)
+{
+    WCHAR text[kMaxSource / sizeof(WCHAR)] = {};
+    const DWORD status = QorGetInfo(QORINFO_UPDATE_SOURCE, text, sizeof(text));
+    text[std::size(text) - 1] = 0;
+    source = text;
+    source.Trim();
+    return status;
 }
 
 DWORD LoadDescription(const CString& source, CQorXml& xml)
@@ -104,7 +75,7 @@ DWORD LoadDescription(const CString& source, CQorXml& xml)
     }
     std::vector<BYTE> content;
     const DWORD status = ReadUrl(source, content);
-    return status ? status : xml.LoadMemory(content.data(), content.size());
+    return status == ERROR_SUCCESS ? xml.LoadMemory(content.data(), content.size()) : status;
 }
 
 /** The version that a description offers when it is newer than the product's, else an empty text. */
@@ -116,11 +87,11 @@ DWORD FindNewer(const CQorXml& xml, CString& newer)
     }
     const CString offered = root->GetAttr(L"Version", L"");
     int order = 0;
-    if (!CompareVersions(offered.GetString(), PRODUCT_VERSION, order)) {
+    if (!CompareVersions(offered.GetString(), kProductVersion, order)) {
         return ERROR_INVALID_DATA;
     }
     newer = order > 0 ? offered : CString();
-    return 0;
+    return ERROR_SUCCESS;
 }
 
 } // namespace
@@ -128,25 +99,26 @@ DWORD FindNewer(const CQorXml& xml, CString& newer)
 DWORD QorCheckUpdate()
 {
     CString source;
-    if (const DWORD status = GetInfoText(QORINFO_UPDATE_SOURCE, source)) {
+    if (const DWORD status = GetSource(source); status != ERROR_SUCCESS) {
         return status;
     }
-    source.Trim();
     if (source.IsEmpty()) {
         return ERROR_HOST_UNREACHABLE;
     }
-    const CRunningMark running;
+    const UpdateMark running;
     CQorXml xml;
     CString newer;
     DWORD status = running.GetStatus();
-    if (status == 0) {
+    if (status == ERROR_SUCCESS) {
         status = LoadDescription(source, xml);
     }
-    if (status == 0) {
+    if (status == ERROR_SUCCESS) {
         status = FindNewer(xml, newer);
     }
-    if (status != 0) {
+    if (status != ERROR_SUCCESS) {
         return status;
     }
-    return WriteStore([&](CDatabase& db) { return PutInfoText(db, QORINFO_UPDATE_VERSION, newer); });
+    return WriteStore([&](Database& db) {
+        return StoreInfo(db, QORINFO_UPDATE_VERSION, newer.GetString(), (newer.GetLength() + 1) * sizeof(WCHAR));
+    });
 }

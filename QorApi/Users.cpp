@@ -1,14 +1,17 @@
+#include "Users.h"
+
 #include "Names.h"
-#include "Password.h"
-#include "Session.h"
+
+#include <QorApi/logon/Password.h>
+#include <QorApi/logon/Session.h>
 
 namespace
 {
 
-constexpr size_t MAX_PASSWORD = 63;
+constexpr size_t kMaxPassword = 63;
 
 /** What a set operation brings, checked. */
-struct USERCHANGE
+struct UserChange
 {
     WORD number = 0;
     WORD mask = 0;
@@ -16,12 +19,12 @@ struct USERCHANGE
     DWORD rights = 0;
     CString name;
     CString description;
-    PASSWORDHASH password;
+    PasswordHash password;
 
     bool Has(WORD field) const { return (mask & field) != 0; }
 };
 
-DWORD ReadChange(const _QORVEX_USER& user, LPCWSTR password, USERCHANGE& change)
+DWORD ReadChange(const _QORVEX_USER& user, LPCWSTR password, UserChange& change)
 {
     change.number = user.wNumber;
     change.mask = user.wFieldMask;
@@ -43,35 +46,22 @@ DWORD ReadChange(const _QORVEX_USER& user, LPCWSTR password, USERCHANGE& change)
         return ERROR_INVALID_PARAMETER;
     }
     if (!change.Has(QORUSER_PASSWORD)) {
-        return 0;
+        return ERROR_SUCCESS;
     }
-    if (password && wcsnlen(password, MAX_PASSWORD + 1) > MAX_PASSWORD) {
+    if (password && wcsnlen(password, kMaxPassword + 1) > kMaxPassword) {
         return ERROR_ILL_FORMED_PASSWORD;
     }
     return HashPassword(password, change.password);
 }
 
-DWORD FindAccount(CDatabase& db, WORD number, ACCOUNT& account)
-{
-    CQuery query(db, "SELECT id, flags, rights FROM user WHERE number = ?1");
-    if (!query.Bind(1, number).Next()) {
-        return db.GetStatus() ? db.GetStatus() : ERROR_NO_SUCH_USER;
-    }
-    account.id = query.GetNumber(0);
-    account.number = number;
-    account.flags = static_cast<WORD>(query.GetNumber(1));
-    account.rights = static_cast<DWORD>(query.GetNumber(2));
-    return 0;
-}
-
 /** Nobody deals with an account that has more rights than he has. */
-DWORD NeedPowerOver(const ACCOUNT& user, DWORD rights)
+DWORD NeedPowerOver(const Account& user, DWORD rights)
 {
     const bool allowed = (user.rights & QORRIGHT_SECURITY) && (rights & ~user.rights) == 0;
-    return allowed ? 0 : ERROR_ACCESS_DENIED;
+    return allowed ? ERROR_SUCCESS : ERROR_ACCESS_DENIED;
 }
 
-DWORD NeedChange(const ACCOUNT& user, const ACCOUNT& target, const USERCHANGE& change)
+DWORD NeedChange(const Account& user, const Account& target, const UserChange& change)
 {
     if (target.number == QORUSER_BUILTIN && change.Has(QORUSER_PROPERTIES)) {
         return ERROR_ACCESS_DENIED;
@@ -81,40 +71,40 @@ DWORD NeedChange(const ACCOUNT& user, const ACCOUNT& target, const USERCHANGE& c
         return ERROR_ACCESS_DENIED;
     }
     if (own && change.mask == QORUSER_PASSWORD) {
-        return 0;
+        return ERROR_SUCCESS;
     }
     return NeedPowerOver(user, target.rights | (change.Has(QORUSER_RIGHTS) ? change.rights : 0));
 }
 
-bool IsNameInUse(CDatabase& db, const CString& name, long long exceptId)
+bool IsNameInUse(Database& db, const CString& name, long long exceptId)
 {
-    CQuery query(db, "SELECT 1 FROM user WHERE name_key = ?1 AND id <> ?2");
+    Query query(db, "SELECT 1 FROM user WHERE name_key = ?1 AND id <> ?2");
     return query.Bind(1, FoldName(name)).Bind(2, exceptId).Next();
 }
 
-DWORD ApplyChange(CDatabase& db, const ACCOUNT& target, const USERCHANGE& change)
+DWORD ApplyChange(Database& db, const Account& target, const UserChange& change)
 {
     if (change.Has(QORUSER_NAME)) {
-        CQuery(db, "UPDATE user SET name = ?2, name_key = ?3 WHERE id = ?1")
+        Query(db, "UPDATE user SET name = ?2, name_key = ?3 WHERE id = ?1")
             .Bind(1, target.id)
             .Bind(2, change.name)
             .Bind(3, FoldName(change.name))
             .Run();
     }
     if (change.Has(QORUSER_DESC)) {
-        CQuery(db, "UPDATE user SET description = ?2 WHERE id = ?1")
+        Query(db, "UPDATE user SET description = ?2 WHERE id = ?1")
             .Bind(1, target.id)
             .Bind(2, change.description)
             .Run();
     }
     if (change.Has(QORUSER_RIGHTS)) {
-        CQuery(db, "UPDATE user SET rights = ?2 WHERE id = ?1").Bind(1, target.id).Bind(2, change.rights).Run();
+        Query(db, "UPDATE user SET rights = ?2 WHERE id = ?1").Bind(1, target.id).Bind(2, change.rights).Run();
     }
     if (change.Has(QORUSER_FLAGS)) {
-        CQuery(db, "UPDATE user SET flags = ?2 WHERE id = ?1").Bind(1, target.id).Bind(2, change.flags).Run();
+        Query(db, "UPDATE user SET flags = ?2 WHERE id = ?1").Bind(1, target.id).Bind(2, change.flags).Run();
     }
     if (change.Has(QORUSER_PASSWORD)) {
-        CQuery(db, "UPDATE user SET salt = ?2, rounds = ?3, hash = ?4, failures = 0 WHERE id = ?1")
+        Query(db, "UPDATE user SET salt = ?2, rounds = ?3, hash = ?4, failures = 0 WHERE id = ?1")
             .Bind(1, target.id)
             .Bind(2, change.password.salt.data(), change.password.salt.size())
             .Bind(3, change.password.rounds)
@@ -124,18 +114,18 @@ DWORD ApplyChange(CDatabase& db, const ACCOUNT& target, const USERCHANGE& change
     return db.GetStatus();
 }
 
-DWORD ChangeAccount(CDatabase& db, const USERCHANGE& change)
+DWORD ChangeAccount(Database& db, const UserChange& change)
 {
-    ACCOUNT user;
-    ACCOUNT target;
-    DWORD status = CSession::GetUser(db, user);
-    if (status == 0) {
+    Account user;
+    Account target;
+    DWORD status = Session::GetUser(db, user);
+    if (status == ERROR_SUCCESS) {
         status = FindAccount(db, change.number, target);
     }
-    if (status == 0) {
+    if (status == ERROR_SUCCESS) {
         status = NeedChange(user, target, change);
     }
-    if (status != 0) {
+    if (status != ERROR_SUCCESS) {
         return status;
     }
     if (change.Has(QORUSER_NAME) && IsNameInUse(db, change.name, target.id)) {
@@ -145,16 +135,16 @@ DWORD ChangeAccount(CDatabase& db, const USERCHANGE& change)
 }
 
 /** The number for a new account: the wanted one, or the lowest free one when the wanted one means "new". */
-DWORD ChooseNumber(CDatabase& db, WORD wanted, WORD& number)
+DWORD ChooseNumber(Database& db, WORD wanted, WORD& number)
 {
-    ACCOUNT other;
+    Account other;
     const bool any = wanted > QORUSER_MAX;
     for (number = any ? 1 : wanted; number <= QORUSER_MAX; ++number) {
         const DWORD status = FindAccount(db, number, other);
         if (status == ERROR_NO_SUCH_USER) {
-            return 0;
+            return ERROR_SUCCESS;
         }
-        if (status != 0) {
+        if (status != ERROR_SUCCESS) {
             return status;
         }
         if (!any) {
@@ -164,104 +154,80 @@ DWORD ChooseNumber(CDatabase& db, WORD wanted, WORD& number)
     return ERROR_NOT_ENOUGH_QUOTA;
 }
 
-DWORD AddAccount(CDatabase& db, const USERCHANGE& change, WORD& number)
+DWORD AddAccount(Database& db, const UserChange& change, WORD& number)
 {
-    ACCOUNT user;
-    DWORD status = CSession::GetUser(db, user);
-    if (status == 0) {
+    Account user;
+    DWORD status = Session::GetUser(db, user);
+    if (status == ERROR_SUCCESS) {
         status = NeedPowerOver(user, change.Has(QORUSER_RIGHTS) ? change.rights : 0);
     }
-    if (status == 0) {
+    if (status == ERROR_SUCCESS) {
         status = ChooseNumber(db, change.number, number);
     }
-    if (status != 0) {
+    if (status != ERROR_SUCCESS) {
         return status;
     }
     if (IsNameInUse(db, change.name, 0)) {
         return ERROR_USER_EXISTS;
     }
-    CQuery(db, "INSERT INTO user(number, name, name_key, description, flags, rights) VALUES(?1, ?2, ?3, '', 0, 0)")
+    Query(db, "INSERT INTO user(number, name, name_key, description, flags, rights) VALUES(?1, ?2, ?3, '', 0, 0)")
         .Bind(1, number)
         .Bind(2, change.name)
         .Bind(3, FoldName(change.name))
         .Run();
-    ACCOUNT target;
+    Account target;
     status = FindAccount(db, number, target);
-    return status ? status : ApplyChange(db, target, change);
+    return status == ERROR_SUCCESS ? ApplyChange(db, target, change) : status;
 }
 
-DWORD DeleteAccount(CDatabase& db, WORD number)
+DWORD DeleteAccount(Database& db, WORD number)
 {
-    ACCOUNT user;
-    ACCOUNT target;
-    DWORD status = CSession::GetUser(db, user);
-    if (status == 0) {
+    Account user;
+    Account target;
+    DWORD status = Session::GetUser(db, user);
+    if (status == ERROR_SUCCESS) {
         status = FindAccount(db, number, target);
     }
-    if (status == 0) {
+    if (status == ERROR_SUCCESS) {
         status = NeedPowerOver(user, target.rights);
     }
-    if (status != 0) {
+    if (status != ERROR_SUCCESS) {
         return status;
     }
     if (number == QORUSER_BUILTIN || target.id == user.id) {
         return ERROR_ACCESS_DENIED;
     }
-    return CQuery(db, "DELETE FROM user WHERE id = ?1").Bind(1, target.id).Run();
-}
-
-DWORD LoadUser(CDatabase& db, WORD number, _QORVEX_USER& user)
-{
-    CQuery query(db, "SELECT name, description, flags, rights FROM user WHERE number = ?1");
-    if (!query.Bind(1, number).Next()) {
-        return db.GetStatus() ? db.GetStatus() : ERROR_NO_SUCH_USER;
-    }
-    user = _QORVEX_USER();
-    user.wNumber = number;
-    WriteField(user.szName, query.GetText(0));
-    WriteField(user.szDesc, query.GetText(1));
-    user.wFlags = static_cast<WORD>(query.GetNumber(2));
-    user.dwRights = static_cast<DWORD>(query.GetNumber(3));
-    return 0;
+    return Query(db, "DELETE FROM user WHERE id = ?1").Bind(1, target.id).Run();
 }
 
 } // namespace
 
 DWORD QorGetUserInfo(_QORVEX_USER& user)
 {
-    return ReadStore([&](CDatabase& db) { return LoadUser(db, user.wNumber, user); });
-}
-
-DWORD QorGetLogonUser(_QORVEX_USER& user)
-{
-    return ReadStore([&](CDatabase& db) {
-        ACCOUNT account;
-        const DWORD status = CSession::GetUser(db, account);
-        return status ? status : LoadUser(db, account.number, user);
-    });
+    return ReadStore([&](Database& db) { return LoadUser(db, user.wNumber, user); });
 }
 
 DWORD QorSetUserInfo(_QORVEX_USER& user, LPCWSTR password)
 {
-    USERCHANGE change;
-    if (const DWORD status = ReadChange(user, password, change)) {
+    UserChange change;
+    if (const DWORD status = ReadChange(user, password, change); status != ERROR_SUCCESS) {
         return status;
     }
-    return WriteStore([&](CDatabase& db) { return ChangeAccount(db, change); });
+    return WriteStore([&](Database& db) { return ChangeAccount(db, change); });
 }
 
 DWORD QorAddUser(_QORVEX_USER& user, LPCWSTR password)
 {
-    USERCHANGE change;
-    if (const DWORD status = ReadChange(user, password, change)) {
+    UserChange change;
+    if (const DWORD status = ReadChange(user, password, change); status != ERROR_SUCCESS) {
         return status;
     }
     if (!change.Has(QORUSER_NAME) || change.number == QORUSER_BUILTIN) {
         return ERROR_INVALID_PARAMETER;
     }
     WORD number = 0;
-    const DWORD status = WriteStore([&](CDatabase& db) { return AddAccount(db, change, number); });
-    if (status == 0) {
+    const DWORD status = WriteStore([&](Database& db) { return AddAccount(db, change, number); });
+    if (status == ERROR_SUCCESS) {
         user.wNumber = number;
     }
     return status;
@@ -269,5 +235,5 @@ DWORD QorAddUser(_QORVEX_USER& user, LPCWSTR password)
 
 DWORD QorDeleteUser(WORD number)
 {
-    return WriteStore([&](CDatabase& db) { return DeleteAccount(db, number); });
+    return WriteStore([&](Database& db) { return DeleteAccount(db, number); });
 }

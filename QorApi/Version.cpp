@@ -5,14 +5,14 @@
 namespace
 {
 
-constexpr size_t PARTS = 4;
-constexpr size_t MAX_DIGITS = 5;
+constexpr size_t kParts = 4;
+constexpr size_t kMaxDigits = 5;
 
-using Parts = std::array<int, PARTS>;
+using Parts = std::array<int, kParts>;
 
 bool ParsePart(std::wstring_view text, int& part)
 {
-    if (text.empty() || text.size() > MAX_DIGITS) {
+    if (text.empty() || text.size() > kMaxDigits) {
         return false;
     }
     part = 0;
@@ -28,7 +28,7 @@ bool ParsePart(std::wstring_view text, int& part)
 bool ParseVersion(std::wstring_view text, Parts& parts)
 {
     parts = {};
-    for (size_t i = 0; i < PARTS; ++i) {
+    for (size_t i = 0; i < kParts; ++i) {
         const size_t dot = text.find(L'.');
         if (!ParsePart(text.substr(0, dot), parts[i])) {
             return false;

@@ -1,5 +1,6 @@
 #include "Password.h"
 
+#include <common/Owner.h>
 #include <QorPub/QorPub.h>
 
 #include <bcrypt.h>
@@ -7,18 +8,18 @@
 namespace
 {
 
-constexpr size_t SALT_SIZE = 16;
-constexpr size_t HASH_SIZE = 32;
-constexpr int ROUNDS = 100000;
-constexpr int MAX_ROUNDS = 10000000;
+constexpr size_t kSaltSize = 16;
+constexpr size_t kHashSize = 32;
+constexpr int kRounds = 100000;
+constexpr int kMaxRounds = 10000000;
 
 /** The functions of the system's cryptography, which is loaded at the first use. */
-class CCng
+class Cng
 {
   public:
-    static const CCng& Get()
+    static const Cng& Get()
     {
-        static const CCng cng;
+        static const Cng cng;
         return cng;
     }
 
@@ -26,31 +27,37 @@ class CCng
 
     DWORD Derive(LPCWSTR password, const std::vector<BYTE>& salt, int rounds, std::vector<BYTE>& key) const
     {
-        BCRYPT_ALG_HANDLE algorithm = nullptr;
-        LONG status = m_open(&algorithm, BCRYPT_SHA256_ALGORITHM, nullptr, BCRYPT_ALG_HANDLE_HMAC_FLAG);
-        if (status < 0) {
+        own::Owner<Algorithm> algorithm;
+        if (m_open(algorithm.Receive(), BCRYPT_SHA256_ALGORITHM, nullptr, BCRYPT_ALG_HANDLE_HMAC_FLAG) < 0) {
             return ERROR_NOT_SUPPORTED;
         }
+        key.assign(kHashSize, 0);
         CStringA text = WStrToUTF8(password);
         const int length = text.GetLength();
         char* bytes = text.GetBuffer();
-        key.assign(HASH_SIZE, 0);
-        status = m_derive(algorithm, reinterpret_cast<PUCHAR>(bytes), length, const_cast<PUCHAR>(salt.data()),
-                          static_cast<ULONG>(salt.size()), rounds, key.data(), static_cast<ULONG>(key.size()), 0);
+        const LONG status =
+            m_derive(algorithm.Get(), reinterpret_cast<PUCHAR>(bytes), length, const_cast<PUCHAR>(salt.data()),
+                     static_cast<ULONG>(salt.size()), rounds, key.data(), static_cast<ULONG>(key.size()), 0);
         SecureZeroMemory(bytes, length);
-        m_close(algorithm, 0);
-        return status < 0 ? ERROR_INTERNAL_ERROR : 0;
+        return status < 0 ? ERROR_INTERNAL_ERROR : ERROR_SUCCESS;
     }
 
     DWORD Random(std::vector<BYTE>& bytes) const
     {
         const LONG status =
             m_random(nullptr, bytes.data(), static_cast<ULONG>(bytes.size()), BCRYPT_USE_SYSTEM_PREFERRED_RNG);
-        return status < 0 ? ERROR_INTERNAL_ERROR : 0;
+        return status < 0 ? ERROR_INTERNAL_ERROR : ERROR_SUCCESS;
     }
 
   private:
-    CCng()
+    struct Algorithm
+    {
+        using Handle = BCRYPT_ALG_HANDLE;
+        static Handle None() { return nullptr; }
+        static void Free(Handle algorithm) { Get().m_close(algorithm, 0); }
+    };
+
+    Cng()
     {
         const HMODULE module = LoadLibraryExW(L"bcrypt.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
         if (!module) {
@@ -77,7 +84,7 @@ class CCng
 bool IsEqual(const std::vector<BYTE>& first, const std::vector<BYTE>& second)
 {
     volatile BYTE differences = 0;
-    for (size_t i = 0; i < HASH_SIZE; ++i) {
+    for (size_t i = 0; i < kHashSize; ++i) {
         differences = differences | (first[i] ^ second[i]);
     }
     return differences == 0;
@@ -85,45 +92,45 @@ bool IsEqual(const std::vector<BYTE>& first, const std::vector<BYTE>& second)
 
 } // namespace
 
-DWORD HashPassword(LPCWSTR password, PASSWORDHASH& result)
+DWORD HashPassword(LPCWSTR password, PasswordHash& result)
 {
-    result = PASSWORDHASH();
+    result = PasswordHash();
     if (!password || !*password) {
-        return 0;
+        return ERROR_SUCCESS;
     }
-    const CCng& cng = CCng::Get();
+    const Cng& cng = Cng::Get();
     if (!cng.IsLoaded()) {
         return ERROR_NOT_SUPPORTED;
     }
-    result.salt.resize(SALT_SIZE);
-    result.rounds = ROUNDS;
+    result.salt.resize(kSaltSize);
+    result.rounds = kRounds;
     DWORD status = cng.Random(result.salt);
-    if (status == 0) {
+    if (status == ERROR_SUCCESS) {
         status = cng.Derive(password, result.salt, result.rounds, result.hash);
     }
-    if (status != 0) {
-        result = PASSWORDHASH();
+    if (status != ERROR_SUCCESS) {
+        result = PasswordHash();
     }
     return status;
 }
 
-DWORD CheckPassword(LPCWSTR password, const PASSWORDHASH& kept, bool& equal)
+DWORD CheckPassword(LPCWSTR password, const PasswordHash& kept, bool& equal)
 {
     equal = false;
     if (kept.IsEmpty()) {
         equal = !password || !*password;
-        return 0;
+        return ERROR_SUCCESS;
     }
-    if (kept.hash.size() != HASH_SIZE || kept.salt.empty() || kept.rounds < 1 || kept.rounds > MAX_ROUNDS) {
+    if (kept.hash.size() != kHashSize || kept.salt.empty() || kept.rounds < 1 || kept.rounds > kMaxRounds) {
         return ERROR_FILE_CORRUPT;
     }
-    const CCng& cng = CCng::Get();
+    const Cng& cng = Cng::Get();
     if (!cng.IsLoaded()) {
         return ERROR_NOT_SUPPORTED;
     }
     std::vector<BYTE> key;
     const DWORD status = cng.Derive(password ? password : L"", kept.salt, kept.rounds, key);
-    equal = status == 0 && IsEqual(key, kept.hash);
+    equal = status == ERROR_SUCCESS && IsEqual(key, kept.hash);
     SecureZeroMemory(key.data(), key.size());
     return status;
 }

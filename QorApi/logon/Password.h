@@ -5,7 +5,7 @@
 #include <vector>
 
 /** A password as it is kept: nothing of it but a derived key. All empty: no password. */
-struct PASSWORDHASH
+struct PasswordHash
 {
     std::vector<BYTE> salt;
     int rounds = 0;
@@ -15,10 +15,10 @@ struct PASSWORDHASH
 };
 
 /** Derives the hash with a new random salt; null and empty give the empty hash. @return status. */
-DWORD HashPassword(LPCWSTR password, PASSWORDHASH& result);
+DWORD HashPassword(LPCWSTR password, PasswordHash& result);
 
 /**
  * Compares a password with a kept hash, in a time that does not depend on where they differ.
  * @param[out] equal the answer. @return status; ERROR_FILE_CORRUPT for a hash that HashPassword() cannot have made.
  */
-DWORD CheckPassword(LPCWSTR password, const PASSWORDHASH& kept, bool& equal);
+DWORD CheckPassword(LPCWSTR password, const PasswordHash& kept, bool& equal);
