@@ -9,7 +9,7 @@ namespace
 
 struct CallState
 {
-    DWORD status = 0;
+    DWORD status = ERROR_SUCCESS;
     int failures = 0;
     int calls = 0;
 };
@@ -90,12 +90,12 @@ void qordouble::Reset()
     GetCalls().clear();
 }
 
-// The library's own functions are compiled under the names Real...
+// The library's own functions have the names Real... here.
 #define FORWARD(answer, name, parameters, arguments)                                                                   \
     answer Real##name parameters;                                                                                      \
     answer name parameters                                                                                             \
     {                                                                                                                  \
-        DWORD status = 0;                                                                                              \
+        DWORD status = ERROR_SUCCESS;                                                                                  \
         return DoesFail(#name, status) ? Failure<answer>(status) : Real##name arguments;                               \
     }
 
@@ -133,19 +133,29 @@ FORWARD(BOOL, QorSetLanguage, (LPCWSTR locale), (locale))
 
 #undef FORWARD
 
+// What always succeeds is counted only.
+#define COUNTED(answer, name, parameters, arguments)                                                                   \
+    answer Real##name parameters;                                                                                      \
+    answer name parameters                                                                                             \
+    {                                                                                                                  \
+        DWORD status = ERROR_SUCCESS;                                                                                  \
+        DoesFail(#name, status);                                                                                       \
+        return Real##name arguments;                                                                                   \
+    }
+
+COUNTED(void, QorClose, (), ())
+COUNTED(void, QorLogoff, (), ())
+COUNTED(CString, QorFormatMsg, (DWORD code), (code))
+COUNTED(CString, QorGetLanguage, (), ())
+COUNTED(BOOL, QorIsSameFormat, (LPCWSTR text, LPCWSTR model), (text, model))
+COUNTED(QORWAITPROC, QorSetLogonWait, (QORWAITPROC wait), (wait))
+
+#undef COUNTED
+
 LPCWSTR RealQorGetString(LPCWSTR key);
 
 LPCWSTR QorGetString(LPCWSTR key)
 {
-    DWORD status = 0;
+    DWORD status = ERROR_SUCCESS;
     return DoesFail("QorGetString", status) ? GetEmptyElement()->GetChildData(key, 1) : RealQorGetString(key);
-}
-
-void RealQorClose();
-
-void QorClose()
-{
-    DWORD status = 0;
-    DoesFail("QorClose", status);
-    RealQorClose();
 }

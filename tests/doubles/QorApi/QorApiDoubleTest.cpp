@@ -1,5 +1,6 @@
 #include "QorApiDouble.h"
 
+#include <tests/support/Status.h>
 #include <tests/support/Support.h>
 
 #include <gtest/gtest.h>
@@ -26,7 +27,7 @@ class QorApiDouble : public testing::Test
 
 TEST_F(QorApiDouble, WorksAsTheLibraryWhenNothingIsToFail)
 {
-    EXPECT_EQ(QorLogonUser(QORUSER_BUILTIN_NAME, nullptr), 0U);
+    EXPECT_EQ(QorLogonUser(QORUSER_BUILTIN_NAME, nullptr), kSuccess);
     EXPECT_TRUE(QorHasUserRight(QORRIGHT_ALL));
     EXPECT_STRNE(QorGetString(L"STR_ERROR"), L"STR_ERROR");
 }
@@ -36,7 +37,7 @@ TEST_F(QorApiDouble, CallFailsWithItsStatusAsOftenAsWanted)
     qordouble::Fail("QorOpen", ERROR_BUSY, 2);
     EXPECT_EQ(QorOpen(), DWORD(ERROR_BUSY));
     EXPECT_EQ(QorOpen(), DWORD(ERROR_BUSY));
-    EXPECT_EQ(QorOpen(), 0U);
+    EXPECT_EQ(QorOpen(), kSuccess);
     QorClose();
 }
 
@@ -44,7 +45,7 @@ TEST_F(QorApiDouble, OtherCallsGoOn)
 {
     qordouble::Fail("QorSetMultiString", ERROR_DISK_FULL);
     CStringArray texts;
-    EXPECT_EQ(QorGetMultiString(QORINFO_SYNC_REG, texts), 0U);
+    EXPECT_EQ(QorGetMultiString(QORINFO_SYNC_REG, texts), kSuccess);
     EXPECT_EQ(QorSetMultiString(QORINFO_SYNC_REG, texts, 1), DWORD(ERROR_DISK_FULL));
 }
 
@@ -53,7 +54,7 @@ TEST_F(QorApiDouble, FailuresOfOtherKindsHaveTheirOwnAnswers)
     for (const char* call : {"QorHasUserRight", "QorGetAllInfo", "QorGetModuleLang", "QorSetDlgLang", "QorGetString"}) {
         qordouble::Fail(call, ERROR_GEN_FAILURE);
     }
-    EXPECT_EQ(QorLogonUser(QORUSER_BUILTIN_NAME, nullptr), 0U);
+    EXPECT_EQ(QorLogonUser(QORUSER_BUILTIN_NAME, nullptr), kSuccess);
     EXPECT_FALSE(QorHasUserRight(0));
     EXPECT_EQ(QorGetAllInfo(QORLIST_USERS, 256, nullptr, 0), nullptr);
     EXPECT_EQ(GetLastError(), DWORD(ERROR_GEN_FAILURE));
