@@ -8,7 +8,7 @@ using DemoTest = StoreTest;
 size_t CountTexts()
 {
     CStringArray texts;
-    EXPECT_EQ(QorGetMultiString(QORINFO_SYNC_REG, texts), 0U);
+    EXPECT_EQ(QorGetMultiString(QORINFO_SYNC_REG, texts), kSuccess);
     return texts.GetSize();
 }
 
@@ -17,7 +17,7 @@ size_t CountTexts()
 TEST_F(DemoTest, FillsEveryList)
 {
     LogonBuiltin();
-    ASSERT_EQ(QorFillDemoStore(), 0U);
+    ASSERT_EQ(QorFillDemoStore(), kSuccess);
     EXPECT_EQ(ListAll<_QORVEX_USER>(QORLIST_USERS).size(), 5U);
     EXPECT_EQ(ListAll<_QORVEX_SNAP>(QORLIST_SNAPSHOTS).size(), 5U);
     EXPECT_EQ(ListAll<_QORVEX_TASK>(QORLIST_TASKS).size(), 4U);
@@ -27,10 +27,10 @@ TEST_F(DemoTest, FillsEveryList)
 TEST_F(DemoTest, SecondCallChangesNothing)
 {
     LogonBuiltin();
-    ASSERT_EQ(QorFillDemoStore(), 0U);
-    ASSERT_EQ(QorRenameSnapshot(1, L"Renamed"), 0U);
-    ASSERT_EQ(QorRenameSnapshot(1, L"Clean installation"), 0U);
-    ASSERT_EQ(QorFillDemoStore(), 0U);
+    ASSERT_EQ(QorFillDemoStore(), kSuccess);
+    ASSERT_EQ(QorRenameSnapshot(1, L"Renamed"), kSuccess);
+    ASSERT_EQ(QorRenameSnapshot(1, L"Clean installation"), kSuccess);
+    ASSERT_EQ(QorFillDemoStore(), kSuccess);
     EXPECT_EQ(ListAll<_QORVEX_USER>(QORLIST_USERS).size(), 5U);
     EXPECT_EQ(ListAll<_QORVEX_SNAP>(QORLIST_SNAPSHOTS).size(), 5U);
     EXPECT_EQ(ListAll<_QORVEX_TASK>(QORLIST_TASKS).size(), 4U);
@@ -40,12 +40,12 @@ TEST_F(DemoTest, SecondCallChangesNothing)
 TEST_F(DemoTest, RegistryListIsInItsStoredForm)
 {
     LogonBuiltin();
-    ASSERT_EQ(QorFillDemoStore(), 0U);
+    ASSERT_EQ(QorFillDemoStore(), kSuccess);
     CStringArray texts;
-    ASSERT_EQ(QorGetMultiString(QORINFO_SYNC_REG, texts), 0U);
+    ASSERT_EQ(QorGetMultiString(QORINFO_SYNC_REG, texts), kSuccess);
     for (int i = 0; i < texts.GetSize(); ++i) {
         CString entry = texts.GetAt(i);
-        EXPECT_EQ(QorConvertKeyName(entry), 0U);
+        EXPECT_EQ(QorConvertKeyName(entry), kSuccess);
         EXPECT_STREQ(entry, texts.GetAt(i));
     }
 }

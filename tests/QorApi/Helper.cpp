@@ -1,3 +1,4 @@
+#include <common/Owner.h>
 #include <QorApi/QorApi.h>
 
 #include <cstdlib>
@@ -6,18 +7,18 @@
 namespace
 {
 
-constexpr int LIST_SIZE = 200;
+constexpr int kListSize = 200;
 
 int AddSnapshots(int count, LPCWSTR name)
 {
     for (int i = 0; i < count; ++i) {
         _QORVEX_SNAP snapshot = {};
         wcsncpy(snapshot.szName, name, std::size(snapshot.szName) - 1);
-        if (const DWORD status = QorAddSnapshot(snapshot)) {
+        if (const DWORD status = QorAddSnapshot(snapshot); status != ERROR_SUCCESS) {
             return static_cast<int>(status);
         }
     }
-    return 0;
+    return ERROR_SUCCESS;
 }
 
 // Writes the list again and again, each time with other texts that are all the same, until the process is ended.
@@ -27,14 +28,14 @@ int WriteWithoutEnd(LPCWSTR startedFile)
         CString text;
         text.Format(L"round %d", round);
         CStringArray texts;
-        for (int i = 0; i < LIST_SIZE; ++i) {
+        for (int i = 0; i < kListSize; ++i) {
             texts.Add(text);
         }
-        if (const DWORD status = QorSetMultiString(QORINFO_SYNC_REG, texts, 1)) {
+        if (const DWORD status = QorSetMultiString(QORINFO_SYNC_REG, texts, 1); status != ERROR_SUCCESS) {
             return static_cast<int>(status);
         }
         if (round == 0) {
-            CloseHandle(CreateFileW(startedFile, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+            own::File(CreateFileW(startedFile, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
         }
     }
 }
@@ -48,7 +49,7 @@ int RenewUser(WORD number)
     user.dwRights = QORRIGHT_ALL;
     wcscpy(user.szName, L"Renewed");
     const DWORD status = QorDeleteUser(number);
-    return static_cast<int>(status ? status : QorAddUser(user, nullptr));
+    return static_cast<int>(status == ERROR_SUCCESS ? QorAddUser(user, nullptr) : status);
 }
 
 int FailToLogOn(int count, LPCWSTR name)
@@ -56,10 +57,10 @@ int FailToLogOn(int count, LPCWSTR name)
     for (int i = 0; i < count; ++i) {
         const DWORD status = QorLogonUser(name, L"certainly wrong");
         if (status != ERROR_LOGON_FAILURE) {
-            return static_cast<int>(status ? status : ERROR_INVALID_DATA);
+            return static_cast<int>(status == ERROR_SUCCESS ? static_cast<DWORD>(ERROR_INVALID_DATA) : status);
         }
     }
-    return 0;
+    return ERROR_SUCCESS;
 }
 
 } // namespace
@@ -73,10 +74,10 @@ int wmain(int argc, wchar_t** argv)
         return QorHasUserRight(0) ? 1 : 0;
     }
     DWORD status = QorOpen();
-    if (status == 0) {
+    if (status == ERROR_SUCCESS) {
         status = QorLogonUser(QORUSER_BUILTIN_NAME, nullptr);
     }
-    if (status != 0) {
+    if (status != ERROR_SUCCESS) {
         return static_cast<int>(status);
     }
     int result = ERROR_INVALID_PARAMETER;

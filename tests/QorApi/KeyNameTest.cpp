@@ -1,4 +1,5 @@
 #include <QorApi/QorApi.h>
+#include <tests/support/Status.h>
 
 #include <gtest/gtest.h>
 
@@ -8,7 +9,7 @@ namespace
 std::wstring Converted(LPCWSTR entry)
 {
     CString text(entry);
-    EXPECT_EQ(QorConvertKeyName(text), 0U) << entry;
+    EXPECT_EQ(QorConvertKeyName(text), kSuccess) << entry;
     return text.GetString();
 }
 

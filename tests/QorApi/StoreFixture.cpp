@@ -27,15 +27,15 @@ StoreTest::~StoreTest()
 
 void StoreTest::LogonBuiltin()
 {
-    ASSERT_EQ(QorLogonUser(QORUSER_BUILTIN_NAME, L""), 0U);
+    ASSERT_EQ(QorLogonUser(QORUSER_BUILTIN_NAME, L""), kSuccess);
 }
 
 WORD StoreTest::LogonAs(LPCWSTR name, DWORD rights)
 {
     _QORVEX_USER user = NewUser(name, rights);
     LogonBuiltin();
-    EXPECT_EQ(QorAddUser(user, nullptr), 0U);
-    EXPECT_EQ(QorLogonUser(name, nullptr), 0U);
+    EXPECT_EQ(QorAddUser(user, nullptr), kSuccess);
+    EXPECT_EQ(QorLogonUser(name, nullptr), kSuccess);
     return user.wNumber;
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <common/Owner.h>
 #include <QorApi/QorApi.h>
+#include <tests/support/Status.h>
 #include <tests/support/Support.h>
 
 #include <gtest/gtest.h>
@@ -39,10 +41,9 @@ template <class Record>
 std::vector<Record> ListAll(UINT kind)
 {
     int count = 0;
-    auto* records = static_cast<Record*>(QorGetAllInfo(kind, sizeof(Record), &count, 0));
-    std::vector<Record> list(records, records + count);
-    CoTaskMemFree(records);
-    return list;
+    const own::TaskMemory memory(QorGetAllInfo(kind, sizeof(Record), &count, 0));
+    const auto* records = static_cast<const Record*>(memory.Get());
+    return std::vector<Record>(records, records + count);
 }
 
 /** Command line of the helper program. */

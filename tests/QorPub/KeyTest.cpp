@@ -6,20 +6,20 @@
 namespace
 {
 
-constexpr LPCWSTR TEST_PATH = L"Software\\QorPubTest";
+constexpr LPCWSTR kTestPath = L"Software\\QorPubTest";
 
 class Key : public testing::Test
 {
   protected:
     void SetUp() override
     {
-        RegDeleteTreeW(HKEY_CURRENT_USER, TEST_PATH);
-        ASSERT_EQ(ERROR_SUCCESS, m_key.Create(HKEY_CURRENT_USER, TEST_PATH));
+        RegDeleteTreeW(HKEY_CURRENT_USER, kTestPath);
+        ASSERT_EQ(ERROR_SUCCESS, m_key.Create(HKEY_CURRENT_USER, kTestPath));
     }
     void TearDown() override
     {
         m_key.Close();
-        RegDeleteTreeW(HKEY_CURRENT_USER, TEST_PATH);
+        RegDeleteTreeW(HKEY_CURRENT_USER, kTestPath);
     }
 
     CQorKey m_key;
@@ -30,7 +30,7 @@ class Key : public testing::Test
 TEST_F(Key, OpenFindsAnExistingKeyWithAndWithoutLastBackslash)
 {
     CQorKey key;
-    EXPECT_EQ(ERROR_SUCCESS, key.Open(HKEY_CURRENT_USER, TEST_PATH));
+    EXPECT_EQ(ERROR_SUCCESS, key.Open(HKEY_CURRENT_USER, kTestPath));
     EXPECT_TRUE(key.IsOpen());
     EXPECT_EQ(ERROR_SUCCESS, key.Open(HKEY_CURRENT_USER, L"Software\\QorPubTest\\", 0x109, 0));
     EXPECT_NE(nullptr, key.Get());
@@ -291,8 +291,8 @@ TEST_F(Key, OpenKeysAreClosed)
     EXPECT_TRUE(ts::NoLeak(
         [] {
             CQorKey key;
-            key.Open(HKEY_CURRENT_USER, TEST_PATH);
-            key.Create(HKEY_CURRENT_USER, TEST_PATH);
+            key.Open(HKEY_CURRENT_USER, kTestPath);
+            key.Create(HKEY_CURRENT_USER, kTestPath);
         },
         50));
 }

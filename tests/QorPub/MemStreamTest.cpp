@@ -11,14 +11,14 @@ namespace
 {
 
 const char g_data[] = "0123456789";
-constexpr DWORD DATA_SIZE = 10;
+constexpr DWORD kDataSize = 10;
 
 class MemStream : public testing::Test
 {
   protected:
     void SetUp() override
     {
-        m_stream = QorCreateReadOnlyMemStream(0, g_data, DATA_SIZE);
+        m_stream = QorCreateReadOnlyMemStream(0, g_data, kDataSize);
         ASSERT_NE(nullptr, m_stream);
     }
     void TearDown() override { EXPECT_EQ(0u, m_stream->Release()); }
@@ -37,7 +37,7 @@ class MemStream : public testing::Test
         distance.QuadPart = move;
         ULARGE_INTEGER reached = {};
         HRESULT result = m_stream->Seek(distance, origin, &reached);
-        if (pos != nullptr) {
+        if (pos) {
             *pos = reached.QuadPart;
         }
         return result;

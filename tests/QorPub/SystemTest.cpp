@@ -7,21 +7,21 @@
 namespace
 {
 
-constexpr LPCWSTR WINDOW_TITLE = L"QorPub test window \u4E2D";
+constexpr LPCWSTR kWindowTitle = L"QorPub test window \u4E2D";
 
 class PreInstance : public testing::Test
 {
   protected:
     void TearDown() override
     {
-        if (m_window != nullptr) {
+        if (m_window) {
             DestroyWindow(m_window);
         }
     }
 
     void MakeWindow(DWORD style)
     {
-        m_window = CreateWindowExW(0, L"STATIC", WINDOW_TITLE, WS_OVERLAPPEDWINDOW | style, 10, 10, 200, 100, nullptr,
+        m_window = CreateWindowExW(0, L"STATIC", kWindowTitle, WS_OVERLAPPEDWINDOW | style, 10, 10, 200, 100, nullptr,
                                    nullptr, nullptr, nullptr);
         ASSERT_NE(nullptr, m_window);
         ts::Settle();
@@ -61,7 +61,7 @@ TEST(OsVersion, GlobalsAreThoseOfTheRunningSystem)
 TEST_F(PreInstance, AVisibleWindowIsFoundByClassAndTitle)
 {
     MakeWindow(WS_VISIBLE);
-    EXPECT_TRUE(QorShowPreInstanceWnd(L"STATIC", WINDOW_TITLE));
+    EXPECT_TRUE(QorShowPreInstanceWnd(L"STATIC", kWindowTitle));
     EXPECT_EQ(m_window, GetForegroundWindow());
 }
 
@@ -75,7 +75,7 @@ TEST_F(PreInstance, ThePopupThatWasActiveLastComesToTheFront)
                                  nullptr, nullptr);
     SetForegroundWindow(other);
     ts::Settle();
-    EXPECT_TRUE(QorShowPreInstanceWnd(L"STATIC", WINDOW_TITLE));
+    EXPECT_TRUE(QorShowPreInstanceWnd(L"STATIC", kWindowTitle));
     EXPECT_EQ(popup, GetForegroundWindow());
     DestroyWindow(other);
     DestroyWindow(popup);
@@ -85,31 +85,31 @@ TEST_F(PreInstance, AMinimisedWindowIsRestored)
 {
     MakeWindow(WS_VISIBLE | WS_MINIMIZE);
     ASSERT_TRUE(IsIconic(m_window));
-    EXPECT_TRUE(QorShowPreInstanceWnd(L"STATIC", WINDOW_TITLE));
+    EXPECT_TRUE(QorShowPreInstanceWnd(L"STATIC", kWindowTitle));
     EXPECT_FALSE(IsIconic(m_window));
 }
 
 TEST_F(PreInstance, AHiddenWindowDoesNotCount)
 {
     MakeWindow(0);
-    EXPECT_FALSE(QorShowPreInstanceWnd(L"STATIC", WINDOW_TITLE));
+    EXPECT_FALSE(QorShowPreInstanceWnd(L"STATIC", kWindowTitle));
     EXPECT_FALSE(IsWindowVisible(m_window));
 }
 
 TEST_F(PreInstance, AVisibleWindowBehindAHiddenOneIsFound)
 {
     MakeWindow(WS_VISIBLE);
-    HWND hidden = CreateWindowExW(0, L"STATIC", WINDOW_TITLE, WS_OVERLAPPEDWINDOW, 0, 0, 50, 50, nullptr, nullptr,
+    HWND hidden = CreateWindowExW(0, L"STATIC", kWindowTitle, WS_OVERLAPPEDWINDOW, 0, 0, 50, 50, nullptr, nullptr,
                                   nullptr, nullptr);
     SetWindowPos(hidden, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-    EXPECT_TRUE(QorShowPreInstanceWnd(L"STATIC", WINDOW_TITLE));
+    EXPECT_TRUE(QorShowPreInstanceWnd(L"STATIC", kWindowTitle));
     DestroyWindow(hidden);
 }
 
 TEST_F(PreInstance, OtherClassesAndTitlesAreNotFound)
 {
     MakeWindow(WS_VISIBLE);
-    EXPECT_FALSE(QorShowPreInstanceWnd(L"#32770", WINDOW_TITLE));
+    EXPECT_FALSE(QorShowPreInstanceWnd(L"#32770", kWindowTitle));
     EXPECT_FALSE(QorShowPreInstanceWnd(L"STATIC", L"QorPub test window"));
     EXPECT_FALSE(QorShowPreInstanceWnd(L"STATIC", L""));
     EXPECT_FALSE(QorShowPreInstanceWnd(L"STATIC", nullptr));
@@ -118,6 +118,6 @@ TEST_F(PreInstance, OtherClassesAndTitlesAreNotFound)
 TEST_F(PreInstance, ANullClassFitsEveryWindow)
 {
     MakeWindow(WS_VISIBLE);
-    EXPECT_TRUE(QorShowPreInstanceWnd(nullptr, WINDOW_TITLE));
-    EXPECT_TRUE(QorShowPreInstanceWnd(L"", WINDOW_TITLE));
+    EXPECT_TRUE(QorShowPreInstanceWnd(nullptr, kWindowTitle));
+    EXPECT_TRUE(QorShowPreInstanceWnd(L"", kWindowTitle));
 }

@@ -1,3 +1,4 @@
+#include <common/Owner.h>
 #include <QorPub/QorPub.h>
 #include <tests/support/Leaks.h>
 #include <tests/support/MemoryShortage.h>
@@ -277,11 +278,11 @@ TEST_F(TextFile, PathsLongerThanTheOldLimitWork)
 
 TEST_F(TextFile, TooLargeAFileIsNotRead)
 {
-    HANDLE handle = CreateFileW(Path().c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr);
+    own::File handle(CreateFileW(Path().c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr));
     LARGE_INTEGER size = {};
     size.QuadPart = 256 * 1024 * 1024 + 1;
-    EXPECT_TRUE(SetFilePointerEx(handle, size, nullptr, FILE_BEGIN) && SetEndOfFile(handle));
-    CloseHandle(handle);
+    EXPECT_TRUE(SetFilePointerEx(handle.Get(), size, nullptr, FILE_BEGIN) && SetEndOfFile(handle.Get()));
+    handle.Reset();
     CTextFile file;
     EXPECT_FALSE(file.Open(Path().c_str(), TEXTFILE_READ, TEXTFILE_UTF8));
     EXPECT_EQ(static_cast<DWORD>(ERROR_FILE_TOO_LARGE), GetLastError());

@@ -1,5 +1,6 @@
 #include <QorPub/QorPub.h>
 #include <tests/support/Leaks.h>
+#include <tests/support/Status.h>
 #include <tests/support/Surroundings.h>
 
 #include <gtest/gtest.h>
@@ -28,34 +29,34 @@ class Trace : public testing::Test
     std::string Log() const { return ts::ReadBytes(LogPath()); }
     std::vector<std::string> Fields() const { return Split(Log().substr(0, Log().size() - 2), '\t'); }
 
-    /** Lets two processes write at the same time, COUNT lines each. */
+    /** Lets two processes write at the same time, kCount lines each. */
     static void RunTwoWriters()
     {
         std::wstring command = L"\"" + ts::ProgramFolder() + L"\\qorpub_writer.exe\" ";
-        std::wstring count = std::to_wstring(COUNT);
+        std::wstring count = std::to_wstring(kCount);
         ts::ProcessResult first;
         std::thread other([&] { first = ts::RunProcess(command + L"first " + count); });
         ts::ProcessResult second = ts::RunProcess(command + L"second " + count);
         other.join();
         ASSERT_TRUE(first.started && second.started);
-        EXPECT_EQ(0u, first.status);
-        EXPECT_EQ(0u, second.status);
+        EXPECT_EQ(kSuccess, first.status);
+        EXPECT_EQ(kSuccess, second.status);
     }
 
     static void ExpectAllLines(const std::string& log)
     {
         std::vector<std::string> lines = Split(log, '\n');
-        EXPECT_EQ(2u * COUNT, lines.size());
+        EXPECT_EQ(2u * kCount, lines.size());
         for (const std::string& line : lines) {
             EXPECT_EQ(9u, Split(line, '\t').size()) << line;
         }
-        for (int i = 0; i < COUNT; ++i) {
+        for (int i = 0; i < kCount; ++i) {
             EXPECT_NE(std::string::npos, log.find("\tfirst " + std::to_string(i) + "\r\n"));
             EXPECT_NE(std::string::npos, log.find("\tsecond " + std::to_string(i) + "\r\n"));
         }
     }
 
-    static constexpr int COUNT = 800;
+    static constexpr int kCount = 800;
 
     ts::TempFolder m_folder;
     ts::EnvironmentVariable m_store{L"QOR_STORE", m_folder.File(L"data\\store.db").c_str()};

@@ -1,5 +1,4 @@
 #include <QorPub/QorPub.h>
-#include <QorPub/ZipNames.h>
 #include <tests/support/MemoryShortage.h>
 #include <tests/support/Surroundings.h>
 
@@ -93,30 +92,6 @@ class Unzip : public testing::Test
 };
 
 } // namespace
-
-TEST(SafeEntryName, OrdinaryNamesAreAllowed)
-{
-    for (LPCWSTR name :
-         {L"a", L"a/b.txt", L"a\\b", L"folder/", L".hidden", L"a..b", L"console", L"com10", L"\u4E2D/x y"}) {
-        EXPECT_TRUE(qor::IsSafeEntryName(name)) << ts::ToUtf8(name);
-    }
-}
-
-TEST(SafeEntryName, NamesThatLeaveTheFolderAreRefused)
-{
-    for (LPCWSTR name :
-         {L"..", L"../a", L"a/../../b", L"a\\..\\b", L"/a", L"\\a", L"C:\\a", L"C:a", L"//server/a", L"a/./b"}) {
-        EXPECT_FALSE(qor::IsSafeEntryName(name)) << ts::ToUtf8(name);
-    }
-}
-
-TEST(SafeEntryName, NamesThatAreNoFilesAreRefused)
-{
-    for (LPCWSTR name : {L"", L"/", L"a//b", L"a?", L"a*", L"a|b", L"a\tb", L"a:stream", L"a.", L"a ", L"CON",
-                         L"nul.txt", L"x/Com1", L"lpt9.a.b", L"aux "}) {
-        EXPECT_FALSE(qor::IsSafeEntryName(name)) << ts::ToUtf8(name);
-    }
-}
 
 TEST_F(Unzip, AHandMadeArchiveIsRead)
 {

@@ -1,40 +1,22 @@
-#include <QorPub/QorPub.h>
+#include "XmlText.h"
+
 #include <tests/support/Leaks.h>
 #include <tests/support/MemoryShortage.h>
 #include <tests/support/Surroundings.h>
-
-#include <gtest/gtest.h>
 
 #include <thread>
 
 namespace
 {
 
-DWORD LoadText(CQorXml& xml, std::string_view text)
-{
-    return xml.LoadMemory(text.data(), text.size());
-}
-
-std::string ToUtf16(std::wstring_view text, bool lowFirst)
-{
-    std::string bytes;
-    for (wchar_t c : text) {
-        char low = static_cast<char>(c & 0xFF);
-        char high = static_cast<char>(c >> 8);
-        bytes += lowFirst ? low : high;
-        bytes += lowFirst ? high : low;
-    }
-    return bytes;
-}
-
 class Elem : public testing::Test
 {
   protected:
     void SetUp() override
     {
-        ASSERT_EQ(0u, LoadText(m_xml, "<Strings lang='en' n='42' hex='0x1F' bad='4x'>"
-                                      "<STR_OK>OK</STR_OK><STR_EMPTY/><c id='1'>One</c><c id='2'>Two</c>"
-                                      "<STR_OK>second</STR_OK></Strings>"));
+        ASSERT_EQ(kSuccess, LoadText(m_xml, "<Strings lang='en' n='42' hex='0x1F' bad='4x'>"
+                                            "<STR_OK>OK</STR_OK><STR_EMPTY/><c id='1'>One</c><c id='2'>Two</c>"
+                                            "<STR_OK>second</STR_OK></Strings>"));
         m_root = m_xml.GetRoot();
     }
 
@@ -171,161 +153,11 @@ TEST_F(Elem, BadNamesAreRefused)
     EXPECT_NE(nullptr, m_root->AddChild(L"a-1.b_\u4E2D"));
 }
 
-TEST(CQorXml, ReadsUtf8WithAndWithoutMark)
-{
-    CQorXml xml;
-    EXPECT_EQ(0u, LoadText(xml, "<?xml version='1.0' encoding='utf-8'?>\n<a>\xE4\xB8\xAD</a>"));
-    EXPECT_STREQ(L"\u4E2D", xml.GetRoot()->GetData());
-    EXPECT_EQ(0u, LoadText(xml, "\xEF\xBB\xBF<a>\xF0\x9F\x98\x80</a>"));
-    EXPECT_STREQ(L"\U0001F600", xml.GetRoot()->GetData());
-}
-
-TEST(CQorXml, ReadsUtf16OfBothOrdersWithAndWithoutMark)
-{
-    for (bool lowFirst : {true, false}) {
-        for (LPCWSTR text :
-             {L"\uFEFF<?xml version='1.0' encoding='UTF-16'?><a>\u4E2D\U0001F600</a>", L"<a>\u4E2D\U0001F600</a>"}) {
-            CQorXml xml;
-            EXPECT_EQ(0u, LoadText(xml, ToUtf16(text, lowFirst)));
-            ASSERT_NE(nullptr, xml.GetRoot());
-            EXPECT_STREQ(L"\u4E2D\U0001F600", xml.GetRoot()->GetData());
-        }
-    }
-}
-
-TEST(CQorXml, TextKeepsEntitiesCdataAndLineFeeds)
-{
-    CQorXml xml;
-    EXPECT_EQ(0u, LoadText(xml, "<a t='&quot;&#x4E2D;'>&lt;1&amp;2&gt;<![CDATA[<raw>]]>\r\nx<!-- c --> y</a>"));
-    EXPECT_STREQ(L"<1&2><raw>\nx y", xml.GetRoot()->GetData());
-    EXPECT_STREQ(L"\"\u4E2D", xml.GetRoot()->GetAttr(L"t"));
-}
-
-TEST(CQorXml, OnlyWhatIsAReferenceIsReplaced)
-{
-    CQorXml xml;
-    ASSERT_EQ(0u, LoadText(xml, "<a t='&#65;&#x7F;&#xe4;&#x4E2d;&#128512;&apos;'>&&amp;amp;&no;&#;&#x;&#1a;&#X41; &lt"
-                                "<![CDATA[&#0;&lt;]]></a>"));
-    EXPECT_STREQ(L"A\x7F\u00E4\u4E2D\U0001F600'", xml.GetRoot()->GetAttr(L"t"));
-    EXPECT_STREQ(L"&&amp;&no;&#;&#x;&#1a;&#X41; &lt&#0;&lt;", xml.GetRoot()->GetData());
-}
-
-TEST(CQorXml, BlanksCountOnlyWhereThereIsNothingElse)
-{
-    CQorXml xml;
-    EXPECT_EQ(0u, LoadText(xml, "<a>\n  <b> </b>\n</a>"));
-    EXPECT_STREQ(L"", xml.GetRoot()->GetData());
-    EXPECT_STREQ(L" ", xml.GetRoot()->GetChildData(L"b", 0));
-}
-
-TEST(CQorXml, DamagedDocumentsAreRefusedWithAReason)
-{
-    const std::string damaged[] = {
-        "",
-        " ",
-        "text",
-        "<",
-        "<a",
-        "<a>",
-        "</a>",
-        "<a></b>",
-        "<a><b></a></b>",
-        "<a/><b/>",
-        "<a/>text",
-        "text<a/>",
-        "<a b></a>",
-        "<a b='1' b='2'/>",
-        "<a b='1></a>",
-        "<!-- only a comment -->",
-        "<?xml version='1.0'?>",
-        "<a><![CDATA[open</a>",
-        "<a>&#xD800;</a>",
-        "<a b='&#x666656666;'/>",
-        "<a>AB&#0;CD</a>",
-        "<a>&#x0;</a>",
-        "<a>&#00000;</a>",
-        "<a b='1&#0;2'/>",
-        "<a b='&#x000;'/>",
-        ToUtf16(L"<a>&#0;</a>", true),
-        "<a/>&#32;",
-        "<a>\xFF</a>",
-        "<a>\xC0\x80</a>",
-        "<a>\xED\xA0\x80</a>",
-        "<a>\xF5\x80\x80\x80</a>",
-        "<a>\xE4\xB8",
-        std::string("<a>\0</a>", 8),
-        ToUtf16(L"<a>\xD800</a>", true),
-        ToUtf16(L"<a>\xDC00</a>", true),
-        ToUtf16(L"<a>", true) + "x",
-        ToUtf16(L"<a/>\xD83D", true),
-        std::string("\xFF\xFE", 2),
-    };
-    for (const std::string& text : damaged) {
-        CQorXml xml;
-        EXPECT_EQ(static_cast<DWORD>(ERROR_INVALID_DATA), LoadText(xml, text)) << text;
-        EXPECT_EQ(nullptr, xml.GetRoot());
-        EXPECT_NE(L'\0', *xml.GetErrorText()) << text;
-    }
-}
-
-TEST(CQorXml, TheErrorOffsetPointsToTheDamage)
-{
-    CQorXml xml;
-    LoadText(xml, "<a>\xFF</a>");
-    EXPECT_EQ(3u, xml.GetErrorOffset());
-    EXPECT_EQ(0u, LoadText(xml, "<a/>"));
-    EXPECT_STREQ(L"", xml.GetErrorText());
-    EXPECT_EQ(0u, xml.GetErrorOffset());
-}
-
 TEST(CQorXml, NullDataIsRefused)
 {
     CQorXml xml;
     EXPECT_EQ(static_cast<DWORD>(ERROR_INVALID_DATA), xml.LoadMemory(nullptr, 0));
     EXPECT_EQ(static_cast<DWORD>(ERROR_INVALID_DATA), xml.LoadMemory(nullptr, 10));
-}
-
-TEST(CQorXml, EveryPrefixOfADocumentIsRefusedAndNothingCrashes)
-{
-    std::string text = "<?xml version='1.0'?><!DOCTYPE a [<!ENTITY x 'y'>]><a b='c'>&amp;&#65;<![CDATA[d]]>"
-                       "<!-- e --><?pi f?><g/>\xE4\xB8\xAD</a>";
-    CQorXml xml;
-    EXPECT_EQ(0u, LoadText(xml, text));
-    for (size_t size = 0; size < text.size(); ++size) {
-        EXPECT_NE(0u, LoadText(xml, text.substr(0, size))) << size;
-    }
-}
-
-TEST(CQorXml, DeepNestingHasALimit)
-{
-    auto nested = [](int depth) {
-        std::string text;
-        for (int i = 0; i < depth; ++i) {
-            text += "<a>";
-        }
-        for (int i = 0; i < depth; ++i) {
-            text += "</a>";
-        }
-        return text;
-    };
-    CQorXml xml;
-    EXPECT_EQ(0u, LoadText(xml, nested(200)));
-    EXPECT_EQ(static_cast<DWORD>(ERROR_INVALID_DATA), LoadText(xml, nested(201)));
-    EXPECT_EQ(static_cast<DWORD>(ERROR_INVALID_DATA), LoadText(xml, nested(100000)));
-}
-
-TEST(CQorXml, AttributesHaveALimit)
-{
-    auto many = [](int count) {
-        std::string text = "<a";
-        for (int i = 0; i < count; ++i) {
-            text += " a" + std::to_string(i) + "=''";
-        }
-        return text + "/>";
-    };
-    CQorXml xml;
-    EXPECT_EQ(0u, LoadText(xml, many(256)));
-    EXPECT_EQ(static_cast<DWORD>(ERROR_INVALID_DATA), LoadText(xml, many(257)));
 }
 
 TEST(CQorXml, LargeDocumentsAreRead)
@@ -335,7 +167,7 @@ TEST(CQorXml, LargeDocumentsAreRead)
         text += "<b id='" + std::to_string(i) + "'>text of an element</b>";
     }
     CQorXml xml;
-    EXPECT_EQ(0u, LoadText(xml, text + "</a>"));
+    EXPECT_EQ(kSuccess, LoadText(xml, text + "</a>"));
     ASSERT_EQ(20000, xml.GetRoot()->GetChildCount());
     EXPECT_EQ(19999, xml.GetRoot()->GetChild(19999)->GetAttrInt(L"id"));
 }
@@ -357,41 +189,15 @@ TEST(CQorXml, SavedDocumentsComeBack)
     root->AddChild(L"text", L"a < b & c \U0001F600\nsecond line");
     root->AddChild(L"blank", L"  ");
     root->AddChild(L"empty");
-    ASSERT_EQ(0u, xml.Save(path.c_str()));
+    ASSERT_EQ(kSuccess, xml.Save(path.c_str()));
     EXPECT_EQ(0u, ts::ReadBytes(path).find("<?xml version=\"1.0\" encoding=\"UTF-8\"?>"));
 
     CQorXml read;
-    ASSERT_EQ(0u, read.Load(path.c_str()));
+    ASSERT_EQ(kSuccess, read.Load(path.c_str()));
     EXPECT_STREQ(L"<&>\"'\u4E2D\n", read.GetRoot()->GetAttr(L"special"));
     EXPECT_STREQ(L"a < b & c \U0001F600\nsecond line", read.GetRoot()->GetChildData(L"text", 0));
     EXPECT_STREQ(L"  ", read.GetRoot()->GetChildData(L"blank", 0));
     EXPECT_STREQ(L"", read.GetRoot()->GetChildData(L"empty", 0));
-}
-
-TEST(CQorXml, AFailedSaveKeepsTheOldFile)
-{
-    ts::TempFolder folder;
-    std::wstring path = folder.File(L"doc.xml");
-    ts::WriteBytes(path, "old");
-    HANDLE held = CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    CQorXml xml;
-    xml.CreateRoot(L"a");
-    EXPECT_NE(0u, xml.Save(path.c_str()));
-    CloseHandle(held);
-    EXPECT_EQ("old", ts::ReadBytes(path));
-    EXPECT_FALSE(ts::FileExists(path + L".part"));
-}
-
-TEST(CQorXml, SavingKeepsAFileThatLooksLikeAPart)
-{
-    ts::TempFolder folder;
-    ts::WriteBytes(folder.File(L"x.xml.part"), "mine");
-    CQorXml xml;
-    xml.CreateRoot(L"a");
-    EXPECT_EQ(0u, xml.Save(folder.File(L"x.xml").c_str()));
-    EXPECT_EQ(0u, xml.Load(folder.File(L"x.xml").c_str()));
-    EXPECT_EQ("mine", ts::ReadBytes(folder.File(L"x.xml.part")));
-    EXPECT_FALSE(ts::FileExists(folder.File(L"x.xml.part2")));
 }
 
 TEST(CQorXml, ShortMemoryIsAnError)
@@ -421,23 +227,10 @@ TEST(CQorXml, WhatCannotBeSaved)
     EXPECT_FALSE(xml.SaveMemory(text));
     EXPECT_EQ(nullptr, xml.CreateRoot(L"a b"));
     xml.CreateRoot(L"a");
-    EXPECT_NE(0u, xml.Save(folder.File(L"none\\x.xml").c_str()));
-    EXPECT_NE(0u, xml.Save(L""));
-    EXPECT_NE(0u, xml.Save(nullptr));
+    EXPECT_NE(kSuccess, xml.Save(folder.File(L"none\\x.xml").c_str()));
+    EXPECT_NE(kSuccess, xml.Save(L""));
+    EXPECT_NE(kSuccess, xml.Save(nullptr));
     EXPECT_FALSE(ts::FileExists(folder.File(L"x.xml")));
-}
-
-TEST(CQorXml, FilesThatCannotBeReadGiveTheSystemsCode)
-{
-    ts::TempFolder folder;
-    CQorXml xml;
-    LoadText(xml, "<a/>");
-    EXPECT_EQ(static_cast<DWORD>(ERROR_FILE_NOT_FOUND), xml.Load(folder.File(L"none.xml").c_str()));
-    EXPECT_EQ(nullptr, xml.GetRoot());
-    EXPECT_NE(0u, xml.Load(folder.Path().c_str()));
-    EXPECT_NE(0u, xml.Load(nullptr));
-    ts::WriteBytes(folder.File(L"empty.xml"), "");
-    EXPECT_EQ(static_cast<DWORD>(ERROR_INVALID_DATA), xml.Load(folder.File(L"empty.xml").c_str()));
 }
 
 TEST(CQorXml, EntitiesForTheFiveSpecialCharacters)
@@ -462,9 +255,9 @@ TEST(CQorXml, FilesAreClosedOnEveryPath)
     EXPECT_TRUE(ts::NoLeak([&] {
         CQorXml xml;
         xml.CreateRoot(L"a");
-        EXPECT_EQ(0u, xml.Save(good.c_str()));
-        EXPECT_NE(0u, xml.Save(folder.File(L"none\\x.xml").c_str()));
-        EXPECT_EQ(0u, xml.Load(good.c_str()));
-        EXPECT_NE(0u, xml.Load(damaged.c_str()));
+        EXPECT_EQ(kSuccess, xml.Save(good.c_str()));
+        EXPECT_NE(kSuccess, xml.Save(folder.File(L"none\\x.xml").c_str()));
+        EXPECT_EQ(kSuccess, xml.Load(good.c_str()));
+        EXPECT_NE(kSuccess, xml.Load(damaged.c_str()));
     }));
 }

@@ -9,10 +9,10 @@ namespace
 std::wstring ToText(const uint8_t* data, size_t size)
 {
     // Most bytes become what formats are made of.
-    static constexpr std::wstring_view parts = L"%%%%*.-+ #0123456789hlLwjztI3264diouxXeEfFgGaAcCsSpn;?";
+    static constexpr std::wstring_view kParts = L"%%%%*.-+ #0123456789hlLwjztI3264diouxXeEfFgGaAcCsSpn;?";
     std::wstring text;
     for (size_t i = 0; i < size; ++i) {
-        text += data[i] < 0xF0 ? parts[data[i] % parts.size()] : static_cast<wchar_t>(data[i]);
+        text += data[i] < 0xF0 ? kParts[data[i] % kParts.size()] : static_cast<wchar_t>(data[i]);
     }
     return text;
 }

@@ -10,10 +10,10 @@ namespace
 std::wstring ToName(const uint8_t* data, size_t size)
 {
     // Most bytes become what dangerous names are made of.
-    static constexpr std::wstring_view parts = L"..//\\\\::  CcOoNnPpRrAaUuXxLlMmTtIi$019<>\"|?*_\x01\x1F\x7F\xE4";
+    static constexpr std::wstring_view kParts = L"..//\\\\::  CcOoNnPpRrAaUuXxLlMmTtIi$019<>\"|?*_\x01\x1F\x7F\xE4";
     std::wstring name;
     for (size_t i = 0; i < size; ++i) {
-        name += data[i] < 0xF0 ? parts[data[i] % parts.size()] : static_cast<wchar_t>(data[i]);
+        name += data[i] < 0xF0 ? kParts[data[i] % kParts.size()] : static_cast<wchar_t>(data[i]);
     }
     return name;
 }

@@ -1,9 +1,9 @@
-#include "StoreFixture.h"
+#include "RightsFixture.h"
 
 namespace
 {
 
-class SnapshotTest : public StoreTest
+class SnapshotsTest : public StoreTest
 {
   protected:
     static _QORVEX_SNAP Make(LPCWSTR name)
@@ -16,24 +16,27 @@ class SnapshotTest : public StoreTest
     static WORD Add(LPCWSTR name)
     {
         _QORVEX_SNAP snapshot = Make(name);
-        EXPECT_EQ(QorAddSnapshot(snapshot), 0U);
+        EXPECT_EQ(QorAddSnapshot(snapshot), kSuccess);
         return snapshot.wNumber;
     }
 
     static std::vector<_QORVEX_SNAP> List() { return ListAll<_QORVEX_SNAP>(QORLIST_SNAPSHOTS); }
 };
 
+using SnapshotsRightsTest = RightsTest;
+
 } // namespace
 
-TEST_F(SnapshotTest, ListedRecordHasNumberAndNameAtTheirBytes)
+TEST_F(SnapshotsTest, ListedRecordHasNumberAndNameAtTheirBytes)
 {
     LogonBuiltin();
     _QORVEX_SNAP snapshot = Make(L"Before update");
     snapshot.nSize = 0x123456789ULL;
     snapshot.time = {2024, 2, 0, 29, 13, 45, 59};
-    ASSERT_EQ(QorAddSnapshot(snapshot), 0U);
+    ASSERT_EQ(QorAddSnapshot(snapshot), kSuccess);
     int count = 0;
-    auto* bytes = static_cast<BYTE*>(QorGetAllInfo(1, 256, &count, 0));
+    const own::TaskMemory memory(QorGetAllInfo(1, 256, &count, 0));
+    const auto* bytes = static_cast<const BYTE*>(memory.Get());
     ASSERT_NE(bytes, nullptr);
     EXPECT_EQ(count, 1);
     EXPECT_EQ(bytes[0] | bytes[1] << 8, 1);
@@ -42,27 +45,26 @@ TEST_F(SnapshotTest, ListedRecordHasNumberAndNameAtTheirBytes)
     EXPECT_EQ(record->nSize, 0x123456789ULL);
     EXPECT_EQ(record->time.nDay, 29);
     EXPECT_EQ(record->time.nDayOfWeek, 4);
-    CoTaskMemFree(bytes);
 }
 
-TEST_F(SnapshotTest, NumbersBeginAtOneAndAreFilledUp)
+TEST_F(SnapshotsTest, NumbersBeginAtOneAndAreFilledUp)
 {
     LogonBuiltin();
     EXPECT_EQ(Add(L"a"), 1);
     EXPECT_EQ(Add(L"b"), 2);
     EXPECT_EQ(Add(L"c"), 3);
-    ASSERT_EQ(QorDeleteSnapshot(2), 0U);
+    ASSERT_EQ(QorDeleteSnapshot(2), kSuccess);
     EXPECT_EQ(Add(L"d"), 2);
     const std::vector<_QORVEX_SNAP> list = List();
     ASSERT_EQ(list.size(), 3U);
     EXPECT_EQ(std::wstring(list[1].szName), L"d");
 }
 
-TEST_F(SnapshotTest, WithoutTimeItIsTakenNow)
+TEST_F(SnapshotsTest, WithoutTimeItIsTakenNow)
 {
     LogonBuiltin();
     _QORVEX_SNAP snapshot = Make(L"now");
-    ASSERT_EQ(QorAddSnapshot(snapshot), 0U);
+    ASSERT_EQ(QorAddSnapshot(snapshot), kSuccess);
     SYSTEMTIME now = {};
     SYSTEMTIME taken = {};
     GetLocalTime(&now);
@@ -75,7 +77,7 @@ TEST_F(SnapshotTest, WithoutTimeItIsTakenNow)
     EXPECT_LT(difference, 60ULL * 10000000);
 }
 
-TEST_F(SnapshotTest, UnfitRecordsAreRefused)
+TEST_F(SnapshotsTest, UnfitRecordsAreRefused)
 {
     LogonBuiltin();
     _QORVEX_SNAP blank = Make(L"  ");
@@ -88,37 +90,55 @@ TEST_F(SnapshotTest, UnfitRecordsAreRefused)
     EXPECT_TRUE(List().empty());
 }
 
-TEST_F(SnapshotTest, RenamedSnapshotKeepsEverythingElse)
+TEST_F(SnapshotsTest, RenamedSnapshotKeepsEverythingElse)
 {
     LogonBuiltin();
     _QORVEX_SNAP snapshot = Make(L"old");
     snapshot.nSize = 42;
-    ASSERT_EQ(QorAddSnapshot(snapshot), 0U);
-    ASSERT_EQ(QorRenameSnapshot(1, L" new "), 0U);
+    ASSERT_EQ(QorAddSnapshot(snapshot), kSuccess);
+    ASSERT_EQ(QorRenameSnapshot(1, L" new "), kSuccess);
     SetField(snapshot.szName, L"new");
     EXPECT_EQ(memcmp(&List()[0], &snapshot, sizeof(snapshot)), 0);
     EXPECT_EQ(QorRenameSnapshot(1, L" "), DWORD(ERROR_INVALID_NAME));
     EXPECT_EQ(QorRenameSnapshot(1, nullptr), DWORD(ERROR_INVALID_NAME));
     EXPECT_EQ(QorRenameSnapshot(1, std::wstring(64, L'x').c_str()), DWORD(ERROR_INVALID_NAME));
-    EXPECT_EQ(QorRenameSnapshot(1, std::wstring(63, L'x').c_str()), 0U);
+    EXPECT_EQ(QorRenameSnapshot(1, std::wstring(63, L'x').c_str()), kSuccess);
 }
 
-TEST_F(SnapshotTest, LockedSnapshotIsNotDeleted)
+TEST_F(SnapshotsTest, LockedSnapshotIsNotDeleted)
 {
     LogonBuiltin();
     Add(L"a");
-    ASSERT_EQ(QorLockSnapshot(1, TRUE), 0U);
+    ASSERT_EQ(QorLockSnapshot(1, TRUE), kSuccess);
     EXPECT_EQ(List()[0].wFlags, QORSNAP_LOCKED);
     EXPECT_EQ(QorDeleteSnapshot(1), DWORD(ERROR_LOCKED));
-    ASSERT_EQ(QorLockSnapshot(1, FALSE), 0U);
-    EXPECT_EQ(QorDeleteSnapshot(1), 0U);
+    ASSERT_EQ(QorLockSnapshot(1, FALSE), kSuccess);
+    EXPECT_EQ(QorDeleteSnapshot(1), kSuccess);
     EXPECT_TRUE(List().empty());
 }
 
-TEST_F(SnapshotTest, MissingSnapshotsAreTold)
+TEST_F(SnapshotsTest, MissingSnapshotsAreTold)
 {
     LogonBuiltin();
     EXPECT_EQ(QorDeleteSnapshot(1), DWORD(ERROR_NOT_FOUND));
     EXPECT_EQ(QorRenameSnapshot(1, L"a"), DWORD(ERROR_NOT_FOUND));
     EXPECT_EQ(QorLockSnapshot(QORSNAP_LATEST, TRUE), DWORD(ERROR_NOT_FOUND));
+}
+
+TEST_F(SnapshotsRightsTest, SnapshotsNeedTheirRights)
+{
+    MakeRecords();
+    LogonAs(L"none", QORRIGHT_ALL & ~(QORRIGHT_TAKESNAP | QORRIGHT_DELSNAP));
+    _QORVEX_SNAP snapshot = Snapshot();
+    EXPECT_EQ(QorAddSnapshot(snapshot), kDenied);
+    EXPECT_EQ(QorRenameSnapshot(1, L"b"), kDenied);
+    EXPECT_EQ(QorLockSnapshot(1, TRUE), kDenied);
+    EXPECT_EQ(QorDeleteSnapshot(1), kDenied);
+    LogonAs(L"take", QORRIGHT_TAKESNAP);
+    EXPECT_EQ(QorAddSnapshot(snapshot), kSuccess);
+    EXPECT_EQ(QorRenameSnapshot(1, L"b"), kSuccess);
+    EXPECT_EQ(QorDeleteSnapshot(1), kDenied);
+    LogonAs(L"delete", QORRIGHT_DELSNAP);
+    EXPECT_EQ(QorDeleteSnapshot(1), kSuccess);
+    EXPECT_EQ(QorAddSnapshot(snapshot), kDenied);
 }
