@@ -1,8 +1,7 @@
 #pragma once
 
+#include <afx/array.h>
 #include <afx/stdctrl.h>
-
-#include <vector>
 
 /**
  * A list box with a check box before each item.
@@ -90,5 +89,5 @@ class AFX_LIB CCheckListBox : public CListBox
     void DrawBox(CDC& dc, const CRect& rect, const Box& box) const;
 
     UINT m_nCheckStyle;
-    std::vector<Box> m_boxes; // of the first items; those behind have never been changed
+    CArray<Box> m_boxes; // of the first items; those behind have never been changed
 };

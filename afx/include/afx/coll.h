@@ -120,7 +120,7 @@ class CMapStringTo : public CMap<CString, LPCTSTR, VALUE, ARG_VALUE>
         if (pPair) {
             rKey = pPair->key;
         }
-        return pPair != nullptr;
+        return pPair ? TRUE : FALSE;
     }
 };
 

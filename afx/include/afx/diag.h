@@ -68,7 +68,7 @@ AFX_LIB BOOL AFXAPI AfxIsMemoryBlock(const void* p, UINT nBytes, LONG* plRequest
 /** A snapshot of the tracked heap blocks, for finding leaks between two points of a program. */
 struct CMemoryState
 {
-    enum blockUsage
+    enum BlockUsage
     {
         freeBlock,   ///< not used, always 0
         objectBlock, ///< objects derived from CObject
@@ -97,7 +97,7 @@ struct CMemoryState
  *  points of a program. What was never attached to an object is not seen. */
 struct CHandleState
 {
-    enum handleKind
+    enum HandleKind
     {
         windows, ///< CWnd
         menus,   ///< CMenu
@@ -171,8 +171,8 @@ extern AFX_LIB CDumpContext afxDump;
 #define DEBUG_ONLY(f) ((void)0)
 #define TRACE(...) (false ? ::AfxTrace(__VA_ARGS__) : (void)0)
 #endif
-#define ASSERT_POINTER(p, type) ASSERT(((p) != nullptr) && ::AfxIsValidAddress((p), sizeof(type), FALSE))
-#define ASSERT_NULL_OR_POINTER(p, type) ASSERT(((p) == nullptr) || ::AfxIsValidAddress((p), sizeof(type), FALSE))
+#define ASSERT_POINTER(p, type) ASSERT((p) && ::AfxIsValidAddress((p), sizeof(type), FALSE))
+#define ASSERT_NULL_OR_POINTER(p, type) ASSERT(!(p) || ::AfxIsValidAddress((p), sizeof(type), FALSE))
 #define ASSERT_KINDOF(class_name, object) ASSERT((object)->IsKindOf(RUNTIME_CLASS(class_name)))
 #define TRACE0(sz) TRACE(_T("%s"), _T(sz))
 #define TRACE1(sz, p1) TRACE(_T(sz), p1)

@@ -13,7 +13,7 @@
 #undef GetCurrentTime
 
 /** Largest span in days, in both directions. */
-inline constexpr double OLE_DATETIME_MAXSPAN = 3615897.0;
+inline constexpr double kMaxDateTimeSpan = 3615897.0;
 
 /** A length of time in days and their fraction. */
 class AFX_LIB COleDateTimeSpan

@@ -49,9 +49,6 @@
 
 #include <afx/object.h>
 
-#include <memory>
-#include <unordered_map>
-
 class CWinApp;
 class CWinThread;
 class CWnd;
@@ -190,13 +187,9 @@ class _AFX_THREAD_STATE
 
     int m_nTempMapLock = 0; ///< above 0: temporary wrapper objects are kept
 
-  private:
-    friend struct AfxStateAccess;
-    _AFX_THREAD_STATE();
-    ~_AFX_THREAD_STATE();
-    std::unique_ptr<CHandleMap> m_rgpHandleMap[AFX_HANDLE_KINDS];
-    std::unordered_map<AFX_MODULE_STATE*, std::unique_ptr<AFX_MODULE_THREAD_STATE>> m_mapModules;
-    _AFX_THREAD_STATE* m_pNextThread = nullptr;
+  protected:
+    _AFX_THREAD_STATE() = default; // made by the framework only
+    ~_AFX_THREAD_STATE() = default;
 };
 
 /** Current module state of the thread; never null. */
@@ -285,13 +278,13 @@ class CHandleMap
     /** Writes every permanent object to the diagnostic output.
      *  @param lpszKind what the handles are called */
     AFX_LIB void DumpPermanent(LPCWSTR lpszKind) const;
-    size_t GetPermanentCount() const { return m_permanentMap.size(); }
-    size_t GetTemporaryCount() const { return m_temporaryMap.size(); }
+    AFX_LIB size_t GetPermanentCount() const;
+    AFX_LIB size_t GetTemporaryCount() const;
 
   private:
+    struct Tables;
     AFX_HANDLE_FACTORY m_factory;
-    std::unordered_map<HANDLE, CObject*> m_permanentMap;
-    std::unordered_map<HANDLE, CObject*> m_temporaryMap;
+    Tables* m_pTables; // owned
 };
 
 /** Handle map of the current thread. It is one for all modules, so that a window or GDI object of one module is known

@@ -9,9 +9,7 @@
 
 #include <afx/config.h>
 
-#include <algorithm>
 #include <type_traits>
-#include <utility>
 
 /** Header that stands before the characters of every string buffer. */
 struct CStringData
@@ -218,7 +216,8 @@ class CStringT
     }
     static void CopyChars(XCHAR* pchDest, size_t nDestLen, const XCHAR* pchSrc, int nChars) noexcept
     {
-        CopyChars(pchDest, pchSrc, (std::min)(static_cast<int>(nDestLen), nChars));
+        const int nRoom = static_cast<int>(nDestLen);
+        CopyChars(pchDest, pchSrc, nRoom < nChars ? nRoom : nChars);
     }
     static void CopyCharsOverlapped(XCHAR* pchDest, const XCHAR* pchSrc, int nChars) noexcept
     {

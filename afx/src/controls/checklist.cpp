@@ -79,7 +79,7 @@ BOOL CCheckListBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UI
 
 void CCheckListBox::PreSubclassWindow()
 {
-    m_boxes.clear(); // those of a former window
+    m_boxes.RemoveAll(); // those of a former window
     CListBox::PreSubclassWindow();
     ApplyItemHeight();
 }
@@ -139,16 +139,15 @@ bool CCheckListBox::IsSelected(int nIndex) const
 
 CCheckListBox::Box CCheckListBox::BoxOf(int nIndex) const
 {
-    return nIndex >= 0 && static_cast<size_t>(nIndex) < m_boxes.size() ? m_boxes[static_cast<size_t>(nIndex)] : Box();
+    return nIndex >= 0 && nIndex < m_boxes.GetCount() ? m_boxes[nIndex] : Box();
 }
 
 CCheckListBox::Box& CCheckListBox::ChangeBoxOf(int nIndex)
 {
-    const auto nPos = static_cast<size_t>(nIndex);
-    if (nPos >= m_boxes.size()) {
-        m_boxes.resize(nPos + 1);
+    if (nIndex >= m_boxes.GetCount()) {
+        m_boxes.SetSize(nIndex + 1);
     }
-    return m_boxes[nPos];
+    return m_boxes[nIndex];
 }
 
 void CCheckListBox::SetCheck(int nIndex, int nCheck)
@@ -216,27 +215,26 @@ LRESULT CCheckListBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 
 void CCheckListBox::FollowChange(UINT message, WPARAM wParam, LRESULT lResult, int nCountBefore)
 {
-    const auto nResult = static_cast<size_t>(lResult);
     switch (message) {
     case LB_ADDSTRING:
     case LB_INSERTSTRING:
     case LB_ADDFILE:
-        if (lResult >= 0 && nResult < m_boxes.size()) {
-            m_boxes.insert(m_boxes.begin() + static_cast<ptrdiff_t>(nResult), Box());
+        if (lResult >= 0 && lResult < m_boxes.GetCount()) {
+            m_boxes.InsertAt(lResult, Box());
         }
         break;
     case LB_DELETESTRING:
-        if (lResult != LB_ERR && wParam < m_boxes.size()) {
-            m_boxes.erase(m_boxes.begin() + static_cast<ptrdiff_t>(wParam));
+        if (lResult != LB_ERR && wParam < static_cast<WPARAM>(m_boxes.GetCount())) {
+            m_boxes.RemoveAt(static_cast<INT_PTR>(wParam));
         }
         break;
     case LB_RESETCONTENT:
-        m_boxes.clear();
+        m_boxes.RemoveAll();
         break;
     default:
         // File names go in by order; what was set before the call would land on other items.
         if (GetCount() != nCountBefore && (GetStyle() & LBS_SORT)) {
-            m_boxes.clear();
+            m_boxes.RemoveAll();
         }
         break;
     }

@@ -3,6 +3,7 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 
+#include <algorithm>
 #include <vector>
 
 IMPLEMENT_DYNAMIC(CListCtrl, CWnd)

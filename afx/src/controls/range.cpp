@@ -3,6 +3,8 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 
+#include <algorithm>
+
 IMPLEMENT_DYNAMIC(CSpinButtonCtrl, CWnd)
 IMPLEMENT_DYNAMIC(CSliderCtrl, CWnd)
 IMPLEMENT_DYNAMIC(CProgressCtrl, CWnd)

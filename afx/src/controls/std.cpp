@@ -3,6 +3,8 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 
+#include <algorithm>
+
 IMPLEMENT_DYNAMIC(CStatic, CWnd)
 IMPLEMENT_DYNAMIC(CButton, CWnd)
 IMPLEMENT_DYNAMIC(CListBox, CWnd)

@@ -1,42 +1,28 @@
 #pragma once
 
+/** @file Handles just made, on their way to an owner. One that has a handle already refuses another, which is freed. */
+
+#include <common/Owner.h>
+
 #include <afxcmn.h>
 #include <afxwin.h>
 
-/** @file Handles just made, on their way to an owner. One that has a handle already refuses another, which is freed. */
+/** @name Who frees what the objects hold; never called.
+ *  @{ */
+own::GdiObject<HGDIOBJ> AfxOwnerFor(const CGdiObject&);
+own::MemoryDc AfxOwnerFor(const CDC&);
+own::Menu AfxOwnerFor(const CMenu&);
+own::Owner<own::FreedBy<HIMAGELIST, ::ImageList_Destroy>> AfxOwnerFor(const CImageList&);
+/** @} */
 
-inline BOOL AfxAdopt(CGdiObject& owner, HGDIOBJ hNew)
+/** @return FALSE when the handle is null or the object has one already. */
+template <class Object>
+BOOL AfxAdopt(Object& object, typename decltype(AfxOwnerFor(object))::Handle hNew)
 {
-    const BOOL bTaken = owner.Attach(hNew);
-    if (!bTaken && hNew) {
-        ::DeleteObject(hNew);
+    decltype(AfxOwnerFor(object)) owner(hNew);
+    if (!object.Attach(owner.Get())) {
+        return FALSE;
     }
-    return bTaken;
-}
-
-inline BOOL AfxAdopt(CDC& owner, HDC hNew)
-{
-    const BOOL bTaken = owner.Attach(hNew);
-    if (!bTaken && hNew) {
-        ::DeleteDC(hNew);
-    }
-    return bTaken;
-}
-
-inline BOOL AfxAdopt(CMenu& owner, HMENU hNew)
-{
-    const BOOL bTaken = owner.Attach(hNew);
-    if (!bTaken && hNew) {
-        ::DestroyMenu(hNew);
-    }
-    return bTaken;
-}
-
-inline BOOL AfxAdopt(CImageList& owner, HIMAGELIST hNew)
-{
-    const BOOL bTaken = owner.Attach(hNew);
-    if (!bTaken && hNew) {
-        ::ImageList_Destroy(hNew);
-    }
-    return bTaken;
+    owner.Release();
+    return TRUE;
 }

@@ -4,14 +4,19 @@
 
 #include <mbstring.h>
 
+#include <algorithm>
+#include <cctype>
+#include <cstdio>
 #include <cwchar>
+#include <cwctype>
+#include <utility>
 
 /** The run-time library's string functions by character width. The narrow ones know multi-byte characters. */
 template <typename XCHAR>
-struct CCharFunctions;
+struct CharFunctions;
 
 template <>
-struct CCharFunctions<wchar_t>
+struct CharFunctions<wchar_t>
 {
     static int Length(const wchar_t* psz) { return static_cast<int>(wcslen(psz)); }
     static const wchar_t* Next(const wchar_t* psz) { return psz + 1; }
@@ -60,7 +65,7 @@ struct CCharFunctions<wchar_t>
 };
 
 template <>
-struct CCharFunctions<char>
+struct CharFunctions<char>
 {
     static const unsigned char* U(const char* psz) { return reinterpret_cast<const unsigned char*>(psz); }
     static unsigned char* U(char* psz) { return reinterpret_cast<unsigned char*>(psz); }

@@ -10,13 +10,13 @@ IMPLEMENT_DYNAMIC(CInvalidArgException, CSimpleException)
 
 namespace
 {
-constexpr LPCWSTR TEXT_MEMORY = L"Out of memory.";
-constexpr LPCWSTR TEXT_NOT_SUPPORTED = L"An unsupported operation was attempted.";
-constexpr LPCWSTR TEXT_RESOURCE = L"A required resource was unavailable.";
-constexpr LPCWSTR TEXT_INVALID_ARG = L"Encountered an improper argument.";
-constexpr LPCWSTR TEXT_UNKNOWN = L"An unknown error has occurred.";
+constexpr LPCWSTR kTextMemory = L"Out of memory.";
+constexpr LPCWSTR kTextNotSupported = L"An unsupported operation was attempted.";
+constexpr LPCWSTR kTextResource = L"A required resource was unavailable.";
+constexpr LPCWSTR kTextInvalidArg = L"Encountered an improper argument.";
+constexpr LPCWSTR kTextUnknown = L"An unknown error has occurred.";
 
-constexpr UINT MAX_ERROR_TEXT = 512;
+constexpr UINT kMaxErrorText = 512;
 } // namespace
 
 CException::CException() : m_bAutoDelete(TRUE) {}
@@ -43,10 +43,10 @@ BOOL CException::GetErrorMessage(LPWSTR lpszError, UINT nMaxError, UINT* pnHelpC
 
 int CException::ReportError(UINT nType, UINT nMessageID)
 {
-    wchar_t szText[MAX_ERROR_TEXT];
-    if (!GetErrorMessage(szText, MAX_ERROR_TEXT) &&
-        (nMessageID == 0 || AfxLoadString(nMessageID, szText, MAX_ERROR_TEXT) == 0)) {
-        lstrcpynW(szText, TEXT_UNKNOWN, MAX_ERROR_TEXT);
+    wchar_t szText[kMaxErrorText];
+    if (!GetErrorMessage(szText, kMaxErrorText) &&
+        (nMessageID == 0 || AfxLoadString(nMessageID, szText, kMaxErrorText) == 0)) {
+        lstrcpynW(szText, kTextUnknown, kMaxErrorText);
     }
     const LPCWSTR lpszAppName = AfxGetModuleState()->m_lpszCurrentAppName;
     return ::MessageBoxW(GetActiveWindow(), szText, lpszAppName, nType);
@@ -90,7 +90,7 @@ CMemoryException::CMemoryException() : CMemoryException(TRUE, 0) {}
 CMemoryException::CMemoryException(BOOL bAutoDelete) : CMemoryException(bAutoDelete, 0) {}
 
 CMemoryException::CMemoryException(BOOL bAutoDelete, UINT nResourceID)
-    : CSimpleException(bAutoDelete, nResourceID, TEXT_MEMORY)
+    : CSimpleException(bAutoDelete, nResourceID, kTextMemory)
 {
 }
 
@@ -99,7 +99,7 @@ CNotSupportedException::CNotSupportedException() : CNotSupportedException(TRUE, 
 CNotSupportedException::CNotSupportedException(BOOL bAutoDelete) : CNotSupportedException(bAutoDelete, 0) {}
 
 CNotSupportedException::CNotSupportedException(BOOL bAutoDelete, UINT nResourceID)
-    : CSimpleException(bAutoDelete, nResourceID, TEXT_NOT_SUPPORTED)
+    : CSimpleException(bAutoDelete, nResourceID, kTextNotSupported)
 {
 }
 
@@ -108,7 +108,7 @@ CResourceException::CResourceException() : CResourceException(TRUE, 0) {}
 CResourceException::CResourceException(BOOL bAutoDelete) : CResourceException(bAutoDelete, 0) {}
 
 CResourceException::CResourceException(BOOL bAutoDelete, UINT nResourceID)
-    : CSimpleException(bAutoDelete, nResourceID, TEXT_RESOURCE)
+    : CSimpleException(bAutoDelete, nResourceID, kTextResource)
 {
 }
 
@@ -123,7 +123,7 @@ CInvalidArgException::CInvalidArgException() : CInvalidArgException(TRUE, 0) {}
 CInvalidArgException::CInvalidArgException(BOOL bAutoDelete) : CInvalidArgException(bAutoDelete, 0) {}
 
 CInvalidArgException::CInvalidArgException(BOOL bAutoDelete, UINT nResourceID)
-    : CSimpleException(bAutoDelete, nResourceID, TEXT_INVALID_ARG)
+    : CSimpleException(bAutoDelete, nResourceID, kTextInvalidArg)
 {
 }
 

@@ -1,7 +1,8 @@
 #include "private.h"
 
-#include <memory>
+#include <new>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 /* Blocks made while the tracking is on are entered in a table beside the heap and get guard bytes behind them. Blocks
@@ -17,8 +18,8 @@ struct TrackedBlock
     int nLine;
 };
 
-constexpr BYTE GUARD_BYTE = 0xFD;
-constexpr size_t GUARD_SIZE = 16;
+constexpr BYTE kGuardByte = 0xFD;
+constexpr size_t kGuardSize = 16;
 
 SRWLOCK g_lockHeap = SRWLOCK_INIT;
 LONG g_lRequestNumber = 0;
@@ -47,7 +48,7 @@ struct TableEnd
         if (g_bTrack && !g_bOmitReport) {
             ReportLeftBlocks();
         }
-        CExclusiveLock lock(g_lockHeap);
+        ExclusiveLock lock(g_lockHeap);
         g_bTrack = FALSE;
         g_nTracked = 0;
         delete std::exchange(g_pTable, nullptr);
@@ -58,8 +59,8 @@ TableEnd g_tableEnd __attribute__((init_priority(101)));
 bool IsGuardIntact(const void* p, size_t nBytes)
 {
     const BYTE* const pGuard = static_cast<const BYTE*>(p) + nBytes;
-    for (size_t i = 0; i < GUARD_SIZE; ++i) {
-        if (pGuard[i] != GUARD_BYTE) {
+    for (size_t i = 0; i < kGuardSize; ++i) {
+        if (pGuard[i] != kGuardByte) {
             return false;
         }
     }
@@ -69,7 +70,7 @@ bool IsGuardIntact(const void* p, size_t nBytes)
 /** The copy lets reports, which allocate strings themselves, run without the lock. */
 std::vector<std::pair<const void*, TrackedBlock>> CopyBlocks()
 {
-    CExclusiveLock lock(g_lockHeap);
+    ExclusiveLock lock(g_lockHeap);
     if (!g_pTable) {
         return {};
     }
@@ -91,7 +92,7 @@ void ReportLeftBlocks()
 
 bool Enter(const void* p, const TrackedBlock& block)
 {
-    CExclusiveLock lock(g_lockHeap);
+    ExclusiveLock lock(g_lockHeap);
     try {
         if (!g_pTable) {
             g_pTable = new BlockTable;
@@ -109,12 +110,12 @@ bool Enter(const void* p, const TrackedBlock& block)
 void* AfxAllocTracked(size_t nBytes, bool bObject, LPCSTR lpszFileName, int nLine) noexcept
 {
     const bool bTrack = g_bTrack != FALSE;
-    if (nBytes > static_cast<size_t>(PTRDIFF_MAX) - GUARD_SIZE) {
+    if (nBytes > static_cast<size_t>(PTRDIFF_MAX) - kGuardSize) {
         return nullptr;
     }
-    void* const p = malloc(nBytes + (bTrack ? GUARD_SIZE : 0));
+    void* const p = malloc(nBytes + (bTrack ? kGuardSize : 0));
     if (p && bTrack) {
-        memset(static_cast<BYTE*>(p) + nBytes, GUARD_BYTE, GUARD_SIZE);
+        memset(static_cast<BYTE*>(p) + nBytes, kGuardByte, kGuardSize);
         Enter(p, {nBytes, 0, bObject, lpszFileName, nLine});
     }
     return p;
@@ -123,7 +124,7 @@ void* AfxAllocTracked(size_t nBytes, bool bObject, LPCSTR lpszFileName, int nLin
 void AfxFreeTracked(void* p) noexcept
 {
     if (p && g_nTracked > 0) {
-        CExclusiveLock lock(g_lockHeap);
+        ExclusiveLock lock(g_lockHeap);
         if (g_pTable && g_pTable->blocks.erase(p)) {
             InterlockedDecrement(&g_nTracked);
         }
@@ -150,7 +151,7 @@ BOOL AFXAPI AfxCheckMemory()
 {
     std::vector<std::pair<const void*, TrackedBlock>> damaged;
     {
-        CExclusiveLock lock(g_lockHeap);
+        ExclusiveLock lock(g_lockHeap);
         if (g_pTable) {
             for (const auto& entry : g_pTable->blocks) {
                 if (!IsGuardIntact(entry.first, entry.second.nBytes)) {
@@ -168,7 +169,7 @@ BOOL AFXAPI AfxCheckMemory()
 
 BOOL AFXAPI AfxIsMemoryBlock(const void* p, UINT nBytes, LONG* plRequestNumber)
 {
-    CExclusiveLock lock(g_lockHeap);
+    ExclusiveLock lock(g_lockHeap);
     if (!g_pTable) {
         return FALSE;
     }
@@ -185,13 +186,13 @@ BOOL AFXAPI AfxIsMemoryBlock(const void* p, UINT nBytes, LONG* plRequestNumber)
 void CMemoryState::Checkpoint()
 {
     *this = CMemoryState();
-    CExclusiveLock lock(g_lockHeap);
+    ExclusiveLock lock(g_lockHeap);
     m_lRequestNumber = g_lRequestNumber;
     if (!g_pTable) {
         return;
     }
     for (const auto& [p, block] : g_pTable->blocks) {
-        const blockUsage use = block.bObject ? objectBlock : bitBlock;
+        const BlockUsage use = block.bObject ? objectBlock : bitBlock;
         ++m_lCounts[use];
         m_lSizes[use] += block.nBytes;
     }

@@ -7,7 +7,7 @@ CRuntimeClass* AFXAPI CObject::GetThisClass()
     return const_cast<CRuntimeClass*>(&classCObject);
 }
 
-static const AFX_CLASSINIT g_initCObject(RUNTIME_CLASS(CObject));
+static const AFX_CLASSINIT kInitCObject(RUNTIME_CLASS(CObject));
 
 CRuntimeClass* CObject::GetRuntimeClass() const
 {

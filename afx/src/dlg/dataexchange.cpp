@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <limits>
+#include <string>
 
 namespace
 {

@@ -80,7 +80,7 @@ void AFXAPI ReleaseImageListObject(CObject* pTemporary)
 }
 } // namespace
 
-const AFX_HANDLE_FACTORY g_gdiObjectFactory = {CreateGdiObject, ReleaseGdiObject};
-const AFX_HANDLE_FACTORY g_dcFactory = {CreateDc, ReleaseDc};
-const AFX_HANDLE_FACTORY g_menuFactory = {CreateMenuObject, ReleaseMenuObject};
-const AFX_HANDLE_FACTORY g_imageListFactory = {CreateImageListObject, ReleaseImageListObject};
+const AFX_HANDLE_FACTORY kGdiObjectFactory = {CreateGdiObject, ReleaseGdiObject};
+const AFX_HANDLE_FACTORY kDcFactory = {CreateDc, ReleaseDc};
+const AFX_HANDLE_FACTORY kMenuFactory = {CreateMenuObject, ReleaseMenuObject};
+const AFX_HANDLE_FACTORY kImageListFactory = {CreateImageListObject, ReleaseImageListObject};

@@ -17,12 +17,12 @@ class AfxTypedMap
   public:
     static TObject* FromHandle(HANDLE h)
     {
-        return h != nullptr ? static_cast<TObject*>(AfxGetHandleMap(nKind, &factory)->FromHandle(h)) : nullptr;
+        return h ? static_cast<TObject*>(AfxGetHandleMap(nKind, &factory)->FromHandle(h)) : nullptr;
     }
     static TObject* FromHandlePermanent(HANDLE h)
     {
         const CHandleMap* pMap = AfxGetHandleMap(nKind, nullptr);
-        return pMap != nullptr ? static_cast<TObject*>(pMap->LookupPermanent(h)) : nullptr;
+        return pMap ? static_cast<TObject*>(pMap->LookupPermanent(h)) : nullptr;
     }
     static void SetPermanent(HANDLE h, TObject* pObject) { AfxGetHandleMap(nKind, &factory)->SetPermanent(h, pObject); }
     /** Forgets the owner; objects that outlive their thread's maps find nothing to do. */
@@ -40,12 +40,12 @@ class AfxTypedMap
     }
 };
 
-extern const AFX_HANDLE_FACTORY g_gdiObjectFactory;
-extern const AFX_HANDLE_FACTORY g_dcFactory;
-extern const AFX_HANDLE_FACTORY g_menuFactory;
-extern const AFX_HANDLE_FACTORY g_imageListFactory;
+extern const AFX_HANDLE_FACTORY kGdiObjectFactory;
+extern const AFX_HANDLE_FACTORY kDcFactory;
+extern const AFX_HANDLE_FACTORY kMenuFactory;
+extern const AFX_HANDLE_FACTORY kImageListFactory;
 
-using AfxGdiMap = AfxTypedMap<CGdiObject, AFX_HANDLE_HGDIOBJ, g_gdiObjectFactory>;
-using AfxDcMap = AfxTypedMap<CDC, AFX_HANDLE_HDC, g_dcFactory>;
-using AfxMenuMap = AfxTypedMap<CMenu, AFX_HANDLE_HMENU, g_menuFactory>;
-using AfxImageListMap = AfxTypedMap<CImageList, AFX_HANDLE_HIMAGELIST, g_imageListFactory>;
+using AfxGdiMap = AfxTypedMap<CGdiObject, AFX_HANDLE_HGDIOBJ, kGdiObjectFactory>;
+using AfxDcMap = AfxTypedMap<CDC, AFX_HANDLE_HDC, kDcFactory>;
+using AfxMenuMap = AfxTypedMap<CMenu, AFX_HANDLE_HMENU, kMenuFactory>;
+using AfxImageListMap = AfxTypedMap<CImageList, AFX_HANDLE_HIMAGELIST, kImageListFactory>;

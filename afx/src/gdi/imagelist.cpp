@@ -1,33 +1,11 @@
 #include "core/adopt.h"
 #include "handlemaps.h"
+#include "handles.h"
 
 #include <afxcmn.h>
 #include <afxwin.h>
 
 IMPLEMENT_DYNCREATE(CImageList, CObject)
-
-namespace
-{
-HBITMAP BitmapOf(const CBitmap* pBitmap)
-{
-    return pBitmap != nullptr ? static_cast<HBITMAP>(pBitmap->m_hObject) : nullptr;
-}
-
-HDC HandleOf(const CDC* pDC)
-{
-    return pDC != nullptr ? pDC->m_hDC : nullptr;
-}
-
-HIMAGELIST HandleOf(const CImageList* pList)
-{
-    return pList != nullptr ? pList->m_hImageList : nullptr;
-}
-
-HWND WindowOf(const CWnd* pWnd)
-{
-    return pWnd != nullptr ? pWnd->m_hWnd : nullptr;
-}
-} // namespace
 
 CImageList::~CImageList()
 {
@@ -58,13 +36,13 @@ BOOL CImageList::Create(CImageList& imagelist1, int nImage1, CImageList& imageli
 
 BOOL CImageList::Create(CImageList* pImageList)
 {
-    return HandleOf(pImageList) != nullptr && AfxAdopt(*this, ::ImageList_Duplicate(HandleOf(pImageList)));
+    return gdi::HandleOf(pImageList) && AfxAdopt(*this, ::ImageList_Duplicate(gdi::HandleOf(pImageList)));
 }
 
 BOOL CImageList::DeleteImageList()
 {
     HIMAGELIST hImageList = Detach();
-    return hImageList != nullptr && ::ImageList_Destroy(hImageList);
+    return hImageList && ::ImageList_Destroy(hImageList);
 }
 
 CImageList::operator HIMAGELIST() const
@@ -94,7 +72,7 @@ void PASCAL CImageList::DeleteTempMap()
 
 BOOL CImageList::Attach(HIMAGELIST hImageList)
 {
-    if (hImageList == nullptr || m_hImageList != nullptr) {
+    if (!hImageList || m_hImageList) {
         return FALSE;
     }
     m_hImageList = hImageList;
@@ -105,7 +83,7 @@ BOOL CImageList::Attach(HIMAGELIST hImageList)
 HIMAGELIST CImageList::Detach()
 {
     HIMAGELIST hImageList = m_hImageList;
-    if (hImageList != nullptr) {
+    if (hImageList) {
         AfxImageListMap::Remove(hImageList);
     }
     m_hImageList = nullptr;
@@ -124,12 +102,13 @@ BOOL CImageList::SetImageCount(UINT uNewCount)
 
 int CImageList::Add(CBitmap* pbmImage, CBitmap* pbmMask)
 {
-    return BitmapOf(pbmImage) != nullptr ? ::ImageList_Add(m_hImageList, BitmapOf(pbmImage), BitmapOf(pbmMask)) : -1;
+    return gdi::BitmapOf(pbmImage) ? ::ImageList_Add(m_hImageList, gdi::BitmapOf(pbmImage), gdi::BitmapOf(pbmMask))
+                                   : -1;
 }
 
 int CImageList::Add(CBitmap* pbmImage, COLORREF crMask)
 {
-    return BitmapOf(pbmImage) != nullptr ? ::ImageList_AddMasked(m_hImageList, BitmapOf(pbmImage), crMask) : -1;
+    return gdi::BitmapOf(pbmImage) ? ::ImageList_AddMasked(m_hImageList, gdi::BitmapOf(pbmImage), crMask) : -1;
 }
 
 int CImageList::Add(HICON hIcon)
@@ -144,8 +123,8 @@ BOOL CImageList::Remove(int nImage)
 
 BOOL CImageList::Replace(int nImage, CBitmap* pbmImage, CBitmap* pbmMask)
 {
-    return BitmapOf(pbmImage) != nullptr &&
-           ::ImageList_Replace(m_hImageList, nImage, BitmapOf(pbmImage), BitmapOf(pbmMask));
+    return gdi::BitmapOf(pbmImage) &&
+           ::ImageList_Replace(m_hImageList, nImage, gdi::BitmapOf(pbmImage), gdi::BitmapOf(pbmMask));
 }
 
 int CImageList::Replace(int nImage, HICON hIcon)
@@ -160,7 +139,7 @@ HICON CImageList::ExtractIcon(int nImage)
 
 BOOL CImageList::GetImageInfo(int nImage, IMAGEINFO* pImageInfo) const
 {
-    return pImageInfo != nullptr && ::ImageList_GetImageInfo(m_hImageList, nImage, pImageInfo);
+    return pImageInfo && ::ImageList_GetImageInfo(m_hImageList, nImage, pImageInfo);
 }
 
 COLORREF CImageList::SetBkColor(COLORREF cr)
@@ -185,22 +164,22 @@ BOOL CImageList::Copy(int iDst, int iSrc, UINT uFlags)
 
 BOOL CImageList::Copy(int iDst, CImageList* pSrc, int iSrc, UINT uFlags)
 {
-    return HandleOf(pSrc) != nullptr && ::ImageList_Copy(m_hImageList, iDst, HandleOf(pSrc), iSrc, uFlags);
+    return gdi::HandleOf(pSrc) && ::ImageList_Copy(m_hImageList, iDst, gdi::HandleOf(pSrc), iSrc, uFlags);
 }
 
 BOOL CImageList::Draw(CDC* pDC, int nImage, POINT pt, UINT nStyle)
 {
-    return ::ImageList_Draw(m_hImageList, nImage, HandleOf(pDC), pt.x, pt.y, nStyle);
+    return ::ImageList_Draw(m_hImageList, nImage, gdi::HandleOf(pDC), pt.x, pt.y, nStyle);
 }
 
 BOOL CImageList::DrawEx(CDC* pDC, int nImage, POINT pt, SIZE sz, COLORREF clrBk, COLORREF clrFg, UINT nStyle)
 {
-    return ::ImageList_DrawEx(m_hImageList, nImage, HandleOf(pDC), pt.x, pt.y, sz.cx, sz.cy, clrBk, clrFg, nStyle);
+    return ::ImageList_DrawEx(m_hImageList, nImage, gdi::HandleOf(pDC), pt.x, pt.y, sz.cx, sz.cy, clrBk, clrFg, nStyle);
 }
 
 BOOL CImageList::DrawIndirect(IMAGELISTDRAWPARAMS* pimldp)
 {
-    if (pimldp == nullptr || m_hImageList == nullptr) {
+    if (!pimldp || !m_hImageList) {
         return FALSE;
     }
     pimldp->cbSize = sizeof(IMAGELISTDRAWPARAMS);
@@ -213,7 +192,7 @@ BOOL CImageList::DrawIndirect(CDC* pDC, int nImage, POINT pt, SIZE sz, POINT ptO
 {
     IMAGELISTDRAWPARAMS params = {};
     params.i = nImage;
-    params.hdcDst = HandleOf(pDC);
+    params.hdcDst = gdi::HandleOf(pDC);
     params.x = pt.x;
     params.y = pt.y;
     params.cx = sz.cx;
@@ -262,10 +241,10 @@ CImageList* PASCAL CImageList::GetDragImage(LPPOINT lpPoint, LPPOINT lpPointHotS
 
 BOOL PASCAL CImageList::DragEnter(CWnd* pWndLock, CPoint point)
 {
-    return ::ImageList_DragEnter(WindowOf(pWndLock), point.x, point.y);
+    return ::ImageList_DragEnter(gdi::WindowOf(pWndLock), point.x, point.y);
 }
 
 BOOL PASCAL CImageList::DragLeave(CWnd* pWndLock)
 {
-    return ::ImageList_DragLeave(WindowOf(pWndLock));
+    return ::ImageList_DragLeave(gdi::WindowOf(pWndLock));
 }

@@ -4,6 +4,7 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 
+#include <algorithm>
 #include <string>
 
 namespace

@@ -1,27 +1,118 @@
-#include "Checks.h"
-#include "TraceCatcher.h"
+/* The checks of a debug build, in every build. */
+#ifndef _DEBUG
+#define _DEBUG
+#endif
 
-#include <string>
+#include "Checks.h"
 
 namespace
 {
-/** Tracks the framework's heap for one test. */
-class CTracking
+CString g_strReport;
+int g_nBroken = 0;
+
+/** Collects reports instead of breaking. */
+class AssertCatcher
 {
   public:
-    CTracking() : m_bOld(AfxEnableMemoryTracking(TRUE)) {}
-    ~CTracking() { AfxEnableMemoryTracking(m_bOld); }
+    AssertCatcher()
+        : m_pfnAssert(AfxSetAssertHook([](LPCSTR, int) -> BOOL {
+              ++g_nBroken;
+              return FALSE;
+          })),
+          m_pfnTrace(AfxSetTraceHook([](LPCWSTR lpszText) { g_strReport += lpszText; }))
+    {
+        g_strReport.Empty();
+        g_nBroken = 0;
+    }
+    ~AssertCatcher()
+    {
+        AfxSetAssertHook(m_pfnAssert);
+        AfxSetTraceHook(m_pfnTrace);
+    }
 
   private:
-    BOOL m_bOld;
+    AFX_ASSERT_HOOK m_pfnAssert;
+    AFX_TRACE_HOOK m_pfnTrace;
 };
 
-class CDumped : public CObject
+class CUnsound : public CObject
 {
   public:
-    void Dump(CDumpContext& dc) const override { dc << "narrow " << L"wide " << 7 << " " << 2.5; }
+    void AssertValid() const override { ASSERT(false); }
 };
 } // namespace
+
+TEST(Assert, TrueConditionIsSilent)
+{
+    AssertCatcher catcher;
+    ASSERT(1 + 1 == 2);
+    VERIFY(true);
+    EXPECT_EQ(0, g_nBroken);
+    EXPECT_TRUE(g_strReport.IsEmpty());
+}
+
+TEST(Assert, FailureReportsFileAndLineAndAsksTheHook)
+{
+    AssertCatcher catcher;
+    const int nLine = __LINE__ + 1;
+    ASSERT(1 + 1 == 3);
+    EXPECT_EQ(1, g_nBroken);
+    CString strExpected;
+    strExpected.Format(L"DiagTest.cpp(%d)", nLine);
+    EXPECT_GE(g_strReport.Find(strExpected), 0) << CStringA(g_strReport).GetString();
+}
+
+TEST(Assert, WithoutHookTheFailureBreaks)
+{
+    AFX_TRACE_HOOK const pfnOld = AfxSetTraceHook([](LPCWSTR) {});
+    AFX_ASSERT_HOOK const pfnOldAssert = AfxSetAssertHook(nullptr);
+    EXPECT_TRUE(AfxAssertFailedLine("file.cpp", 1));
+    AfxSetAssertHook(pfnOldAssert);
+    AfxSetTraceHook(pfnOld);
+}
+
+TEST(Assert, KeepsTheLastError)
+{
+    AssertCatcher catcher;
+    SetLastError(1234);
+    ASSERT(false);
+    EXPECT_EQ(1234U, GetLastError());
+}
+
+TEST(Assert, ValidObjectsAreAskedAndOthersRefused)
+{
+    AssertCatcher catcher;
+    const CObject* const pNull = nullptr;
+    ASSERT_VALID(pNull);
+    EXPECT_EQ(1, g_nBroken);
+    const CUnsound unsound;
+    ASSERT_VALID(&unsound);
+    EXPECT_EQ(2, g_nBroken);
+    CByteArray array;
+    ASSERT_VALID(&array);
+    ASSERT_KINDOF(CByteArray, &array);
+    EXPECT_EQ(2, g_nBroken);
+    ASSERT_KINDOF(CWordArray, &array);
+    EXPECT_EQ(3, g_nBroken);
+}
+
+TEST(Assert, EnsureReportsAndRaises)
+{
+    AssertCatcher catcher;
+    EXPECT_TRUE(Raises<CInvalidArgException>([] { ENSURE(1 == 2); }));
+    EXPECT_TRUE(Raises<CInvalidArgException>([] { ENSURE_ARG(false); }));
+    EXPECT_EQ(2, g_nBroken);
+    EXPECT_FALSE(Raises<CInvalidArgException>([] { ENSURE(1 == 1); }));
+}
+
+TEST(Trace, WritesFormattedTextOfBothWidths)
+{
+    AssertCatcher catcher;
+    TRACE(L"wide %s %d\n", L"text", 1);
+    TRACE("narrow %s\n", "text");
+    TRACE1("one %d\n", 2);
+    EXPECT_STREQ(L"wide text 1\nnarrow text\none 2\n", g_strReport);
+}
 
 TEST(Diagnostics, AddressesAreChecked)
 {
@@ -29,8 +120,8 @@ TEST(Diagnostics, AddressesAreChecked)
     EXPECT_TRUE(AfxIsValidAddress(&n, sizeof(n)));
     EXPECT_FALSE(AfxIsValidAddress(nullptr, 1));
     EXPECT_FALSE(AfxIsValidAddress(reinterpret_cast<void*>(16), 4));
-    static const int constant = 5;
-    EXPECT_TRUE(AfxIsValidAddress(&constant, sizeof(constant), FALSE));
+    static const int kConstant = 5;
+    EXPECT_TRUE(AfxIsValidAddress(&kConstant, sizeof(kConstant), FALSE));
     void* const p = VirtualAlloc(nullptr, 8192, MEM_COMMIT | MEM_RESERVE, PAGE_READONLY);
     EXPECT_TRUE(AfxIsValidAddress(p, 8192, FALSE));
     EXPECT_FALSE(AfxIsValidAddress(p, 8192, TRUE));
@@ -54,130 +145,4 @@ TEST(Diagnostics, StringsAreCheckedUpToTheTerminator)
     p[4095] = 0;
     EXPECT_TRUE(AfxIsValidString(p + 4000));
     VirtualFree(p, 0, MEM_RELEASE);
-}
-
-TEST(Diagnostics, DumpWritesEveryKindOfValue)
-{
-    CTraceCatcher catcher;
-    afxDump << static_cast<BYTE>(1) << " " << static_cast<WORD>(2) << " " << static_cast<DWORD>(3) << " " << 255U << " "
-            << static_cast<LONG>(-4) << " " << static_cast<LONGLONG>(-5) << " " << static_cast<ULONGLONG>(6) << " "
-            << 1.5F;
-    EXPECT_STREQ(L"1 2 3 0xFF -4 -5 6 1.5", g_strOutput);
-    g_strOutput.Empty();
-    const CDumped dumped;
-    AfxDump(&dumped);
-    EXPECT_STREQ(L"narrow wide 7 2.5", g_strOutput);
-    g_strOutput.Empty();
-    afxDump << static_cast<const CObject*>(nullptr) << static_cast<LPCWSTR>(nullptr);
-    EXPECT_STREQ(L"(null)(null)", g_strOutput);
-}
-
-TEST(Diagnostics, DefaultDumpNamesTheClass)
-{
-    CTraceCatcher catcher;
-    const CByteArray array;
-    afxDump << array;
-    EXPECT_EQ(0, g_strOutput.Find(L"a CByteArray at $"));
-}
-
-TEST(MemoryTracking, DifferenceFindsAPlantedLeakOfEachKind)
-{
-    CTracking tracking;
-    CMemoryState before;
-    CMemoryState after;
-    CMemoryState difference;
-    before.Checkpoint();
-    auto* pObject = new CByteArray;
-    const CString str(L'x', 10);
-    after.Checkpoint();
-    EXPECT_TRUE(difference.Difference(before, after));
-    EXPECT_EQ(1U, difference.m_lCounts[CMemoryState::objectBlock]);
-    EXPECT_EQ(sizeof(CByteArray), difference.m_lSizes[CMemoryState::objectBlock]);
-    EXPECT_EQ(1U, difference.m_lCounts[CMemoryState::bitBlock]);
-    delete pObject;
-    after.Checkpoint();
-    EXPECT_TRUE(difference.Difference(before, after));
-    EXPECT_EQ(0U, difference.m_lCounts[CMemoryState::objectBlock]);
-}
-
-TEST(MemoryTracking, BalancedWorkLeavesNoDifference)
-{
-    CTracking tracking;
-    CMemoryState before;
-    CMemoryState after;
-    CMemoryState difference;
-    before.Checkpoint();
-    {
-        CStringArray array;
-        for (int i = 0; i < 100; ++i) {
-            array.Add(CString(L'x', i));
-        }
-        delete new CByteArray;
-    }
-    after.Checkpoint();
-    EXPECT_FALSE(difference.Difference(before, after));
-}
-
-TEST(MemoryTracking, LivingObjectsAreListedWithTheirPlace)
-{
-    CTracking tracking;
-    CTraceCatcher catcher;
-    CMemoryState before;
-    before.Checkpoint();
-    const auto* pObject = new ("place.cpp", 12) CByteArray;
-    before.DumpAllObjectsSince();
-    EXPECT_GE(g_strOutput.Find(L"place.cpp(12)"), 0);
-    LONG lRequest = 0;
-    EXPECT_TRUE(AfxIsMemoryBlock(pObject, sizeof(CByteArray), &lRequest));
-    EXPECT_GT(lRequest, before.m_lRequestNumber);
-    EXPECT_FALSE(AfxIsMemoryBlock(pObject, 1));
-    delete pObject;
-    g_strOutput.Empty();
-    before.DumpAllObjectsSince();
-    EXPECT_EQ(-1, g_strOutput.Find(L"place.cpp"));
-}
-
-TEST(MemoryTracking, StatisticsNameCountsAndSizes)
-{
-    CTraceCatcher catcher;
-    CMemoryState state;
-    state.m_lCounts[CMemoryState::objectBlock] = 3;
-    state.m_lSizes[CMemoryState::objectBlock] = 120;
-    state.DumpStatistics();
-    EXPECT_STREQ(L"120 bytes in 3 objects, 0 bytes in 0 other blocks\n", g_strOutput);
-}
-
-TEST(MemoryTracking, DamageBehindABlockIsFound)
-{
-    CTracking tracking;
-    CTraceCatcher catcher;
-    EXPECT_TRUE(AfxCheckMemory());
-    CString str(L'x', 4);
-    wchar_t* const psz = str.GetBuffer();
-    const wchar_t chOld = psz[5];
-    psz[5] = L'!';
-    EXPECT_FALSE(AfxCheckMemory());
-    EXPECT_GE(g_strOutput.Find(L"memory damaged"), 0);
-    psz[5] = chOld;
-    EXPECT_TRUE(AfxCheckMemory());
-}
-
-TEST(MemoryTracking, BlocksMadeBeforeAndFreedAfterAreSafe)
-{
-    CString strEarly(L'x', 5);
-    CString strTracked;
-    {
-        CTracking tracking;
-        strEarly.Empty();
-        strTracked = CString(L'y', 5);
-    }
-    strTracked.Empty();
-    EXPECT_TRUE(AfxCheckMemory());
-}
-
-TEST(MemoryTracking, PlaceNewServesOtherTypesToo)
-{
-    auto* const p = new ("place.cpp", 1) std::string("text");
-    EXPECT_EQ("text", *p);
-    delete p;
 }

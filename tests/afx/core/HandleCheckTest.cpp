@@ -8,11 +8,11 @@
 namespace
 {
 /** What objects of this thread own more than when this was made. */
-class CGrowth
+class Growth
 {
   public:
-    CGrowth() { m_before.Checkpoint(); }
-    LONG Of(CHandleState::handleKind kind) const
+    Growth() { m_before.Checkpoint(); }
+    LONG Of(CHandleState::HandleKind kind) const
     {
         CHandleState after;
         after.Checkpoint();
@@ -40,7 +40,7 @@ ts::ProcessResult RunLeaver(LPCWSTR lpszArgument)
 
 TEST(HandleCheck, CountsTheHandlesThatObjectsOwnByKind)
 {
-    const CGrowth growth;
+    const Growth growth;
     {
         CWnd wnd;
         ASSERT_TRUE(wnd.CreateEx(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr));
@@ -73,7 +73,7 @@ TEST(HandleCheck, CountsTheHandlesThatObjectsOwnByKind)
 
 TEST(HandleCheck, TemporaryAndDetachedObjectsOwnNothing)
 {
-    const CGrowth growth;
+    const Growth growth;
     CBrush brush(RGB(1, 2, 3));
     const HGDIOBJ hBrush = brush.Detach();
     CGdiObject::FromHandle(hBrush);
@@ -86,7 +86,7 @@ TEST(HandleCheck, TheDumpNamesEveryHandleWithItsOwner)
     const UINT nBefore = AfxDumpHandles();
     CMenu menu;
     menu.CreatePopupMenu();
-    CTraceCatcher catcher;
+    TraceCatcher catcher;
     EXPECT_EQ(nBefore + 1, AfxDumpHandles());
     CString strExpected;
     strExpected.Format(L"menu $%p is owned by the object at $%p\n", menu.m_hMenu, static_cast<CObject*>(&menu));
@@ -95,7 +95,7 @@ TEST(HandleCheck, TheDumpNamesEveryHandleWithItsOwner)
 
 TEST(HandleCheck, StatisticsNameTheCounts)
 {
-    CTraceCatcher catcher;
+    TraceCatcher catcher;
     CHandleState state;
     state.m_lCounts[CHandleState::windows] = 1;
     state.m_lCounts[CHandleState::menus] = 2;

@@ -14,13 +14,13 @@ class CWrapper : public CObject
 };
 int CWrapper::s_nAlive = 0;
 
-const AFX_HANDLE_FACTORY g_factory = {[](HANDLE h) -> CObject* {
-                                          if (h == INVALID_HANDLE_VALUE) {
-                                              AfxThrowMemoryException();
-                                          }
-                                          return new CWrapper(h);
-                                      },
-                                      [](CObject* pTemporary) { delete pTemporary; }};
+const AFX_HANDLE_FACTORY kFactory = {[](HANDLE h) -> CObject* {
+                                         if (h == INVALID_HANDLE_VALUE) {
+                                             AfxThrowMemoryException();
+                                         }
+                                         return new CWrapper(h);
+                                     },
+                                     [](CObject* pTemporary) { delete pTemporary; }};
 
 HANDLE H(UINT_PTR n)
 {
@@ -30,14 +30,14 @@ HANDLE H(UINT_PTR n)
 
 TEST(HandleMap, NullHandleHasNoObject)
 {
-    CHandleMap map(g_factory);
+    CHandleMap map(kFactory);
     EXPECT_EQ(nullptr, map.FromHandle(nullptr));
     EXPECT_EQ(0U, map.GetTemporaryCount());
 }
 
 TEST(HandleMap, TemporaryObjectIsMadeOnceAndFreedByDeleteTemp)
 {
-    CHandleMap map(g_factory);
+    CHandleMap map(kFactory);
     CObject* const pObject = map.FromHandle(H(4));
     ASSERT_NE(nullptr, pObject);
     EXPECT_EQ(H(4), static_cast<CWrapper*>(pObject)->m_h);
@@ -52,7 +52,7 @@ TEST(HandleMap, TemporaryObjectIsMadeOnceAndFreedByDeleteTemp)
 
 TEST(HandleMap, PermanentObjectIsPreferredAndKept)
 {
-    CHandleMap map(g_factory);
+    CHandleMap map(kFactory);
     CObject* const pTemporary = map.FromHandle(H(8));
     CWrapper owner(H(8));
     map.SetPermanent(H(8), &owner);
@@ -66,7 +66,7 @@ TEST(HandleMap, PermanentObjectIsPreferredAndKept)
 
 TEST(HandleMap, FailedFactoryLeavesNoEntry)
 {
-    CHandleMap map(g_factory);
+    CHandleMap map(kFactory);
     EXPECT_TRUE(Raises<CMemoryException>([&] { map.FromHandle(INVALID_HANDLE_VALUE); }));
     EXPECT_EQ(0U, map.GetTemporaryCount());
 }
@@ -74,7 +74,7 @@ TEST(HandleMap, FailedFactoryLeavesNoEntry)
 TEST(HandleMap, EndFreesTemporaryObjects)
 {
     {
-        CHandleMap map(g_factory);
+        CHandleMap map(kFactory);
         map.FromHandle(H(4));
     }
     EXPECT_EQ(0, CWrapper::s_nAlive);
@@ -83,11 +83,11 @@ TEST(HandleMap, EndFreesTemporaryObjects)
 TEST(HandleMap, ThreadsHaveTheirOwnMapsThatEndWithThem)
 {
     EXPECT_EQ(nullptr, AfxGetHandleMap(AFX_HANDLE_HSOCKET, nullptr));
-    CHandleMap* const pMap = AfxGetHandleMap(AFX_HANDLE_HSOCKET, &g_factory);
+    CHandleMap* const pMap = AfxGetHandleMap(AFX_HANDLE_HSOCKET, &kFactory);
     ASSERT_NE(nullptr, pMap);
     EXPECT_EQ(pMap, AfxGetHandleMap(AFX_HANDLE_HSOCKET, nullptr));
     std::thread([pMap] {
-        CHandleMap* const pOther = AfxGetHandleMap(AFX_HANDLE_HSOCKET, &g_factory);
+        CHandleMap* const pOther = AfxGetHandleMap(AFX_HANDLE_HSOCKET, &kFactory);
         EXPECT_NE(pMap, pOther);
         pOther->FromHandle(H(4));
         EXPECT_EQ(1, CWrapper::s_nAlive);
@@ -97,7 +97,7 @@ TEST(HandleMap, ThreadsHaveTheirOwnMapsThatEndWithThem)
 
 TEST(HandleMap, LocksKeepTemporaryObjectsUntilTheLastOneEnds)
 {
-    CHandleMap* const pMap = AfxGetHandleMap(AFX_HANDLE_HSOCKET, &g_factory);
+    CHandleMap* const pMap = AfxGetHandleMap(AFX_HANDLE_HSOCKET, &kFactory);
     AfxLockTempMaps();
     AfxLockTempMaps();
     pMap->FromHandle(H(4));

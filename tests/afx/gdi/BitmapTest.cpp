@@ -32,13 +32,13 @@ TEST(Bitmap, OemBitmapIsTheSystems)
 
 TEST(Bitmap, MappedBitmapTakesTheGivenColours)
 {
-    COLORMAP map = {RGB(128, 128, 128), RED};
+    COLORMAP map = {RGB(128, 128, 128), kRed};
     CBitmap bitmap;
     ASSERT_TRUE(bitmap.LoadMappedBitmap(IDB_GREYS, 0, &map, 1));
     CDC source;
     source.CreateCompatibleDC(nullptr);
     CBitmap* former = source.SelectObject(&bitmap);
-    EXPECT_EQ(source.GetPixel(0, 0), RED);
+    EXPECT_EQ(source.GetPixel(0, 0), kRed);
     EXPECT_EQ(source.GetPixel(7, 0), RGB(192, 192, 192));
     source.SelectObject(former);
 }

@@ -7,13 +7,13 @@
 
 namespace
 {
-constexpr COLORREF MASK = RGB(255, 0, 255);
+constexpr COLORREF kMask = RGB(255, 0, 255);
 
 /** The red, green and blue picture of 8 x 8 with a transparent first row. */
 class Strip : public CImageList
 {
   public:
-    Strip() { Create(IDB_STRIP, 8, 1, MASK); }
+    Strip() { Create(IDB_STRIP, 8, 1, kMask); }
 };
 } // namespace
 
@@ -67,8 +67,8 @@ TEST(ImageList, LoadsAndCutsAStrip)
     EXPECT_EQ(CRect(info.rcImage).Size(), CSize(8, 8));
     EXPECT_FALSE(list.GetImageInfo(1, nullptr));
     CImageList byName;
-    EXPECT_TRUE(byName.Create(TEXT("NAMED_STRIP"), 8, 1, MASK));
-    EXPECT_FALSE(CImageList().Create(9999, 8, 1, MASK));
+    EXPECT_TRUE(byName.Create(TEXT("NAMED_STRIP"), 8, 1, kMask));
+    EXPECT_FALSE(CImageList().Create(9999, 8, 1, kMask));
 }
 
 TEST(ImageList, DrawsAPictureWithItsHoles)
@@ -76,9 +76,9 @@ TEST(ImageList, DrawsAPictureWithItsHoles)
     Strip list;
     MemoryDc dc;
     EXPECT_TRUE(list.Draw(&dc, 1, CPoint(2, 2), ILD_TRANSPARENT));
-    EXPECT_EQ(dc.GetPixel(2, 2), WHITE);
-    EXPECT_EQ(dc.GetPixel(2, 3), GREEN);
-    EXPECT_EQ(dc.Count(GREEN), 56);
+    EXPECT_EQ(dc.GetPixel(2, 2), kWhite);
+    EXPECT_EQ(dc.GetPixel(2, 3), kGreen);
+    EXPECT_EQ(dc.Count(kGreen), 56);
     EXPECT_FALSE(list.Draw(&dc, 7, CPoint(0, 0), ILD_NORMAL));
     EXPECT_FALSE(list.Draw(nullptr, 0, CPoint(0, 0), ILD_NORMAL));
 }
@@ -87,19 +87,19 @@ TEST(ImageList, DrawsAPartWithAnOwnBackground)
 {
     Strip list;
     MemoryDc dc;
-    EXPECT_TRUE(list.DrawEx(&dc, 0, CPoint(0, 0), CSize(4, 4), BLUE, CLR_NONE, ILD_NORMAL));
-    EXPECT_EQ(dc.Count(RED), 12);
-    EXPECT_EQ(dc.Count(BLUE), 4);
+    EXPECT_TRUE(list.DrawEx(&dc, 0, CPoint(0, 0), CSize(4, 4), kBlue, CLR_NONE, ILD_NORMAL));
+    EXPECT_EQ(dc.Count(kRed), 12);
+    EXPECT_EQ(dc.Count(kBlue), 4);
     MemoryDc other;
     EXPECT_TRUE(list.DrawIndirect(&other, 2, CPoint(0, 0), CSize(4, 4), CPoint(4, 4)));
-    EXPECT_EQ(other.Count(BLUE), 16);
+    EXPECT_EQ(other.Count(kBlue), 16);
     IMAGELISTDRAWPARAMS params = {};
     params.hdcDst = other;
     params.i = 0;
     params.x = 20;
     params.rgbBk = CLR_NONE;
     EXPECT_TRUE(list.DrawIndirect(&params));
-    EXPECT_EQ(other.Count(RED), 56);
+    EXPECT_EQ(other.Count(kRed), 56);
     EXPECT_EQ(params.himl, list.m_hImageList);
     EXPECT_FALSE(list.DrawIndirect(nullptr));
     EXPECT_FALSE(CImageList().DrawIndirect(&params));
@@ -108,16 +108,16 @@ TEST(ImageList, DrawsAPartWithAnOwnBackground)
 TEST(ImageList, IndirectDrawingStartsInsideThePicture)
 {
     MemoryDc picture(8, 8);
-    picture.FillSolidRect(0, 0, 4, 8, RED);
-    picture.FillSolidRect(4, 0, 4, 8, BLUE);
+    picture.FillSolidRect(0, 0, 4, 8, kRed);
+    picture.FillSolidRect(4, 0, 4, 8, kBlue);
     CBitmap* half = picture.SelectObject(CBitmap::FromHandle(::CreateBitmap(1, 1, 1, 1, nullptr)));
     CImageList list;
     list.Create(8, 8, ILC_COLOR24, 1, 1);
     list.Add(half, static_cast<CBitmap*>(nullptr));
     MemoryDc dc;
     EXPECT_TRUE(list.DrawIndirect(&dc, 0, CPoint(0, 0), CSize(4, 8), CPoint(4, 0)));
-    EXPECT_EQ(dc.Count(BLUE), 32);
-    EXPECT_EQ(dc.Count(RED), 0);
+    EXPECT_EQ(dc.Count(kBlue), 32);
+    EXPECT_EQ(dc.Count(kRed), 0);
     ::DeleteObject(picture.SelectObject(half)->m_hObject);
 }
 
@@ -127,7 +127,7 @@ TEST(ImageList, PicturesAreAddedReplacedAndRemoved)
     ASSERT_TRUE(list.Create(8, 8, ILC_COLOR24 | ILC_MASK, 0, 1));
     CBitmap strip;
     strip.LoadBitmap(IDB_STRIP);
-    EXPECT_EQ(list.Add(&strip, MASK), 0);
+    EXPECT_EQ(list.Add(&strip, kMask), 0);
     EXPECT_EQ(list.GetImageCount(), 3);
     CBitmap plain;
     plain.LoadBitmap(IDB_STRIP);
@@ -144,7 +144,7 @@ TEST(ImageList, PicturesAreAddedReplacedAndRemoved)
     EXPECT_EQ(list.GetImageCount(), 2);
     EXPECT_TRUE(list.Remove(-1));
     EXPECT_EQ(list.GetImageCount(), 0);
-    EXPECT_EQ(list.Add(static_cast<CBitmap*>(nullptr), MASK), -1);
+    EXPECT_EQ(list.Add(static_cast<CBitmap*>(nullptr), kMask), -1);
     EXPECT_FALSE(list.Replace(0, nullptr, nullptr));
 }
 
@@ -167,7 +167,7 @@ TEST(ImageList, PicturesMoveInsideTheList)
     EXPECT_TRUE(list.Copy(0, 2));
     MemoryDc dc;
     list.Draw(&dc, 0, CPoint(0, 0), ILD_TRANSPARENT);
-    EXPECT_EQ(dc.Count(BLUE), 56);
+    EXPECT_EQ(dc.Count(kBlue), 56);
     EXPECT_TRUE(list.Copy(0, &list, 2, ILCF_SWAP));
     EXPECT_FALSE(list.Copy(0, nullptr, 2));
 }
@@ -176,8 +176,8 @@ TEST(ImageList, BackgroundOverlayAndIcon)
 {
     Strip list;
     EXPECT_EQ(list.GetBkColor(), CLR_NONE);
-    EXPECT_EQ(list.SetBkColor(GREEN), CLR_NONE);
-    EXPECT_EQ(list.GetBkColor(), GREEN);
+    EXPECT_EQ(list.SetBkColor(kGreen), CLR_NONE);
+    EXPECT_EQ(list.GetBkColor(), kGreen);
     EXPECT_TRUE(list.SetOverlayImage(1, 1));
     HICON icon = list.ExtractIcon(0);
     EXPECT_NE(icon, nullptr);

@@ -4,11 +4,11 @@
 
 #include <afxwin.h>
 
-constexpr COLORREF WHITE = RGB(255, 255, 255);
-constexpr COLORREF BLACK = RGB(0, 0, 0);
-constexpr COLORREF RED = RGB(255, 0, 0);
-constexpr COLORREF GREEN = RGB(0, 255, 0);
-constexpr COLORREF BLUE = RGB(0, 0, 255);
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+constexpr COLORREF kBlack = RGB(0, 0, 0);
+constexpr COLORREF kRed = RGB(255, 0, 0);
+constexpr COLORREF kGreen = RGB(0, 255, 0);
+constexpr COLORREF kBlue = RGB(0, 0, 255);
 
 /** A white picture in memory to draw on. */
 class MemoryDc : public CDC

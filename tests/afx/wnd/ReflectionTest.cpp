@@ -1,5 +1,7 @@
 #include "Windows.h"
 
+#include <algorithm>
+
 namespace
 {
 constexpr int kControl = 300;

@@ -1,5 +1,7 @@
 #include "Windows.h"
 
+#include <algorithm>
+
 namespace
 {
 /** Writes down its life; may refuse to be created. */

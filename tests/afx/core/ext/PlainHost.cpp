@@ -5,7 +5,7 @@
 
 namespace
 {
-constexpr DWORD LIMIT = 10000;
+constexpr DWORD kLimit = 10000;
 
 struct Worker
 {
@@ -20,7 +20,7 @@ DWORD WINAPI UseAndWait(LPVOID pParameter)
     const auto* const pWorker = static_cast<Worker*>(pParameter);
     pWorker->pfnUse();
     SetEvent(pWorker->hUsed);
-    return WaitForSingleObject(pWorker->hFreed, LIMIT);
+    return WaitForSingleObject(pWorker->hFreed, kLimit);
 }
 
 int Round()
@@ -39,7 +39,7 @@ int Round()
     }
     worker.pfnUse();
     const HANDLE hThread = CreateThread(nullptr, 0, UseAndWait, &worker, 0, nullptr);
-    if (WaitForSingleObject(worker.hUsed, LIMIT) != WAIT_OBJECT_0) {
+    if (WaitForSingleObject(worker.hUsed, kLimit) != WAIT_OBJECT_0) {
         return 4;
     }
     FreeLibrary(hModule);
@@ -50,7 +50,7 @@ int Round()
         return 6;
     }
     SetEvent(worker.hFreed);
-    if (WaitForSingleObject(hThread, LIMIT) != WAIT_OBJECT_0) {
+    if (WaitForSingleObject(hThread, kLimit) != WAIT_OBJECT_0) {
         return 7;
     }
     CloseHandle(hThread);

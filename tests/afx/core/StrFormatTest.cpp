@@ -174,3 +174,61 @@ TEST(CStringFormat, FormatMessageUsesNumberedInserts)
     strNarrow.FormatMessage("%1!s!", "n");
     EXPECT_STREQ("n", strNarrow);
 }
+
+TEST(CStringSystem, LoadStringFindsTheProgramsResource)
+{
+    CString str;
+    EXPECT_TRUE(str.LoadString(100));
+    EXPECT_STREQ(L"program 100", str);
+    EXPECT_TRUE(str.LoadString(123));
+    EXPECT_STREQ(L"Gr\u00fc\u00dfe \u4e2d", str);
+    CStringA strNarrow;
+    EXPECT_TRUE(strNarrow.LoadString(100));
+    EXPECT_STREQ("program 100", strNarrow);
+}
+
+TEST(CStringSystem, LoadStringLeavesTheStringWhenMissing)
+{
+    CString str(L"kept");
+    EXPECT_FALSE(str.LoadString(9999));
+    EXPECT_FALSE(str.LoadString(99)); // its block exists
+    EXPECT_FALSE(str.LoadString(0));
+    EXPECT_FALSE(str.LoadString(0x12345678));
+    EXPECT_STREQ(L"kept", str);
+}
+
+TEST(CStringSystem, LoadStringFromInstanceAndLanguage)
+{
+    CString str;
+    EXPECT_TRUE(str.LoadString(GetModuleHandle(nullptr), 100));
+    EXPECT_STREQ(L"program 100", str);
+    EXPECT_FALSE(str.LoadString(GetModuleHandle(L"kernel32.dll"), 100));
+    EXPECT_TRUE(str.LoadString(GetModuleHandle(nullptr), 100, MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US)));
+    EXPECT_FALSE(str.LoadString(GetModuleHandle(nullptr), 100, MAKELANGID(LANG_JAPANESE, SUBLANG_DEFAULT)));
+}
+
+TEST(CStringSystem, SysStringsAreMadeAndReplaced)
+{
+    const CString str(L"bstr");
+    BSTR bstr = str.AllocSysString();
+    EXPECT_STREQ(L"bstr", bstr);
+    EXPECT_EQ(4U, SysStringLen(bstr));
+    EXPECT_EQ(bstr, CStringA("narrow text").SetSysString(&bstr) ? bstr : nullptr);
+    EXPECT_STREQ(L"narrow text", bstr);
+    SysFreeString(bstr);
+    EXPECT_TRUE(Raises<CInvalidArgException>([&] { str.SetSysString(nullptr); }));
+}
+
+TEST(CStringSystem, EnvironmentVariables)
+{
+    SetEnvironmentVariableW(L"AFX_CORE_TEST", L"some value");
+    CString str;
+    EXPECT_TRUE(str.GetEnvironmentVariable(L"AFX_CORE_TEST"));
+    EXPECT_STREQ(L"some value", str);
+    CStringA strNarrow;
+    EXPECT_TRUE(strNarrow.GetEnvironmentVariable("AFX_CORE_TEST"));
+    EXPECT_STREQ("some value", strNarrow);
+    SetEnvironmentVariableW(L"AFX_CORE_TEST", nullptr);
+    EXPECT_FALSE(str.GetEnvironmentVariable(L"AFX_CORE_TEST"));
+    EXPECT_TRUE(str.IsEmpty());
+}

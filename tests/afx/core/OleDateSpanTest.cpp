@@ -59,9 +59,9 @@ TEST(OleDateTimeSpan, HalfASecondCompletesADayAwayFromZero)
 
 TEST(OleDateTimeSpan, TooLongSpansAreInvalid)
 {
-    EXPECT_EQ(COleDateTimeSpan::valid, COleDateTimeSpan(OLE_DATETIME_MAXSPAN).GetStatus());
-    EXPECT_EQ(COleDateTimeSpan::invalid, COleDateTimeSpan(OLE_DATETIME_MAXSPAN + 1).GetStatus());
-    EXPECT_EQ(COleDateTimeSpan::invalid, COleDateTimeSpan(-OLE_DATETIME_MAXSPAN - 1).GetStatus());
+    EXPECT_EQ(COleDateTimeSpan::valid, COleDateTimeSpan(kMaxDateTimeSpan).GetStatus());
+    EXPECT_EQ(COleDateTimeSpan::invalid, COleDateTimeSpan(kMaxDateTimeSpan + 1).GetStatus());
+    EXPECT_EQ(COleDateTimeSpan::invalid, COleDateTimeSpan(-kMaxDateTimeSpan - 1).GetStatus());
     EXPECT_EQ(COleDateTimeSpan::invalid, (COleDateTimeSpan(3e6) + COleDateTimeSpan(3e6)).GetStatus());
 }
 

@@ -39,28 +39,28 @@ TEST(Text, TabbedExtentReachesTheTabStop)
     EXPECT_EQ(size.cx, 50 + GdiExtent(dc, L"b").cx);
     EXPECT_EQ(dc.GetOutputTabbedTextExtent(CString(TEXT("a\tb")), 1, &stop), size);
     EXPECT_EQ(dc.TabbedTextOut(0, 0, CString(TEXT("a\tb")), 1, &stop, 0), size);
-    EXPECT_GT(dc.Count(BLACK), 0);
+    EXPECT_GT(dc.Count(kBlack), 0);
 }
 
 TEST(Text, TextOutDrawsInTheTextColour)
 {
     TextDc dc;
-    dc.SetTextColor(RED);
+    dc.SetTextColor(kRed);
     EXPECT_TRUE(dc.TextOut(2, 2, CString(TEXT("Hi"))));
-    const int pixels = dc.Count(RED);
+    const int pixels = dc.Count(kRed);
     EXPECT_GT(pixels, 4);
     TextDc other;
-    other.SetTextColor(RED);
+    other.SetTextColor(kRed);
     EXPECT_TRUE(other.TextOut(2, 2, TEXT("Higher"), 2));
-    EXPECT_EQ(other.Count(RED), pixels);
+    EXPECT_EQ(other.Count(kRed), pixels);
 }
 
 TEST(Text, ExtTextOutFillsItsRectangle)
 {
     TextDc dc;
-    dc.SetBkColor(RED);
+    dc.SetBkColor(kRed);
     EXPECT_TRUE(dc.ExtTextOut(0, 0, ETO_OPAQUE | ETO_CLIPPED, CRect(0, 0, 10, 10), CString(), nullptr));
-    EXPECT_EQ(dc.Count(RED), 100);
+    EXPECT_EQ(dc.Count(kRed), 100);
 }
 
 TEST(Text, DrawTextReturnsTheHeight)
@@ -88,56 +88,10 @@ TEST(Text, ModifyingDrawLeavesTheStringAlone)
     EXPECT_STREQ(text, TEXT("a very long text that does not fit"));
 }
 
-TEST(Text, CharacterWidthsEqualTheSystems)
-{
-    TextDc dc;
-    int own[3] = {};
-    int system[3] = {};
-    ASSERT_TRUE(dc.GetCharWidth(L'a', L'c', own));
-    ::GetCharWidth32(dc, L'a', L'c', system);
-    EXPECT_EQ(own[0], system[0]);
-    EXPECT_EQ(own[2], system[2]);
-    int output[1] = {};
-    EXPECT_TRUE(dc.GetOutputCharWidth(L'a', L'a', output));
-    EXPECT_EQ(output[0], system[0]);
-}
-
-TEST(Text, FaceNameIsGivenAsAString)
-{
-    TextDc dc;
-    CFont font;
-    font.CreatePointFont(90, TEXT("Tahoma"));
-    CFont* former = dc.CDC::SelectObject(&font);
-    CString name;
-    EXPECT_GT(dc.GetTextFace(name), 0);
-    TCHAR expected[LF_FACESIZE] = {};
-    ::GetTextFace(dc, LF_FACESIZE, expected);
-    EXPECT_STREQ(name, expected);
-    EXPECT_GT(dc.GetOutlineTextMetrics(0, nullptr), 0u);
-    ABC widths = {};
-    EXPECT_TRUE(dc.GetCharABCWidths(L'a', L'a', &widths));
-    EXPECT_GT(widths.abcB, 0u);
-    dc.CDC::SelectObject(former);
-    CDC none;
-    EXPECT_EQ(none.GetTextFace(name), 0);
-    EXPECT_TRUE(name.IsEmpty());
-}
-
-TEST(Text, OutputMetricsAreThoseOfTheOutputContext)
-{
-    TextDc dc;
-    TEXTMETRIC own = {};
-    TEXTMETRIC system = {};
-    ASSERT_TRUE(dc.GetOutputTextMetrics(&own));
-    ::GetTextMetrics(dc, &system);
-    EXPECT_EQ(own.tmHeight, system.tmHeight);
-    EXPECT_EQ(own.tmAveCharWidth, system.tmAveCharWidth);
-}
-
 TEST(Text, GrayStringCallsTheGivenFunction)
 {
     TextDc dc;
-    CBrush brush(RED);
+    CBrush brush(kRed);
     int calls = 0;
     const auto draw = [](HDC, LPARAM data, int) -> BOOL {
         ++*reinterpret_cast<int*>(data);

@@ -1,25 +1,16 @@
-/* Part of str.cpp: formatted output, resources and system strings. */
+#include "strinternal.h"
 
-namespace
-{
-/** Frees what FormatMessage allocated. */
-template <typename XCHAR>
-struct CLocalText
-{
-    XCHAR* psz = nullptr;
-    ~CLocalText() { LocalFree(psz); }
-};
-} // namespace
+#include <common/Owner.h>
 
 template <typename T>
 void CStringT<T>::FormatV(PCXSTR pszFormat, va_list args)
 {
-    CheckArgument(pszFormat != nullptr);
+    AfxCheckArgument(pszFormat != nullptr);
     va_list argsForLength;
     va_copy(argsForLength, args);
     const int nLength = Chars<T>::FormattedLength(pszFormat, argsForLength);
     va_end(argsForLength);
-    CheckArgument(nLength >= 0);
+    AfxCheckArgument(nLength >= 0);
     /* The result is built apart, because format and arguments may lie in this string. */
     CStringT strResult;
     if (nLength > 0) {
@@ -81,14 +72,14 @@ void AFX_CDECL CStringT<T>::AppendFormat(UINT nFormatID, ...)
 template <typename T>
 void CStringT<T>::FormatMessageV(PCXSTR pszFormat, va_list* pArgList)
 {
-    CheckArgument(pszFormat != nullptr);
-    CLocalText<T> text;
+    AfxCheckArgument(pszFormat != nullptr);
+    own::LocalMemory text;
     SetLastError(ERROR_SUCCESS);
-    const DWORD nLength = Chars<T>::FormatSystem(pszFormat, &text.psz, pArgList);
+    const DWORD nLength = Chars<T>::FormatSystem(pszFormat, reinterpret_cast<T**>(text.Receive()), pArgList);
     if (nLength == 0 && GetLastError() != ERROR_SUCCESS) {
         AfxThrowMemoryException();
     }
-    SetString(text.psz, static_cast<int>(nLength));
+    SetString(static_cast<PCXSTR>(text.Get()), static_cast<int>(nLength));
 }
 
 template <typename T>
@@ -149,7 +140,7 @@ BSTR CStringT<T>::AllocSysString() const
 template <typename T>
 BSTR CStringT<T>::SetSysString(BSTR* pbstr) const
 {
-    CheckArgument(pbstr != nullptr);
+    AfxCheckArgument(pbstr != nullptr);
     const CStringT<wchar_t> strWide(*this);
     if (!SysReAllocStringLen(pbstr, strWide.GetString(), static_cast<UINT>(strWide.GetLength()))) {
         AfxThrowMemoryException();
@@ -160,7 +151,7 @@ BSTR CStringT<T>::SetSysString(BSTR* pbstr) const
 template <typename T>
 BOOL CStringT<T>::GetEnvironmentVariable(PCXSTR pszVar)
 {
-    CheckArgument(pszVar != nullptr);
+    AfxCheckArgument(pszVar != nullptr);
     SetLastError(ERROR_SUCCESS);
     DWORD nSize = Chars<T>::Environment(pszVar, nullptr, 0);
     CStringT strValue;
@@ -177,3 +168,6 @@ BOOL CStringT<T>::GetEnvironmentVariable(PCXSTR pszVar)
     *this = strValue;
     return bFound;
 }
+
+template class CStringT<char>;
+template class CStringT<wchar_t>;

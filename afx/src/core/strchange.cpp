@@ -1,4 +1,4 @@
-/* Part of str.cpp: operations that change a string in place. */
+#include "strinternal.h"
 
 template <typename T>
 CStringT<T>& CStringT<T>::MakeUpper()
@@ -172,7 +172,7 @@ CStringT<T>& CStringT<T>::Trim(XCHAR chTarget)
 template <typename T>
 CStringT<T>& CStringT<T>::Trim(PCXSTR pszTargets)
 {
-    TrimEnds(OrEmpty(pszTargets), true, true);
+    TrimEnds(AfxOrEmpty(pszTargets), true, true);
     return *this;
 }
 
@@ -194,7 +194,7 @@ CStringT<T>& CStringT<T>::TrimLeft(XCHAR chTarget)
 template <typename T>
 CStringT<T>& CStringT<T>::TrimLeft(PCXSTR pszTargets)
 {
-    TrimEnds(OrEmpty(pszTargets), true, false);
+    TrimEnds(AfxOrEmpty(pszTargets), true, false);
     return *this;
 }
 
@@ -216,7 +216,7 @@ CStringT<T>& CStringT<T>::TrimRight(XCHAR chTarget)
 template <typename T>
 CStringT<T>& CStringT<T>::TrimRight(PCXSTR pszTargets)
 {
-    TrimEnds(OrEmpty(pszTargets), false, true);
+    TrimEnds(AfxOrEmpty(pszTargets), false, true);
     return *this;
 }
 
@@ -233,3 +233,6 @@ void CStringT<T>::ConvertCodePage(bool bToOem)
         }
     }
 }
+
+template class CStringT<char>;
+template class CStringT<wchar_t>;

@@ -1,0 +1,57 @@
+#include "core/adopt.h"
+
+#include <afxwin.h>
+
+IMPLEMENT_DYNAMIC(CPalette, CGdiObject)
+
+CPalette* PASCAL CPalette::FromHandle(HPALETTE hPalette)
+{
+    return static_cast<CPalette*>(CGdiObject::FromHandle(hPalette));
+}
+
+CPalette::operator HPALETTE() const
+{
+    return static_cast<HPALETTE>(m_hObject);
+}
+
+BOOL CPalette::CreatePalette(LPLOGPALETTE lpLogPalette)
+{
+    return lpLogPalette && AfxAdopt(*this, ::CreatePalette(lpLogPalette));
+}
+
+BOOL CPalette::CreateHalftonePalette(CDC* pDC)
+{
+    return pDC && AfxAdopt(*this, ::CreateHalftonePalette(pDC->m_hDC));
+}
+
+int CPalette::GetEntryCount()
+{
+    WORD nEntries = 0;
+    GetObject(sizeof(nEntries), &nEntries);
+    return nEntries;
+}
+
+UINT CPalette::GetPaletteEntries(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors) const
+{
+    return ::GetPaletteEntries(*this, nStartIndex, nNumEntries, lpPaletteColors);
+}
+
+UINT CPalette::SetPaletteEntries(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors)
+{
+    return ::SetPaletteEntries(*this, nStartIndex, nNumEntries, lpPaletteColors);
+}
+
+void CPalette::AnimatePalette(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors)
+{
+    ::AnimatePalette(*this, nStartIndex, nNumEntries, lpPaletteColors);
+}
+
+UINT CPalette::GetNearestPaletteIndex(COLORREF crColor) const
+{
+    return ::GetNearestPaletteIndex(*this, crColor);
+}
+
+BOOL CPalette::ResizePalette(UINT nNumEntries)
+{
+    return ::ResizePalette(*this, nNumEntries);
+}
