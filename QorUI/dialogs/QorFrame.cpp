@@ -10,6 +10,8 @@
 #include <QorUI/app/module/QorUIApp.h>
 #include <QorUI/res/resource.h>
 
+#include <memory>
+
 namespace
 {
 

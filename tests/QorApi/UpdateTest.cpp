@@ -1,5 +1,7 @@
 #include "UpdateFixture.h"
 
+#include <algorithm>
+
 TEST_F(UpdateTest, WithoutSourceNothingIsReached)
 {
     EXPECT_EQ(QorCheckUpdate(), DWORD(ERROR_HOST_UNREACHABLE));

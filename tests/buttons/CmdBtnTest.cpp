@@ -5,6 +5,8 @@
 #include <tests/support/ui/Drawn.h>
 #include <tests/support/ui/Look.h>
 
+#include <algorithm>
+
 namespace
 {
 

@@ -6,6 +6,8 @@
 #include <tests/support/ui/Control.h>
 #include <tests/support/ui/Drawn.h>
 
+#include <algorithm>
+
 namespace
 {
 

@@ -3,6 +3,7 @@
 #include <tests/support/NoWindowClasses.h>
 #include <tests/support/Refusals.h>
 
+#include <algorithm>
 #include <clocale>
 #include <map>
 #include <new>

@@ -5,6 +5,8 @@
 #include <tests/support/Imports.h>
 #include <tests/support/ui/Control.h>
 
+#include <algorithm>
+
 namespace
 {
 

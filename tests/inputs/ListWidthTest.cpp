@@ -7,6 +7,8 @@
 #include <tests/support/ui/Control.h>
 #include <tests/support/ui/Look.h>
 
+#include <algorithm>
+
 namespace
 {
 

@@ -6,6 +6,7 @@
 
 #include <cxxabi.h>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdarg>
 #include <cstdio>

@@ -5,6 +5,8 @@
 #include <hosts/console/PageRegistry.h>
 #include <hosts/console/res/ConsoleResource.h>
 
+#include <algorithm>
+
 namespace
 {
 
