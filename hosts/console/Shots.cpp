@@ -18,14 +18,18 @@ constexpr UINT kModalPoll = 100; // ms
 
 using GdipBitmap = own::Owner<own::FreedBy<Gdiplus::GpBitmap*, Gdiplus::DllExports::GdipDisposeImage>>;
 
-/** Handles messages until none comes for a while. */
+/** Handles messages until none comes for a while but those of running timers and what they paint. */
 void Settle()
 {
     const ULONGLONG limit = ::GetTickCount64() + kSettleLimit;
-    while (::GetTickCount64() < limit &&
-           ::MsgWaitForMultipleObjects(0, nullptr, FALSE, kSettleTime, QS_ALLINPUT) != WAIT_TIMEOUT) {
+    ULONGLONG busy = ::GetTickCount64();
+    for (ULONGLONG now = busy; now < limit && now < busy + kSettleTime; now = ::GetTickCount64()) {
+        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(busy + kSettleTime - now), QS_ALLINPUT);
         MSG msg;
         while (::PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) {
+            if (msg.message != WM_TIMER && msg.message != WM_PAINT) {
+                busy = ::GetTickCount64();
+            }
             ::TranslateMessage(&msg);
             ::DispatchMessageW(&msg);
         }
