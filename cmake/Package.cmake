@@ -5,40 +5,22 @@ include(CMakePackageConfigHelpers)
 
 set(_package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/QorUI")
 
-install(TARGETS afx afx_main QorPub QorApi QorUI
+install(TARGETS afx afx_main
         EXPORT QorUITargets
         RUNTIME DESTINATION bin
         ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
-        INCLUDES DESTINATION include)
+        FILE_SET HEADERS DESTINATION include/afx)
+install(TARGETS QorPub QorApi QorUI
+        EXPORT QorUITargets
+        RUNTIME DESTINATION bin
+        ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+        FILE_SET HEADERS DESTINATION include)
 install(EXPORT QorUITargets NAMESPACE QorUI:: DESTINATION "${_package_dir}")
 install(TARGETS QorConsole RUNTIME DESTINATION bin)
 foreach(_dll IN LISTS QOR_RUNTIME_DLLS)
     cmake_path(GET _dll FILENAME _name)
     install(FILES "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${_name}" DESTINATION bin)
 endforeach()
-
-install(DIRECTORY afx/include/ DESTINATION include/afx FILES_MATCHING PATTERN "*.h")
-
-# A header is public when its library's umbrella header reaches it.
-set(_reached QorUI/QorUI.h QorPub/QorPub.h QorApi/QorApi.h)
-set(_headers "")
-while(_reached)
-    list(POP_FRONT _reached _header)
-    list(APPEND _headers "${_header}")
-    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${_header}")
-    cmake_path(GET _header PARENT_PATH _dir)
-    install(FILES "${_header}" DESTINATION "include/${_dir}")
-    file(STRINGS "${_header}" _includes REGEX "^#include (<Qor(UI|Pub|Api)/|\")")
-    foreach(_include IN LISTS _includes)
-        string(REGEX REPLACE "^#include [<\"]([^>\"]+)[>\"].*" "\\1" _name "${_include}")
-        if(_include MATCHES "\"")
-            set(_name "${_dir}/${_name}")
-        endif()
-        if(NOT _name IN_LIST _headers AND NOT _name IN_LIST _reached)
-            list(APPEND _reached "${_name}")
-        endif()
-    endforeach()
-endwhile()
 
 install(DIRECTORY lang/ DESTINATION bin/lang FILES_MATCHING PATTERN "*.xml")
 install(DIRECTORY docs/sample/ DESTINATION sample)
@@ -55,7 +37,7 @@ endfunction()
 
 if(NOT QOR_SYSTEM_LIBRARIES)
     qor_install_licence(pugixml "${_pugixml}/debian/copyright")
-    qor_install_licence(sqlite3 "${_sqlite}/debian/copyright")
+    qor_install_licence(sqlite3 "${_sqlite3}/debian/copyright")
     qor_install_licence(minizip "${_zlib}/debian/copyright")
     qor_install_licence(zlib /usr/share/doc/libz-mingw-w64-dev/copyright)
     qor_install_licence(gcc /usr/share/doc/gcc-mingw-w64-x86-64-posix-runtime/copyright)
