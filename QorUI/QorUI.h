@@ -4,11 +4,17 @@
  * Everything that the user-interface library offers to a host program.
  */
 
-#include <QorUI/app/draw/Draw.h>
+#include <QorUI/app/base/PopupPoint.h>
+#include <QorUI/app/draw/Box.h>
+#include <QorUI/app/draw/GradientLine.h>
+#include <QorUI/app/draw/GrayCopy.h>
+#include <QorUI/app/draw/ImageStrip.h>
 #include <QorUI/app/draw/MemDC.h>
 #include <QorUI/app/draw/Picture.h>
+#include <QorUI/app/draw/Pie.h>
 #include <QorUI/app/draw/QorBmp.h>
-#include <QorUI/app/look/Shared.h>
+#include <QorUI/app/look/Palette.h>
+#include <QorUI/app/look/Skin.h>
 #include <QorUI/app/look/SysLook.h>
 #include <QorUI/app/module/Messages.h>
 #include <QorUI/app/module/QorUIDef.h>
@@ -31,6 +37,7 @@
 #include <QorUI/indicators/QorInfo.h>
 #include <QorUI/indicators/QorStatusBar.h>
 #include <QorUI/inputs/DragLB.h>
+#include <QorUI/inputs/FlatBorder.h>
 #include <QorUI/inputs/FlatChkList.h>
 #include <QorUI/inputs/FlatCombo.h>
 #include <QorUI/inputs/FlatEdit.h>

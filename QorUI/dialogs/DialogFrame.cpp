@@ -2,7 +2,7 @@
 
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/look/Palette.h>
-#include <QorUI/app/module/QorUIApp.h>
+#include <QorUI/app/look/SkinParts.h>
 
 namespace
 {
@@ -21,7 +21,7 @@ void DrawTitle(CDC& dc, const CRect& client, const CString& title)
         return;
     }
     const SelectSaver font(dc, ::GetStockObject(DEFAULT_GUI_FONT));
-    const TextModeSaver mode(dc, RGB(0, 0, 0), TRANSPARENT);
+    const TextModeSaver mode(dc, QorLook::kBlack, TRANSPARENT);
     CRect text(QorLook::kCaptionTextLeft, client.top, client.right - QorLook::kCaptionTextRight,
                QorLook::kCaptionHeight);
     dc.DrawText(title, text, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_HIDEPREFIX);

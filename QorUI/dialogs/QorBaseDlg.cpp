@@ -1,7 +1,7 @@
 #include "QorBaseDlg.h"
 
 #include <QorApi/QorApi.h>
-#include <QorUI/app/module/QorUIApp.h>
+#include <QorUI/app/look/Skin.h>
 
 BEGIN_MESSAGE_MAP(CQorBaseDlg, CDialog)
     ON_WM_CTLCOLOR()

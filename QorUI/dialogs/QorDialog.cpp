@@ -30,7 +30,7 @@ bool InSysMenuSpot(const CRect& window, CPoint point)
 /** Before Windows XP the buttons stand a little lower in the band. */
 int BandOffset()
 {
-    return QorOsAtLeast(QOR_SYSTEM_XP) ? 1 : 3;
+    return QorOsAtLeast(kSystemXp) ? 1 : 3;
 }
 
 } // namespace

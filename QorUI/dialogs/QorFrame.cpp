@@ -7,6 +7,7 @@
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/draw/Picture.h>
 #include <QorUI/app/look/Palette.h>
+#include <QorUI/app/look/SkinParts.h>
 #include <QorUI/app/module/QorUIApp.h>
 #include <QorUI/res/resource.h>
 

@@ -3,6 +3,7 @@
 #include <QorUI/app/base/Invalidate.h>
 #include <QorUI/app/base/OwnStatic.h>
 #include <QorUI/app/draw/GdiPlusFlat.h>
+#include <QorUI/app/look/Palette.h>
 
 #include <algorithm>
 #include <array>
@@ -19,8 +20,8 @@ namespace
 
 constexpr std::array<COLORREF, 5> kSeries = {RGB(47, 162, 244), RGB(250, 160, 90), RGB(248, 194, 57), RGB(247, 101, 43),
                                              RGB(130, 205, 195)};
-constexpr Gdiplus::ARGB kWhite = QorGdip::Opaque(RGB(255, 255, 255));
-constexpr Gdiplus::ARGB kBlack = QorGdip::Opaque(RGB(0, 0, 0));
+constexpr Gdiplus::ARGB kWhite = QorGdip::Opaque(QorLook::kWhite);
+constexpr Gdiplus::ARGB kBlack = QorGdip::Opaque(QorLook::kBlack);
 constexpr int kTitlePoints = 10;
 constexpr int kTitleLeft = 8;
 constexpr int kTitleHeight = 30;

@@ -3,6 +3,7 @@
 #include <common/Owner.h>
 #include <QorUI/app/base/WndClass.h>
 #include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/look/Palette.h>
 #include <QorUI/app/module/SystemVersion.h>
 
 BEGIN_MESSAGE_MAP(CDesktopTip, CWnd)
@@ -20,7 +21,7 @@ constexpr int kFirstHeight = 16;
 constexpr int kMargin = 6;
 constexpr int kDefaultRight = 1024;
 constexpr int kDefaultBottom = 768;
-constexpr COLORREF kText = RGB(255, 255, 255);
+constexpr COLORREF kText = QorLook::kWhite;
 constexpr UINT kTextFormat = DT_WORDBREAK | DT_NOPREFIX | DT_EDITCONTROL;
 
 CSize MeasureTip(const CString& text)
@@ -103,7 +104,7 @@ void CDesktopTip::CopyUnderTip(HDC target, HDC desktop) const
 void CDesktopTip::OnPaint()
 {
     CPaintDC dc(this);
-    if (QorOsAtLeast(QOR_SYSTEM_WINDOWS_8)) {
+    if (QorOsAtLeast(kSystemWindows8)) {
         PaintDesktop(&dc);
     } else {
         ::PaintDesktop(dc);

@@ -1,7 +1,7 @@
 #include "ProgressBar.h"
 
+#include "ClippedText.h"
 #include "ProgressParts.h"
-#include "TwoColourText.h"
 
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/look/Palette.h>
@@ -20,7 +20,7 @@ namespace
 
 constexpr int kDefaultHeight = 18;
 constexpr int kFrames = 2; // above and below the pattern together
-constexpr COLORREF kInnerFrame = RGB(255, 255, 255);
+constexpr COLORREF kInnerFrame = QorLook::kWhite;
 
 } // namespace
 

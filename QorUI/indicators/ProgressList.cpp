@@ -1,7 +1,7 @@
 #include "ProgressList.h"
 
+#include "ClippedText.h"
 #include "ProgressParts.h"
-#include "TwoColourText.h"
 
 #include <QorUI/app/look/SysLook.h>
 

@@ -13,7 +13,7 @@ namespace
 
 constexpr COLORREF kSeparatorDark = RGB(140, 172, 213);
 constexpr COLORREF kSeparatorLight = RGB(230, 239, 251);
-constexpr COLORREF kText = RGB(0, 0, 0);
+constexpr COLORREF kText = QorLook::kBlack;
 constexpr int kEdge = 2;
 constexpr int kTextLeft = 6;
 constexpr int kTextSpace = 12;

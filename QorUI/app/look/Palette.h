@@ -6,15 +6,19 @@
 
 #include <windows.h>
 
+/** Colours and sizes, each named after what it is used for. */
 namespace QorLook
 {
 
+inline constexpr COLORREF kBlack = RGB(0, 0, 0);              ///< text and lines that keep their colour
+inline constexpr COLORREF kWhite = RGB(255, 255, 255);        ///< paper, inner frames, text on dark
+inline constexpr COLORREF kPaleGrey = RGB(242, 242, 242);     ///< column headers, inner border of a button at rest
 inline constexpr COLORREF kDlgBody = RGB(236, 245, 250);      ///< dialog body and selected backgrounds
-inline constexpr COLORREF kDlgCaption = RGB(255, 255, 255);   ///< caption band of a dialog
+inline constexpr COLORREF kDlgCaption = kWhite;               ///< caption band of a dialog
 inline constexpr COLORREF kOutline = RGB(189, 189, 189);      ///< outline of dialogs, panels and frames
 inline constexpr COLORREF kFrameBack = RGB(186, 210, 234);    ///< body of a frame window
 inline constexpr COLORREF kFlatBorder = RGB(128, 128, 128);   ///< border of the flat input controls
-inline constexpr COLORREF kCaptionText = RGB(255, 255, 255);  ///< caption of a picture button, text of a text link
+inline constexpr COLORREF kCaptionText = kWhite;              ///< caption of a picture button, text of a text link
 inline constexpr COLORREF kCmdHotBorder = RGB(182, 230, 251); ///< highlight of a command button: its outline
 inline constexpr COLORREF kCmdHotFill = RGB(229, 244, 252);   ///< highlight of a command button: its body
 
@@ -41,6 +45,6 @@ inline constexpr int kBandBottom = 9;         ///< space below the button band
 inline constexpr int kGlyphSize = 13;         ///< check and radio glyphs
 inline constexpr int kGlyphPos = 2;           ///< left and top of check and radio glyphs
 
-inline constexpr COLORREF kGlyphKey = RGB(255, 255, 255); ///< transparent colour of the radio glyphs
+inline constexpr COLORREF kGlyphKey = kWhite; ///< transparent colour of the radio glyphs
 
 } // namespace QorLook

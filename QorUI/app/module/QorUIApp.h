@@ -1,28 +1,6 @@
 #pragma once
 
-#include <QorUI/app/look/Shared.h>
-
-#include <array>
-
-/** One row of the button style table: how a push button looks in one state. */
-struct QorBtnStyle
-{
-    CBrush brush;       ///< pattern of the face; without handle when its bitmap is missing
-    COLORREF outer = 0; ///< outer border
-    COLORREF inner = 0; ///< inner border
-};
-
-/** Rows of the button style table. */
-enum QorBtnState : UINT
-{
-    QOR_BTN_NORMAL,
-    QOR_BTN_HOT,
-    QOR_BTN_PRESSED,
-    QOR_BTN_DISABLED,
-    QOR_BTN_STATES
-};
-
-extern std::array<QorBtnStyle, QOR_BTN_STATES> g_BtnStyles;
+#include "QorUIDef.h"
 
 /** The library's one application object: what is made when the library is attached to a process. */
 class CQorUIApp : public CWinApp
@@ -30,7 +8,7 @@ class CQorUIApp : public CWinApp
   public:
     CQorUIApp();
 
-    /** Starts GDI+ and makes the shared look. @return TRUE always: what cannot be made stays empty. */
+    /** Starts GDI+ and has the skin made. @return TRUE always: what cannot be made stays empty. */
     BOOL InitInstance() override;
 
     /** Stops GDI+ if it was started. */
@@ -45,18 +23,13 @@ class CQorUIApp : public CWinApp
 
   private:
     void StartGdiplus();
-    void MakeButtonStyles();
 };
 
 /** The library's application object. */
 extern CQorUIApp g_QorUIApp;
 
-/** An icon and the banner that belongs to it, as given to `QorSetAppIcon`. */
-struct QorAppIcon
-{
-    HICON icon = nullptr;
-    BOOL flag = FALSE;
-};
-
-/** What was given to `QorSetAppIcon` last. */
-const QorAppIcon& QorGetAppIcon();
+/**
+ * Makes what controls and dialogs share: the brushes and strips of the application object and the button style table.
+ * The look has its body, so that this room knows nothing of brushes and colours.
+ */
+void QorMakeSkin(CQorUIApp& app);

@@ -5,8 +5,8 @@
 /** Codes of the systems (see g_OsVer) from which on something is done in another way. */
 enum QorSystem : WORD
 {
-    QOR_SYSTEM_XP = 2,
-    QOR_SYSTEM_WINDOWS_8 = 8
+    kSystemXp = 2,
+    kSystemWindows8 = 8
 };
 
 /** Whether the program runs on this system or a later one. */

@@ -1,4 +1,6 @@
 #include <QorUI/app/look/Palette.h>
+#include <QorUI/app/look/Skin.h>
+#include <QorUI/app/look/SkinParts.h>
 #include <QorUI/app/module/GdiplusCalls.h>
 #include <QorUI/app/module/QorUIApp.h>
 #include <QorUI/app/module/ResourceSwitch.h>

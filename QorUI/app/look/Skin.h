@@ -1,7 +1,7 @@
 #pragma once
 
 /** @file
- * What all controls of the library share.
+ * What hosts share of the library's skin.
  */
 
 #include <QorUI/app/module/QorUIDef.h>
