@@ -1,6 +1,6 @@
 #include "FlatChkList.h"
 
-#include "FlatEdit.h"
+#include "FlatBorder.h"
 
 BEGIN_MESSAGE_MAP(CFlatChkList, CCheckListBox)
     ON_WM_NCPAINT()

@@ -15,8 +15,8 @@ namespace
 
 constexpr UINT kFieldHeight = 15;
 constexpr int kSelectionField = -1;
-constexpr COLORREF kInnerFrame = RGB(255, 255, 255);
-constexpr COLORREF kArrow = RGB(0, 0, 0);
+constexpr COLORREF kInnerFrame = QorLook::kWhite;
+constexpr COLORREF kArrow = QorLook::kBlack;
 
 /** Draws the two lines around a part. */
 void DrawFrames(HDC dc, RECT rect)

@@ -11,14 +11,14 @@ namespace
 
 enum TextState : int
 {
-    TEXT_REFUSED = -1,
-    TEXT_EMPTY = 0,
-    TEXT_VALID = 1
+    kTextRefused = -1,
+    kTextEmpty = 0,
+    kTextValid = 1
 };
 
 } // namespace
 
-CFlatEditEx::CFlatEditEx() : m_nValid(TEXT_EMPTY), m_lpszIllegal(nullptr) {}
+CFlatEditEx::CFlatEditEx() : m_nValid(kTextEmpty), m_lpszIllegal(nullptr) {}
 
 void CFlatEditEx::SetIllegalChars(LPCWSTR chars)
 {
@@ -39,12 +39,12 @@ BOOL CFlatEditEx::OnUpdate()
     GetWindowText(text);
     text.Trim();
     if (text.IsEmpty()) {
-        m_nValid = TEXT_EMPTY;
+        m_nValid = kTextEmpty;
     } else if (text.FindOneOf(m_lpszIllegal) >= 0) {
-        m_nValid = TEXT_REFUSED;
+        m_nValid = kTextRefused;
         ShowRefusal();
     } else {
-        m_nValid = TEXT_VALID;
+        m_nValid = kTextValid;
         HideBalloonTip();
     }
     return FALSE;

@@ -1,6 +1,6 @@
 #include "FlatListBox.h"
 
-#include "FlatEdit.h"
+#include "FlatBorder.h"
 #include "ListWidth.h"
 
 BEGIN_MESSAGE_MAP(CFlatListBox, CListBox)

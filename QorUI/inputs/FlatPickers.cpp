@@ -1,6 +1,6 @@
 #include "FlatPickers.h"
 
-#include "FlatEdit.h"
+#include "FlatBorder.h"
 
 /** One map for all pickers: the border is all that they paint outside their client area. */
 #define FLAT_PICKER(theClass, baseClass)                                                                               \

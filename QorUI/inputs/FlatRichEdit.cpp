@@ -1,6 +1,6 @@
 #include "FlatRichEdit.h"
 
-#include "FlatEdit.h"
+#include "FlatBorder.h"
 
 BEGIN_MESSAGE_MAP(CFlatRichEdit, CRichEditCtrl)
     ON_WM_NCPAINT()

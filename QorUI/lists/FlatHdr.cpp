@@ -3,8 +3,10 @@
 #include "HdrLayout.h"
 
 #include <QorUI/app/base/Invalidate.h>
+#include <QorUI/app/draw/BufferedPaint.h>
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/draw/Triangle.h>
+#include <QorUI/app/look/Palette.h>
 
 #include <array>
 
@@ -15,7 +17,7 @@ END_MESSAGE_MAP()
 namespace
 {
 
-constexpr COLORREF kBack = RGB(242, 242, 242);
+constexpr COLORREF kBack = QorLook::kPaleGrey;
 constexpr COLORREF kLine = RGB(213, 213, 213);
 constexpr size_t kMaxText = 260;
 
@@ -94,8 +96,7 @@ void CFlatHdr::DrawItem(LPDRAWITEMSTRUCT draw)
     const bool sorted = m_nSortColumn >= 0 && draw->itemID == static_cast<UINT>(m_nSortColumn);
     DrawItemText(draw->hDC, *draw, sorted);
     if (sorted) {
-        QorDrawTriangle(dc, QorHdr::ArrowRect(draw->rcItem), m_nSortDirection ? QOR_TRIANGLE_UP : QOR_TRIANGLE_DOWN,
-                        m_clrLine);
+        QorDrawTriangle(dc, QorHdr::ArrowRect(draw->rcItem), m_nSortDirection ? kTriangleUp : kTriangleDown, m_clrLine);
     }
     m_rcLast = draw->rcItem;
     DrawItemLines(draw->hDC, draw->rcItem);
@@ -131,17 +132,8 @@ void CFlatHdr::DrawItemLines(HDC dc, const RECT& rect) const
 void CFlatHdr::OnPaint()
 {
     CPaintDC dc(this);
-    const CRect rect(dc.m_ps.rcPaint);
-    CDC memory;
-    CBitmap bitmap;
-    if (!memory.CreateCompatibleDC(&dc) || !bitmap.CreateCompatibleBitmap(&dc, rect.Width(), rect.Height())) {
-        PaintInto(dc); // flickers, but shows the header
-        return;
-    }
-    const SelectSaver select(memory, bitmap);
-    memory.SetWindowOrg(rect.left, rect.top);
-    PaintInto(memory);
-    dc.BitBlt(rect.left, rect.top, rect.Width(), rect.Height(), &memory, rect.left, rect.top, SRCCOPY);
+    BufferedPaint paint(dc, dc.m_ps.rcPaint);
+    PaintInto(paint.Dc());
 }
 
 void CFlatHdr::PaintInto(CDC& dc)

@@ -1,11 +1,11 @@
 #include "FlatList.h"
 
 #include <common/Owner.h>
-#include <QorUI/app/draw/Draw.h>
 #include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/draw/ImageStrip.h>
 #include <QorUI/app/look/Palette.h>
 #include <QorUI/app/module/QorUIApp.h>
-#include <QorUI/inputs/FlatEdit.h>
+#include <QorUI/inputs/FlatBorder.h>
 #include <QorUI/res/resource.h>
 
 BEGIN_MESSAGE_MAP(CFlatList, CListCtrl)

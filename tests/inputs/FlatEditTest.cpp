@@ -1,5 +1,6 @@
 #include "Inputs.h"
 
+#include <QorUI/inputs/FlatBorder.h>
 #include <QorUI/inputs/FlatEdit.h>
 #include <tests/support/ui/Control.h>
 #include <tests/support/ui/Look.h>

@@ -1,22 +1,15 @@
 #include "MemDC.h"
 
-CMemDC::CMemDC(CDC* target) : m_hOldBitmap(nullptr), m_pTarget(target), m_rect(0, 0, 0, 0)
+CMemDC::CMemDC(CDC* target)
 {
-    if (!target || !CreateCompatibleDC(target)) {
-        return;
+    if (target && CreateCompatibleDC(target)) {
+        CRect area(0, 0, 0, 0);
+        target->GetClipBox(area);
+        m_buffer.Begin(*this, *target, area);
     }
-    target->GetClipBox(m_rect);
-    if (m_bitmap.CreateCompatibleBitmap(target, m_rect.Width(), m_rect.Height())) {
-        m_hOldBitmap = ::SelectObject(m_hDC, m_bitmap);
-    }
-    SetWindowOrg(m_rect.left, m_rect.top);
 }
 
 CMemDC::~CMemDC()
 {
-    if (m_hOldBitmap) {
-        m_pTarget->BitBlt(m_rect.left, m_rect.top, m_rect.Width(), m_rect.Height(), this, m_rect.left, m_rect.top,
-                          SRCCOPY);
-        ::SelectObject(m_hDC, m_hOldBitmap);
-    }
+    m_buffer.End();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QorUI/app/module/QorUIDef.h>
+#include "BufferedPaint.h"
 
 /**
  * A memory device context for painting without flicker: what is drawn into it reaches the target in one step when the
@@ -16,8 +16,5 @@ class QORUI_API CMemDC : public CDC
     ~CMemDC() override;
 
   private:
-    CBitmap m_bitmap;
-    HGDIOBJ m_hOldBitmap; // no object of the framework's, which may forget it while somebody paints
-    CDC* m_pTarget;
-    CRect m_rect; // clip box of the target
+    PaintBuffer m_buffer;
 };

@@ -1,4 +1,5 @@
-#include "Draw.h"
+#include "Pie.h"
+
 #include "GdiPlusFlat.h"
 
 #include <cmath>

@@ -1,11 +1,10 @@
 #include "QorBmp.h"
 
-#include <common/Owner.h>
 #include <QorPub/QorPub.h>
 
 #include <olectl.h>
 
-CQorBmp::CQorBmp() : m_pPicture(nullptr) {}
+CQorBmp::CQorBmp() = default;
 
 CQorBmp::~CQorBmp()
 {
@@ -38,15 +37,15 @@ BOOL CQorBmp::Load(LPCWSTR path)
 
 BOOL CQorBmp::Render(HDC dc, int x, int y, int cx, int cy)
 {
-    if (!m_pPicture || !dc) {
+    if (!m_picture || !dc) {
         return FALSE;
     }
     OLE_XSIZE_HIMETRIC width = 0;
     OLE_YSIZE_HIMETRIC height = 0;
-    m_pPicture->get_Width(&width);
-    m_pPicture->get_Height(&height);
+    m_picture->get_Width(&width);
+    m_picture->get_Height(&height);
     // Pictures count their rows from the bottom: a negative height from the top row draws upright.
-    return m_pPicture->Render(dc, x, y, cx, cy, 0, height, width, -height, nullptr) == S_OK;
+    return m_picture->Render(dc, x, y, cx, cy, 0, height, width, -height, nullptr) == S_OK;
 }
 
 BOOL CQorBmp::DeleteObject()
@@ -64,12 +63,12 @@ BOOL CQorBmp::LoadPicture(const void* data, DWORD size)
     }
     FreePicture();
     const HRESULT result = ::OleLoadPicture(stream.Get(), static_cast<LONG>(size), FALSE, IID_IPicture,
-                                            reinterpret_cast<void**>(&m_pPicture));
-    if (FAILED(result) || !m_pPicture) {
+                                            reinterpret_cast<void**>(m_picture.Receive()));
+    if (FAILED(result) || !m_picture) {
         return FALSE;
     }
     OLE_HANDLE handle = 0;
-    if (FAILED(m_pPicture->get_Handle(&handle)) || handle == 0) {
+    if (FAILED(m_picture->get_Handle(&handle)) || handle == 0) {
         return FALSE;
     }
     return Attach(reinterpret_cast<HBITMAP>(static_cast<LONG_PTR>(static_cast<LONG>(handle))));
@@ -77,11 +76,10 @@ BOOL CQorBmp::LoadPicture(const void* data, DWORD size)
 
 void CQorBmp::FreePicture()
 {
-    if (!m_pPicture) {
+    if (!m_picture) {
         CBitmap::DeleteObject();
         return;
     }
     Detach();
-    m_pPicture->Release();
-    m_pPicture = nullptr;
+    m_picture.Reset();
 }

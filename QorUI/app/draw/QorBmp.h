@@ -1,5 +1,6 @@
 #pragma once
 
+#include <common/Owner.h>
 #include <QorUI/app/module/QorUIDef.h>
 
 #include <ocidl.h>
@@ -50,5 +51,5 @@ class QORUI_API CQorBmp : public CBitmap
     BOOL LoadPicture(const void* data, DWORD size);
     void FreePicture();
 
-    IPicture* m_pPicture; // owns the handle unless it is null
+    own::Com<IPicture> m_picture; // owns the handle unless it is empty
 };

@@ -14,13 +14,13 @@ std::optional<std::array<POINT, 3>> TriangleCorners(const RECT& rect, int direct
     const LONG midX = (rect.left + rect.right) / 2;
     const LONG midY = (rect.top + rect.bottom) / 2;
     switch (direction) {
-    case QOR_TRIANGLE_UP:
+    case kTriangleUp:
         return {{{{midX, rect.top}, {rect.right, rect.bottom}, {rect.left, rect.bottom}}}};
-    case QOR_TRIANGLE_DOWN:
+    case kTriangleDown:
         return {{{{rect.left, rect.top}, {rect.right, rect.top}, {midX, rect.bottom}}}};
-    case QOR_TRIANGLE_LEFT:
+    case kTriangleLeft:
         return {{{{rect.right, rect.top}, {rect.left, midY}, {rect.right, rect.bottom}}}};
-    case QOR_TRIANGLE_RIGHT:
+    case kTriangleRight:
         return {{{{rect.left, rect.top}, {rect.right, midY}, {rect.left, rect.bottom}}}};
     default:
         return std::nullopt;

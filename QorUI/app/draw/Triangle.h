@@ -5,10 +5,10 @@
 /** Where the apex of a triangle points to. */
 enum QorTriangle
 {
-    QOR_TRIANGLE_UP,
-    QOR_TRIANGLE_DOWN,
-    QOR_TRIANGLE_LEFT,
-    QOR_TRIANGLE_RIGHT
+    kTriangleUp,
+    kTriangleDown,
+    kTriangleLeft,
+    kTriangleRight
 };
 
 /** Draws a filled triangle inside a rectangle. @param direction a `QorTriangle`; another value draws nothing. */

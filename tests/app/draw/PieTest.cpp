@@ -1,4 +1,4 @@
-#include <QorUI/app/draw/Draw.h>
+#include <QorUI/app/draw/Pie.h>
 #include <QorUI/app/draw/GdiPlusFlat.h>
 #include <tests/support/Imports.h>
 #include <tests/support/ui/Drawn.h>
