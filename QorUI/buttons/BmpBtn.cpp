@@ -1,9 +1,7 @@
 #include "BmpBtn.h"
 
-#include "ButtonDraw.h"
-
-#include <common/Owner.h>
-#include <QorUI/app/base/HotTrack.h>
+#include <QorUI/app/base/VisualState.h>
+#include <QorUI/app/draw/BitmapPart.h>
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/look/Palette.h>
 #include <QorUI/app/look/SysLook.h>
@@ -15,7 +13,7 @@ BEGIN_MESSAGE_MAP(CBmpBtn, CButton)
     ON_MESSAGE(WM_MOUSELEAVE, &CBmpBtn::OnMouseLeave)
 END_MESSAGE_MAP()
 
-CBmpBtn::CBmpBtn() : m_bHot(FALSE), m_clrTransparent(CLR_NONE) {}
+CBmpBtn::CBmpBtn() : m_clrTransparent(CLR_NONE) {}
 
 BOOL CBmpBtn::Create(const RECT& rect, CWnd* parent, UINT id)
 {
@@ -37,7 +35,7 @@ BOOL CBmpBtn::SetImage(HINSTANCE inst, UINT id, LPCWSTR type, COLORREF transpare
 
 void CBmpBtn::PreSubclassWindow()
 {
-    m_bHot = FALSE; // no leave notification comes from the former window
+    m_hot.OnNewWindow();
     ModifyStyle(0, BS_OWNERDRAW);
 }
 
@@ -47,28 +45,15 @@ void CBmpBtn::DrawItem(LPDRAWITEMSTRUCT item)
         return;
     }
     CRect rect(item->rcItem);
-    DrawFrame(item->hDC, rect, QorButtonState(item->itemState, m_bHot));
-    DrawCaption(CDC::FromHandle(item->hDC), rect, (item->itemState & ODS_DISABLED) != 0);
+    const VisualState state = QorStateOfItem(item->itemState, static_cast<bool>(m_hot));
+    DrawFrame(item->hDC, rect, state.face);
+    DrawCaption(CDC::FromHandle(item->hDC), rect, state.IsDisabled());
 }
 
 void CBmpBtn::DrawFrame(HDC dc, const CRect& rect, UINT frame)
 {
-    if (!m_bmp.GetSafeHandle()) {
-        return;
-    }
-    const own::MemoryDc memory(::CreateCompatibleDC(dc));
-    const SelectSaver select(memory.Get(), m_bmp.GetSafeHandle());
-    if (!select) {
-        return;
-    }
-    const int width = rect.Width();
-    const int height = rect.Height();
-    const int left = width * static_cast<int>(frame);
-    if (m_clrTransparent == CLR_NONE) {
-        ::BitBlt(dc, 0, 0, width, height, memory.Get(), left, 0, SRCCOPY);
-        return;
-    }
-    ::GdiTransparentBlt(dc, 0, 0, width, height, memory.Get(), left, 0, width, height, m_clrTransparent);
+    const CRect place(CPoint(0, 0), rect.Size());
+    QorDrawBitmapPart(dc, place, m_bmp.GetSafeHandle(), {rect.Width() * static_cast<int>(frame), 0}, m_clrTransparent);
 }
 
 void CBmpBtn::DrawCaption(CDC* dc, CRect& rect, BOOL disabled)
@@ -91,7 +76,7 @@ void CBmpBtn::OnDestroy()
 
 void CBmpBtn::OnMouseMove(UINT flags, CPoint point)
 {
-    QorHot::Enter(*this, m_bHot);
+    m_hot.OnMouseMove(*this);
     CButton::OnMouseMove(flags, point);
 }
 
@@ -102,5 +87,5 @@ BOOL CBmpBtn::OnEraseBkgnd(CDC*)
 
 LRESULT CBmpBtn::OnMouseLeave(WPARAM, LPARAM)
 {
-    return QorHot::Leave(*this, m_bHot);
+    return m_hot.OnMouseLeave(*this);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QorUI/app/base/HotState.h>
 #include <QorUI/app/draw/QorBmp.h>
 
 /**
@@ -46,7 +47,7 @@ class QORUI_API CBmpBtn : public CButton
     void DrawFrame(HDC dc, const CRect& rect, UINT frame);
     void DrawCaption(CDC* dc, CRect& rect, BOOL disabled);
 
-    BOOL m_bHot;
+    HotState m_hot;
     CQorBmp m_bmp;
     COLORREF m_clrTransparent;
 };

@@ -2,14 +2,16 @@
 
 #include "ButtonDraw.h"
 
-#include <common/Owner.h>
-#include <QorUI/app/base/HotTrack.h>
+#include <QorUI/app/base/VisualState.h>
+#include <QorUI/app/draw/BitmapPart.h>
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/look/Palette.h>
 #include <QorUI/app/look/SysLook.h>
+#include <QorUI/app/module/QorUIApp.h>
 #include <QorUI/res/resource.h>
 
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 BEGIN_MESSAGE_MAP(CCheckBox, CButton)
@@ -46,6 +48,15 @@ constexpr UINT kTextFormat = DT_WORDBREAK | DT_EDITCONTROL;
 /** Style bits of which owner-drawn and automatic radio buttons have at least one. */
 constexpr DWORD kRadioStyles = BS_AUTORADIOBUTTON;
 
+/** Frame of a glyph strip for a state, without regard to being checked. */
+UINT GlyphOf(const VisualState& state)
+{
+    if (state.IsDisabled()) {
+        return QOR_GLYPH_DISABLED;
+    }
+    return state.face == VisualState::kHot ? QOR_GLYPH_HOT : QOR_GLYPH_NORMAL;
+}
+
 void DrawLabel(CWnd& button, CDC& dc, UINT mode, UINT state)
 {
     CString text;
@@ -59,10 +70,10 @@ void DrawLabel(CWnd& button, CDC& dc, UINT mode, UINT state)
     rect.left += kTextIndent;
     const SelectSaver selectFont(dc.m_hDC, reinterpret_cast<HFONT>(button.SendMessage(WM_GETFONT)));
     const TextModeSaver textMode(dc.m_hDC, QorSysLook.TextColor(state == QOR_GLYPH_DISABLED), TRANSPARENT);
-    if (mode & QOR_LABEL_TEXT) {
+    if (mode & kLabelText) {
         dc.DrawText(text, &rect, kTextFormat);
     }
-    if (mode & QOR_LABEL_FOCUS) {
+    if (mode & kLabelFocus) {
         dc.DrawText(text, &rect, DT_CALCRECT | kTextFormat);
         rect.InflateRect(1, 1);
         dc.DrawFocusRect(&rect);
@@ -76,29 +87,28 @@ void DrawFocusOf(Button& button)
         return;
     }
     CWindowDC dc(&button);
-    button.DrawText(dc, QOR_LABEL_FOCUS, QOR_GLYPH_NORMAL);
+    button.DrawText(dc, kLabelFocus, QOR_GLYPH_NORMAL);
 }
 
 template <class Button>
-void Paint(Button& button, BOOL hot)
+void Paint(Button& button, const HotState& hot)
 {
-    UINT state = hot ? QOR_GLYPH_HOT : QOR_GLYPH_NORMAL;
-    if (!button.IsWindowEnabled()) {
-        state = QOR_GLYPH_DISABLED;
-    }
-    const bool focused = ::GetFocus() == button.m_hWnd;
+    const VisualState state = QorStateOfWindow(button.m_hWnd, static_cast<bool>(hot));
     CPaintDC dc(&button);
     CRect client;
     button.GetClientRect(&client);
     dc.FillSolidRect(&client, QorLook::kDlgBody);
-    button.DrawCheck(dc, state);
-    button.DrawText(dc, focused ? QOR_LABEL_TEXT | QOR_LABEL_FOCUS : QOR_LABEL_TEXT, state);
+    button.DrawCheck(dc, GlyphOf(state));
+    button.DrawText(dc, state.focused ? kLabelText | kLabelFocus : kLabelText, GlyphOf(state));
 }
 
-/** Left edge of a glyph in its strip. */
-int GlyphLeft(UINT state, BOOL checked)
+/** @param key transparent colour of the strip, or `CLR_NONE`. */
+void DrawGlyph(CWnd& button, CDC& dc, CBitmap& strip, UINT state, COLORREF key)
 {
-    return static_cast<int>(state + (checked ? QOR_GLYPH_CHECKED : 0)) * QorLook::kGlyphSize;
+    const BOOL checked = button.SendMessage(BM_GETCHECK) == BST_CHECKED;
+    const int frame = static_cast<int>(state + (checked ? QOR_GLYPH_CHECKED : 0));
+    const CRect place(CPoint(QorLook::kGlyphPos, QorLook::kGlyphPos), CSize(QorLook::kGlyphSize, QorLook::kGlyphSize));
+    QorDrawBitmapPart(dc.m_hDC, place, strip.GetSafeHandle(), {frame * QorLook::kGlyphSize, 0}, key);
 }
 
 void RepaintAfterEnable(CWnd& button, BOOL enable)
@@ -127,9 +137,21 @@ bool IsSwallowed(UINT message)
     }
 }
 
-bool IsFocusChange(UINT message)
+/** What both answer in the place of the system's button; nothing for what they leave to it. */
+template <class Button>
+std::optional<LRESULT> AnswerOf(Button& button, UINT message, BOOL checked)
 {
-    return message == WM_SETFOCUS || message == WM_KILLFOCUS;
+    if (message == WM_SETFOCUS || message == WM_KILLFOCUS) {
+        button.DrawFocus();
+        return 1;
+    }
+    if (IsSwallowed(message)) {
+        return 1;
+    }
+    if (message == BM_GETCHECK) {
+        return checked ? BST_CHECKED : BST_UNCHECKED;
+    }
+    return std::nullopt;
 }
 
 /** The other controls of a control's dialog group, in dialog order. */
@@ -157,37 +179,24 @@ void SetTabStop(HWND control, bool tabStop)
 
 } // namespace
 
-CCheckBox::CCheckBox() : m_bHot(FALSE), m_bChecked(FALSE), m_bSecondClick(FALSE) {}
+CCheckBox::CCheckBox() : m_bChecked(FALSE), m_bSecondClick(FALSE) {}
 
 LRESULT CCheckBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (IsFocusChange(message)) {
-        DrawFocus();
-        return 1;
+    m_bSecondClick = m_bSecondClick || message == WM_LBUTTONDBLCLK;
+    if (const std::optional<LRESULT> answer = AnswerOf(*this, message, m_bChecked)) {
+        return *answer;
     }
-    if (IsSwallowed(message)) {
-        m_bSecondClick = m_bSecondClick || message == WM_LBUTTONDBLCLK;
-        return 1;
-    }
-    if (message == BM_GETCHECK) {
-        return m_bChecked ? BST_CHECKED : BST_UNCHECKED;
-    }
-    if (message == WM_NCDESTROY) {
-        m_bHot = m_bSecondClick = FALSE; // nothing that this window was waiting for comes any more
+    if (message == WM_NCDESTROY) { // nothing that this window was waiting for comes any more
+        m_hot.OnNewWindow();
+        m_bSecondClick = FALSE;
     }
     return CButton::WindowProc(message, wParam, lParam);
 }
 
 void CCheckBox::DrawCheck(CDC& dc, UINT state)
 {
-    const own::MemoryDc strip(::CreateCompatibleDC(dc.m_hDC));
-    const SelectSaver select(strip.Get(), g_QorUIApp.m_bmpCheck.GetSafeHandle());
-    if (!select) {
-        return;
-    }
-    const BOOL checked = SendMessage(BM_GETCHECK) == BST_CHECKED;
-    ::BitBlt(dc.m_hDC, QorLook::kGlyphPos, QorLook::kGlyphPos, QorLook::kGlyphSize, QorLook::kGlyphSize, strip.Get(),
-             GlyphLeft(state, checked), 0, SRCCOPY);
+    DrawGlyph(*this, dc, g_QorUIApp.m_bmpCheck, state, CLR_NONE);
 }
 
 void CCheckBox::DrawText(CDC& dc, UINT mode, UINT state)
@@ -216,7 +225,7 @@ void CCheckBox::OnKeyUp(UINT key, UINT, UINT)
 
 void CCheckBox::OnPaint()
 {
-    Paint(*this, m_bHot);
+    Paint(*this, m_hot);
 }
 
 void CCheckBox::OnEnable(BOOL enable)
@@ -226,7 +235,7 @@ void CCheckBox::OnEnable(BOOL enable)
 
 void CCheckBox::OnMouseMove(UINT, CPoint)
 {
-    QorHot::Enter(*this, m_bHot, &kStateRect);
+    m_hot.OnMouseMove(*this, &kStateRect);
 }
 
 void CCheckBox::OnLButtonUp(UINT, CPoint)
@@ -253,40 +262,28 @@ LRESULT CCheckBox::OnSetCheck(WPARAM state, LPARAM)
 
 LRESULT CCheckBox::OnMouseLeave(WPARAM, LPARAM)
 {
-    return QorHot::Leave(*this, m_bHot, &kStateRect);
+    return m_hot.OnMouseLeave(*this, &kStateRect);
 }
 
-CRadioBox::CRadioBox() : m_bChecked(FALSE), m_bHot(FALSE) {}
+CRadioBox::CRadioBox() : m_bChecked(FALSE) {}
 
 LRESULT CRadioBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (IsFocusChange(message)) {
-        DrawFocus();
+    if (message == WM_KEYUP) {
         return 1;
     }
-    if (IsSwallowed(message) || message == WM_KEYUP) {
-        return 1;
-    }
-    if (message == BM_GETCHECK) {
-        return m_bChecked ? BST_CHECKED : BST_UNCHECKED;
+    if (const std::optional<LRESULT> answer = AnswerOf(*this, message, m_bChecked)) {
+        return *answer;
     }
     if (message == WM_NCDESTROY) {
-        m_bHot = FALSE; // no leave notification comes any more
+        m_hot.OnNewWindow();
     }
     return CButton::WindowProc(message, wParam, lParam);
 }
 
 void CRadioBox::DrawCheck(CDC& dc, UINT state)
 {
-    const own::MemoryDc strip(::CreateCompatibleDC(dc.m_hDC));
-    const SelectSaver select(strip.Get(), g_QorUIApp.m_bmpRadio.GetSafeHandle());
-    if (!select) {
-        return;
-    }
-    const BOOL checked = SendMessage(BM_GETCHECK) == BST_CHECKED;
-    ::GdiTransparentBlt(dc.m_hDC, QorLook::kGlyphPos, QorLook::kGlyphPos, QorLook::kGlyphSize, QorLook::kGlyphSize,
-                        strip.Get(), GlyphLeft(state, checked), 0, QorLook::kGlyphSize, QorLook::kGlyphSize,
-                        QorLook::kGlyphKey);
+    DrawGlyph(*this, dc, g_QorUIApp.m_bmpRadio, state, QorLook::kGlyphKey);
 }
 
 void CRadioBox::DrawText(CDC& dc, UINT mode, UINT state)
@@ -311,7 +308,7 @@ void CRadioBox::UncheckOtherRadio()
 
 void CRadioBox::OnPaint()
 {
-    Paint(*this, m_bHot);
+    Paint(*this, m_hot);
 }
 
 void CRadioBox::OnEnable(BOOL enable)
@@ -321,7 +318,7 @@ void CRadioBox::OnEnable(BOOL enable)
 
 void CRadioBox::OnMouseMove(UINT, CPoint)
 {
-    QorHot::Enter(*this, m_bHot, &kStateRect);
+    m_hot.OnMouseMove(*this, &kStateRect);
 }
 
 void CRadioBox::OnLButtonUp(UINT, CPoint)
@@ -350,5 +347,5 @@ LRESULT CRadioBox::OnSetCheck(WPARAM state, LPARAM)
 
 LRESULT CRadioBox::OnMouseLeave(WPARAM, LPARAM)
 {
-    return QorHot::Leave(*this, m_bHot, &kStateRect);
+    return m_hot.OnMouseLeave(*this, &kStateRect);
 }

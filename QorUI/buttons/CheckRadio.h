@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QorUI/app/module/QorUIDef.h>
+#include <QorUI/app/base/HotState.h>
 
 /**
  * A check box that paints itself, keeps its own checked state and tells its parent of clicks with `BN_CLICKED`.
@@ -42,7 +42,7 @@ class QORUI_API CCheckBox : public CButton
   private:
     void Toggle();
 
-    BOOL m_bHot;
+    HotState m_hot;
     BOOL m_bChecked;
     BOOL m_bSecondClick; // the button is down for the second time of a double click, which counts as one click
 };
@@ -83,5 +83,5 @@ class QORUI_API CRadioBox : public CButton
 
   private:
     BOOL m_bChecked;
-    BOOL m_bHot;
+    HotState m_hot;
 };

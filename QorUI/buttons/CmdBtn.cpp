@@ -2,8 +2,8 @@
 
 #include "ButtonDraw.h"
 
-#include <QorUI/app/base/HotTrack.h>
-#include <QorUI/app/draw/Draw.h>
+#include <QorUI/app/base/VisualState.h>
+#include <QorUI/app/draw/GrayCopy.h>
 #include <QorUI/app/look/Palette.h>
 #include <QorUI/app/look/SysLook.h>
 
@@ -25,12 +25,9 @@ constexpr int kTextIndent = 38; // past the icon
 
 } // namespace
 
-CCmdBtn::CCmdBtn() : m_bHot(FALSE), m_hIcon(nullptr), m_hGrayIcon(nullptr) {}
+CCmdBtn::CCmdBtn() : m_hIcon(nullptr) {}
 
-CCmdBtn::~CCmdBtn()
-{
-    FreeGrayIcon();
-}
+CCmdBtn::~CCmdBtn() = default;
 
 BOOL CCmdBtn::Create(UINT iconId, LPCWSTR description, const RECT& rect, CWnd* parent, UINT id)
 {
@@ -59,7 +56,7 @@ BOOL CCmdBtn::SetBtn(UINT iconId, LPCWSTR description)
 
 void CCmdBtn::PreSubclassWindow()
 {
-    m_bHot = FALSE; // no leave notification comes from the former window
+    m_hot.OnNewWindow();
     ModifyStyle(0, BS_OWNERDRAW);
 }
 
@@ -70,20 +67,20 @@ void CCmdBtn::DrawItem(LPDRAWITEMSTRUCT item)
         return;
     }
     CRect rect(item->rcItem);
-    const BOOL disabled = (item->itemState & ODS_DISABLED) != 0;
-    UINT mode = QOR_LABEL_FOCUS;
+    const VisualState state = QorStateOfItem(item->itemState, static_cast<bool>(m_hot));
+    UINT mode = kLabelFocus;
     if ((item->itemAction & ODA_FOCUS) == 0) {
-        DrawFace(dc, rect, disabled);
-        mode = (item->itemState & ODS_FOCUS) ? QOR_LABEL_TEXT | QOR_LABEL_FOCUS : QOR_LABEL_TEXT;
+        DrawFace(dc, rect, state.IsDisabled());
+        mode = state.focused ? kLabelText | kLabelFocus : kLabelText;
     }
-    const COLORREF oldColour = dc->SetTextColor(QorSysLook.TextColor(disabled != FALSE));
+    const COLORREF oldColour = dc->SetTextColor(QorSysLook.TextColor(state.IsDisabled()));
     DrawText(dc, rect, mode);
     dc->SetTextColor(oldColour);
 }
 
 void CCmdBtn::DrawFace(CDC* dc, CRect& rect, BOOL disabled)
 {
-    if (m_bHot) {
+    if (m_hot) {
         DrawRect(dc, rect);
     } else {
         dc->PatBlt(rect.left, rect.top, rect.Width(), rect.Height(), PATCOPY);
@@ -98,10 +95,10 @@ HICON CCmdBtn::IconFor(BOOL disabled)
     if (!disabled) {
         return m_hIcon;
     }
-    if (!m_hGrayIcon) {
-        m_hGrayIcon = QorCreateGrayIcon(m_hIcon);
+    if (!m_grayIcon) {
+        m_grayIcon.Reset(QorCreateGrayIcon(m_hIcon));
     }
-    return m_hGrayIcon ? m_hGrayIcon : m_hIcon;
+    return m_grayIcon ? m_grayIcon.Get() : m_hIcon;
 }
 
 void CCmdBtn::DrawRect(CDC* dc, CRect& rect)
@@ -125,12 +122,12 @@ void CCmdBtn::DrawText(CDC* dc, CRect& rect, UINT mode)
     GetWindowText(title);
     CRect titleRect(rect);
     dc->DrawText(title, &titleRect, DT_CALCRECT | DT_SINGLELINE);
-    if (mode & QOR_LABEL_TEXT) {
+    if (mode & kLabelText) {
         dc->DrawText(title, &titleRect, DT_SINGLELINE);
         rect.top += titleRect.Height();
         dc->DrawText(m_strDescription, &rect, DT_WORDBREAK | DT_EDITCONTROL | DT_HIDEPREFIX);
     }
-    if (mode & QOR_LABEL_FOCUS) {
+    if (mode & kLabelFocus) {
         titleRect.InflateRect(1, 1);
         dc->DrawFocusRect(&titleRect);
     }
@@ -138,10 +135,7 @@ void CCmdBtn::DrawText(CDC* dc, CRect& rect, UINT mode)
 
 void CCmdBtn::FreeGrayIcon()
 {
-    if (m_hGrayIcon) {
-        ::DestroyIcon(m_hGrayIcon);
-        m_hGrayIcon = nullptr;
-    }
+    m_grayIcon.Reset();
 }
 
 void CCmdBtn::OnDestroy()
@@ -152,7 +146,7 @@ void CCmdBtn::OnDestroy()
 
 void CCmdBtn::OnMouseMove(UINT flags, CPoint point)
 {
-    QorHot::Enter(*this, m_bHot);
+    m_hot.OnMouseMove(*this);
     CButton::OnMouseMove(flags, point);
 }
 
@@ -163,5 +157,5 @@ BOOL CCmdBtn::OnEraseBkgnd(CDC*)
 
 LRESULT CCmdBtn::OnMouseLeave(WPARAM, LPARAM)
 {
-    return QorHot::Leave(*this, m_bHot);
+    return m_hot.OnMouseLeave(*this);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QorUI/app/module/QorUIDef.h>
+#include <common/Owner.h>
+#include <QorUI/app/base/HotState.h>
 
 /**
  * A large command button: an icon, a one-line title (the window text) and a wrapped description below it.
@@ -56,8 +57,8 @@ class QORUI_API CCmdBtn : public CButton
     void DrawFace(CDC* dc, CRect& rect, BOOL disabled);
     void FreeGrayIcon();
 
-    BOOL m_bHot;
-    HICON m_hIcon;     // shared, not destroyed
-    HICON m_hGrayIcon; // made at the first disabled paint, owned
+    HotState m_hot;
+    HICON m_hIcon;        // shared, not destroyed
+    own::Icon m_grayIcon; // made at the first disabled paint
     CString m_strDescription;
 };

@@ -2,9 +2,10 @@
 
 #include "ButtonDraw.h"
 
-#include <QorUI/app/base/HotTrack.h>
+#include <QorUI/app/base/VisualState.h>
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/look/Palette.h>
+#include <QorUI/app/look/SkinParts.h>
 #include <QorUI/app/look/SysLook.h>
 
 BEGIN_MESSAGE_MAP(CQorBtn, CButton)
@@ -14,7 +15,7 @@ BEGIN_MESSAGE_MAP(CQorBtn, CButton)
     ON_MESSAGE(WM_MOUSELEAVE, &CQorBtn::OnMouseLeave)
 END_MESSAGE_MAP()
 
-CQorBtn::CQorBtn() : m_bHot(FALSE) {}
+CQorBtn::CQorBtn() = default;
 
 BOOL CQorBtn::PreCreateWindow(CREATESTRUCT& create)
 {
@@ -25,7 +26,7 @@ BOOL CQorBtn::PreCreateWindow(CREATESTRUCT& create)
 
 void CQorBtn::PreSubclassWindow()
 {
-    m_bHot = FALSE; // no leave notification comes from the former window
+    m_hot.OnNewWindow();
     ModifyStyle(0, BS_OWNERDRAW);
     CRect rect;
     GetWindowRect(&rect);
@@ -37,8 +38,9 @@ void CQorBtn::DrawItem(LPDRAWITEMSTRUCT item)
 {
     CDC* dc = CDC::FromHandle(item->hDC);
     CRect rect(item->rcItem);
-    DrawBack(dc, rect, QorButtonState(item->itemState, m_bHot), (item->itemState & ODS_FOCUS) != 0);
-    DrawText(dc, rect, (item->itemState & ODS_DISABLED) != 0);
+    const VisualState state = QorStateOfItem(item->itemState, static_cast<bool>(m_hot));
+    DrawBack(dc, rect, state.face, state.focused);
+    DrawText(dc, rect, state.IsDisabled());
 }
 
 void CQorBtn::DrawBack(CDC* dc, CRect& rect, UINT row, BOOL focus)
@@ -74,7 +76,7 @@ void CQorBtn::DrawText(CDC* dc, CRect& rect, BOOL disabled)
 
 void CQorBtn::OnMouseMove(UINT flags, CPoint point)
 {
-    QorHot::Enter(*this, m_bHot);
+    m_hot.OnMouseMove(*this);
     CButton::OnMouseMove(flags, point);
 }
 
@@ -92,5 +94,5 @@ LRESULT CQorBtn::OnSetStyle(WPARAM, LPARAM)
 
 LRESULT CQorBtn::OnMouseLeave(WPARAM, LPARAM)
 {
-    return QorHot::Leave(*this, m_bHot);
+    return m_hot.OnMouseLeave(*this);
 }

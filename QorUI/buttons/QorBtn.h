@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QorUI/app/module/QorUIDef.h>
+#include <QorUI/app/base/HotState.h>
 
 /**
  * The ordinary push button of dialogs: rounded and bevelled, with a hot look under the mouse.
@@ -42,5 +42,5 @@ class QORUI_API CQorBtn : public CButton
     DECLARE_MESSAGE_MAP()
 
   private:
-    BOOL m_bHot; // the mouse is over the button and a leave notification is pending
+    HotState m_hot;
 };

@@ -8,6 +8,7 @@
 #include <QorUI/app/base/NotifyParent.h>
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/draw/MemDC.h>
+#include <QorUI/app/look/Palette.h>
 #include <QorUI/app/look/SysLook.h>
 
 #include <new>
@@ -37,7 +38,7 @@ constexpr LONG kNormalWeight = 500;
 constexpr LONG kBoldWeight = 700;
 constexpr COLORREF kSpecial = RGB(0, 0, 255);
 constexpr COLORREF kSelected = RGB(0, 84, 227);
-constexpr COLORREF kSelectedText = RGB(255, 255, 255);
+constexpr COLORREF kSelectedText = QorLook::kWhite;
 constexpr int kMeasuredYears = 10; ///< headers are measured so many years around the first one
 constexpr int kLinedRows = 7;      ///< the grid height that gets a line under each month
 
@@ -85,7 +86,6 @@ CQorCalendar::CQorCalendar()
       m_dtAnchor(NoDate()),
       m_bTrackArrow(FALSE),
       m_bTrackMonth(FALSE),
-      m_pSelMonthWnd(nullptr),
       m_pHdrCell(nullptr),
       m_rcLeftArrow{},
       m_rcRightArrow{},
@@ -629,7 +629,7 @@ void CQorCalendar::OpenMonthList(CalendarCell* cell)
         return;
     }
     const QorMonth::Month month = QorMonth::AddMonths({m_nYear, m_nMonth}, IndexOf(cell->nRow, cell->nCol));
-    m_pSelMonthWnd = new CSelMonthWnd; // the framework throws when there is no memory
+    m_pSelMonthWnd.reset(new CSelMonthWnd); // the framework throws when there is no memory
     const BOOL shown = m_pSelMonthWnd->Create(month.month, month.year, this);
     if (!::IsWindow(wnd) || !m_pSelMonthWnd) {
         return; // the list was activated, and the host closed the calendar for that
@@ -646,7 +646,7 @@ void CQorCalendar::OpenMonthList(CalendarCell* cell)
 void CQorCalendar::CloseMonthList()
 {
     // Forgotten first: the host is activated when the list goes, and may close the calendar then.
-    const std::unique_ptr<CSelMonthWnd> list(std::exchange(m_pSelMonthWnd, nullptr));
+    const std::unique_ptr<CSelMonthWnd> list = std::move(m_pSelMonthWnd);
     m_pHdrCell = nullptr;
     m_bTrackMonth = FALSE;
     if (list && list->m_hWnd) {

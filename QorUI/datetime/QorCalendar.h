@@ -159,38 +159,38 @@ class QORUI_API CQorCalendar : public CWnd
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     DECLARE_MESSAGE_MAP()
 
-    int m_nYear;                              ///< year of the first cell
-    int m_nMonth;                             ///< month of the first cell, from 1
-    CFont m_fontBold;                         ///< of the headers
-    CFont m_fontNormal;                       ///< of everything else
-    CString m_strMonths[12];                  ///< names of the months, in the user's language
-    CString m_strDays[7];                     ///< weekday initials as displayed
-    int m_nFirstDayOfWeek;                    ///< 1 for Sunday to 7 for Saturday
-    UINT m_nMaxSelDays;                       ///< most days that the mouse can select; 0 for none
-    COLORREF m_crBk;                          ///< behind the days
-    COLORREF m_crNormal;                      ///< of ordinary days
-    COLORREF m_crSpecial;                     ///< of special days
-    QorSpecialDayProc m_pfnIsSpecial;         ///< null when no day is special
-    void* m_pData;                            ///< for that function, not owned
-    BOOL m_bTrackDay;                         ///< a selection is being dragged
-    COleDateTime m_dtAnchor;                  ///< where the drag began; not valid after the press of anything else
-    BOOL m_bTrackArrow;                       ///< an arrow is pressed
-    BOOL m_bTrackMonth;                       ///< the list of months is open
-    CSelMonthWnd* m_pSelMonthWnd;             ///< owned
-    CalendarCell* m_pHdrCell;                 ///< whose header opened the list
-    RECT m_rcLeftArrow;                       ///< what the mouse hits, in client pixels
-    RECT m_rcRightArrow;                      ///< what the mouse hits, in client pixels
-    int m_nHdrHeight;                         ///< height of a header, pixels
-    int m_nDayWidth;                          ///< width of a column of days, pixels
-    int m_nDowHeight;                         ///< height of the weekday initials, pixels
-    int m_nDayHeight;                         ///< height of a day number, pixels
-    int m_nCellWidth;                         ///< pixels
-    int m_nCellHeight;                        ///< pixels
-    COleDateTime m_dtSelStart;                ///< first selected day; not valid without a selection
-    COleDateTime m_dtSelEnd;                  ///< last selected day; not valid without a selection
-    std::unique_ptr<CalendarCell[]> m_pCells; ///< row by row; null without a grid
-    int m_nRows;                              ///< of the grid
-    int m_nCols;                              ///< of the grid
+    int m_nYear;                                  ///< year of the first cell
+    int m_nMonth;                                 ///< month of the first cell, from 1
+    CFont m_fontBold;                             ///< of the headers
+    CFont m_fontNormal;                           ///< of everything else
+    CString m_strMonths[12];                      ///< names of the months, in the user's language
+    CString m_strDays[7];                         ///< weekday initials as displayed
+    int m_nFirstDayOfWeek;                        ///< 1 for Sunday to 7 for Saturday
+    UINT m_nMaxSelDays;                           ///< most days that the mouse can select; 0 for none
+    COLORREF m_crBk;                              ///< behind the days
+    COLORREF m_crNormal;                          ///< of ordinary days
+    COLORREF m_crSpecial;                         ///< of special days
+    QorSpecialDayProc m_pfnIsSpecial;             ///< null when no day is special
+    void* m_pData;                                ///< for that function, not owned
+    BOOL m_bTrackDay;                             ///< a selection is being dragged
+    COleDateTime m_dtAnchor;                      ///< where the drag began; not valid after the press of anything else
+    BOOL m_bTrackArrow;                           ///< an arrow is pressed
+    BOOL m_bTrackMonth;                           ///< the list of months is open
+    std::unique_ptr<CSelMonthWnd> m_pSelMonthWnd; ///< null while the list is not open
+    CalendarCell* m_pHdrCell;                     ///< whose header opened the list
+    RECT m_rcLeftArrow;                           ///< what the mouse hits, in client pixels
+    RECT m_rcRightArrow;                          ///< what the mouse hits, in client pixels
+    int m_nHdrHeight;                             ///< height of a header, pixels
+    int m_nDayWidth;                              ///< width of a column of days, pixels
+    int m_nDowHeight;                             ///< height of the weekday initials, pixels
+    int m_nDayHeight;                             ///< height of a day number, pixels
+    int m_nCellWidth;                             ///< pixels
+    int m_nCellHeight;                            ///< pixels
+    COleDateTime m_dtSelStart;                    ///< first selected day; not valid without a selection
+    COleDateTime m_dtSelEnd;                      ///< last selected day; not valid without a selection
+    std::unique_ptr<CalendarCell[]> m_pCells;     ///< row by row; null without a grid
+    int m_nRows;                                  ///< of the grid
+    int m_nCols;                                  ///< of the grid
 
   private:
     int IndexOf(int row, int col) const;

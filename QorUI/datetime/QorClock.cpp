@@ -2,11 +2,12 @@
 
 #include "ClockHands.h"
 
-#include <common/Owner.h>
 #include <QorUI/app/base/Invalidate.h>
 #include <QorUI/app/base/NotifyParent.h>
 #include <QorUI/app/base/WndClass.h>
+#include <QorUI/app/draw/BitmapPart.h>
 #include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/look/Palette.h>
 
 BEGIN_MESSAGE_MAP(CQorClock, CWnd)
     ON_WM_TIMER()
@@ -37,7 +38,7 @@ void ShowCursorOf(LPCWSTR cursor)
 } // namespace
 
 CQorClock::CQorClock()
-    : m_crBk(RGB(255, 255, 255)),
+    : m_crBk(QorLook::kWhite),
       m_ptCenter(0, 0),
       m_nHour(1),
       m_nMinute(30),
@@ -180,10 +181,8 @@ BOOL CQorClock::OnEraseBkgnd(CDC* dc)
 {
     const HDC target = dc ? dc->m_hDC : nullptr;
     BITMAP bitmap = {};
-    const own::MemoryDc memory(::CreateCompatibleDC(target));
-    if (memory && m_bmpDial.GetBitmap(&bitmap)) {
-        const SelectSaver select(memory.Get(), m_bmpDial);
-        ::BitBlt(target, 0, 0, bitmap.bmWidth, bitmap.bmHeight, memory.Get(), 0, 0, SRCCOPY);
+    if (m_bmpDial.GetBitmap(&bitmap)) {
+        QorDrawBitmapPart(target, CRect(0, 0, bitmap.bmWidth, bitmap.bmHeight), m_bmpDial.GetSafeHandle(), {0, 0});
     }
     return TRUE;
 }

@@ -5,6 +5,7 @@
 #include <QorUI/app/base/WndClass.h>
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/draw/MemDC.h>
+#include <QorUI/app/look/Palette.h>
 
 #include <windowsx.h>
 
@@ -24,8 +25,8 @@ constexpr int kTextLeft = 10;
 constexpr int kSideRoom = 2 * kTextLeft; ///< beside the longest name
 constexpr int kUnderRows = 3;            ///< below the last row
 constexpr int kSampleYear = 2000;
-constexpr COLORREF kBack = RGB(255, 255, 255);
-constexpr COLORREF kText = RGB(0, 0, 0);
+constexpr COLORREF kBack = QorLook::kWhite;
+constexpr COLORREF kText = QorLook::kBlack;
 
 } // namespace
 

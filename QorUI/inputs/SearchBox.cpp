@@ -1,7 +1,7 @@
 #include "SearchBox.h"
 
-#include <common/Owner.h>
-#include <QorUI/app/draw/GdiSavers.h>
+#include <QorUI/app/draw/BitmapPart.h>
+#include <QorUI/app/look/Palette.h>
 #include <QorUI/app/module/QorUIApp.h>
 #include <QorUI/res/resource.h>
 
@@ -15,7 +15,7 @@ namespace
 
 constexpr int kMaxText = 260;
 constexpr COLORREF kOuterFrame = RGB(203, 203, 203);
-constexpr COLORREF kInnerFrame = RGB(255, 255, 255);
+constexpr COLORREF kInnerFrame = QorLook::kWhite;
 constexpr int kGlyphWidth = 16;
 constexpr int kGlyphHeight = 17;
 constexpr int kCentredHeight = 16; ///< what stands in the middle: all rows of the glyph but the last
@@ -25,11 +25,7 @@ void DrawGlyph(HDC dc, int x, int y)
 {
     CBitmap bitmap;
     bitmap.Attach(::LoadBitmapW(g_QorUIApp.m_hInstance, MAKEINTRESOURCEW(IDB_SEARCH)));
-    const own::MemoryDc memory(::CreateCompatibleDC(dc));
-    const SelectSaver select(memory.Get(), bitmap.GetSafeHandle());
-    if (select) {
-        ::BitBlt(dc, x, y, kGlyphWidth, kGlyphHeight, memory.Get(), 0, 0, SRCCOPY);
-    }
+    QorDrawBitmapPart(dc, {x, y, x + kGlyphWidth, y + kGlyphHeight}, bitmap.GetSafeHandle(), {0, 0});
 }
 
 } // namespace

@@ -6,14 +6,6 @@ namespace
 
 constexpr COLORREF kLine = RGB(200, 10, 20);
 
-TEST(ButtonState, DisabledComesBeforePressedAndThatBeforeHot)
-{
-    EXPECT_EQ(QOR_BTN_NORMAL, QorButtonState(0, FALSE));
-    EXPECT_EQ(QOR_BTN_HOT, QorButtonState(0, TRUE));
-    EXPECT_EQ(QOR_BTN_PRESSED, QorButtonState(ODS_SELECTED, TRUE));
-    EXPECT_EQ(QOR_BTN_DISABLED, QorButtonState(ODS_DISABLED | ODS_SELECTED, TRUE));
-}
-
 TEST(DrawRounded, LineRunsAroundTheInsideAndLeavesTheCorners)
 {
     const ts::Picture picture = ts::Drawn(

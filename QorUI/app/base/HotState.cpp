@@ -1,4 +1,4 @@
-#include "HotTrack.h"
+#include "HotState.h"
 
 namespace
 {
@@ -7,19 +7,19 @@ constexpr DWORD kHoverTime = 1; // ms
 
 } // namespace
 
-void QorHot::Enter(CWnd& wnd, BOOL& hot, const RECT* area)
+void HotState::OnMouseMove(CWnd& wnd, const RECT* area)
 {
-    if (hot) {
+    if (m_hot) {
         return;
     }
     TRACKMOUSEEVENT track = {sizeof(track), TME_LEAVE, wnd.m_hWnd, kHoverTime};
-    hot = ::_TrackMouseEvent(&track);
+    m_hot = ::_TrackMouseEvent(&track);
     ::InvalidateRect(wnd.m_hWnd, area, FALSE);
 }
 
-LRESULT QorHot::Leave(CWnd& wnd, BOOL& hot, const RECT* area)
+LRESULT HotState::OnMouseLeave(CWnd& wnd, const RECT* area)
 {
-    hot = FALSE;
+    m_hot = false;
     ::InvalidateRect(wnd.m_hWnd, area, FALSE);
     return 1;
 }
