@@ -1,6 +1,6 @@
 #pragma once
 
-#include <windows.h>
+#include <QorUI/app/module/QorUIDef.h>
 
 /**
  * Draws a part of a bitmap as it is; nothing without a bitmap, or when the system has no device context to spare.

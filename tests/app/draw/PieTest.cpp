@@ -1,5 +1,5 @@
-#include <QorUI/app/draw/Pie.h>
 #include <QorUI/app/draw/GdiPlusFlat.h>
+#include <QorUI/app/draw/Pie.h>
 #include <tests/support/Imports.h>
 #include <tests/support/ui/Drawn.h>
 

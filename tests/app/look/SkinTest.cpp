@@ -1,11 +1,11 @@
-#include <QorUI/app/look/Shared.h>
+#include <QorUI/app/look/Skin.h>
 
 #include <gtest/gtest.h>
 
 namespace
 {
 
-TEST(Shared, DialogBrushHasTheBodyColour)
+TEST(Skin, DialogBrushHasTheBodyColour)
 {
     LOGBRUSH brush = {};
     ASSERT_NE(0, ::GetObjectW(QorGetDlgBkBrush(), sizeof(brush), &brush));
@@ -13,7 +13,7 @@ TEST(Shared, DialogBrushHasTheBodyColour)
     EXPECT_EQ(RGB(236, 245, 250), brush.lbColor);
 }
 
-TEST(Shared, SetAppIconReturnsTrue)
+TEST(Skin, SetAppIconReturnsTrue)
 {
     EXPECT_EQ(TRUE, QorSetAppIcon(::LoadIconW(nullptr, IDI_APPLICATION), TRUE));
     EXPECT_EQ(TRUE, QorSetAppIcon(nullptr, 0));
