@@ -63,14 +63,11 @@ TEST_F(BitmapPart, WithoutABitmapNothingIsDrawn)
 
 TEST_F(BitmapPart, WithoutADeviceContextNothingIsDrawn)
 {
-    const ts::ReplacedImport none(nullptr, "CreateCompatibleDC", &NoDc);
-    const ts::Picture picture = ts::DrawTo(
-        20, 20,
-        [this](HDC dc) {
-            QorDrawBitmapPart(dc, {0, 0, kFrame, kFrame}, m_strip, {0, 0});
-        },
-        ts::kPaper);
-    EXPECT_EQ(0, picture.Count(kLeft));
+    const ts::Picture picture = ts::Drawn(20, 20, [this](CDC& dc) {
+        const ts::ReplacedImport none(nullptr, "CreateCompatibleDC", &NoDc);
+        QorDrawBitmapPart(dc, {0, 0, kFrame, kFrame}, m_strip, {0, 0});
+    });
+    EXPECT_EQ(400, picture.Count(ts::kPaper));
 }
 
 TEST_F(BitmapPart, LeavesTheBitmapUnselected)
