@@ -24,7 +24,7 @@ std::wstring GetLangFolder()
     return named.empty() ? std::wstring(g_AppPath.GetString()) + L"lang" : named;
 }
 
-// Names of locales become names of folders: nothing but letters, digits and hyphens.
+/** Names of locales become names of folders: nothing but letters, digits and hyphens. */
 bool IsLocaleName(const std::wstring& name)
 {
     if (name.empty() || name.size() >= LOCALE_NAME_MAX_LENGTH) {
@@ -44,7 +44,7 @@ bool IsFileName(LPCWSTR name)
     return name && *name && !wcspbrk(name, L"\\/:*?\"<>|");
 }
 
-// zh-Hans-CN, zh-Hans, zh. English is no member: it is what remains when nothing else is there.
+/** zh-Hans-CN, zh-Hans, zh. English is no member: it is what remains when nothing else is there. */
 std::vector<std::wstring> GetChain(std::wstring locale)
 {
     std::vector<std::wstring> chain;
@@ -62,7 +62,7 @@ bool HasFolder(const std::wstring& path)
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
-// The best folder that exists for a locale; empty when there is none but perhaps English.
+/** The best folder that exists for a locale; empty when there is none but perhaps English. */
 std::wstring FindFolder(const std::wstring& locale)
 {
     for (const std::wstring& name : GetChain(locale)) {
@@ -84,7 +84,7 @@ std::wstring GetUserLocale()
     return GetUserDefaultLocaleName(name, LOCALE_NAME_MAX_LENGTH) ? name : kEnglish;
 }
 
-// The control that an element such as Ctrl1152 is for; 0 for any other.
+/** The control that an element such as Ctrl1152 is for; 0 for any other. */
 int GetControlId(LPCWSTR name)
 {
     constexpr size_t kLength = std::size(kControlPrefix) - 1;

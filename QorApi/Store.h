@@ -78,7 +78,7 @@ class Query
     void GetRecord(int column, Record& record) const
     {
         ReadRecord(column, &record, sizeof(record));
-        if (wmemchr(record.szName, 0, std::size(record.szName)) != nullptr) {
+        if (wmemchr(record.szName, 0, std::size(record.szName))) {
             return;
         }
         record = {};
