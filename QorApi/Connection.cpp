@@ -50,9 +50,9 @@ class LinkTable
         using EndQuery = BOOLEAN(NTAPI*)();
         // Looked up by the constructor: Drop() runs under a lock of the system that ending threads take while they have
         // the loader's, so it must not ask the loader for anything.
-        static const auto query = reinterpret_cast<EndQuery>(
+        static const auto kQuery = reinterpret_cast<EndQuery>(
             reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "RtlDllShutdownInProgress")));
-        return query && query();
+        return kQuery && kQuery();
     }
     static void CALLBACK Drop(void* link)
     {

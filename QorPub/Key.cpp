@@ -12,7 +12,7 @@ struct PrimaryKey
     LPCWSTR acronym;
 };
 
-const PrimaryKey g_primaryKeys[] = {
+const PrimaryKey kPrimaryKeys[] = {
     {HKEY_CLASSES_ROOT, L"HKCR\\"}, {HKEY_CURRENT_USER, L"HKCU\\"},   {HKEY_LOCAL_MACHINE, L"HKLM\\"},
     {HKEY_USERS, L"HKU\\"},         {HKEY_CURRENT_CONFIG, L"HKCC\\"},
 };
@@ -280,7 +280,7 @@ HKEY QorAcronym2PrimaryKey(LPCWSTR entry, int* acronymLength)
     if (acronymLength) {
         *acronymLength = 0;
     }
-    for (const PrimaryKey& primary : g_primaryKeys) {
+    for (const PrimaryKey& primary : kPrimaryKeys) {
         size_t length = wcslen(primary.acronym);
         if (!entry || _wcsnicmp(entry, primary.acronym, length) != 0) {
             continue;
@@ -295,7 +295,7 @@ HKEY QorAcronym2PrimaryKey(LPCWSTR entry, int* acronymLength)
 
 LPCWSTR QorPrimaryKey2Acronym(HKEY key)
 {
-    for (const PrimaryKey& primary : g_primaryKeys) {
+    for (const PrimaryKey& primary : kPrimaryKeys) {
         if (primary.key == key) {
             return primary.acronym;
         }

@@ -42,8 +42,8 @@ Cng::Cng()
 
 const Cng& TheCng()
 {
-    static const Cng cng;
-    return cng;
+    static const Cng kCng;
+    return kCng;
 }
 
 } // namespace

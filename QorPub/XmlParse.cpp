@@ -184,16 +184,17 @@ bool ReadCode(std::string_view number, uint32_t& code)
 /** What the reference between "&" and ";" stands for; false when it is none. */
 bool ReadReference(std::string_view reference, uint32_t& code)
 {
-    static constexpr std::pair<std::string_view, uint32_t> names[] = {
+    static constexpr std::pair<std::string_view, uint32_t> kNames[] = {
         {"amp", U'&'}, {"lt", U'<'}, {"gt", U'>'}, {"quot", U'"'}, {"apos", U'\''}};
     if (!reference.empty() && reference.front() == '#') {
         return ReadCode(reference.substr(1), code);
     }
-    auto known = std::find_if(std::begin(names), std::end(names), [&](auto& name) { return name.first == reference; });
-    if (known != std::end(names)) {
+    auto known =
+        std::find_if(std::begin(kNames), std::end(kNames), [&](auto& name) { return name.first == reference; });
+    if (known != std::end(kNames)) {
         code = known->second;
     }
-    return known != std::end(names);
+    return known != std::end(kNames);
 }
 
 /** Takes over a text with its references replaced; what only looks like one stays as it is. */

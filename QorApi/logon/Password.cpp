@@ -19,8 +19,8 @@ class Cng
   public:
     static const Cng& Get()
     {
-        static const Cng cng;
-        return cng;
+        static const Cng kCng;
+        return kCng;
     }
 
     bool IsLoaded() const { return m_open && m_close && m_derive && m_random; }
