@@ -1,4 +1,4 @@
-#include "wnd/internal.h"
+#include <afxwin.h>
 
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
@@ -7,27 +7,6 @@ END_MESSAGE_MAP()
 
 namespace
 {
-/** The hour-glass of threads whose module has no application object. */
-struct WaitCursor
-{
-    int nCount = 0;
-    HCURSOR hRestore = nullptr;
-
-    void Do(int nCode)
-    {
-        nCount += nCode;
-        if (nCount <= 0) {
-            nCount = 0;
-            ::SetCursor(hRestore);
-            return;
-        }
-        const HCURSOR hPrevious = ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
-        if (nCode > 0 && nCount == 1) {
-            hRestore = hPrevious;
-        }
-    }
-};
-
 CString ModuleBaseName(HINSTANCE hInstance)
 {
     TCHAR szPath[MAX_PATH] = {};
@@ -167,14 +146,6 @@ int CWinApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt)
     return ShowMessageBox(lpszPrompt, nType);
 }
 
-void CWinApp::DoWaitCursor(int nCode)
-{
-    WaitCursor cursor = {m_nWaitCursorCount, m_hcurWaitCursorRestore};
-    cursor.Do(nCode);
-    m_nWaitCursorCount = cursor.nCount;
-    m_hcurWaitCursorRestore = cursor.hRestore;
-}
-
 void CWinApp::EnableModeless(BOOL bEnable)
 {
     if (m_pMainWnd) {
@@ -253,16 +224,6 @@ LPCTSTR AfxGetAppName()
     return strProgram;
 }
 
-void AfxDoWaitCursor(int nCode)
-{
-    static thread_local WaitCursor cursor;
-    if (CWinApp* pApp = AfxGetApp()) {
-        pApp->DoWaitCursor(nCode);
-    } else {
-        cursor.Do(nCode);
-    }
-}
-
 int AfxMessageBox(LPCTSTR lpszText, UINT nType, UINT nIDHelp)
 {
     CWinApp* pApp = AfxGetApp();
@@ -281,57 +242,4 @@ int AfxMessageBox(UINT nIDPrompt, UINT nType, UINT nIDHelp)
 void AfxPostQuitMessage(int nExitCode)
 {
     ::PostQuitMessage(nExitCode);
-}
-
-BOOL AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCmdShow)
-{
-    AFX_MODULE_STATE* pState = AfxGetModuleState();
-    pState->m_hCurrentInstanceHandle = hInstance;
-    pState->m_hCurrentResourceHandle = hInstance;
-    if (CWinApp* pApp = AfxGetApp()) {
-        pApp->m_hInstance = hInstance;
-        pApp->m_lpCmdLine = lpCmdLine;
-        pApp->m_nCmdShow = nCmdShow;
-        pApp->SetCurrentHandles();
-    }
-    pState->m_bWinInitDone = TRUE;
-    return TRUE;
-}
-
-void AfxWinTerm()
-{
-    AFX_MODULE_STATE* pState = AfxGetModuleState();
-    if (!pState->m_bWinInitDone) {
-        return;
-    }
-    pState->m_bWinInitDone = FALSE;
-    if (pState->m_bDLL) {
-        AfxUnregisterWndClasses(pState->m_hCurrentInstanceHandle); // the system keeps a DLL's classes otherwise
-    } else {
-        AfxDestroyToolTip();
-    }
-    AfxLockTempMaps();
-    AfxUnlockTempMaps();
-}
-
-int AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow)
-{
-    CWinThread* pThread = AfxGetThread();
-    CWinApp* pApp = AfxGetApp();
-    int nResult = -1;
-    if (!pThread) {
-        pThread = pApp;
-    }
-    if (AfxWinInit(hInstance, hPrevInstance, lpCmdLine, nCmdShow) && pThread && (!pApp || pApp->InitApplication())) {
-        if (pThread->InitInstance()) {
-            nResult = pThread->Run();
-        } else {
-            if (pThread->m_pMainWnd) {
-                pThread->m_pMainWnd->DestroyWindow();
-            }
-            nResult = pThread->ExitInstance();
-        }
-    }
-    AfxWinTerm();
-    return nResult;
 }

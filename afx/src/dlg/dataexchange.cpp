@@ -1,4 +1,6 @@
-#include "wnd/internal.h"
+#include "wnd/ask.h"
+
+#include <afxwin.h>
 
 #include <cerrno>
 #include <limits>
@@ -117,19 +119,19 @@ void ExchangeIndex(CDataExchange* pDX, int nIDC, int& index, UINT getMessage, UI
 {
     const HWND hWnd = pDX->PrepareCtrl(nIDC);
     if (pDX->m_bSaveAndValidate) {
-        index = static_cast<int>(::SendMessage(hWnd, getMessage, 0, 0));
+        index = Ask<int>(hWnd, getMessage);
     } else {
-        ::SendMessage(hWnd, setMessage, static_cast<WPARAM>(index), 0);
+        Ask(hWnd, setMessage, index);
     }
 }
 
 CString ListBoxText(HWND hWnd)
 {
     CString strText;
-    const auto nIndex = static_cast<int>(::SendMessage(hWnd, LB_GETCURSEL, 0, 0));
-    const auto nLength = nIndex >= 0 ? static_cast<int>(::SendMessage(hWnd, LB_GETTEXTLEN, nIndex, 0)) : 0;
+    const auto nIndex = Ask<int>(hWnd, LB_GETCURSEL);
+    const auto nLength = nIndex >= 0 ? Ask<int>(hWnd, LB_GETTEXTLEN, nIndex) : 0;
     if (nLength > 0) {
-        ::SendMessage(hWnd, LB_GETTEXT, nIndex, reinterpret_cast<LPARAM>(strText.GetBufferSetLength(nLength)));
+        Ask(hWnd, LB_GETTEXT, nIndex, strText.GetBufferSetLength(nLength));
         strText.ReleaseBuffer();
     }
     return strText;
@@ -138,14 +140,12 @@ CString ListBoxText(HWND hWnd)
 void ExchangeListString(CDataExchange* pDX, int nIDC, CString& value, bool exact)
 {
     const HWND hWnd = pDX->PrepareCtrl(nIDC);
-    const auto lText = reinterpret_cast<LPARAM>(value.GetString());
     if (pDX->m_bSaveAndValidate) {
         value = ListBoxText(hWnd);
     } else if (!exact) {
-        ::SendMessage(hWnd, LB_SELECTSTRING, static_cast<WPARAM>(-1), lText);
+        Ask(hWnd, LB_SELECTSTRING, -1, value.GetString());
     } else {
-        ::SendMessage(hWnd, LB_SETCURSEL,
-                      static_cast<WPARAM>(::SendMessage(hWnd, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), lText)), 0);
+        Ask(hWnd, LB_SETCURSEL, Ask(hWnd, LB_FINDSTRINGEXACT, -1, value.GetString()));
     }
 }
 
@@ -156,11 +156,10 @@ void ExchangeComboString(CDataExchange* pDX, int nIDC, CString& value, bool exac
         value = ControlText(hWnd);
         return;
     }
-    const auto lText = reinterpret_cast<LPARAM>(value.GetString());
     const UINT findMessage = exact ? CB_FINDSTRINGEXACT : CB_FINDSTRING;
-    const auto nIndex = ::SendMessage(hWnd, findMessage, static_cast<WPARAM>(-1), lText);
+    const auto nIndex = Ask(hWnd, findMessage, -1, value.GetString());
     if (nIndex != CB_ERR) {
-        ::SendMessage(hWnd, CB_SETCURSEL, static_cast<WPARAM>(nIndex), 0);
+        Ask(hWnd, CB_SETCURSEL, nIndex);
     } else {
         AfxSetWindowText(hWnd, value); // not in the list, but the edit part may hold it
     }
@@ -201,7 +200,7 @@ void CDataExchange::Fail()
     if (m_bSaveAndValidate && m_hWndLastControl) {
         ::SetFocus(m_hWndLastControl);
         if (m_bEditLastControl) {
-            ::SendMessage(m_hWndLastControl, EM_SETSEL, 0, -1);
+            Ask(m_hWndLastControl, EM_SETSEL, 0, -1);
         }
     }
     AfxThrowUserException();
@@ -263,9 +262,9 @@ void DDX_Check(CDataExchange* pDX, int nIDC, int& value)
 {
     const HWND hWnd = pDX->PrepareCtrl(nIDC);
     if (pDX->m_bSaveAndValidate) {
-        value = static_cast<int>(::SendMessage(hWnd, BM_GETCHECK, 0, 0));
+        value = Ask<int>(hWnd, BM_GETCHECK);
     } else {
-        ::SendMessage(hWnd, BM_SETCHECK, value >= BST_UNCHECKED && value <= BST_INDETERMINATE ? value : 0, 0);
+        Ask(hWnd, BM_SETCHECK, value >= BST_UNCHECKED && value <= BST_INDETERMINATE ? value : 0);
     }
 }
 
@@ -277,10 +276,10 @@ void DDX_Radio(CDataExchange* pDX, int nIDC, int& value)
     }
     int nIndex = 0;
     do {
-        if (::SendMessage(hWnd, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON) {
+        if (Ask(hWnd, WM_GETDLGCODE) & DLGC_RADIOBUTTON) {
             if (!pDX->m_bSaveAndValidate) {
-                ::SendMessage(hWnd, BM_SETCHECK, nIndex == value, 0);
-            } else if (::SendMessage(hWnd, BM_GETCHECK, 0, 0) != BST_UNCHECKED) {
+                Ask(hWnd, BM_SETCHECK, nIndex == value);
+            } else if (Ask(hWnd, BM_GETCHECK) != BST_UNCHECKED) {
                 value = nIndex;
             }
             ++nIndex;
@@ -333,9 +332,9 @@ void DDX_Slider(CDataExchange* pDX, int nIDC, int& value)
 {
     const HWND hWnd = pDX->PrepareCtrl(nIDC);
     if (pDX->m_bSaveAndValidate) {
-        value = static_cast<int>(::SendMessage(hWnd, TBM_GETPOS, 0, 0));
+        value = Ask<int>(hWnd, TBM_GETPOS);
     } else {
-        ::SendMessage(hWnd, TBM_SETPOS, TRUE, value);
+        Ask(hWnd, TBM_SETPOS, TRUE, value);
     }
 }
 
@@ -383,7 +382,7 @@ void DDV_MaxChars(CDataExchange* pDX, const CString& value, int nChars)
 {
     if (!pDX->m_bSaveAndValidate) {
         if (pDX->m_hWndLastControl && pDX->m_bEditLastControl) {
-            ::SendMessage(pDX->m_hWndLastControl, EM_LIMITTEXT, static_cast<WPARAM>(nChars), 0);
+            Ask(pDX->m_hWndLastControl, EM_LIMITTEXT, nChars);
         }
         return;
     }

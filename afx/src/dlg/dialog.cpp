@@ -1,4 +1,8 @@
-#include "wnd/internal.h"
+#include "wnd/ask.h"
+#include "wnd/dlginit.h"
+#include "wnd/wndproc.h"
+
+#include <afxwin.h>
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
 
@@ -169,7 +173,7 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWn
 BOOL CDialog::InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd)
 {
     ASSERT(!m_lpDialogTemplate);
-    if (m_pParentWnd == nullptr) {
+    if (!m_pParentWnd) {
         m_pParentWnd = pParentWnd;
     }
     m_hDialogTemplate = hDialogTemplate;
@@ -179,7 +183,7 @@ BOOL CDialog::InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd)
 BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, void* lpDialogInit)
 {
     ASSERT(!m_hDialogTemplate);
-    if (m_pParentWnd == nullptr) {
+    if (!m_pParentWnd) {
         m_pParentWnd = pParentWnd;
     }
     m_lpDialogTemplate = lpDialogTemplate;
@@ -369,29 +373,29 @@ BOOL CDialog::CheckAutoCenter()
 
 void CDialog::NextDlgCtrl() const
 {
-    ::SendMessage(m_hWnd, WM_NEXTDLGCTL, 0, 0);
+    Ask(*this, WM_NEXTDLGCTL);
 }
 
 void CDialog::PrevDlgCtrl() const
 {
-    ::SendMessage(m_hWnd, WM_NEXTDLGCTL, 1, 0);
+    Ask(*this, WM_NEXTDLGCTL, 1);
 }
 
 void CDialog::GotoDlgCtrl(CWnd* pWndCtrl)
 {
     if (const HWND hWndControl = pWndCtrl->GetSafeHwnd()) {
-        ::SendMessage(m_hWnd, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(hWndControl), TRUE);
+        Ask(*this, WM_NEXTDLGCTL, hWndControl, TRUE);
     }
 }
 
 void CDialog::SetDefID(UINT nID)
 {
-    ::SendMessage(m_hWnd, DM_SETDEFID, nID, 0);
+    Ask(*this, DM_SETDEFID, nID);
 }
 
 DWORD CDialog::GetDefID() const
 {
-    return static_cast<DWORD>(::SendMessage(m_hWnd, DM_GETDEFID, 0, 0));
+    return Ask<DWORD>(*this, DM_GETDEFID);
 }
 
 void CDialog::MapDialogRect(LPRECT lpRect) const

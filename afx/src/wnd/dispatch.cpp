@@ -1,8 +1,11 @@
-#include "internal.h"
+#include "dispatch.h"
+
+#include <afxwin.h>
 
 #include <windowsx.h>
 
 #include <array>
+
 #undef SubclassWindow
 
 namespace

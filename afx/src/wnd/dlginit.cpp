@@ -1,4 +1,6 @@
-#include "internal.h"
+#include "dlginit.h"
+
+#include <afxwin.h>
 
 namespace
 {

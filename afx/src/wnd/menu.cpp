@@ -1,22 +1,10 @@
 #include "core/adopt.h"
+#include "core/handleof.h"
 #include "gdi/handlemaps.h"
 
 #include <afxwin.h>
 
 IMPLEMENT_DYNCREATE(CMenu, CObject)
-
-namespace
-{
-HBITMAP BitmapOf(const CBitmap* pBitmap)
-{
-    return pBitmap != nullptr ? static_cast<HBITMAP>(pBitmap->m_hObject) : nullptr;
-}
-
-HWND WindowOf(const CWnd* pWnd)
-{
-    return pWnd != nullptr ? pWnd->m_hWnd : nullptr;
-}
-} // namespace
 
 CMenu::~CMenu()
 {
@@ -46,13 +34,13 @@ BOOL CMenu::LoadMenu(UINT nIDResource)
 
 BOOL CMenu::LoadMenuIndirect(const void* lpMenuTemplate)
 {
-    return lpMenuTemplate != nullptr && AfxAdopt(*this, ::LoadMenuIndirect(lpMenuTemplate));
+    return lpMenuTemplate && AfxAdopt(*this, ::LoadMenuIndirect(lpMenuTemplate));
 }
 
 BOOL CMenu::DestroyMenu()
 {
     HMENU hMenu = Detach();
-    return hMenu != nullptr && ::DestroyMenu(hMenu);
+    return hMenu && ::DestroyMenu(hMenu);
 }
 
 CMenu* PASCAL CMenu::FromHandle(HMENU hMenu)
@@ -92,7 +80,7 @@ BOOL CMenu::operator!=(const CMenu& menu) const
 
 BOOL CMenu::Attach(HMENU hMenu)
 {
-    if (hMenu == nullptr || m_hMenu != nullptr) {
+    if (!hMenu || m_hMenu) {
         return FALSE;
     }
     m_hMenu = hMenu;
@@ -103,7 +91,7 @@ BOOL CMenu::Attach(HMENU hMenu)
 HMENU CMenu::Detach()
 {
     HMENU hMenu = m_hMenu;
-    if (hMenu != nullptr) {
+    if (hMenu) {
         AfxMenuMap::Remove(hMenu);
     }
     m_hMenu = nullptr;
@@ -112,22 +100,22 @@ HMENU CMenu::Detach()
 
 BOOL CMenu::TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pWnd, LPCRECT lpRect)
 {
-    return ::TrackPopupMenu(m_hMenu, nFlags, x, y, 0, WindowOf(pWnd), lpRect);
+    return ::TrackPopupMenu(m_hMenu, nFlags, x, y, 0, HandleOf(pWnd), lpRect);
 }
 
 BOOL CMenu::TrackPopupMenuEx(UINT fuFlags, int x, int y, CWnd* pWnd, LPTPMPARAMS lptpm)
 {
-    return ::TrackPopupMenuEx(m_hMenu, fuFlags, x, y, WindowOf(pWnd), lptpm);
+    return ::TrackPopupMenuEx(m_hMenu, fuFlags, x, y, HandleOf(pWnd), lptpm);
 }
 
 BOOL CMenu::GetMenuInfo(LPMENUINFO lpcmi) const
 {
-    return lpcmi != nullptr && ::GetMenuInfo(m_hMenu, lpcmi);
+    return lpcmi && ::GetMenuInfo(m_hMenu, lpcmi);
 }
 
 BOOL CMenu::SetMenuInfo(LPCMENUINFO lpcmi)
 {
-    return lpcmi != nullptr && ::SetMenuInfo(m_hMenu, lpcmi);
+    return lpcmi && ::SetMenuInfo(m_hMenu, lpcmi);
 }
 
 DWORD CMenu::GetMenuContextHelpId() const
@@ -147,7 +135,7 @@ BOOL CMenu::AppendMenu(UINT nFlags, UINT_PTR nIDNewItem, LPCTSTR lpszNewItem)
 
 BOOL CMenu::AppendMenu(UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp)
 {
-    return ::AppendMenu(m_hMenu, nFlags | MF_BITMAP, nIDNewItem, reinterpret_cast<LPCTSTR>(BitmapOf(pBmp)));
+    return ::AppendMenu(m_hMenu, nFlags | MF_BITMAP, nIDNewItem, reinterpret_cast<LPCTSTR>(HandleOf(pBmp)));
 }
 
 BOOL CMenu::InsertMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, LPCTSTR lpszNewItem)
@@ -157,12 +145,12 @@ BOOL CMenu::InsertMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, LPCTSTR
 
 BOOL CMenu::InsertMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp)
 {
-    return ::InsertMenu(m_hMenu, nPosition, nFlags | MF_BITMAP, nIDNewItem, reinterpret_cast<LPCTSTR>(BitmapOf(pBmp)));
+    return ::InsertMenu(m_hMenu, nPosition, nFlags | MF_BITMAP, nIDNewItem, reinterpret_cast<LPCTSTR>(HandleOf(pBmp)));
 }
 
 BOOL CMenu::InsertMenuItem(UINT uItem, LPMENUITEMINFO lpMenuItemInfo, BOOL fByPos)
 {
-    return lpMenuItemInfo != nullptr && ::InsertMenuItem(m_hMenu, uItem, fByPos, lpMenuItemInfo);
+    return lpMenuItemInfo && ::InsertMenuItem(m_hMenu, uItem, fByPos, lpMenuItemInfo);
 }
 
 BOOL CMenu::ModifyMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, LPCTSTR lpszNewItem)
@@ -172,7 +160,7 @@ BOOL CMenu::ModifyMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, LPCTSTR
 
 BOOL CMenu::ModifyMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp)
 {
-    return ::ModifyMenu(m_hMenu, nPosition, nFlags | MF_BITMAP, nIDNewItem, reinterpret_cast<LPCTSTR>(BitmapOf(pBmp)));
+    return ::ModifyMenu(m_hMenu, nPosition, nFlags | MF_BITMAP, nIDNewItem, reinterpret_cast<LPCTSTR>(HandleOf(pBmp)));
 }
 
 BOOL CMenu::DeleteMenu(UINT nPosition, UINT nFlags)
@@ -212,7 +200,7 @@ UINT CMenu::GetDefaultItem(UINT gmdiFlags, BOOL fByPos)
 
 BOOL CMenu::SetMenuItemBitmaps(UINT nPosition, UINT nFlags, const CBitmap* pBmpUnchecked, const CBitmap* pBmpChecked)
 {
-    return ::SetMenuItemBitmaps(m_hMenu, nPosition, nFlags, BitmapOf(pBmpUnchecked), BitmapOf(pBmpChecked));
+    return ::SetMenuItemBitmaps(m_hMenu, nPosition, nFlags, HandleOf(pBmpUnchecked), HandleOf(pBmpChecked));
 }
 
 UINT CMenu::GetMenuItemCount() const
@@ -249,12 +237,12 @@ int CMenu::GetMenuString(UINT nIDItem, CString& rString, UINT nFlags) const
 
 BOOL CMenu::GetMenuItemInfo(UINT uItem, LPMENUITEMINFO lpMenuItemInfo, BOOL fByPos)
 {
-    return lpMenuItemInfo != nullptr && ::GetMenuItemInfo(m_hMenu, uItem, fByPos, lpMenuItemInfo);
+    return lpMenuItemInfo && ::GetMenuItemInfo(m_hMenu, uItem, fByPos, lpMenuItemInfo);
 }
 
 BOOL CMenu::SetMenuItemInfo(UINT uItem, LPMENUITEMINFO lpMenuItemInfo, BOOL fByPos)
 {
-    return lpMenuItemInfo != nullptr && ::SetMenuItemInfo(m_hMenu, uItem, fByPos, lpMenuItemInfo);
+    return lpMenuItemInfo && ::SetMenuItemInfo(m_hMenu, uItem, fByPos, lpMenuItemInfo);
 }
 
 CMenu* CMenu::GetSubMenu(int nPos) const

@@ -1,4 +1,8 @@
-#include "internal.h"
+#include "tooltip.h"
+
+#include "ask.h"
+
+#include <afxwin.h>
 
 namespace
 {
@@ -19,7 +23,7 @@ HWND ToolTipWindow(HWND hWndOwner)
 
 void SendTool(UINT message, TOOLINFO& info)
 {
-    ::SendMessage(AfxGetThreadState()->m_hWndToolTip, message, 0, reinterpret_cast<LPARAM>(&info));
+    Ask(AfxGetThreadState()->m_hWndToolTip, message, 0, &info);
 }
 
 void ForgetTool()
@@ -30,7 +34,7 @@ void ForgetTool()
     const HWND hWndTip = AfxGetThreadState()->m_hWndToolTip;
     TOOLINFO info = {};
     info.cbSize = kToolInfoSize;
-    while (::IsWindow(hWndTip) && ::SendMessage(hWndTip, TTM_ENUMTOOLS, 0, reinterpret_cast<LPARAM>(&info))) {
+    while (::IsWindow(hWndTip) && Ask(hWndTip, TTM_ENUMTOOLS, 0, &info)) {
         SendTool(TTM_DELTOOL, info);
     }
 }
@@ -50,7 +54,7 @@ void Relay(const MSG& msg, HWND hWndTool)
     ::MapWindowPoints(msg.hwnd, hWndTool, &point, 1);
     relayed.hwnd = hWndTool;
     relayed.lParam = MAKELPARAM(point.x, point.y);
-    ::SendMessage(AfxGetThreadState()->m_hWndToolTip, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&relayed));
+    Ask(AfxGetThreadState()->m_hWndToolTip, TTM_RELAYEVENT, 0, &relayed);
 }
 } // namespace
 
@@ -83,7 +87,7 @@ void CWnd::CancelToolTips(BOOL bKeys)
     UNUSED_ALWAYS(bKeys);
     const HWND hWndTip = AfxGetThreadState()->m_hWndToolTip;
     if (::IsWindow(hWndTip)) {
-        ::SendMessage(hWndTip, TTM_ACTIVATE, FALSE, 0);
+        Ask(hWndTip, TTM_ACTIVATE, FALSE);
     }
 }
 
@@ -106,7 +110,7 @@ void CWnd::FilterToolTipMessage(MSG* pMsg)
         ForgetTool();
         if (nHit != -1 && ToolTipWindow(m_hWnd)) {
             SendTool(TTM_ADDTOOL, info);
-            ::SendMessage(AfxGetThreadState()->m_hWndToolTip, TTM_ACTIVATE, TRUE, 0);
+            Ask(AfxGetThreadState()->m_hWndToolTip, TTM_ACTIVATE, TRUE);
             pModule->m_pLastHit = this;
             pModule->m_nLastHit = nHit;
         }

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <afxwin.h>
+
+/** The registered message by which drag list boxes talk to their parent. */
+extern const UINT g_nDragListMessage;

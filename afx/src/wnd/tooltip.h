@@ -1,0 +1,6 @@
+#pragma once
+
+#include <afxwin.h>
+
+/** Ends the tool tip window of this thread. */
+void AfxDestroyToolTip();
