@@ -102,6 +102,7 @@ using File = Owner<ValidFreedBy<::CloseHandle>>;            ///< what `CreateFil
 using FileSearch = Owner<ValidFreedBy<::FindClose>>;        ///< what `FindFirstFileW` gives
 using LocalMemory = Owner<FreedBy<HLOCAL, ::LocalFree>>;    ///< what `LocalAlloc` gives
 using TaskMemory = Owner<FreedBy<void*, ::CoTaskMemFree>>;  ///< what the caller frees with `CoTaskMemFree`
+using GlobalMemory = Owner<FreedBy<HGLOBAL, ::GlobalFree>>; ///< what `GlobalAlloc` gives
 using Module = Owner<FreedBy<HMODULE, ::FreeLibrary>>;
 using RegistryKey = Owner<FreedBy<HKEY, ::RegCloseKey>>;
 using Icon = Owner<FreedBy<HICON, ::DestroyIcon>>;

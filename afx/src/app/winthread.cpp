@@ -7,6 +7,8 @@
 
 #include <process.h>
 
+#include <memory>
+
 IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 
 BEGIN_MESSAGE_MAP(CWinThread, CCmdTarget)
@@ -32,8 +34,7 @@ int RunThread(CWinThread* pThread)
 
 UINT __stdcall ThreadEntry(void* pParam)
 {
-    const ThreadStart start = *static_cast<ThreadStart*>(pParam);
-    delete static_cast<ThreadStart*>(pParam);
+    const ThreadStart start = *std::unique_ptr<ThreadStart>(static_cast<ThreadStart*>(pParam));
     AfxSetModuleState(start.pModuleState);
     AfxGetModuleThreadState()->m_pCurrentWinThread = start.pThread;
     CWnd wndMain;
@@ -100,14 +101,14 @@ BOOL CWinThread::CreateThread(DWORD dwCreateFlags, UINT nStackSize, LPSECURITY_A
     if (m_hThread) {
         return FALSE;
     }
-    auto* pStart = new ThreadStart{this, AfxGetModuleState(), AfxGetMainWnd()->GetSafeHwnd()};
+    std::unique_ptr<ThreadStart> pStart(new ThreadStart{this, AfxGetModuleState(), AfxGetMainWnd()->GetSafeHwnd()});
     unsigned nThreadID = 0;
-    m_hThread = reinterpret_cast<HANDLE>(::_beginthreadex(lpSecurityAttrs, nStackSize, ThreadEntry, pStart,
+    m_hThread = reinterpret_cast<HANDLE>(::_beginthreadex(lpSecurityAttrs, nStackSize, ThreadEntry, pStart.get(),
                                                           dwCreateFlags | CREATE_SUSPENDED, &nThreadID));
     if (!m_hThread) {
-        delete pStart;
         return FALSE;
     }
+    static_cast<void>(pStart.release()); // the thread's own now
     m_nThreadID = nThreadID;
     if (!(dwCreateFlags & CREATE_SUSPENDED)) {
         ::ResumeThread(m_hThread);

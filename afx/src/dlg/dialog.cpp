@@ -1,5 +1,6 @@
+#include "dlginit.h"
+#include "lockedtemplate.h"
 #include "wnd/ask.h"
-#include "wnd/dlginit.h"
 #include "wnd/wndproc.h"
 
 #include <afxwin.h>
@@ -45,30 +46,6 @@ TemplateHead ReadHead(LPCDLGTEMPLATE pTemplate)
     }
     return {pTemplate->style, pTemplate->x, pTemplate->y};
 }
-
-/** A template in a global memory block, locked as long as this object lives. */
-class LockedTemplate
-{
-  public:
-    explicit LockedTemplate(HGLOBAL hTemplate)
-        : m_hTemplate(hTemplate),
-          m_pTemplate(hTemplate ? static_cast<LPCDLGTEMPLATE>(::GlobalLock(hTemplate)) : nullptr)
-    {
-    }
-    ~LockedTemplate()
-    {
-        if (m_pTemplate) {
-            ::GlobalUnlock(m_hTemplate);
-        }
-    }
-    LockedTemplate(const LockedTemplate&) = delete;
-    LockedTemplate& operator=(const LockedTemplate&) = delete;
-    LPCDLGTEMPLATE Get() const { return m_pTemplate; }
-
-  private:
-    HGLOBAL m_hTemplate;
-    LPCDLGTEMPLATE m_pTemplate;
-};
 
 void RegisterCommonControls()
 {

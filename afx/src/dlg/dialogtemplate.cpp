@@ -1,7 +1,11 @@
-#include "wnd/dlginit.h"
+#include "dlginit.h"
+#include "lockedtemplate.h"
+
+#include <common/Owner.h>
 
 #include <afx/dlgtemplate.h>
 
+#include <utility>
 #include <vector>
 
 namespace
@@ -91,26 +95,6 @@ class TemplateReader
     const BYTE* m_p;
 };
 
-/** Gives access to a template's memory block. */
-class Locked
-{
-  public:
-    explicit Locked(HGLOBAL hGlobal) : m_hGlobal(hGlobal), m_p(hGlobal ? ::GlobalLock(hGlobal) : nullptr) {}
-    ~Locked()
-    {
-        if (m_p) {
-            ::GlobalUnlock(m_hGlobal);
-        }
-    }
-    Locked(const Locked&) = delete;
-    Locked& operator=(const Locked&) = delete;
-    const void* Get() const { return m_p; }
-
-  private:
-    HGLOBAL m_hGlobal;
-    const void* m_p;
-};
-
 /** The size of a dialog unit, in quarters and eighths of the average character of a font. */
 SIZE MeasureBaseUnits(const TemplateReader& reader)
 {
@@ -175,24 +159,18 @@ CDialogTemplate::CDialogTemplate(HGLOBAL hGlobal) : CDialogTemplate(static_cast<
 
 CDialogTemplate::~CDialogTemplate()
 {
-    if (m_hTemplate) {
-        ::GlobalFree(m_hTemplate);
-    }
+    const own::GlobalMemory owned(m_hTemplate);
 }
 
 BOOL CDialogTemplate::SetTemplate(const void* pTemplate, UINT cb)
 {
-    const HGLOBAL hNew = ::GlobalAlloc(GPTR, cb + LF_FACESIZE * 2);
-    if (!hNew) {
+    own::GlobalMemory block(::GlobalAlloc(GPTR, cb + LF_FACESIZE * 2));
+    if (!block) {
         return FALSE;
     }
-    void* pNew = ::GlobalLock(hNew);
-    ::memcpy(pNew, pTemplate, cb);
-    ::GlobalUnlock(hNew);
-    if (m_hTemplate) {
-        ::GlobalFree(m_hTemplate);
-    }
-    m_hTemplate = hNew;
+    ::memcpy(::GlobalLock(block.Get()), pTemplate, cb);
+    ::GlobalUnlock(block.Get());
+    const own::GlobalMemory former(std::exchange(m_hTemplate, block.Release()));
     m_dwTemplateSize = cb;
     m_bSystemFont = FALSE;
     return TRUE;
@@ -210,11 +188,9 @@ BOOL CDialogTemplate::Load(LPCTSTR lpDialogTemplateID)
 
 HGLOBAL CDialogTemplate::Attach(HGLOBAL hGlobal)
 {
-    if (m_hTemplate && m_hTemplate != hGlobal) {
-        ::GlobalFree(m_hTemplate);
-    }
+    const own::GlobalMemory former(m_hTemplate != hGlobal ? m_hTemplate : nullptr);
     m_hTemplate = hGlobal;
-    const Locked locked(hGlobal);
+    const LockedTemplate locked(hGlobal);
     m_dwTemplateSize = locked.Get() ? static_cast<DWORD>(TemplateReader(locked.Get()).EndOfItems()) : 0;
     return m_hTemplate;
 }
@@ -234,8 +210,8 @@ BOOL CDialogTemplate::HasFont(const DLGTEMPLATE* pTemplate)
 
 BOOL CDialogTemplate::HasFont() const
 {
-    const Locked locked(m_hTemplate);
-    return HasFont(static_cast<const DLGTEMPLATE*>(locked.Get()));
+    const LockedTemplate locked(m_hTemplate);
+    return HasFont(locked.Get());
 }
 
 BOOL CDialogTemplate::GetFont(const DLGTEMPLATE* pTemplate, CString& strFaceName, WORD& nFontSize)
@@ -251,8 +227,8 @@ BOOL CDialogTemplate::GetFont(const DLGTEMPLATE* pTemplate, CString& strFaceName
 
 BOOL CDialogTemplate::GetFont(CString& strFaceName, WORD& nFontSize) const
 {
-    const Locked locked(m_hTemplate);
-    return GetFont(static_cast<const DLGTEMPLATE*>(locked.Get()), strFaceName, nFontSize);
+    const LockedTemplate locked(m_hTemplate);
+    return GetFont(locked.Get(), strFaceName, nFontSize);
 }
 
 BOOL CDialogTemplate::SetFont(LPCTSTR lpFaceName, WORD nFontSize)
@@ -262,8 +238,8 @@ BOOL CDialogTemplate::SetFont(LPCTSTR lpFaceName, WORD nFontSize)
     }
     std::vector<BYTE> bytes;
     {
-        const Locked locked(m_hTemplate);
-        const auto* pOld = static_cast<const BYTE*>(locked.Get());
+        const LockedTemplate locked(m_hTemplate);
+        const auto* pOld = reinterpret_cast<const BYTE*>(locked.Get());
         const TemplateReader reader(pOld);
         Append(bytes, pOld, reader.FontOffset());
         const std::vector<BYTE> font = FontPart(reader.IsExtended(), lpFaceName, nFontSize);
@@ -299,7 +275,7 @@ BOOL CDialogTemplate::SetSystemFont(WORD nFontSize)
 void CDialogTemplate::GetSizeInDialogUnits(SIZE* pSize) const
 {
     *pSize = {0, 0};
-    const Locked locked(m_hTemplate);
+    const LockedTemplate locked(m_hTemplate);
     if (locked.Get()) {
         *pSize = TemplateReader(locked.Get()).Units();
     }
@@ -308,7 +284,7 @@ void CDialogTemplate::GetSizeInDialogUnits(SIZE* pSize) const
 void CDialogTemplate::GetSizeInPixels(SIZE* pSize) const
 {
     *pSize = {0, 0};
-    const Locked locked(m_hTemplate);
+    const LockedTemplate locked(m_hTemplate);
     if (!locked.Get()) {
         return;
     }

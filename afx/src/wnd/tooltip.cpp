@@ -4,6 +4,8 @@
 
 #include <afxwin.h>
 
+#include <memory>
+
 namespace
 {
 const UINT kToolInfoSize = TTTOOLINFOW_V2_SIZE;
@@ -105,6 +107,8 @@ void CWnd::FilterToolTipMessage(MSG* pMsg)
     TOOLINFO info = {};
     info.cbSize = kToolInfoSize;
     const INT_PTR nHit = OnToolHitTest(point, &info);
+    const std::unique_ptr<TCHAR, decltype(&::free)> text(info.lpszText != LPSTR_TEXTCALLBACK ? info.lpszText : nullptr,
+                                                         &::free);
     AFX_MODULE_THREAD_STATE* pModule = AfxGetModuleThreadState();
     if (nHit != pModule->m_nLastHit || pModule->m_pLastHit != this) {
         ForgetTool();
@@ -117,9 +121,6 @@ void CWnd::FilterToolTipMessage(MSG* pMsg)
     }
     if (nHit != -1) {
         Relay(*pMsg, (info.uFlags & TTF_IDISHWND) ? reinterpret_cast<HWND>(info.uId) : m_hWnd);
-    }
-    if (info.lpszText != LPSTR_TEXTCALLBACK) {
-        ::free(info.lpszText);
     }
 }
 

@@ -1,6 +1,6 @@
-#include "resource.h"
-
+#include <tests/afx/resource.h>
 #include <tests/support/Support.h>
+#include <tests/support/ui/AfxHost.h>
 
 #include <afxwin.h>
 
@@ -26,6 +26,20 @@ CString TextAt(const CMenu& menu, UINT position)
     menu.GetMenuString(position, text, MF_BYPOSITION);
     return text;
 }
+
+class OwnMenu : public CMenu
+{
+  public:
+    void DrawItem(LPDRAWITEMSTRUCT item) override { drawn.push_back(item->itemID); }
+    void MeasureItem(LPMEASUREITEMSTRUCT item) override
+    {
+        measured.push_back(item->itemID);
+        item->itemWidth = 60;
+        item->itemHeight = 20;
+    }
+    std::vector<UINT> drawn;
+    std::vector<UINT> measured;
+};
 } // namespace
 
 TEST(Menu, DestructorDestroysTheMenu)
@@ -255,4 +269,28 @@ TEST(Menu, LeavesNoMenuBehind)
         Popup popup;
         bar.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(popup.Detach()), TEXT("y"));
     }));
+}
+
+TEST(OwnerDraw, MenuMeasuresAndDrawsItsItems)
+{
+    ts::AfxHost host;
+    OwnMenu menu;
+    menu.CreatePopupMenu();
+    menu.AppendMenu(MF_OWNERDRAW, 41, TEXT("data"));
+    ts::Settle();
+    host.SetTimer(1, 50, nullptr);
+    ts::MessageRecorder recorder(host);
+    recorder.RecordOnly({WM_TIMER});
+    recorder.Answer(WM_TIMER, [&](const ts::Message&) -> std::optional<LRESULT> {
+        if (!menu.drawn.empty()) {
+            ::EndMenu();
+        }
+        return 0;
+    });
+    menu.TrackPopupMenu(TPM_LEFTALIGN, 50, 50, &host);
+    host.KillTimer(1);
+    ASSERT_FALSE(menu.measured.empty());
+    EXPECT_EQ(menu.measured[0], 41u);
+    ASSERT_FALSE(menu.drawn.empty());
+    EXPECT_EQ(menu.drawn[0], 41u);
 }

@@ -1,4 +1,4 @@
-#include "Windows.h"
+#include <tests/afx/TestWindows.h>
 
 #include <algorithm>
 

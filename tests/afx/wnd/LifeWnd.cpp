@@ -1,0 +1,10 @@
+#include "LifeWnd.h"
+
+BEGIN_MESSAGE_MAP(LifeWnd, CWnd)
+    ON_WM_GETMINMAXINFO()
+    ON_WM_NCCREATE()
+    ON_WM_CREATE()
+    ON_WM_DESTROY()
+    ON_WM_NCDESTROY()
+    ON_MESSAGE(WM_USER, &LifeWnd::Value)
+END_MESSAGE_MAP()
