@@ -1,6 +1,6 @@
-#include "core/handleof.h"
 #include "create.h"
 #include "dragimage.h"
+#include "gdi/handles.h"
 #include "wnd/ask.h"
 
 #include <afxcmn.h>
@@ -136,7 +136,7 @@ CImageList* CHeaderCtrl::GetImageList() const
 
 CImageList* CHeaderCtrl::SetImageList(CImageList* pImageList)
 {
-    return CImageList::FromHandle(Ask<HIMAGELIST>(*this, HDM_SETIMAGELIST, 0, HandleOf(pImageList)));
+    return CImageList::FromHandle(Ask<HIMAGELIST>(*this, HDM_SETIMAGELIST, 0, gdi::HandleOf(pImageList)));
 }
 
 CImageList* CHeaderCtrl::CreateDragImage(int nIndex)

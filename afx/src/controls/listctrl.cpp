@@ -1,6 +1,6 @@
-#include "core/handleof.h"
 #include "create.h"
 #include "dragimage.h"
+#include "gdi/handles.h"
 #include "wnd/ask.h"
 
 #include <afxcmn.h>
@@ -101,7 +101,7 @@ DWORD CListCtrl::SetView(int iView)
 
 CImageList* CListCtrl::SetImageList(CImageList* pImageList, int nImageListType)
 {
-    return CImageList::FromHandle(Ask<HIMAGELIST>(*this, LVM_SETIMAGELIST, nImageListType, HandleOf(pImageList)));
+    return CImageList::FromHandle(Ask<HIMAGELIST>(*this, LVM_SETIMAGELIST, nImageListType, gdi::HandleOf(pImageList)));
 }
 
 CImageList* CListCtrl::GetImageList(int nImageListType) const
@@ -624,7 +624,7 @@ CToolTipCtrl* CListCtrl::GetToolTips() const
 
 CToolTipCtrl* CListCtrl::SetToolTips(CToolTipCtrl* pWndTip)
 {
-    return WrapperOf<CToolTipCtrl>(Ask<HWND>(*this, LVM_SETTOOLTIPS, HandleOf(pWndTip)));
+    return WrapperOf<CToolTipCtrl>(Ask<HWND>(*this, LVM_SETTOOLTIPS, gdi::WindowOf(pWndTip)));
 }
 
 LRESULT CListCtrl::EnableGroupView(BOOL fEnable)

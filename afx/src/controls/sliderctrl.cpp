@@ -1,5 +1,5 @@
-#include "core/handleof.h"
 #include "create.h"
+#include "gdi/handles.h"
 #include "wnd/ask.h"
 
 #include <afxcmn.h>
@@ -161,7 +161,7 @@ void CSliderCtrl::VerifyPos()
 
 CWnd* CSliderCtrl::SetBuddy(CWnd* pWndBuddy, BOOL fLocation)
 {
-    return CWnd::FromHandle(Ask<HWND>(*this, TBM_SETBUDDY, fLocation, HandleOf(pWndBuddy)));
+    return CWnd::FromHandle(Ask<HWND>(*this, TBM_SETBUDDY, fLocation, gdi::WindowOf(pWndBuddy)));
 }
 
 CWnd* CSliderCtrl::GetBuddy(BOOL fLocation) const
@@ -176,7 +176,7 @@ CToolTipCtrl* CSliderCtrl::GetToolTips() const
 
 void CSliderCtrl::SetToolTips(CToolTipCtrl* pWndTip)
 {
-    Ask(*this, TBM_SETTOOLTIPS, HandleOf(pWndTip));
+    Ask(*this, TBM_SETTOOLTIPS, gdi::WindowOf(pWndTip));
 }
 
 int CSliderCtrl::SetTipSide(int nLocation)

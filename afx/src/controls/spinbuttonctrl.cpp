@@ -1,5 +1,5 @@
-#include "core/handleof.h"
 #include "create.h"
+#include "gdi/handles.h"
 #include "wnd/ask.h"
 
 #include <afxcmn.h>
@@ -39,7 +39,7 @@ UINT CSpinButtonCtrl::GetBase() const
 
 CWnd* CSpinButtonCtrl::SetBuddy(CWnd* pWndBuddy)
 {
-    return CWnd::FromHandle(Ask<HWND>(*this, UDM_SETBUDDY, HandleOf(pWndBuddy)));
+    return CWnd::FromHandle(Ask<HWND>(*this, UDM_SETBUDDY, gdi::WindowOf(pWndBuddy)));
 }
 
 CWnd* CSpinButtonCtrl::GetBuddy() const

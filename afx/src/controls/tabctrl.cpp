@@ -1,5 +1,5 @@
-#include "core/handleof.h"
 #include "create.h"
+#include "gdi/handles.h"
 #include "wnd/ask.h"
 
 #include <afxcmn.h>
@@ -24,7 +24,7 @@ CImageList* CTabCtrl::GetImageList() const
 
 CImageList* CTabCtrl::SetImageList(CImageList* pImageList)
 {
-    return CImageList::FromHandle(Ask<HIMAGELIST>(*this, TCM_SETIMAGELIST, 0, HandleOf(pImageList)));
+    return CImageList::FromHandle(Ask<HIMAGELIST>(*this, TCM_SETIMAGELIST, 0, gdi::HandleOf(pImageList)));
 }
 
 void CTabCtrl::RemoveImage(int nImage)
@@ -191,7 +191,7 @@ CToolTipCtrl* CTabCtrl::GetToolTips() const
 
 void CTabCtrl::SetToolTips(CToolTipCtrl* pWndTip)
 {
-    Ask(*this, TCM_SETTOOLTIPS, HandleOf(pWndTip));
+    Ask(*this, TCM_SETTOOLTIPS, gdi::WindowOf(pWndTip));
 }
 
 void CTabCtrl::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)

@@ -1,6 +1,6 @@
-#include "core/handleof.h"
 #include "create.h"
 #include "dragimage.h"
+#include "gdi/handles.h"
 #include "wnd/ask.h"
 
 #include <afxcmn.h>
@@ -57,7 +57,7 @@ CImageList* CTreeCtrl::GetImageList(UINT nImageList) const
 
 CImageList* CTreeCtrl::SetImageList(CImageList* pImageList, int nImageListType)
 {
-    return CImageList::FromHandle(Ask<HIMAGELIST>(*this, TVM_SETIMAGELIST, nImageListType, HandleOf(pImageList)));
+    return CImageList::FromHandle(Ask<HIMAGELIST>(*this, TVM_SETIMAGELIST, nImageListType, gdi::HandleOf(pImageList)));
 }
 
 COLORREF CTreeCtrl::GetBkColor() const
@@ -441,7 +441,7 @@ CToolTipCtrl* CTreeCtrl::GetToolTips() const
 
 CToolTipCtrl* CTreeCtrl::SetToolTips(CToolTipCtrl* pWndTip)
 {
-    return WrapperOf<CToolTipCtrl>(Ask<HWND>(*this, TVM_SETTOOLTIPS, HandleOf(pWndTip)));
+    return WrapperOf<CToolTipCtrl>(Ask<HWND>(*this, TVM_SETTOOLTIPS, gdi::WindowOf(pWndTip)));
 }
 
 CImageList* CTreeCtrl::CreateDragImage(HTREEITEM hItem)

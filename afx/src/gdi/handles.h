@@ -4,6 +4,7 @@
 
 #include <afx/gdi.h>
 #include <afx/imagelist.h>
+#include <afx/menu.h>
 #include <afx/wnd.h>
 
 namespace gdi
@@ -37,6 +38,11 @@ inline HBRUSH BrushOf(const CBrush* pBrush)
 inline HBITMAP BitmapOf(const CBitmap* pBitmap)
 {
     return static_cast<HBITMAP>(HandleOf(pBitmap));
+}
+
+inline HMENU MenuOf(const CMenu* pMenu)
+{
+    return pMenu ? pMenu->m_hMenu : nullptr;
 }
 
 inline HWND WindowOf(const CWnd* pWnd)

@@ -1,5 +1,5 @@
 #include "ask.h"
-#include "core/handleof.h"
+#include "gdi/handles.h"
 
 #include <afxwin.h>
 
@@ -120,7 +120,7 @@ int CWnd::GetWindowTextLength() const
 
 void CWnd::SetFont(CFont* pFont, BOOL bRedraw)
 {
-    Ask(*this, WM_SETFONT, HandleOf(pFont), bRedraw);
+    Ask(*this, WM_SETFONT, gdi::HandleOf(pFont), bRedraw);
 }
 
 CFont* CWnd::GetFont() const
@@ -135,7 +135,7 @@ CMenu* CWnd::GetMenu() const
 
 BOOL CWnd::SetMenu(CMenu* pMenu)
 {
-    return ::SetMenu(m_hWnd, HandleOf(pMenu));
+    return ::SetMenu(m_hWnd, gdi::MenuOf(pMenu));
 }
 
 void CWnd::DrawMenuBar()
@@ -150,7 +150,7 @@ CMenu* CWnd::GetSystemMenu(BOOL bRevert) const
 
 BOOL CWnd::HiliteMenuItem(CMenu* pMenu, UINT nIDHiliteItem, UINT nHilite)
 {
-    return ::HiliteMenuItem(m_hWnd, HandleOf(pMenu), nIDHiliteItem, nHilite);
+    return ::HiliteMenuItem(m_hWnd, gdi::MenuOf(pMenu), nIDHiliteItem, nHilite);
 }
 
 HICON CWnd::SetIcon(HICON hIcon, BOOL bBigIcon)

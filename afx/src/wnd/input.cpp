@@ -1,5 +1,5 @@
 #include "ask.h"
-#include "core/handleof.h"
+#include "gdi/handles.h"
 
 #include <afxwin.h>
 
@@ -103,7 +103,7 @@ BOOL CWnd::ChangeClipboardChain(HWND hWndNext)
 
 void CWnd::CreateCaret(CBitmap* pBitmap)
 {
-    ::CreateCaret(m_hWnd, HandleOf(pBitmap), 0, 0);
+    ::CreateCaret(m_hWnd, gdi::BitmapOf(pBitmap), 0, 0);
 }
 
 void CWnd::CreateSolidCaret(int nWidth, int nHeight)

@@ -1,6 +1,6 @@
 #include "core/adopt.h"
-#include "core/handleof.h"
 #include "gdi/handlemaps.h"
+#include "gdi/handles.h"
 
 #include <afxwin.h>
 
@@ -100,12 +100,12 @@ HMENU CMenu::Detach()
 
 BOOL CMenu::TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pWnd, LPCRECT lpRect)
 {
-    return ::TrackPopupMenu(m_hMenu, nFlags, x, y, 0, HandleOf(pWnd), lpRect);
+    return ::TrackPopupMenu(m_hMenu, nFlags, x, y, 0, gdi::WindowOf(pWnd), lpRect);
 }
 
 BOOL CMenu::TrackPopupMenuEx(UINT fuFlags, int x, int y, CWnd* pWnd, LPTPMPARAMS lptpm)
 {
-    return ::TrackPopupMenuEx(m_hMenu, fuFlags, x, y, HandleOf(pWnd), lptpm);
+    return ::TrackPopupMenuEx(m_hMenu, fuFlags, x, y, gdi::WindowOf(pWnd), lptpm);
 }
 
 BOOL CMenu::GetMenuInfo(LPMENUINFO lpcmi) const
@@ -135,7 +135,7 @@ BOOL CMenu::AppendMenu(UINT nFlags, UINT_PTR nIDNewItem, LPCTSTR lpszNewItem)
 
 BOOL CMenu::AppendMenu(UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp)
 {
-    return ::AppendMenu(m_hMenu, nFlags | MF_BITMAP, nIDNewItem, reinterpret_cast<LPCTSTR>(HandleOf(pBmp)));
+    return ::AppendMenu(m_hMenu, nFlags | MF_BITMAP, nIDNewItem, reinterpret_cast<LPCTSTR>(gdi::BitmapOf(pBmp)));
 }
 
 BOOL CMenu::InsertMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, LPCTSTR lpszNewItem)
@@ -145,7 +145,8 @@ BOOL CMenu::InsertMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, LPCTSTR
 
 BOOL CMenu::InsertMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp)
 {
-    return ::InsertMenu(m_hMenu, nPosition, nFlags | MF_BITMAP, nIDNewItem, reinterpret_cast<LPCTSTR>(HandleOf(pBmp)));
+    return ::InsertMenu(m_hMenu, nPosition, nFlags | MF_BITMAP, nIDNewItem,
+                        reinterpret_cast<LPCTSTR>(gdi::BitmapOf(pBmp)));
 }
 
 BOOL CMenu::InsertMenuItem(UINT uItem, LPMENUITEMINFO lpMenuItemInfo, BOOL fByPos)
@@ -160,7 +161,8 @@ BOOL CMenu::ModifyMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, LPCTSTR
 
 BOOL CMenu::ModifyMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp)
 {
-    return ::ModifyMenu(m_hMenu, nPosition, nFlags | MF_BITMAP, nIDNewItem, reinterpret_cast<LPCTSTR>(HandleOf(pBmp)));
+    return ::ModifyMenu(m_hMenu, nPosition, nFlags | MF_BITMAP, nIDNewItem,
+                        reinterpret_cast<LPCTSTR>(gdi::BitmapOf(pBmp)));
 }
 
 BOOL CMenu::DeleteMenu(UINT nPosition, UINT nFlags)
@@ -200,7 +202,7 @@ UINT CMenu::GetDefaultItem(UINT gmdiFlags, BOOL fByPos)
 
 BOOL CMenu::SetMenuItemBitmaps(UINT nPosition, UINT nFlags, const CBitmap* pBmpUnchecked, const CBitmap* pBmpChecked)
 {
-    return ::SetMenuItemBitmaps(m_hMenu, nPosition, nFlags, HandleOf(pBmpUnchecked), HandleOf(pBmpChecked));
+    return ::SetMenuItemBitmaps(m_hMenu, nPosition, nFlags, gdi::BitmapOf(pBmpUnchecked), gdi::BitmapOf(pBmpChecked));
 }
 
 UINT CMenu::GetMenuItemCount() const

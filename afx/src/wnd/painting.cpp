@@ -1,5 +1,5 @@
 #include "ask.h"
-#include "core/handleof.h"
+#include "gdi/handles.h"
 
 #include <afxwin.h>
 
@@ -25,27 +25,27 @@ CDC* CWnd::GetWindowDC()
 
 CDC* CWnd::GetDCEx(CRgn* prgnClip, DWORD flags)
 {
-    return CDC::FromHandle(::GetDCEx(m_hWnd, HandleOf(prgnClip), flags));
+    return CDC::FromHandle(::GetDCEx(m_hWnd, gdi::RegionOf(prgnClip), flags));
 }
 
 int CWnd::ReleaseDC(CDC* pDC)
 {
-    return ::ReleaseDC(m_hWnd, HandleOf(pDC));
+    return ::ReleaseDC(m_hWnd, gdi::HandleOf(pDC));
 }
 
 void CWnd::Print(CDC* pDC, DWORD dwFlags) const
 {
-    Ask(*this, WM_PRINT, HandleOf(pDC), dwFlags);
+    Ask(*this, WM_PRINT, gdi::HandleOf(pDC), dwFlags);
 }
 
 void CWnd::PrintClient(CDC* pDC, DWORD dwFlags) const
 {
-    Ask(*this, WM_PRINTCLIENT, HandleOf(pDC), dwFlags);
+    Ask(*this, WM_PRINTCLIENT, gdi::HandleOf(pDC), dwFlags);
 }
 
 BOOL CWnd::PrintWindow(CDC* pDC, UINT nFlags) const
 {
-    return ::PrintWindow(m_hWnd, HandleOf(pDC), nFlags);
+    return ::PrintWindow(m_hWnd, gdi::HandleOf(pDC), nFlags);
 }
 
 void CWnd::UpdateWindow()
@@ -65,7 +65,7 @@ BOOL CWnd::GetUpdateRect(LPRECT lpRect, BOOL bErase)
 
 int CWnd::GetUpdateRgn(CRgn* pRgn, BOOL bErase)
 {
-    return ::GetUpdateRgn(m_hWnd, HandleOf(pRgn), bErase);
+    return ::GetUpdateRgn(m_hWnd, gdi::RegionOf(pRgn), bErase);
 }
 
 void CWnd::Invalidate(BOOL bErase)
@@ -85,7 +85,7 @@ void CWnd::InvalidateRect(LPCRECT lpRect, BOOL bErase)
 void CWnd::InvalidateRgn(CRgn* pRgn, BOOL bErase)
 {
     if (m_hWnd) {
-        ::InvalidateRgn(m_hWnd, HandleOf(pRgn), bErase);
+        ::InvalidateRgn(m_hWnd, gdi::RegionOf(pRgn), bErase);
     }
 }
 
@@ -99,7 +99,7 @@ void CWnd::ValidateRect(LPCRECT lpRect)
 void CWnd::ValidateRgn(CRgn* pRgn)
 {
     if (m_hWnd) {
-        ::ValidateRgn(m_hWnd, HandleOf(pRgn));
+        ::ValidateRgn(m_hWnd, gdi::RegionOf(pRgn));
     }
 }
 
@@ -130,7 +130,7 @@ void CWnd::UnlockWindowUpdate()
 
 BOOL CWnd::RedrawWindow(LPCRECT lpRectUpdate, CRgn* prgnUpdate, UINT flags)
 {
-    return m_hWnd ? ::RedrawWindow(m_hWnd, lpRectUpdate, HandleOf(prgnUpdate), flags) : FALSE;
+    return m_hWnd ? ::RedrawWindow(m_hWnd, lpRectUpdate, gdi::RegionOf(prgnUpdate), flags) : FALSE;
 }
 
 BOOL CWnd::DrawAnimatedRects(int idAni, CONST RECT* lprcFrom, CONST RECT* lprcTo)
@@ -140,7 +140,7 @@ BOOL CWnd::DrawAnimatedRects(int idAni, CONST RECT* lprcFrom, CONST RECT* lprcTo
 
 BOOL CWnd::DrawCaption(CDC* pDC, LPCRECT lprc, UINT uFlags)
 {
-    return ::DrawCaption(m_hWnd, HandleOf(pDC), lprc, uFlags);
+    return ::DrawCaption(m_hWnd, gdi::HandleOf(pDC), lprc, uFlags);
 }
 
 BOOL CWnd::AnimateWindow(DWORD dwTime, DWORD dwFlags)
@@ -167,8 +167,8 @@ BOOL CWnd::SetLayeredWindowAttributes(COLORREF crKey, BYTE bAlpha, DWORD dwFlags
 BOOL CWnd::UpdateLayeredWindow(CDC* pDCDst, POINT* pptDst, SIZE* psize, CDC* pDCSrc, POINT* pptSrc, COLORREF crKey,
                                BLENDFUNCTION* pblend, DWORD dwFlags)
 {
-    return ::UpdateLayeredWindow(m_hWnd, HandleOf(pDCDst), pptDst, psize, HandleOf(pDCSrc), pptSrc, crKey, pblend,
-                                 dwFlags);
+    return ::UpdateLayeredWindow(m_hWnd, gdi::HandleOf(pDCDst), pptDst, psize, gdi::HandleOf(pDCSrc), pptSrc, crKey,
+                                 pblend, dwFlags);
 }
 
 BOOL CWnd::GetLayeredWindowAttributes(COLORREF* pcrKey, BYTE* pbAlpha, DWORD* pdwFlags) const

@@ -1,5 +1,5 @@
-#include "core/handleof.h"
 #include "family.h"
+#include "gdi/handles.h"
 
 #include <afxwin.h>
 
@@ -86,7 +86,7 @@ int CWnd::GetWindowRgn(HRGN hRgn) const
 
 BOOL CWnd::SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags)
 {
-    return ::SetWindowPos(m_hWnd, HandleOf(pWndInsertAfter), x, y, cx, cy, nFlags);
+    return ::SetWindowPos(m_hWnd, gdi::WindowOf(pWndInsertAfter), x, y, cx, cy, nFlags);
 }
 
 UINT CWnd::ArrangeIconicWindows()
@@ -153,12 +153,12 @@ void CWnd::ScreenToClient(LPRECT lpRect) const
 
 void CWnd::MapWindowPoints(CWnd* pwndTo, LPPOINT lpPoint, UINT nCount) const
 {
-    ::MapWindowPoints(m_hWnd, HandleOf(pwndTo), lpPoint, nCount);
+    ::MapWindowPoints(m_hWnd, gdi::WindowOf(pwndTo), lpPoint, nCount);
 }
 
 void CWnd::MapWindowPoints(CWnd* pwndTo, LPRECT lpRect) const
 {
-    ::MapWindowPoints(m_hWnd, HandleOf(pwndTo), reinterpret_cast<LPPOINT>(lpRect), 2);
+    ::MapWindowPoints(m_hWnd, gdi::WindowOf(pwndTo), reinterpret_cast<LPPOINT>(lpRect), 2);
 }
 
 void CWnd::CenterWindow(CWnd* pAlternateOwner)

@@ -1,4 +1,4 @@
-#include "core/handleof.h"
+#include "gdi/handles.h"
 
 #include <afxwin.h>
 
@@ -30,7 +30,7 @@ void CWnd::ScrollWindow(int xAmount, int yAmount, LPCRECT lpRect, LPCRECT lpClip
 int CWnd::ScrollWindowEx(int dx, int dy, LPCRECT lpRectScroll, LPCRECT lpRectClip, CRgn* prgnUpdate,
                          LPRECT lpRectUpdate, UINT flags)
 {
-    return ::ScrollWindowEx(m_hWnd, dx, dy, lpRectScroll, lpRectClip, HandleOf(prgnUpdate), lpRectUpdate, flags);
+    return ::ScrollWindowEx(m_hWnd, dx, dy, lpRectScroll, lpRectClip, gdi::RegionOf(prgnUpdate), lpRectUpdate, flags);
 }
 
 int CWnd::SetScrollPos(int nBar, int nPos, BOOL bRedraw)
