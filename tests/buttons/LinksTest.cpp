@@ -4,6 +4,7 @@
 #include <QorUI/buttons/Links.h>
 #include <tests/support/Imports.h>
 #include <tests/support/Refusals.h>
+#include <tests/support/ShellOpenings.h>
 #include <tests/support/ui/Control.h>
 #include <tests/support/ui/Drawn.h>
 
@@ -46,23 +47,6 @@ class Links : public testing::Test
 
     ts::AfxHost m_host{300, 160, WS_OVERLAPPEDWINDOW | WS_VISIBLE, kBack};
 };
-
-/** What the shell was asked to open last, and what it answers. */
-struct Opened
-{
-    HWND owner;
-    std::wstring verb, file;
-    bool extras;
-    INT show;
-};
-std::vector<Opened> g_opened;
-INT_PTR g_openAnswer = 0;
-
-HINSTANCE WINAPI TakeOpening(HWND owner, LPCWSTR verb, LPCWSTR file, LPCWSTR parameters, LPCWSTR folder, INT show)
-{
-    g_opened.push_back({owner, verb, file, parameters || folder, show});
-    return reinterpret_cast<HINSTANCE>(g_openAnswer);
-}
 
 HCURSOR WINAPI NoCursor(HINSTANCE, LPCWSTR)
 {
@@ -116,8 +100,6 @@ class QorLink : public Links
         ::UpdateWindow(m_link);
         return log.Has(ts::Msg(WM_PAINT)) && log.Has(ts::Msg(WM_ERASEBKGND));
     }
-
-    void TearDown() override { g_opened.clear(); }
 
     /** Text that the tooltip shows. */
     std::wstring Tip()
@@ -545,9 +527,8 @@ TEST_F(SmoothLink, NewColoursLeaveNoTraceOfTheFormerOnes)
 
 TEST_F(SmoothLink, VisitedTextLeavesNoTraceOfTheUnvisitedOne)
 {
-    const ts::ReplacedFunction opening(L"shell32.dll", "ShellExecuteW", &TakeOpening);
-    g_openAnswer = 33;
-    m_host.SendMessage(WM_COMMAND, MAKEWPARAM(15, STN_CLICKED), reinterpret_cast<LPARAM>(m_link.m_hWnd));
+    ts::ShellOpenings openings;
+    m_host.SendMessage(WM_COMMAND, MAKEWPARAM(ts::kControlId, STN_CLICKED), reinterpret_cast<LPARAM>(m_link.m_hWnd));
     EXPECT_TRUE(ts::SamePicture(Expected(kVisited), Shown()));
 }
 
@@ -739,29 +720,28 @@ TEST_F(QorLink, VisitedLinkHoversToo)
 
 TEST_F(QorLink, ClickAsksTheShellToOpenTheUrl)
 {
-    const ts::ReplacedFunction opening(L"shell32.dll", "ShellExecuteW", &TakeOpening);
-    g_openAnswer = 33;
+    ts::ShellOpenings openings;
     Take(SS_LEFT, L"http://example.org");
     ts::Click(m_link);
-    ASSERT_EQ(1u, g_opened.size());
-    EXPECT_EQ(nullptr, g_opened[0].owner);
-    EXPECT_EQ(L"open", g_opened[0].verb);
-    EXPECT_EQ(L"http://example.org", g_opened[0].file);
-    EXPECT_FALSE(g_opened[0].extras);
-    EXPECT_EQ(SW_SHOW, g_opened[0].show);
+    ASSERT_EQ(1u, openings.Taken().size());
+    EXPECT_EQ(nullptr, openings.Taken()[0].owner);
+    EXPECT_EQ(L"open", openings.Taken()[0].verb);
+    EXPECT_EQ(L"http://example.org", openings.Taken()[0].file);
+    EXPECT_FALSE(openings.Taken()[0].extras);
+    EXPECT_EQ(SW_SHOW, openings.Taken()[0].show);
 }
 
 TEST_F(QorLink, OpeningCountsFromThirtyThreeOn)
 {
-    const ts::ReplacedFunction opening(L"shell32.dll", "ShellExecuteW", &TakeOpening);
+    ts::ShellOpenings openings;
     Take();
     const auto click = [this] {
-        m_host.SendMessage(WM_COMMAND, MAKEWPARAM(15, STN_CLICKED), reinterpret_cast<LPARAM>(m_link.m_hWnd));
+        m_host.SendMessage(WM_COMMAND, MAKEWPARAM(ts::kControlId, STN_CLICKED),
+                           reinterpret_cast<LPARAM>(m_link.m_hWnd));
     };
-    g_openAnswer = 33;
     EXPECT_TRUE(Repaints(click));
     EXPECT_TRUE(Shows(kVisited));
-    g_openAnswer = 32;
+    openings.Answer(ts::ShellOpenings::kLeastSuccess - 1);
     EXPECT_FALSE(Repaints(click));
     m_link.RedrawWindow();
     EXPECT_TRUE(Shows(kLink));

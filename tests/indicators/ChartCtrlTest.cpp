@@ -1,7 +1,9 @@
 #include <QorUI/app/draw/GdiPlusFlat.h>
-#include <tests/lists/Lists.h>
+#include <QorUI/QorUI.h>
 #include <tests/support/FaultCounter.h>
 #include <tests/support/Imports.h>
+#include <tests/support/Support.h>
+#include <tests/support/ui/AfxHost.h>
 #include <tests/support/ui/Control.h>
 #include <tests/support/ui/Look.h>
 

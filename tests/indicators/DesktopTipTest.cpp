@@ -1,7 +1,9 @@
 #include <QorPub/System.h>
-#include <tests/lists/Lists.h>
+#include <QorUI/QorUI.h>
 #include <tests/support/NoWindowClasses.h>
 #include <tests/support/Refusals.h>
+#include <tests/support/Support.h>
+#include <tests/support/ui/AfxHost.h>
 #include <tests/support/ui/Control.h>
 #include <tests/support/ui/Look.h>
 

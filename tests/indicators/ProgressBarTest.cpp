@@ -1,8 +1,13 @@
+#include "TextPart.h"
+
+#include <QorUI/app/look/SysLook.h>
+#include <QorUI/QorUI.h>
 #include <QorUI/res/resource.h>
-#include <tests/lists/Lists.h>
 #include <tests/support/OtherColours.h>
 #include <tests/support/Refusals.h>
 #include <tests/support/Resources.h>
+#include <tests/support/Support.h>
+#include <tests/support/ui/AfxHost.h>
 #include <tests/support/ui/Control.h>
 #include <tests/support/ui/Drawn.h>
 #include <tests/support/ui/Look.h>

@@ -1,5 +1,10 @@
-#include <tests/lists/Lists.h>
+#include "TextPart.h"
+
+#include <QorUI/app/look/SysLook.h>
+#include <QorUI/QorUI.h>
 #include <tests/support/OtherColours.h>
+#include <tests/support/Support.h>
+#include <tests/support/ui/AfxHost.h>
 #include <tests/support/ui/Control.h>
 #include <tests/support/ui/Look.h>
 

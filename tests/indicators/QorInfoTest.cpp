@@ -1,4 +1,6 @@
-#include <tests/lists/Lists.h>
+#include <QorUI/QorUI.h>
+#include <tests/support/Support.h>
+#include <tests/support/ui/AfxHost.h>
 #include <tests/support/ui/Control.h>
 #include <tests/support/ui/Look.h>
 

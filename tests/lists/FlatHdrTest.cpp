@@ -1,6 +1,7 @@
-#include "Lists.h"
-
+#include <QorUI/QorUI.h>
 #include <tests/support/Refusals.h>
+#include <tests/support/Support.h>
+#include <tests/support/ui/AfxHost.h>
 #include <tests/support/ui/Control.h>
 #include <tests/support/ui/Look.h>
 

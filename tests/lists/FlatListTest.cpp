@@ -1,8 +1,10 @@
-#include "Lists.h"
-
+#include <QorUI/app/look/SysLook.h>
+#include <QorUI/QorUI.h>
 #include <tests/support/FaultCounter.h>
 #include <tests/support/OtherColours.h>
 #include <tests/support/Refusals.h>
+#include <tests/support/Support.h>
+#include <tests/support/ui/AfxHost.h>
 #include <tests/support/ui/Control.h>
 #include <tests/support/ui/Look.h>
 

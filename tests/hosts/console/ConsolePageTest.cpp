@@ -59,7 +59,8 @@ class EveryPage : public Pages, public testing::WithParamInterface<const wchar_t
         std::vector<std::string> names;
         names.reserve(controls.size());
         for (const HWND control : controls) {
-            names.push_back(std::to_string(::GetDlgCtrlID(control)) + " " + ts::ToUtf8(TextOf(control).GetString()));
+            names.push_back(std::to_string(::GetDlgCtrlID(control)) + " " +
+                            ts::ToUtf8(ts::TextOf(control).GetString()));
         }
         return names;
     }

@@ -5,6 +5,7 @@
 #include <hosts/console/PageRegistry.h>
 #include <QorApi/QorApi.h>
 #include <tests/support/Support.h>
+#include <tests/support/ui/Control.h>
 
 #include <gtest/gtest.h>
 
@@ -89,14 +90,7 @@ class Pages : public testing::Test
         ts::Type(text);
     }
 
-    static CString TextOf(HWND window)
-    {
-        CString text;
-        CWnd::FromHandle(window)->GetWindowText(text);
-        return text;
-    }
-
-    CString Text(UINT id) { return TextOf(Control(id)); }
+    CString Text(UINT id) { return ts::TextOf(Control(id)); }
 
     ts::TempFolder m_folder;
     ts::EnvironmentVariable m_store{L"QOR_STORE", m_folder.File(L"store.db").c_str()};

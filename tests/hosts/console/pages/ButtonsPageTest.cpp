@@ -60,7 +60,7 @@ TEST_F(ButtonsPage, ArrowKeysChooseAmongTheRadioButtons)
             EXPECT_EQ(other == id, IsChecked(other)) << id << ' ' << other;
         }
     }
-    EXPECT_STREQ(L"Choice 1", TextOf(::GetFocus()));
+    EXPECT_STREQ(L"Choice 1", ts::TextOf(::GetFocus()));
     ts::Key(VK_UP);
     EXPECT_TRUE(IsChecked(kLiveRadioLast));
 }

@@ -16,7 +16,7 @@ class LayoutPage : public Pages
         Show(L"layout");
     }
 
-    static CString StatusOf(HWND dialog) { return TextOf(::GetDlgItem(dialog, IDC_LAYOUT_STATUS)); }
+    static CString StatusOf(HWND dialog) { return ts::TextOf(::GetDlgItem(dialog, IDC_LAYOUT_STATUS)); }
 };
 
 TEST_F(LayoutPage, DialogOpensAndClosesByKeyboard)

@@ -1,6 +1,6 @@
 #include <hosts/console/ControlIds.h>
 #include <tests/hosts/console/PagesFixture.h>
-#include <tests/support/Imports.h>
+#include <tests/support/ShellOpenings.h>
 
 #include <string>
 #include <vector>
@@ -10,21 +10,12 @@ namespace
 
 using namespace ids::links;
 
-std::vector<std::wstring> g_opened;
-
-HINSTANCE WINAPI TakeOpening(HWND, LPCWSTR, LPCWSTR file, LPCWSTR, LPCWSTR, INT)
-{
-    g_opened.emplace_back(file);
-    return reinterpret_cast<HINSTANCE>(33);
-}
-
 class LinksPage : public Pages
 {
   protected:
     void SetUp() override
     {
         Pages::SetUp();
-        g_opened.clear();
         Show(L"links");
     }
 
@@ -44,12 +35,12 @@ class LinksPage : public Pages
 
 TEST_F(LinksPage, AddressIsTypedAndOpened)
 {
-    const ts::ReplacedFunction opening(L"shell32.dll", "ShellExecuteW", &TakeOpening);
+    const ts::ShellOpenings openings;
     TypeInto(kAddress, L"http://other.example");
     Press(kOpen, VK_SPACE);
     Press(kSet, VK_RETURN);
     Press(kOpen, VK_RETURN);
-    EXPECT_EQ((std::vector<std::wstring>{L"http://www.example.org/help", L"http://other.example"}), g_opened);
+    EXPECT_EQ((std::vector<std::wstring>{L"http://www.example.org/help", L"http://other.example"}), openings.Files());
 }
 
 TEST_F(LinksPage, ChoicesChangeTheLink)

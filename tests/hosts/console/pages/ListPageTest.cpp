@@ -153,13 +153,13 @@ TEST_F(ListPage, RowsAreRemovedAndFilledByKeyboard)
     ASSERT_TRUE(TabTo(kRemove));
     ts::Key(VK_RETURN);
     EXPECT_EQ(0, List().GetItemCount());
-    EXPECT_STREQ(L"Rows: 0", TextOf(Control(kState)));
+    EXPECT_STREQ(L"Rows: 0", ts::TextOf(Control(kState)));
     const ts::Picture empty = ts::CaptureWindow(List());
     EXPECT_GT(empty.Crop(CRect(0, 30, empty.Width(), 60)).Count(RGB(255, 255, 255)), 0); // the text for it
     ASSERT_TRUE(TabTo(kFill));
     ts::Key(VK_RETURN);
     EXPECT_EQ(kRows, List().GetItemCount());
-    EXPECT_STREQ(L"Rows: 100000", TextOf(Control(kState)));
+    EXPECT_STREQ(L"Rows: 100000", ts::TextOf(Control(kState)));
 }
 
 TEST_F(ListPage, FillingKeepsTheOrder)

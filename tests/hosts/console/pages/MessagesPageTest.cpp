@@ -25,7 +25,7 @@ class MessagesPage : public Pages
         CString text;
         for (const WORD key : keys) {
             driver.InDialog([&text, key](HWND box) {
-                text = TextOf(::GetDlgItem(box, IDC_BOX_TEXT));
+                text = ts::TextOf(::GetDlgItem(box, IDC_BOX_TEXT));
                 ts::Key(key);
             });
         }

@@ -1,11 +1,6 @@
 #pragma once
 
-#include <QorUI/app/look/SysLook.h>
-#include <QorUI/QorUI.h>
-#include <tests/support/Support.h>
-#include <tests/support/ui/AfxHost.h>
-
-/** @file What the tests of lists and indicators share. */
+#include <afxwin.h>
 
 /** Draws a part of a line of text that is centred in an area, as in a progress bar. */
 inline void DrawTextPart(HDC dc, const CRect& part, CRect area, const wchar_t* text, COLORREF colour)
