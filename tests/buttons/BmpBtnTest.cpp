@@ -202,7 +202,7 @@ ts::Picture ExpectedCaption(const wchar_t* text, COLORREF colour, CRect rect = C
         if (!face.IsRectEmpty()) {
             dc.FillSolidRect(&face, kRed);
         }
-        const HGDIOBJ old = ::SelectObject(dc, ::GetStockObject(DEFAULT_GUI_FONT));
+        const HGDIOBJ old = ::SelectObject(dc, ts::GuiFont());
         ::SetTextColor(dc, colour);
         ::SetBkMode(dc, TRANSPARENT);
         ::DrawTextW(dc, text, -1, &rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE);

@@ -2,6 +2,7 @@
 
 #include <QorUI/buttons/CheckRadio.h>
 #include <tests/support/Resources.h>
+#include <tests/support/ui/Control.h>
 #include <tests/support/ui/Drawn.h>
 #include <tests/support/ui/Look.h>
 
@@ -111,7 +112,7 @@ ts::Picture ExpectedLook(const ts::Picture& glyph, COLORREF colour, bool focus =
     const ts::Picture text = ts::DrawTo(
         120, 30,
         [&](HDC dc) {
-            const HGDIOBJ old = ::SelectObject(dc, ::GetStockObject(DEFAULT_GUI_FONT));
+            const HGDIOBJ old = ::SelectObject(dc, ts::GuiFont());
             ::SetTextColor(dc, colour);
             ::SetBkMode(dc, TRANSPARENT);
             RECT rect = {19, 2, 118, 28};

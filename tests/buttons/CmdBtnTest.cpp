@@ -32,7 +32,7 @@ class CmdBtn : public testing::Test
     {
         ASSERT_TRUE(m_button.Create(IDI_SQUARE, L"What it does", CRect(20, 10, 220, 70), &m_host, ts::kControlId));
         m_button.SetWindowText(L"Title");
-        m_button.SetFont(CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT))), FALSE);
+        m_button.SetFont(CFont::FromHandle(static_cast<HFONT>(ts::GuiFont())), FALSE);
     }
 
     /** What the button draws with a brush, the dialog font and a transparent background in the device context. */
@@ -49,7 +49,7 @@ class CmdBtn : public testing::Test
         return ts::Drawn(kWidth, kHeight, [&](CDC& dc) {
             CBrush brush(kBrush);
             const HGDIOBJ oldBrush = ::SelectObject(dc, brush);
-            const HGDIOBJ oldFont = ::SelectObject(dc, ::GetStockObject(DEFAULT_GUI_FONT));
+            const HGDIOBJ oldFont = ::SelectObject(dc, ts::GuiFont());
             ::SetBkMode(dc, TRANSPARENT);
             draw(dc);
             ::SelectObject(dc, oldFont);
@@ -305,7 +305,7 @@ CRect FocusPlace()
 {
     RECT title = {43, 5, kWidth - 5, kHeight - 5};
     ts::Drawn(1, 1, [&](CDC& dc) {
-        const HGDIOBJ old = ::SelectObject(dc, ::GetStockObject(DEFAULT_GUI_FONT));
+        const HGDIOBJ old = ::SelectObject(dc, ts::GuiFont());
         ::DrawTextW(dc, L"Title", -1, &title, DT_CALCRECT | DT_SINGLELINE);
         ::SelectObject(dc, old);
     });

@@ -39,11 +39,9 @@ class Links : public testing::Test
     {
         const HWND control = ::CreateWindowW(L"STATIC", text, WS_CHILD | style, 20, 10, 150, 40, m_host.m_hWnd,
                                              reinterpret_cast<HMENU>(ts::kControlId), nullptr, nullptr);
-        ::SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(Gui()), FALSE);
+        ::SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(ts::GuiFont()), FALSE);
         return control;
     }
-
-    static HGDIOBJ Gui() { return ::GetStockObject(DEFAULT_GUI_FONT); }
 
     ts::AfxHost m_host{300, 160, WS_OVERLAPPEDWINDOW | WS_VISIBLE, kBack};
 };
@@ -420,21 +418,21 @@ TEST_F(QorLink, UnderlineSetBeforeTheWindowIsUsed)
 TEST_F(QorLink, TakesTheSizeOfItsTextAtTheTopLeft)
 {
     Take();
-    const CSize text = Extent(L"Text", Gui());
+    const CSize text = Extent(L"Text", ts::GuiFont());
     EXPECT_EQ(CRect(20, 10, 20 + text.cx, 10 + text.cy), ts::PlaceIn(m_host, m_link));
 }
 
 TEST_F(QorLink, RightAlignedLinkKeepsItsRightEdge)
 {
     Take(SS_RIGHT);
-    const CSize text = Extent(L"Text", Gui());
+    const CSize text = Extent(L"Text", ts::GuiFont());
     EXPECT_EQ(CRect(170 - text.cx, 10, 170, 10 + text.cy), ts::PlaceIn(m_host, m_link));
 }
 
 TEST_F(QorLink, CentredLinkShrinksEvenly)
 {
     Take(SS_CENTER | SS_CENTERIMAGE);
-    const CSize text = Extent(L"Text", Gui());
+    const CSize text = Extent(L"Text", ts::GuiFont());
     const CRect place = ts::PlaceIn(m_host, m_link);
     EXPECT_EQ(text, place.Size());
     EXPECT_NEAR(95, (place.left + place.right) / 2.0, 0.5);
@@ -449,7 +447,7 @@ TEST_F(QorLink, WithoutAutoSizeKeepsItsSize)
     m_link.SetURL(L"x");
     EXPECT_EQ(CRect(20, 10, 170, 50), ts::PlaceIn(m_host, m_link));
     m_link.SetAutoSize(TRUE);
-    EXPECT_EQ(Extent(L"Text", Gui()), ts::PlaceIn(m_host, m_link).Size());
+    EXPECT_EQ(Extent(L"Text", ts::GuiFont()), ts::PlaceIn(m_host, m_link).Size());
 }
 
 TEST_F(QorLink, BackgroundIsNotPainted)
@@ -592,7 +590,7 @@ TEST_F(QorLink, TextIsBrokenIntoLinesInTheLinkFont)
     const HGDIOBJ font = reinterpret_cast<HGDIOBJ>(m_link.SendMessage(WM_GETFONT));
     const ts::Picture expected = TextPicture({150, 40}, kLongText, font, kLink, kBack, DT_WORDBREAK | DT_EDITCONTROL);
     EXPECT_TRUE(ts::SamePicture(expected, Look(m_link)));
-    EXPECT_GT(CRect(expected.BoundsOf(kLink)).Height(), 2 * Extent(L"x", Gui()).cy - 4) << "two lines at least";
+    EXPECT_GT(CRect(expected.BoundsOf(kLink)).Height(), 2 * Extent(L"x", ts::GuiFont()).cy - 4) << "two lines at least";
 }
 
 TEST_F(QorLink, WithoutTextNothingIsDrawn)
@@ -609,13 +607,13 @@ TEST_F(QorLink, SetUrlFitsTheSizeToATextThatHasChanged)
     Take();
     m_link.SetWindowText(L"A longer text");
     m_link.SetURL(L"x");
-    EXPECT_EQ(Extent(L"A longer text", Gui()), ts::PlaceIn(m_host, m_link).Size());
+    EXPECT_EQ(Extent(L"A longer text", ts::GuiFont()), ts::PlaceIn(m_host, m_link).Size());
 }
 
 TEST_F(QorLink, CentringInHeightAloneKeepsTheLeftEdge)
 {
     Take(SS_LEFT | SS_CENTERIMAGE);
-    const CSize text = Extent(L"Text", Gui());
+    const CSize text = Extent(L"Text", ts::GuiFont());
     const int top = 10 + (40 - text.cy) / 2;
     EXPECT_EQ(CRect(20, top, 20 + text.cx, top + text.cy), ts::PlaceIn(m_host, m_link));
 }
@@ -767,9 +765,9 @@ TEST_F(QorLink, WithoutAFontOfItsOwnTheControlsIsUsed)
 {
     const ts::ReplacedImport none(L"afx.dll", "CreateFontIndirectW", &NoFont);
     Take();
-    const CSize size = Extent(L"Text", Gui());
+    const CSize size = Extent(L"Text", ts::GuiFont());
     EXPECT_EQ(size, ts::PlaceIn(m_host, m_link).Size());
-    const ts::Picture expected = TextPicture(size, L"Text", Gui(), kLink, kBack, DT_WORDBREAK | DT_EDITCONTROL);
+    const ts::Picture expected = TextPicture(size, L"Text", ts::GuiFont(), kLink, kBack, DT_WORDBREAK | DT_EDITCONTROL);
     EXPECT_TRUE(ts::SamePicture(expected, Look(m_link)));
 }
 
@@ -789,7 +787,7 @@ TEST_F(QorLink, HugeTextAndUrlAreNoHarm)
     m_link.SetURL(CString(L'u', 100000));
     const CString huge(L'm', 3000);
     Take(SS_LEFT, huge);
-    EXPECT_EQ(Extent(huge, Gui()).cx, ts::PlaceIn(m_host, m_link).Width());
+    EXPECT_EQ(Extent(huge, ts::GuiFont()).cx, ts::PlaceIn(m_host, m_link).Width());
     Look(m_link);
     m_link.SetURL(L"");
     EXPECT_EQ(L"", Tip());
@@ -799,9 +797,9 @@ TEST_F(QorLink, LinkWithoutAParentIsPlacedOnTheScreen)
 {
     const HWND lone =
         ::CreateWindowW(L"STATIC", L"Text", WS_POPUP | SS_RIGHT, 40, 30, 150, 40, nullptr, nullptr, nullptr, nullptr);
-    ::SendMessageW(lone, WM_SETFONT, reinterpret_cast<WPARAM>(Gui()), FALSE);
+    ::SendMessageW(lone, WM_SETFONT, reinterpret_cast<WPARAM>(ts::GuiFont()), FALSE);
     ASSERT_TRUE(m_link.SubclassWindow(lone));
-    const CSize text = Extent(L"Text", Gui());
+    const CSize text = Extent(L"Text", ts::GuiFont());
     CRect place;
     m_link.GetWindowRect(&place);
     EXPECT_EQ(CRect(190 - text.cx, 30, 190, 30 + text.cy), place);
@@ -843,7 +841,7 @@ class TextLink : public Links
 TEST_F(TextLink, ParentPaintsTheBackgroundBeforeTheText)
 {
     Take(kLongText);
-    const ts::Picture expected = TextPicture({150, 40}, kLongText, Gui(), RGB(255, 255, 255), RGB(0, 90, 0),
+    const ts::Picture expected = TextPicture({150, 40}, kLongText, ts::GuiFont(), RGB(255, 255, 255), RGB(0, 90, 0),
                                              DT_WORDBREAK | DT_EDITCONTROL | DT_HIDEPREFIX);
     EXPECT_TRUE(ts::SamePicture(expected, Look(m_link)));
     EXPECT_NE(0, expected.Count(RGB(255, 255, 255)));
@@ -873,7 +871,7 @@ TEST_F(TextLink, NewTextTakesTheFormerOnesPlace)
     Take(L"A former text");
     Look(m_link);
     m_link.SetWindowText(L"Text");
-    const ts::Picture expected = TextPicture({150, 40}, L"Text", Gui(), RGB(255, 255, 255), RGB(0, 90, 0),
+    const ts::Picture expected = TextPicture({150, 40}, L"Text", ts::GuiFont(), RGB(255, 255, 255), RGB(0, 90, 0),
                                              DT_WORDBREAK | DT_EDITCONTROL | DT_HIDEPREFIX);
     EXPECT_TRUE(ts::SamePicture(expected, Look(m_link)));
     m_link.EnableWindow(FALSE);
@@ -910,7 +908,7 @@ TEST_F(TextLink, ExtentIsThatOfTheTextInTheGuiFont)
     m_link.SetFont(&big);
     CSize size(7, 7);
     EXPECT_EQ(TRUE, m_link.GetExtent(size));
-    EXPECT_EQ(Extent(L"Some text", Gui()), size);
+    EXPECT_EQ(Extent(L"Some text", ts::GuiFont()), size);
 }
 
 TEST_F(TextLink, ExtentWithoutWindowIsZeroAndFalse)
@@ -945,7 +943,7 @@ TEST_F(TextLink, WithoutAParentNobodyIsAsked)
     link.RedrawWindow();
     CSize size;
     EXPECT_TRUE(link.GetExtent(size));
-    EXPECT_EQ(Extent(L"Text", Gui()), size);
+    EXPECT_EQ(Extent(L"Text", ts::GuiFont()), size);
     link.DestroyWindow();
 }
 
@@ -955,7 +953,7 @@ TEST_F(TextLink, HugeTextIsMeasuredAndPainted)
     Take(huge);
     CSize size;
     EXPECT_TRUE(m_link.GetExtent(size));
-    EXPECT_EQ(Extent(huge, Gui()), size);
+    EXPECT_EQ(Extent(huge, ts::GuiFont()), size);
     EXPECT_NE(0, Look(m_link).Count(RGB(255, 255, 255)));
 }
 

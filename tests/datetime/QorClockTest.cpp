@@ -6,6 +6,7 @@
 #include <tests/support/Imports.h>
 #include <tests/support/NoWindowClasses.h>
 #include <tests/support/Refusals.h>
+#include <tests/support/Resources.h>
 #include <tests/support/ui/AfxHost.h>
 #include <tests/support/ui/Drawn.h>
 
@@ -252,7 +253,7 @@ TEST_F(Clock, FormerTimeIsErased)
 TEST_F(Clock, ErasingDrawsTheDial)
 {
     Make();
-    const ts::Picture dial = ts::ResourcePicture(GetModuleHandleW(nullptr), IDB_DIAL);
+    const ts::Picture dial = ts::ResourcePicture(ts::Program(), IDB_DIAL);
     const ts::Picture erased = ts::Drawn(161, 161, [this](CDC& dc) {
         EXPECT_EQ(1, m_clock.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.m_hDC)));
     });

@@ -4,6 +4,7 @@
 #include <QorUI/res/resource.h>
 #include <tests/support/Imports.h>
 #include <tests/support/Refusals.h>
+#include <tests/support/Resources.h>
 #include <tests/support/ui/Control.h>
 #include <tests/support/ui/Look.h>
 
@@ -93,7 +94,7 @@ TEST_F(SearchBox, FramesAreGreyAndWhite)
 
 TEST_F(SearchBox, MagnifierStandsOverTheButton)
 {
-    const HBITMAP bitmap = ::LoadBitmapW(::GetModuleHandleW(L"QorUI.dll"), MAKEINTRESOURCEW(IDB_SEARCH));
+    const HBITMAP bitmap = ::LoadBitmapW(ts::Library(), MAKEINTRESOURCEW(IDB_SEARCH));
     ASSERT_NE(nullptr, bitmap);
     const ts::Picture glyph = ts::PictureOf(bitmap);
     ::DeleteObject(bitmap);
