@@ -107,6 +107,7 @@ using Module = Owner<FreedBy<HMODULE, ::FreeLibrary>>;
 using RegistryKey = Owner<FreedBy<HKEY, ::RegCloseKey>>;
 using Icon = Owner<FreedBy<HICON, ::DestroyIcon>>;
 using Menu = Owner<FreedBy<HMENU, ::DestroyMenu>>;
+using Hook = Owner<FreedBy<HHOOK, ::UnhookWindowsHookEx>>; ///< what `SetWindowsHookExW` gives
 
 /** A GDI object that can be selected: bitmap, brush, font, pen, region. */
 template <class T>

@@ -1,5 +1,7 @@
 #include "DialogFrame.h"
 
+#include "WindowSkin.h"
+
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/look/Palette.h>
 #include <QorUI/app/look/SkinParts.h>
@@ -27,15 +29,6 @@ void DrawTitle(CDC& dc, const CRect& client, const CString& title)
     dc.DrawText(title, text, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_HIDEPREFIX);
 }
 
-void DrawOutline(CDC& dc, const CRect& client)
-{
-    CPen pen(PS_SOLID, 1, QorLook::kOutline);
-    const SelectSaver outline(dc, pen.GetSafeHandle());
-    const SelectSaver hollow(dc, ::GetStockObject(NULL_BRUSH));
-    dc.RoundRect(client.left, client.top, client.right - 1, client.bottom - 1, QorLook::kWindowRound,
-                 QorLook::kWindowRound);
-}
-
 } // namespace
 
 void QorDrawDialogFrame(CDC& dc, const CRect& client, const CString& title)
@@ -43,7 +36,7 @@ void QorDrawDialogFrame(CDC& dc, const CRect& client, const CString& title)
     const int body = client.top + QorLook::kCaptionHeight;
     dc.FillSolidRect(client.left, client.top, client.Width(), QorLook::kCaptionHeight, QorLook::kDlgCaption);
     dc.FillSolidRect(CRect(client.left, body, client.right, client.bottom), QorLook::kDlgBody);
-    DrawOutline(dc, client);
+    WindowSkin::DrawOutline(dc, client, ::GetStockObject(NULL_BRUSH));
     DrawIconInCaption(dc);
     DrawTitle(dc, client, title);
 }

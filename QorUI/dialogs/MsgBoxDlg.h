@@ -1,16 +1,16 @@
 #pragma once
 
-#include "QorDialog.h"
+#include "LibDialog.h"
 
 /** The dialog behind `QorMsgBox`. */
-class CMsgBoxDlg : public CQorDialog
+class CMsgBoxDlg : public CLibDialog
 {
   public:
     /** @param type the caller's type word. @param text the whole message. */
     CMsgBoxDlg(UINT type, const CString& text, CWnd* parent);
 
   protected:
-    BOOL OnInitDialog() override;
+    BOOL Build() override;
     afx_msg void OnTimer(UINT_PTR id);
     afx_msg void OnButton(UINT id);
     DECLARE_MESSAGE_MAP()

@@ -3,6 +3,7 @@
 #include "CtrlLayout.h"
 #include "DialogFrame.h"
 #include "WindowShape.h"
+#include "WindowSkin.h"
 
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/look/Palette.h>
@@ -57,10 +58,9 @@ int CQorDialog::OnCreate(LPCREATESTRUCT create)
     if (CQorBaseDlg::OnCreate(create) == -1) {
         return -1;
     }
-    if (!m_closeBtn.Create(CRect(0, 0, 0, 0), this, IDC_DLG_CLOSE)) {
+    if (!WindowSkin::CreateTitleButton(m_closeBtn, *this, WindowSkin::kDlgClose)) {
         return -1;
     }
-    m_closeBtn.SetImage(g_QorUIApp.m_hInstance, IDB_DLG_CLOSE, nullptr, CLR_NONE);
     Invalidate();
     return 0;
 }
@@ -106,18 +106,13 @@ void CQorDialog::AdjustBtnInArea(CQorBtn& button, UINT leftOf)
 
 void CQorDialog::GetClientPos(CRect& rect) const
 {
-    GetClientRect(rect);
-    rect.left += QorLook::kContentLeft;
-    rect.top += QorLook::kCaptionHeight;
-    rect.right -= QorLook::kContentRight;
-    rect.bottom -= (m_flags & ButtonBand) ? kContentBottomWithBand : kContentBottom;
+    rect = WindowSkin::ContentOf(*this, QorLook::kCaptionHeight,
+                                 (m_flags & ButtonBand) ? kContentBottomWithBand : kContentBottom);
 }
 
 void CQorDialog::DisableClose(BOOL disable)
 {
-    if (CMenu* menu = GetSystemMenu(FALSE)) {
-        menu->EnableMenuItem(SC_CLOSE, MF_BYCOMMAND | (disable ? MF_GRAYED | MF_DISABLED : MF_ENABLED));
-    }
+    WindowSkin::SetCloseState(*this, disable ? MF_GRAYED | MF_DISABLED : MF_ENABLED);
     if (m_closeBtn.GetSafeHwnd()) {
         m_closeBtn.EnableWindow(!disable);
     }
@@ -173,33 +168,20 @@ void CQorDialog::OnSize(UINT type, int cx, int cy)
 {
     CQorBaseDlg::OnSize(type, cx, cy);
     QorShape::RoundWindow(*this, m_region, cx, cy);
-    if (m_closeBtn.GetSafeHwnd()) {
-        m_closeBtn.MoveWindow(cx - QorLook::kCloseButtonRight, QorLook::kTitleButtonTop, QorLook::kCloseButtonWidth,
-                              QorLook::kTitleButtonHeight);
-    }
+    WindowSkin::PlaceTitleButton(m_closeBtn, WindowSkin::kDlgClose, cx, TRUE);
     if (m_flags & Resizable) {
-        QorShape::InvalidateSizedParts(*this, CSize(m_lastWidth, m_lastHeight), CSize(cx, cy), kCaptionChange);
-        m_lastWidth = cx;
-        m_lastHeight = cy;
+        WindowSkin::TakeSize(*this, m_lastWidth, m_lastHeight, CSize(cx, cy), kCaptionChange);
     }
 }
 
 LRESULT CQorDialog::OnNcHitTest(CPoint point)
 {
-    CRect close(0, 0, 0, 0);
-    if (m_closeBtn.GetSafeHwnd()) {
-        m_closeBtn.GetWindowRect(close);
-    }
-    if (close.PtInRect(point)) {
-        return HTCLIENT;
+    const bool sizes = (m_flags & Resizable) != 0;
+    if (const UINT hit = WindowSkin::HitTest(*this, {&m_closeBtn, 1}, sizes, point)) {
+        return static_cast<LRESULT>(hit);
     }
     CRect window;
     GetWindowRect(window);
-    if (m_flags & Resizable) {
-        if (const UINT hit = QorShape::SizingHit(window, point)) {
-            return static_cast<LRESULT>(hit);
-        }
-    }
     if ((GetStyle() & WS_SYSMENU) && InSysMenuSpot(window, point)) {
         return HTSYSMENU;
     }
@@ -219,8 +201,7 @@ void CQorDialog::OnNcLButtonDown(UINT hit, CPoint point)
 void CQorDialog::OnGetMinMaxInfo(MINMAXINFO* info)
 {
     if (m_flags & Resizable) {
-        info->ptMinTrackSize.x = kMinTrackSize.cx;
-        info->ptMinTrackSize.y = kMinTrackSize.cy;
+        WindowSkin::LimitSize(*info, kMinTrackSize);
     }
     CQorBaseDlg::OnGetMinMaxInfo(info);
 }

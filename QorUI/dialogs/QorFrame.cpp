@@ -1,6 +1,7 @@
 #include "QorFrame.h"
 
 #include "WindowShape.h"
+#include "WindowSkin.h"
 
 #include <QorUI/app/base/WndClass.h>
 #include <QorUI/app/draw/GdiPlusFlat.h>
@@ -23,15 +24,7 @@ constexpr int kContentBottom = 10;       // space below the content
 constexpr int kTitleButtonsChange = 159; // title buttons and the rounded end of the banner
 const CSize kMinTrackSize(360, 260);
 
-struct TitleButtonLook
-{
-    UINT id;
-    UINT bitmap;
-    int fromRight; // from the window's right edge to the button's left edge
-    int width;
-};
-
-constexpr std::array<TitleButtonLook, CQorFrame::TitleButtons> kTitleButtons = {{
+constexpr std::array<WindowSkin::TitleButton, CQorFrame::TitleButtons> kTitleButtons = {{
     {IDC_FRAME_MINIMIZE, IDB_FRAME_MINIMIZE, 101, 26},
     {IDC_FRAME_MAXIMIZE, IDB_FRAME_MAXIMIZE, 75, 25},
     {IDC_FRAME_CLOSE, IDB_FRAME_CLOSE, QorLook::kCloseButtonRight, QorLook::kCloseButtonWidth},
@@ -132,10 +125,9 @@ int CQorFrame::OnCreate(LPCREATESTRUCT create)
 bool CQorFrame::CreateTitleButtons()
 {
     for (UINT i = 0; i < TitleButtons; ++i) {
-        if (!m_titleBtns[i].Create(CRect(0, 0, 0, 0), this, kTitleButtons[i].id)) {
+        if (!WindowSkin::CreateTitleButton(m_titleBtns[i], *this, kTitleButtons[i])) {
             return false;
         }
-        m_titleBtns[i].SetImage(g_QorUIApp.m_hInstance, kTitleButtons[i].bitmap, nullptr, CLR_NONE);
     }
     return true;
 }
@@ -144,9 +136,7 @@ void CQorFrame::PlaceTitleButtons(int cx)
 {
     for (UINT i = 0; i < TitleButtons; ++i) {
         if (m_titleBtns[i].GetSafeHwnd()) {
-            const TitleButtonLook& look = kTitleButtons[i];
-            m_titleBtns[i].MoveWindow(cx - look.fromRight, QorLook::kTitleButtonTop, look.width,
-                                      QorLook::kTitleButtonHeight, FALSE);
+            WindowSkin::PlaceTitleButton(m_titleBtns[i], kTitleButtons[i], cx, FALSE);
             m_titleBtns[i].Invalidate();
         }
     }
@@ -157,24 +147,16 @@ void CQorFrame::OnSize(UINT type, int cx, int cy)
     CWnd::OnSize(type, cx, cy);
     QorShape::RoundWindow(*this, m_region, cx, cy);
     PlaceTitleButtons(cx);
-    QorShape::InvalidateSizedParts(*this, CSize(m_lastWidth, m_lastHeight), CSize(cx, cy),
-                                   CSize(kTitleButtonsChange, BannerHeight()));
-    m_lastWidth = cx;
-    m_lastHeight = cy;
+    WindowSkin::TakeSize(*this, m_lastWidth, m_lastHeight, CSize(cx, cy), CSize(kTitleButtonsChange, BannerHeight()));
 }
 
 LRESULT CQorFrame::OnNcHitTest(CPoint point)
 {
-    CRect rect;
-    for (const CBmpBtn& button : m_titleBtns) {
-        if (button.GetSafeHwnd() && ::GetWindowRect(button.m_hWnd, rect) && rect.PtInRect(point)) {
-            return HTCLIENT;
-        }
-    }
-    GetWindowRect(rect);
-    if (const UINT hit = QorShape::SizingHit(rect, point)) {
+    if (const UINT hit = WindowSkin::HitTest(*this, m_titleBtns, true, point)) {
         return static_cast<LRESULT>(hit);
     }
+    CRect rect;
+    GetWindowRect(rect);
     if (point.x <= rect.left + QorLook::kSizeEdge || point.x >= rect.right - QorLook::kSizeEdge ||
         point.y <= rect.top + QorLook::kSizeEdge) {
         return HTCLIENT;
@@ -203,8 +185,7 @@ void CQorFrame::OnClickWndBtn(UINT id)
 
 void CQorFrame::OnGetMinMaxInfo(MINMAXINFO* info)
 {
-    info->ptMinTrackSize.x = kMinTrackSize.cx;
-    info->ptMinTrackSize.y = kMinTrackSize.cy;
+    WindowSkin::LimitSize(*info, kMinTrackSize);
     if (m_maximizedHeight > 0) {
         info->ptMaxSize.y = m_maximizedHeight;
     }
@@ -213,11 +194,7 @@ void CQorFrame::OnGetMinMaxInfo(MINMAXINFO* info)
 
 void CQorFrame::GetClientPos(CRect& rect) const
 {
-    GetClientRect(rect);
-    rect.left += QorLook::kContentLeft;
-    rect.top += BannerHeight() - 1;
-    rect.right -= QorLook::kContentRight;
-    rect.bottom -= kContentBottom;
+    rect = WindowSkin::ContentOf(*this, BannerHeight() - 1, kContentBottom);
 }
 
 void CQorFrame::DisableTitleBtn(UINT which, BOOL disable)
@@ -226,9 +203,7 @@ void CQorFrame::DisableTitleBtn(UINT which, BOOL disable)
         return;
     }
     if (which == CloseButton) {
-        if (CMenu* menu = GetSystemMenu(FALSE)) {
-            menu->EnableMenuItem(SC_CLOSE, MF_BYCOMMAND | (disable ? MF_GRAYED : MF_ENABLED));
-        }
+        WindowSkin::SetCloseState(*this, disable ? MF_GRAYED : MF_ENABLED);
     } else {
         const DWORD style = which == MinimizeButton ? WS_MINIMIZEBOX : WS_MAXIMIZEBOX;
         ModifyStyle(disable ? style : 0, disable ? 0 : style);
@@ -268,13 +243,7 @@ void CQorFrame::OnPaint()
 
 void CQorFrame::DrawBackground(CDC& dc, const CRect& client) const
 {
-    CPen outline(PS_SOLID, 1, QorLook::kOutline);
     CBrush back(QorLook::kFrameBack);
-    {
-        const SelectSaver pen(dc, outline.GetSafeHandle());
-        const SelectSaver brush(dc, back.GetSafeHandle());
-        dc.RoundRect(client.left, client.top, client.right - 1, client.bottom - 1, QorLook::kWindowRound,
-                     QorLook::kWindowRound);
-    }
+    WindowSkin::DrawOutline(dc, client, back.GetSafeHandle());
     DrawBanner(dc);
 }

@@ -40,10 +40,10 @@ MINMAXINFO LimitsOf(HWND wnd)
 }
 
 /** One sizing of a window, from the button's way down to its way up. The window may be destroyed meanwhile. */
-class CSizing
+class Sizing
 {
   public:
-    CSizing(HWND wnd, UINT hit, CPoint from) : m_wnd(wnd), m_hit(hit), m_from(from), m_limits(LimitsOf(wnd))
+    Sizing(HWND wnd, UINT hit, CPoint from) : m_wnd(wnd), m_hit(hit), m_from(from), m_limits(LimitsOf(wnd))
     {
         ::GetWindowRect(wnd, &m_start);
     }
@@ -131,7 +131,7 @@ CRect SizedRect(const CRect& start, UINT hit, CSize way, CSize smallest, CSize l
 
 void TrackSize(CWnd& wnd, UINT hit, POINT from)
 {
-    CSizing(wnd.m_hWnd, hit, from).Run();
+    Sizing(wnd.m_hWnd, hit, from).Run();
 }
 
 } // namespace QorShape

@@ -2,6 +2,7 @@
 
 #include "SizeLoop.h"
 
+#include <common/Owner.h>
 #include <QorUI/app/look/Palette.h>
 
 namespace
@@ -10,21 +11,13 @@ namespace
 constexpr int kSizedStrip = 9; // the outline and the band's margin: what moves with the right and bottom edges
 
 /** Notes whether the system is about to carry out a sizing command: a window may also keep it to itself. */
-class CSizeCommandWatch
+class SizeCommandWatch
 {
   public:
-    CSizeCommandWatch() : m_hook(::SetWindowsHookExW(WH_CBT, &Hook, nullptr, ::GetCurrentThreadId()))
+    SizeCommandWatch() : m_hook(::SetWindowsHookExW(WH_CBT, &Hook, nullptr, ::GetCurrentThreadId()))
     {
         Reached() = false;
     }
-    ~CSizeCommandWatch()
-    {
-        if (m_hook) {
-            ::UnhookWindowsHookEx(m_hook);
-        }
-    }
-    CSizeCommandWatch(const CSizeCommandWatch&) = delete;
-    CSizeCommandWatch& operator=(const CSizeCommandWatch&) = delete;
 
     static bool& Reached()
     {
@@ -43,17 +36,17 @@ class CSizeCommandWatch
         return refused;
     }
 
-    HHOOK m_hook;
+    own::Hook m_hook;
 };
 
 /** @return whether the system got the command and let it come back without sizing anything. */
 bool SystemDeclinesToSize(HWND wnd, UINT hit, POINT point)
 {
-    const CSizeCommandWatch watch;
+    const SizeCommandWatch watch;
     const LONG lastMessage = ::GetMessageTime();
     // The direction codes of SC_SIZE run parallel to the hit-test codes.
     ::SendMessageW(wnd, WM_SYSCOMMAND, SC_SIZE + (hit - HTLEFT + 1), MAKELPARAM(point.x, point.y));
-    return CSizeCommandWatch::Reached() && ::GetMessageTime() == lastMessage;
+    return SizeCommandWatch::Reached() && ::GetMessageTime() == lastMessage;
 }
 
 } // namespace
