@@ -2,8 +2,30 @@
 
 #include "res/DialogsTest.h"
 
+#include <common/Owner.h>
+#include <QorApi/QorApi.h>
 #include <QorUI/QorUI.h>
+#include <QorUI/res/resource.h>
 #include <tests/support/Support.h>
+
+/** @file What the tests of dialogs and frame windows share. */
+
+// The numbers that are stated; the tests call them by name.
+static_assert(IDC_FRAME_MINIMIZE == 1000 && IDC_FRAME_MAXIMIZE == 1001 && IDC_FRAME_CLOSE == 1002);
+static_assert(IDC_DLG_CLOSE == 1003 && IDC_BOX_ICON == 1100 && IDC_BOX_TEXT == 1101);
+static_assert(IDB_FRAME_MINIMIZE == 220 && IDB_DLG_CLOSE == 223 && IDR_PNG_BANNER == 281 && IDR_PNG_BANNER2 == 282);
+static_assert(CQorDialog::ButtonBand == 1 && CQorDialog::CloseDisabled == 2 && CQorDialog::Resizable == 4);
+
+inline constexpr int kNoSuchId = 4242; ///< no control has it
+inline constexpr DWORD kNoFlags = 0;
+inline constexpr DWORD kBand = CQorDialog::ButtonBand;
+inline constexpr DWORD kSizable = CQorDialog::Resizable;
+
+/** A text that the library's dialogs share. */
+inline LPCWSTR LibString(LPCWSTR key)
+{
+    return QorGetModuleLang(L"QorUI.dll", L"Strings")->GetChildData(key, 1);
+}
 
 /** Opens what is protected, for the tests. */
 class CTestBaseDlg : public CQorBaseDlg
@@ -82,6 +104,15 @@ class CTestDialog : public CProbed<CQorDialog>
     UINT m_idd;
 };
 
+/** y of a button in the band of a dialog of that height, on a system of version 2 or later. */
+inline int BandY(int height)
+{
+    constexpr int kBandFromBottom = 49;
+    constexpr int kBandHeight = 40;
+    constexpr int kButtonHeight = 21;
+    return height - kBandFromBottom + (kBandHeight - kButtonHeight) / 2 + 1;
+}
+
 /** Whether the screen points inside the window's shape include this one, given from its top left corner. */
 inline bool InShape(HWND wnd, int x, int y)
 {
@@ -100,16 +131,13 @@ inline bool HasShape(HWND wnd, const CRgn& expected)
 }
 
 /** Looks at how the dialogs of the thread answer WM_INITDIALOG. */
-class CInitDialogAnswers
+class InitDialogAnswers
 {
   public:
-    CInitDialogAnswers() : m_hook(::SetWindowsHookExW(WH_CALLWNDPROCRET, &Hook, nullptr, ::GetCurrentThreadId()))
+    InitDialogAnswers() : m_hook(::SetWindowsHookExW(WH_CALLWNDPROCRET, &Hook, nullptr, ::GetCurrentThreadId()))
     {
         Answers().clear();
     }
-    ~CInitDialogAnswers() { ::UnhookWindowsHookEx(m_hook); }
-    CInitDialogAnswers(const CInitDialogAnswers&) = delete;
-    CInitDialogAnswers& operator=(const CInitDialogAnswers&) = delete;
 
     static std::vector<LRESULT>& Answers()
     {
@@ -127,5 +155,5 @@ class CInitDialogAnswers
         return ::CallNextHookEx(nullptr, code, wParam, lParam);
     }
 
-    HHOOK m_hook;
+    own::Hook m_hook;
 };

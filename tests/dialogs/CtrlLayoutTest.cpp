@@ -7,8 +7,9 @@
 namespace
 {
 
-constexpr UINT kFirst = 1001; // 1001, 1002 and 1005 exist
-constexpr UINT kLast = 1005;
+// IDC_FIRST, IDC_SECOND and IDC_THIRD exist, and nothing between the last two.
+constexpr UINT kFirst = IDC_FIRST;
+constexpr UINT kLast = IDC_THIRD;
 
 class Layout : public testing::Test
 {
@@ -40,7 +41,7 @@ TEST_F(Layout, RectangleIsInTheParentsClientCoordinates)
 TEST_F(Layout, RectangleOfAMissingControlIsUntouched)
 {
     CRect rect(1, 2, 3, 4);
-    EXPECT_FALSE(QorGetCtrlRect(&m_dialog, 4242, rect));
+    EXPECT_FALSE(QorGetCtrlRect(&m_dialog, kNoSuchId, rect));
     EXPECT_FALSE(QorGetCtrlRect(nullptr, kFirst, rect));
     EXPECT_EQ(CRect(1, 2, 3, 4), rect);
 }
@@ -48,21 +49,21 @@ TEST_F(Layout, RectangleOfAMissingControlIsUntouched)
 TEST_F(Layout, EnablesTheWholeRangeWithItsEnds)
 {
     QorEnableCtrls(&m_dialog, kFirst, kLast, FALSE);
-    EXPECT_FALSE(Enabled(1001));
-    EXPECT_FALSE(Enabled(1002));
-    EXPECT_FALSE(Enabled(1005));
+    EXPECT_FALSE(Enabled(IDC_FIRST));
+    EXPECT_FALSE(Enabled(IDC_SECOND));
+    EXPECT_FALSE(Enabled(IDC_THIRD));
     EXPECT_TRUE(Enabled(IDC_EDIT));
-    QorEnableCtrls(&m_dialog, kFirst, 1002, TRUE);
-    EXPECT_TRUE(Enabled(1002));
-    EXPECT_FALSE(Enabled(1005));
+    QorEnableCtrls(&m_dialog, kFirst, IDC_SECOND, TRUE);
+    EXPECT_TRUE(Enabled(IDC_SECOND));
+    EXPECT_FALSE(Enabled(IDC_THIRD));
 }
 
 TEST_F(Layout, AReversedRangeIsEmpty)
 {
     QorEnableCtrls(&m_dialog, kLast, kFirst, FALSE);
     QorShowCtrls(&m_dialog, kLast, kFirst, FALSE);
-    EXPECT_TRUE(Enabled(1001));
-    EXPECT_TRUE(Shown(1001));
+    EXPECT_TRUE(Enabled(IDC_FIRST));
+    EXPECT_TRUE(Shown(IDC_FIRST));
 }
 
 TEST_F(Layout, TheWidestRangeEnds)
@@ -73,23 +74,23 @@ TEST_F(Layout, TheWidestRangeEnds)
 
 TEST_F(Layout, EnablesListedControlsOnly)
 {
-    QorEnableCtrlsV(&m_dialog, FALSE, 2, 1001, 1005);
-    EXPECT_FALSE(Enabled(1001));
-    EXPECT_TRUE(Enabled(1002));
-    EXPECT_FALSE(Enabled(1005));
+    QorEnableCtrlsV(&m_dialog, FALSE, 2, IDC_FIRST, IDC_THIRD);
+    EXPECT_FALSE(Enabled(IDC_FIRST));
+    EXPECT_TRUE(Enabled(IDC_SECOND));
+    EXPECT_FALSE(Enabled(IDC_THIRD));
 }
 
 TEST_F(Layout, AListOfNoneOrFewerChangesNothing)
 {
-    QorEnableCtrlsV(&m_dialog, FALSE, 0, 1001);
-    QorEnableCtrlsV(&m_dialog, FALSE, -1, 1001);
-    EXPECT_TRUE(Enabled(1001));
+    QorEnableCtrlsV(&m_dialog, FALSE, 0, IDC_FIRST);
+    QorEnableCtrlsV(&m_dialog, FALSE, -1, IDC_FIRST);
+    EXPECT_TRUE(Enabled(IDC_FIRST));
 }
 
 TEST_F(Layout, ListSkipsMissingControls)
 {
-    QorEnableCtrlsV(&m_dialog, FALSE, 3, 1001, 4242, 1005);
-    EXPECT_FALSE(Enabled(1005));
+    QorEnableCtrlsV(&m_dialog, FALSE, 3, IDC_FIRST, kNoSuchId, IDC_THIRD);
+    EXPECT_FALSE(Enabled(IDC_THIRD));
 }
 
 std::vector<int> g_enabled; // ids, in the order of the calls
@@ -104,16 +105,16 @@ TEST_F(Layout, ListIsDoneInItsOrder)
 {
     const ts::ReplacedImport hook(L"QorUI.dll", "EnableWindow", &RecordEnable);
     g_enabled.clear();
-    QorEnableCtrlsV(&m_dialog, FALSE, 3, 1005, 1001, 1002);
-    EXPECT_EQ((std::vector<int>{1005, 1001, 1002}), g_enabled);
+    QorEnableCtrlsV(&m_dialog, FALSE, 3, IDC_THIRD, IDC_FIRST, IDC_SECOND);
+    EXPECT_EQ((std::vector<int>{IDC_THIRD, IDC_FIRST, IDC_SECOND}), g_enabled);
 }
 
 TEST_F(Layout, ListEnablesToo)
 {
     QorEnableCtrls(&m_dialog, kFirst, kLast, FALSE);
-    QorEnableCtrlsV(&m_dialog, TRUE, 1, 1002);
-    EXPECT_FALSE(Enabled(1001));
-    EXPECT_TRUE(Enabled(1002));
+    QorEnableCtrlsV(&m_dialog, TRUE, 1, IDC_SECOND);
+    EXPECT_FALSE(Enabled(IDC_FIRST));
+    EXPECT_TRUE(Enabled(IDC_SECOND));
 }
 
 std::vector<int> g_shown; // the show commands
@@ -128,9 +129,9 @@ TEST_F(Layout, ShowsAsNormalWindows)
 {
     const ts::ReplacedImport hook(L"QorUI.dll", "ShowWindow", &RecordShow);
     g_shown.clear();
-    QorShowCtrls(&m_dialog, 1001, 1001, FALSE);
-    QorShowCtrls(&m_dialog, 1001, 1001, 17);
-    QorMoveCtrls(&m_dialog, 1001, 1001, 1, 1);
+    QorShowCtrls(&m_dialog, IDC_FIRST, IDC_FIRST, FALSE);
+    QorShowCtrls(&m_dialog, IDC_FIRST, IDC_FIRST, 17);
+    QorMoveCtrls(&m_dialog, IDC_FIRST, IDC_FIRST, 1, 1);
     EXPECT_EQ((std::vector<int>{SW_HIDE, SW_SHOWNORMAL, SW_SHOWNORMAL}), g_shown);
 }
 
@@ -146,7 +147,7 @@ TEST_F(Layout, MovedControlsAreRepainted)
 {
     const ts::ReplacedImport hook(L"QorUI.dll", "MoveWindow", &RecordMove);
     g_repaints.clear();
-    QorMoveCtrls(&m_dialog, 1001, 1002, 5, 0);
+    QorMoveCtrls(&m_dialog, IDC_FIRST, IDC_SECOND, 5, 0);
     EXPECT_EQ((std::vector<BOOL>{TRUE, TRUE}), g_repaints);
 }
 
@@ -169,30 +170,30 @@ TEST_F(Layout, EachControlIsMovedBeforeItIsShown)
     const ts::ReplacedImport moves(L"QorUI.dll", "MoveWindow", &NoteMove);
     const ts::ReplacedImport shows(L"QorUI.dll", "ShowWindow", &NoteShow);
     g_steps.clear();
-    QorMoveCtrls(&m_dialog, 1001, 1002, 5, 0);
+    QorMoveCtrls(&m_dialog, IDC_FIRST, IDC_SECOND, 5, 0);
     EXPECT_EQ((std::vector<std::string>{"move", "show", "move", "show"}), g_steps);
 }
 
 TEST_F(Layout, HidesAndShowsARange)
 {
     QorShowCtrls(&m_dialog, kFirst, kLast, FALSE);
-    EXPECT_FALSE(Shown(1001));
-    EXPECT_FALSE(Shown(1002));
-    EXPECT_FALSE(Shown(1005));
+    EXPECT_FALSE(Shown(IDC_FIRST));
+    EXPECT_FALSE(Shown(IDC_SECOND));
+    EXPECT_FALSE(Shown(IDC_THIRD));
     EXPECT_TRUE(Shown(IDC_EDIT));
-    QorShowCtrls(&m_dialog, kFirst, 1002, TRUE);
-    EXPECT_TRUE(Shown(1002));
-    EXPECT_FALSE(Shown(1005));
+    QorShowCtrls(&m_dialog, kFirst, IDC_SECOND, TRUE);
+    EXPECT_TRUE(Shown(IDC_SECOND));
+    EXPECT_FALSE(Shown(IDC_THIRD));
 }
 
 TEST_F(Layout, MovesOnlyWhatExistsAndKeepsSizes)
 {
-    const CRect first = RectOf(1001);
-    const CRect third = RectOf(1005);
+    const CRect first = RectOf(IDC_FIRST);
+    const CRect third = RectOf(IDC_THIRD);
     const CRect other = RectOf(IDC_EDIT);
     QorMoveCtrls(&m_dialog, kFirst, kLast, 7, -3);
-    EXPECT_EQ(first + CPoint(7, -3), RectOf(1001));
-    EXPECT_EQ(third + CPoint(7, -3), RectOf(1005));
+    EXPECT_EQ(first + CPoint(7, -3), RectOf(IDC_FIRST));
+    EXPECT_EQ(third + CPoint(7, -3), RectOf(IDC_THIRD));
     EXPECT_EQ(other, RectOf(IDC_EDIT));
 }
 
@@ -200,37 +201,37 @@ TEST_F(Layout, MovingShowsWhatWasHidden)
 {
     QorShowCtrls(&m_dialog, kFirst, kLast, FALSE);
     QorMoveCtrls(&m_dialog, kFirst, kLast, 0, 0);
-    EXPECT_TRUE(Shown(1001));
-    EXPECT_TRUE(Shown(1005));
+    EXPECT_TRUE(Shown(IDC_FIRST));
+    EXPECT_TRUE(Shown(IDC_THIRD));
 }
 
 TEST_F(Layout, MovesABlockToAnAnchor)
 {
     const CRect anchor = RectOf(IDC_PUSH);
-    const CRect first = RectOf(1001);
-    const CRect second = RectOf(1002);
-    QorMoveCtrlsEx(&m_dialog, IDC_PUSH, 1001, 1002, 5, 6);
-    EXPECT_EQ(anchor.TopLeft() + CPoint(5, 6), RectOf(1001).TopLeft());
-    EXPECT_EQ(second.TopLeft() - first.TopLeft(), RectOf(1002).TopLeft() - RectOf(1001).TopLeft());
+    const CRect first = RectOf(IDC_FIRST);
+    const CRect second = RectOf(IDC_SECOND);
+    QorMoveCtrlsEx(&m_dialog, IDC_PUSH, IDC_FIRST, IDC_SECOND, 5, 6);
+    EXPECT_EQ(anchor.TopLeft() + CPoint(5, 6), RectOf(IDC_FIRST).TopLeft());
+    EXPECT_EQ(second.TopLeft() - first.TopLeft(), RectOf(IDC_SECOND).TopLeft() - RectOf(IDC_FIRST).TopLeft());
 }
 
 TEST_F(Layout, WithoutAnchorOrFirstControlNothingMoves)
 {
-    const CRect second = RectOf(1002);
-    QorMoveCtrlsEx(&m_dialog, 4242, 1001, 1002, 5, 6);
-    QorMoveCtrlsEx(&m_dialog, IDC_PUSH, 1000, 1002, 5, 6);
-    EXPECT_EQ(second, RectOf(1002));
+    const CRect second = RectOf(IDC_SECOND);
+    QorMoveCtrlsEx(&m_dialog, kNoSuchId, IDC_FIRST, IDC_SECOND, 5, 6);
+    QorMoveCtrlsEx(&m_dialog, IDC_PUSH, IDC_FIRST - 1, IDC_SECOND, 5, 6);
+    EXPECT_EQ(second, RectOf(IDC_SECOND));
 }
 
 TEST_F(Layout, ANullParentIsLeftOut)
 {
     QorEnableCtrls(nullptr, kFirst, kLast, FALSE);
-    QorEnableCtrlsV(nullptr, FALSE, 1, 1001);
+    QorEnableCtrlsV(nullptr, FALSE, 1, IDC_FIRST);
     QorShowCtrls(nullptr, kFirst, kLast, FALSE);
     QorMoveCtrls(nullptr, kFirst, kLast, 1, 1);
     QorMoveCtrlsEx(nullptr, IDC_PUSH, kFirst, kLast, 1, 1);
     QorSetTopicCtrl(nullptr, kFirst, L"x", -16);
-    EXPECT_TRUE(Enabled(1001));
+    EXPECT_TRUE(Enabled(IDC_FIRST));
 }
 
 TEST_F(Layout, ADestroyedParentIsLeftOut)
@@ -304,31 +305,31 @@ LOGFONTW FontOf(CWnd& dialog, UINT id)
 
 TEST_F(Layout, TopicControlIsRedrawnInItsFont)
 {
-    ts::MessageRecorder recorder(::GetDlgItem(m_dialog, 1001));
+    ts::MessageRecorder recorder(::GetDlgItem(m_dialog, IDC_FIRST));
     recorder.RecordOnly({WM_SETFONT});
-    QorSetTopicCtrl(&m_dialog, 1001, nullptr, -16);
-    const auto font = m_dialog.SendDlgItemMessage(1001, WM_GETFONT);
+    QorSetTopicCtrl(&m_dialog, IDC_FIRST, nullptr, -16);
+    const auto font = m_dialog.SendDlgItemMessage(IDC_FIRST, WM_GETFONT);
     EXPECT_TRUE(recorder.Is({ts::Msg(WM_SETFONT, static_cast<WPARAM>(font), TRUE)}));
 }
 
 TEST_F(Layout, TopicFontIsBoldArialOfTheFirstHeight)
 {
-    QorSetTopicCtrl(&m_dialog, 1001, L"Topic", -16);
-    QorSetTopicCtrl(&m_dialog, 1002, nullptr, -20);
-    QorSetTopicCtrl(&m_dialog, 1005, L"", -20);
-    const LOGFONTW font = FontOf(m_dialog, 1001);
+    QorSetTopicCtrl(&m_dialog, IDC_FIRST, L"Topic", -16);
+    QorSetTopicCtrl(&m_dialog, IDC_SECOND, nullptr, -20);
+    QorSetTopicCtrl(&m_dialog, IDC_THIRD, L"", -20);
+    const LOGFONTW font = FontOf(m_dialog, IDC_FIRST);
     EXPECT_EQ(-16, font.lfHeight);
-    EXPECT_EQ(700, font.lfWeight);
+    EXPECT_EQ(FW_BOLD, font.lfWeight);
     EXPECT_STREQ(L"Arial", font.lfFaceName);
     EXPECT_EQ(0, font.lfItalic);
     EXPECT_EQ(ANSI_CHARSET, font.lfCharSet);
-    EXPECT_EQ(-16, FontOf(m_dialog, 1002).lfHeight);
+    EXPECT_EQ(-16, FontOf(m_dialog, IDC_SECOND).lfHeight);
     CString text;
-    m_dialog.GetDlgItemText(1001, text);
+    m_dialog.GetDlgItemText(IDC_FIRST, text);
     EXPECT_STREQ(L"Topic", text);
-    m_dialog.GetDlgItemText(1002, text);
+    m_dialog.GetDlgItemText(IDC_SECOND, text);
     EXPECT_STREQ(L"second", text);
-    m_dialog.GetDlgItemText(1005, text);
+    m_dialog.GetDlgItemText(IDC_THIRD, text);
     EXPECT_STREQ(L"third", text);
 }
 

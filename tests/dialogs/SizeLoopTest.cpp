@@ -9,6 +9,7 @@ namespace
 
 const CSize kSmallest(100, 80);
 const CSize kLargest(1000, 900);
+constexpr int kExitCode = 7;
 
 /** A frame that keeps the sizing messages it gets. */
 class CSizedFrame : public CQorFrame
@@ -186,17 +187,17 @@ TEST(Sizing, AnEndOfTheProgramEndsItAndIsPassedOn)
     ASSERT_TRUE(frame.Open());
     frame.SetFocus();
     ts::MoveMouse(frame.m_hWnd, 595, 395);
-    ::PostQuitMessage(7);
+    ::PostQuitMessage(kExitCode);
     QorShape::TrackSize(frame, HTBOTTOMRIGHT, CPoint(695, 445));
     EXPECT_EQ(nullptr, ::GetCapture());
     MSG message = {};
     ASSERT_TRUE(::PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
-    EXPECT_EQ(7u, message.wParam);
+    EXPECT_EQ(WPARAM{kExitCode}, message.wParam);
 }
 
 TEST(Sizing, ResizableDialogIsSizedToo)
 {
-    CTestDialog dialog(IDD_PLAIN, 4);
+    CTestDialog dialog(IDD_PLAIN, kSizable);
     ASSERT_TRUE(dialog.Open());
     ASSERT_TRUE(ts::BringToFront(dialog.m_hWnd));
     CRect before;

@@ -72,7 +72,7 @@ TEST(BaseDialog, FillingAMissingControlDoesNothing)
 {
     CTestBaseDlg dialog;
     ASSERT_TRUE(dialog.Create(IDD_PLAIN));
-    dialog.SetDlgCtrlText(4242, 7);
+    dialog.SetDlgCtrlText(kNoSuchId, 7);
     CString text;
     dialog.GetDlgItemText(IDC_FIRST, text);
     EXPECT_STREQ(L"value %d of %s", text);

@@ -23,7 +23,7 @@ class ServiceFailure : public testing::Test
 TEST_F(ServiceFailure, ADialogsButtonsShowTheirKeys)
 {
     qordouble::Fail("QorGetModuleLang", ERROR_FILE_NOT_FOUND);
-    CTestDialog dialog(IDD_OK_CANCEL, 1);
+    CTestDialog dialog(IDD_OK_CANCEL, kBand);
     ASSERT_TRUE(dialog.Open());
     EXPECT_STREQ(L"STR_OK", TextOf(dialog, IDOK));
     EXPECT_STREQ(L"STR_CANCEL", TextOf(dialog, IDCANCEL));
@@ -54,10 +54,10 @@ TEST_F(ServiceFailure, AMessageBoxShowsKeysAndAnswers)
         ::GetWindowTextW(box, caption.GetBuffer(256), 256);
         caption.ReleaseBuffer();
         buttons = TextOf(box, IDYES) + L" " + TextOf(box, IDNO) + L" " + TextOf(box, IDCANCEL);
-        message = TextOf(box, 1101);
+        message = TextOf(box, IDC_BOX_TEXT);
         ts::Click(::GetDlgItem(box, IDYES));
     });
-    EXPECT_EQ(6u, QorMsgBox(L"Go on?", QOR_MSG_YESNO, ERROR_ACCESS_DENIED, nullptr));
+    EXPECT_EQ(UINT{IDYES}, QorMsgBox(L"Go on?", QOR_MSG_YESNO, ERROR_ACCESS_DENIED, nullptr));
     EXPECT_STREQ(L"STR_CONFIRM", caption);
     EXPECT_STREQ(L"STR_YES STR_NO STR_CANCEL", buttons);
     EXPECT_STREQ(L"Go on?\r\nSTR_ERROR: " + QorFormatMsg(ERROR_ACCESS_DENIED), message);
@@ -69,10 +69,10 @@ TEST_F(ServiceFailure, AnEmptyErrorMessageShowsItsKey)
     CString message;
     ts::ModalDriver driver;
     driver.InDialog([&message](HWND box) {
-        message = TextOf(box, 1101);
+        message = TextOf(box, IDC_BOX_TEXT);
         ts::Click(::GetDlgItem(box, IDOK));
     });
-    EXPECT_EQ(1u, QorMsgBox(L"", QOR_MSG_ERROR, 0, nullptr));
+    EXPECT_EQ(UINT{IDOK}, QorMsgBox(L"", QOR_MSG_ERROR, 0, nullptr));
     EXPECT_STREQ(L"STR_OPERATE_FAIL", message);
 }
 

@@ -44,7 +44,7 @@ using Parts = std::vector<CRect>;
 
 TEST(DialogRepaint, SizingPaintsOnlyWhatChanges)
 {
-    CTestDialog dialog(IDD_OK_CANCEL, 5);
+    CTestDialog dialog(IDD_OK_CANCEL, kBand | kSizable);
     ASSERT_TRUE(dialog.Open());
     ASSERT_EQ(CSize(300, 195), dialog.ClientSize());
     EXPECT_EQ((Parts{{192, 0, 400, 32}, {291, 0, 400, 195}, {0, 186, 400, 300}}), PartsAfter(dialog, 400, 300));
@@ -55,7 +55,7 @@ TEST(DialogRepaint, TheWholeDialogIsPaintedWhenItsCloseButtonWasMade)
 {
     const ts::ReplacedImport hook(L"afx.dll", "InvalidateRect", &RecordInvalidate);
     g_invalidated.clear();
-    CTestDialog dialog(IDD_OK_CANCEL, 1);
+    CTestDialog dialog(IDD_OK_CANCEL, kBand);
     ASSERT_TRUE(dialog.Create(IDD_OK_CANCEL));
     EXPECT_TRUE(std::any_of(g_invalidated.begin(), g_invalidated.end(), [&dialog](const Invalidated& call) {
         return call.wnd == dialog.m_hWnd && call.rect.IsRectEmpty();
@@ -64,7 +64,7 @@ TEST(DialogRepaint, TheWholeDialogIsPaintedWhenItsCloseButtonWasMade)
 
 TEST(DialogRepaint, WithoutSizingBorderNothingIsPaintedAnew)
 {
-    CTestDialog dialog(IDD_OK_CANCEL, 1);
+    CTestDialog dialog(IDD_OK_CANCEL, kBand);
     ASSERT_TRUE(dialog.Open());
     EXPECT_EQ(Parts{}, PartsAfter(dialog, 400, 300));
 }
@@ -105,7 +105,7 @@ TEST(FrameRepaint, TitleButtonsMoveWithoutRepaintAndAreInvalidated)
     g_repaints.clear();
     PartsAfter(frame, 700, 500);
     EXPECT_EQ((std::vector<BOOL>{FALSE, FALSE, FALSE}), g_repaints);
-    for (int id = 1000; id <= 1002; ++id) {
+    for (int id = IDC_FRAME_MINIMIZE; id <= IDC_FRAME_CLOSE; ++id) {
         const HWND button = ::GetDlgItem(frame, id);
         EXPECT_EQ(1, std::count_if(g_invalidated.begin(), g_invalidated.end(),
                                    [button](const Invalidated& call) { return call.wnd == button; }))
@@ -159,7 +159,7 @@ bool KeepsState(const std::function<void()>& draw)
 
 TEST(DialogRepaint, TheDeviceContextsStateIsSavedAndRestored)
 {
-    CTestDialog dialog(IDD_OK_CANCEL, 1);
+    CTestDialog dialog(IDD_OK_CANCEL, kBand);
     ASSERT_TRUE(dialog.Open());
     CClientDC dc(&dialog);
     EXPECT_TRUE(KeepsState([&] { dialog.Paint(dc); }));

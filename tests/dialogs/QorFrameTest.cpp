@@ -1,19 +1,17 @@
 #include "TestFrame.h"
 
-#include <QorUI/app/draw/GdiPlusFlat.h>
 #include <tests/support/Imports.h>
 
 #include <algorithm>
-#include <memory>
 
 namespace
 {
 
-constexpr COLORREF kBack = RGB(186, 210, 234);
-constexpr COLORREF kOutline = RGB(189, 189, 189);
-constexpr UINT kMinimize = 1000;
-constexpr UINT kMaximize = 1001;
-constexpr UINT kClose = 1002;
+constexpr UINT kMinimize = IDC_FRAME_MINIMIZE;
+constexpr UINT kMaximize = IDC_FRAME_MAXIMIZE;
+constexpr UINT kClose = IDC_FRAME_CLOSE;
+constexpr WORD kCommand = 777;
+constexpr int kWidth = 600; // of the frame when it opens
 
 TEST(Frame, StylesAreFixedBeforeCreation)
 {
@@ -59,9 +57,9 @@ TEST(Frame, TitleButtonsStandInTheCorner)
 {
     CTestFrame frame;
     ASSERT_TRUE(frame.Open());
-    EXPECT_EQ(CRect(CPoint(600 - 101, 1), CSize(26, 17)), frame.CtrlRect(kMinimize));
-    EXPECT_EQ(CRect(CPoint(600 - 75, 1), CSize(25, 17)), frame.CtrlRect(kMaximize));
-    EXPECT_EQ(CRect(CPoint(600 - 50, 1), CSize(42, 17)), frame.CtrlRect(kClose));
+    EXPECT_EQ(CRect(CPoint(kWidth - 101, 1), CSize(26, 17)), frame.CtrlRect(kMinimize));
+    EXPECT_EQ(CRect(CPoint(kWidth - 75, 1), CSize(25, 17)), frame.CtrlRect(kMaximize));
+    EXPECT_EQ(CRect(CPoint(kWidth - 50, 1), CSize(42, 17)), frame.CtrlRect(kClose));
 }
 
 TEST(Frame, TitleButtonsFollowTheSize)
@@ -85,7 +83,7 @@ TEST(Frame, TitleButtonsShowTheirStrips)
     const int widths[] = {26, 25, 42};
     for (int i = 0; i < 3; ++i) {
         CBitmap strip;
-        strip.Attach(::LoadBitmapW(library, MAKEINTRESOURCEW(220 + i)));
+        strip.Attach(::LoadBitmapW(library, MAKEINTRESOURCEW(IDB_FRAME_MINIMIZE + i)));
         const ts::Picture expected = ts::PictureOf(strip).Crop({0, 0, widths[i], 17});
         const HWND button = ::GetDlgItem(frame, static_cast<int>(kMinimize) + i);
         EXPECT_TRUE(ts::SamePicture(expected, ts::CaptureWindow(button))) << i;
@@ -135,9 +133,9 @@ TEST(FrameHitTest, TitleButtonsAreClientArea)
 {
     CTestFrame frame;
     ASSERT_TRUE(frame.Open());
-    EXPECT_EQ(HTCLIENT, frame.Hit(600 - 101, 1));
-    EXPECT_EQ(HTCLIENT, frame.Hit(600 - 75, 10));
-    EXPECT_EQ(HTCLIENT, frame.Hit(600 - 9, 17));
+    EXPECT_EQ(HTCLIENT, frame.Hit(kWidth - 101, 1));
+    EXPECT_EQ(HTCLIENT, frame.Hit(kWidth - 75, 10));
+    EXPECT_EQ(HTCLIENT, frame.Hit(kWidth - 9, 17));
 }
 
 TEST(FrameHitTest, BorderSizes)
@@ -302,10 +300,10 @@ TEST(FrameButtons, DisablingMinimizeRemovesItsStyle)
 {
     CTestFrame frame;
     ASSERT_TRUE(frame.Open());
-    frame.DisableTitleBtn(0, TRUE);
+    frame.DisableTitleBtn(CQorFrame::MinimizeButton, TRUE);
     EXPECT_EQ(0u, frame.GetStyle() & WS_MINIMIZEBOX);
     EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(frame, kMinimize)));
-    frame.DisableTitleBtn(0, FALSE);
+    frame.DisableTitleBtn(CQorFrame::MinimizeButton, FALSE);
     EXPECT_NE(0u, frame.GetStyle() & WS_MINIMIZEBOX);
     EXPECT_TRUE(::IsWindowEnabled(::GetDlgItem(frame, kMinimize)));
 }
@@ -314,11 +312,11 @@ TEST(FrameButtons, DisablingMaximizeRemovesItsStyle)
 {
     CTestFrame frame;
     ASSERT_TRUE(frame.Open());
-    frame.DisableTitleBtn(1, TRUE);
+    frame.DisableTitleBtn(CQorFrame::MaximizeButton, TRUE);
     EXPECT_EQ(0u, frame.GetStyle() & WS_MAXIMIZEBOX);
     EXPECT_NE(0u, frame.GetStyle() & WS_MINIMIZEBOX);
     EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(frame, kMaximize)));
-    frame.DisableTitleBtn(1, FALSE);
+    frame.DisableTitleBtn(CQorFrame::MaximizeButton, FALSE);
     EXPECT_NE(0u, frame.GetStyle() & WS_MAXIMIZEBOX);
     EXPECT_TRUE(::IsWindowEnabled(::GetDlgItem(frame, kMaximize)));
 }
@@ -327,10 +325,10 @@ TEST(FrameButtons, DisablingCloseGraysTheSystemMenu)
 {
     CTestFrame frame;
     ASSERT_TRUE(frame.Open());
-    frame.DisableTitleBtn(2, TRUE);
+    frame.DisableTitleBtn(CQorFrame::CloseButton, TRUE);
     EXPECT_NE(0u, ::GetMenuState(::GetSystemMenu(frame, FALSE), SC_CLOSE, MF_BYCOMMAND) & MF_GRAYED);
     EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(frame, kClose)));
-    frame.DisableTitleBtn(2, FALSE);
+    frame.DisableTitleBtn(CQorFrame::CloseButton, FALSE);
     EXPECT_EQ(0u, ::GetMenuState(::GetSystemMenu(frame, FALSE), SC_CLOSE, MF_BYCOMMAND) & MF_GRAYED);
     EXPECT_TRUE(::IsWindowEnabled(::GetDlgItem(frame, kClose)));
 }
@@ -340,7 +338,7 @@ TEST(FrameButtons, AnIndexBeyondTheThreeDoesNothing)
     CTestFrame frame;
     ASSERT_TRUE(frame.Open());
     const DWORD style = frame.GetStyle();
-    frame.DisableTitleBtn(3, TRUE);
+    frame.DisableTitleBtn(CQorFrame::TitleButtons, TRUE);
     frame.DisableTitleBtn(0xFFFFFFFF, TRUE);
     EXPECT_EQ(style, frame.GetStyle());
     for (const UINT id : {kMinimize, kMaximize, kClose}) {
@@ -362,116 +360,6 @@ TEST(Frame, ClientPlaceLiesBelowTheBanner)
     frame.GetClientPos(place);
     QorSetAppIcon(nullptr, FALSE);
     EXPECT_EQ(CRect(9, 63, 590, 390), place);
-}
-
-TEST(Frame, OutlineIsRoundedByTwelve)
-{
-    CTestFrame frame;
-    ASSERT_TRUE(frame.Open());
-    const ts::Picture expected = ts::DrawTo(
-        600, 400,
-        [](HDC dc) {
-            ::SelectObject(dc, ::GetStockObject(DC_BRUSH));
-            ::SetDCBrushColor(dc, kBack);
-            ::SelectObject(dc, ::GetStockObject(DC_PEN));
-            ::SetDCPenColor(dc, kOutline);
-            ::RoundRect(dc, 0, 0, 599, 399, 12, 12);
-        },
-        RGB(1, 2, 3));
-    const ts::Picture shown = ts::CaptureWindow(frame);
-    for (int i = 0; i < 81; ++i) { // the banner starts at (9, 9)
-        const int x = i % 9;
-        const int y = i / 9;
-        EXPECT_TRUE(!InShape(frame, x, y) || ts::PixelIs(shown, x, y, expected.At(x, y))) << x << ", " << y;
-    }
-}
-
-TEST(Frame, BackgroundAndOutlineHaveTheirColours)
-{
-    CTestFrame frame;
-    ASSERT_TRUE(frame.Open());
-    const ts::Picture picture = ts::CaptureWindow(frame);
-    EXPECT_TRUE(ts::AreaIs(picture, CRect(20, 120, 580, 390), kBack));
-    EXPECT_TRUE(ts::PixelIs(picture, 300, 0, kOutline));
-    EXPECT_TRUE(ts::PixelIs(picture, 0, 200, kOutline));
-    EXPECT_TRUE(ts::PixelIs(picture, 598, 200, kOutline));
-    EXPECT_TRUE(ts::PixelIs(picture, 300, 398, kOutline));
-    EXPECT_TRUE(ts::PixelIs(picture, 597, 200, kBack));
-    EXPECT_TRUE(ts::PixelIs(picture, 300, 397, kBack));
-}
-
-/** A picture of the library's resources. */
-std::unique_ptr<Gdiplus::Image> LibraryPicture(UINT id)
-{
-    const HINSTANCE library = ::GetModuleHandleW(L"QorUI.dll");
-    auto* image = static_cast<const Gdiplus::Image*>(QorImageFromResource(library, MAKEINTRESOURCEW(id), L"PNG"));
-    return std::unique_ptr<Gdiplus::Image>(const_cast<Gdiplus::Image*>(image));
-}
-
-/** The frame's area left of its buttons, with that flag of the application icon. */
-ts::Picture BannerArea(BOOL flag)
-{
-    QorSetAppIcon(nullptr, flag);
-    CTestFrame frame;
-    const bool opened = frame.Open();
-    const ts::Picture picture = ts::CaptureWindow(frame);
-    QorSetAppIcon(nullptr, FALSE);
-    EXPECT_TRUE(opened);
-    return picture.Crop(CRect(2, 2, 490, 200));
-}
-
-void ExpectBannerAtNineNine(UINT id, BOOL flag)
-{
-    const std::unique_ptr<Gdiplus::Image> banner = LibraryPicture(id);
-    ASSERT_NE(nullptr, banner);
-    const auto width = static_cast<int>(banner->GetWidth());
-    const auto height = static_cast<int>(banner->GetHeight());
-    const ts::Picture expected = ts::DrawTo(
-        600, 400, [&](HDC dc) { Gdiplus::Graphics(dc).DrawImage(banner.get(), 9, 9, width, height); }, kBack);
-    const ts::Picture shown = BannerArea(flag);
-    EXPECT_TRUE(ts::SamePicture(expected.Crop(CRect(2, 2, 490, 200)), shown));
-    EXPECT_FALSE(CRect(shown.BoundsOfOthers(kBack)).IsRectEmpty());
-}
-
-TEST(Frame, DrawsTheHighBannerWithoutTheFlag)
-{
-    ExpectBannerAtNineNine(281, FALSE);
-}
-
-TEST(Frame, DrawsTheLowBannerWithTheFlag)
-{
-    ExpectBannerAtNineNine(282, TRUE);
-}
-
-int g_freedImages = 0;
-
-Gdiplus::GpStatus WINGDIPAPI CountFreed(Gdiplus::GpImage* image)
-{
-    ++g_freedImages;
-    return Gdiplus::DllExports::GdipDisposeImage(image);
-}
-
-TEST(Frame, FreesTheBannerAfterEachPaint)
-{
-    CTestFrame frame;
-    ASSERT_TRUE(frame.Open());
-    const ts::ReplacedImport hook(L"QorUI.dll", "GdipDisposeImage", &CountFreed);
-    g_freedImages = 0;
-    for (int i = 0; i < 3; ++i) {
-        frame.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
-    }
-    EXPECT_EQ(3, g_freedImages);
-}
-
-HRSRC WINAPI NoResource(HMODULE, LPCWSTR, LPCWSTR)
-{
-    return nullptr;
-}
-
-TEST(Frame, WithoutItsPictureTheBannerIsEmpty)
-{
-    const ts::ReplacedImport hook(L"QorPub.dll", "FindResourceW", &NoResource);
-    EXPECT_TRUE(ts::AreaIs(BannerArea(FALSE), CRect(0, 0, 488, 198), kBack));
 }
 
 // --- keyboard and focus
@@ -505,7 +393,7 @@ TEST(FrameKeyboard, TabMovesBetweenChildren)
 TEST(FrameKeyboard, AcceleratorsComeFirst)
 {
     FrameWithEdits content;
-    ACCEL accel = {FVIRTKEY, VK_TAB, 777};
+    ACCEL accel = {FVIRTKEY, VK_TAB, kCommand};
     content.frame.m_hAccel = ::CreateAcceleratorTableW(&accel, 1);
     content.edits[0].SetFocus();
     MSG tab = {};
@@ -513,7 +401,7 @@ TEST(FrameKeyboard, AcceleratorsComeFirst)
     tab.message = WM_KEYDOWN;
     tab.wParam = VK_TAB;
     EXPECT_TRUE(content.frame.PreTranslateMessage(&tab));
-    EXPECT_EQ(777, content.frame.m_command);
+    EXPECT_EQ(kCommand, content.frame.m_command);
     EXPECT_EQ(content.edits[0].m_hWnd, ::GetFocus());
     ::DestroyAcceleratorTable(content.frame.m_hAccel);
     content.frame.m_hAccel = nullptr;

@@ -1,90 +1,14 @@
-#include "TestDialogs.h"
+#include "MsgBoxes.h"
 
 #include <QorApi/QorApi.h>
 #include <tests/support/Imports.h>
 
+// What the box shows and how it is answered.
 namespace
 {
 
-constexpr int kIcon = 1100;
-constexpr int kText = 1101;
-constexpr UINT kTopmost = 0x80;
-
-LPCWSTR LibString(LPCWSTR key)
-{
-    return QorGetModuleLang(L"QorUI.dll", L"Strings")->GetChildData(key, 1);
-}
-
-CString TextOf(HWND wnd)
-{
-    CString text;
-    ::GetWindowTextW(wnd, text.GetBuffer(1024), 1024);
-    text.ReleaseBuffer();
-    return text;
-}
-
-/** What an open box shows. */
-struct Shown
-{
-    CString caption;
-    CString text;
-    HICON icon = nullptr;
-    bool topmost = false;
-    std::vector<std::pair<int, CString>> buttons; // id and text, from left to right
-    bool skinned = true;                          // all of the buttons
-    int focus = 0;
-};
-
-CRect RectOf(HWND ctrl)
-{
-    CRect rect;
-    ::GetWindowRect(ctrl, rect);
-    return rect;
-}
-
-Shown Look(HWND box)
-{
-    Shown shown;
-    shown.caption = TextOf(box);
-    shown.text = TextOf(::GetDlgItem(box, kText));
-    shown.icon = reinterpret_cast<HICON>(::SendDlgItemMessageW(box, kIcon, STM_GETICON, 0, 0));
-    shown.topmost = (::GetWindowLongW(box, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
-    shown.focus = ::GetDlgCtrlID(::GetFocus());
-    std::map<int, HWND> byLeft;
-    for (int id = IDOK; id <= IDNO; ++id) {
-        const HWND button = ::GetDlgItem(box, id);
-        if (button && ::IsWindowVisible(button)) {
-            byLeft[RectOf(button).left] = button;
-        }
-    }
-    for (const auto& [left, button] : byLeft) {
-        shown.buttons.emplace_back(::GetDlgCtrlID(button), TextOf(button));
-        shown.skinned = shown.skinned && (::GetWindowLongW(button, GWL_STYLE) & BS_TYPEMASK) == BS_OWNERDRAW;
-    }
-    return shown;
-}
-
-/** Keeps what the box shows that comes up next, and presses OK. */
-void LookAndPressOk(ts::ModalDriver& driver, Shown& shown)
-{
-    driver.InDialog([&shown](HWND box) {
-        shown = Look(box);
-        ::PostMessageW(box, WM_COMMAND, IDOK, 0);
-    });
-}
-
-/** Opens a box, looks at it, and answers with the button of that id. */
-UINT Answer(LPCWSTR text, UINT type, DWORD error, int button, Shown& shown)
-{
-    ts::ModalDriver driver;
-    driver.InDialog([&shown, button](HWND box) {
-        shown = Look(box);
-        ts::Click(::GetDlgItem(box, button));
-    });
-    const UINT result = QorMsgBox(text, type, error, nullptr);
-    EXPECT_TRUE(driver.Finished());
-    return result;
-}
+constexpr UINT_PTR kTimer = 1;
+const CSize kBoxSize(398, 197); // that the template has in the standard font
 
 using Buttons = std::vector<std::pair<int, CString>>;
 
@@ -111,9 +35,9 @@ class SingleButtonBox : public testing::TestWithParam<KindCase>
 TEST_P(SingleButtonBox, ShowsCaptionIconTextAndOk)
 {
     const KindCase& kind = GetParam();
-    const CInitDialogAnswers answers;
+    const InitDialogAnswers answers;
     Shown shown;
-    EXPECT_EQ(1u, Answer(L"What happened", kind.kind, 0, IDOK, shown));
+    EXPECT_EQ(UINT{IDOK}, Answer(L"What happened", kind.kind, 0, IDOK, shown));
     EXPECT_STREQ(QorGetString(kind.captionKey), shown.caption);
     EXPECT_EQ(::LoadIconW(nullptr, kind.icon), shown.icon);
     EXPECT_STREQ(L"What happened", shown.text);
@@ -124,9 +48,10 @@ TEST_P(SingleButtonBox, ShowsCaptionIconTextAndOk)
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, SingleButtonBox,
-                         testing::Values(KindCase{0, L"STR_ERROR", IDI_HAND}, KindCase{1, L"STR_WARN", IDI_EXCLAMATION},
-                                         KindCase{2, L"STR_INFO", IDI_ASTERISK}, KindCase{9, L"STR_INFO", IDI_ASTERISK},
-                                         KindCase{6, L"STR_INFO", IDI_ASTERISK},
+                         testing::Values(KindCase{QOR_MSG_ERROR, L"STR_ERROR", IDI_HAND},
+                                         KindCase{QOR_MSG_WARNING, L"STR_WARN", IDI_EXCLAMATION},
+                                         KindCase{QOR_MSG_INFO, L"STR_INFO", IDI_ASTERISK},
+                                         KindCase{9, L"STR_INFO", IDI_ASTERISK}, KindCase{6, L"STR_INFO", IDI_ASTERISK},
                                          KindCase{0x45, L"STR_INFO", IDI_ASTERISK},
                                          KindCase{0x7F, L"STR_INFO", IDI_ASTERISK}));
 
@@ -148,37 +73,37 @@ TEST(MsgBox, SingleButtonStandsWhereCancelWouldStand)
 TEST(MsgBox, ConfirmHasOkAndCancel)
 {
     Shown shown;
-    EXPECT_EQ(1u, Answer(L"Really?", QOR_MSG_CONFIRM, 0, IDOK, shown));
+    EXPECT_EQ(UINT{IDOK}, Answer(L"Really?", QOR_MSG_CONFIRM, 0, IDOK, shown));
     EXPECT_EQ(Expect({{IDOK, L"STR_OK"}, {IDCANCEL, L"STR_CANCEL"}}), shown.buttons);
     EXPECT_STREQ(QorGetString(L"STR_CONFIRM"), shown.caption);
     EXPECT_EQ(::LoadIconW(nullptr, IDI_QUESTION), shown.icon);
-    EXPECT_EQ(2u, Answer(L"Really?", QOR_MSG_CONFIRM, 0, IDCANCEL, shown));
+    EXPECT_EQ(UINT{IDCANCEL}, Answer(L"Really?", QOR_MSG_CONFIRM, 0, IDCANCEL, shown));
 }
 
 TEST(MsgBox, RetryHasRetryIgnoreAndCancel)
 {
     Shown shown;
-    EXPECT_EQ(4u, Answer(L"Busy", QOR_MSG_RETRY, 0, IDRETRY, shown));
+    EXPECT_EQ(UINT{IDRETRY}, Answer(L"Busy", QOR_MSG_RETRY, 0, IDRETRY, shown));
     EXPECT_EQ(Expect({{IDRETRY, L"STR_RETRY"}, {IDIGNORE, L"STR_IGNORE"}, {IDCANCEL, L"STR_CANCEL"}}), shown.buttons);
     EXPECT_TRUE(shown.skinned);
     EXPECT_STREQ(QorGetString(L"STR_CONFIRM"), shown.caption);
     EXPECT_EQ(::LoadIconW(nullptr, IDI_QUESTION), shown.icon);
     EXPECT_EQ(IDIGNORE, shown.focus);
-    EXPECT_EQ(5u, Answer(L"Busy", QOR_MSG_RETRY, 0, IDIGNORE, shown));
-    EXPECT_EQ(2u, Answer(L"Busy", QOR_MSG_RETRY, 0, IDCANCEL, shown));
+    EXPECT_EQ(UINT{IDIGNORE}, Answer(L"Busy", QOR_MSG_RETRY, 0, IDIGNORE, shown));
+    EXPECT_EQ(UINT{IDCANCEL}, Answer(L"Busy", QOR_MSG_RETRY, 0, IDCANCEL, shown));
 }
 
 TEST(MsgBox, YesNoHasYesNoAndCancel)
 {
     Shown shown;
-    EXPECT_EQ(6u, Answer(L"Go on?", QOR_MSG_YESNO, 0, IDYES, shown));
+    EXPECT_EQ(UINT{IDYES}, Answer(L"Go on?", QOR_MSG_YESNO, 0, IDYES, shown));
     EXPECT_EQ(Expect({{IDYES, L"STR_YES"}, {IDNO, L"STR_NO"}, {IDCANCEL, L"STR_CANCEL"}}), shown.buttons);
     EXPECT_TRUE(shown.skinned);
     EXPECT_STREQ(QorGetString(L"STR_CONFIRM"), shown.caption);
     EXPECT_EQ(::LoadIconW(nullptr, IDI_QUESTION), shown.icon);
     EXPECT_EQ(IDNO, shown.focus);
-    EXPECT_EQ(7u, Answer(L"Go on?", QOR_MSG_YESNO, 0, IDNO, shown));
-    EXPECT_EQ(2u, Answer(L"Go on?", QOR_MSG_YESNO, 0, IDCANCEL, shown));
+    EXPECT_EQ(UINT{IDNO}, Answer(L"Go on?", QOR_MSG_YESNO, 0, IDNO, shown));
+    EXPECT_EQ(UINT{IDCANCEL}, Answer(L"Go on?", QOR_MSG_YESNO, 0, IDCANCEL, shown));
 }
 
 TEST(MsgBox, ThreeButtonsStandInOneBandWithEqualGaps)
@@ -204,7 +129,7 @@ TEST(MsgBox, ThreeButtonsStandInOneBandWithEqualGaps)
 TEST(MsgBox, CaptionCloseButtonAnswersCancelNotNo)
 {
     Shown shown;
-    EXPECT_EQ(2u, Answer(L"Go on?", QOR_MSG_YESNO, 0, 1003, shown));
+    EXPECT_EQ(UINT{IDCANCEL}, Answer(L"Go on?", QOR_MSG_YESNO, 0, IDC_DLG_CLOSE, shown));
 }
 
 TEST(MsgBox, EscapeAnswersCancelAlsoWithOneButton)
@@ -212,7 +137,7 @@ TEST(MsgBox, EscapeAnswersCancelAlsoWithOneButton)
     for (const UINT kind : {QOR_MSG_ERROR, QOR_MSG_INFO, QOR_MSG_CONFIRM, QOR_MSG_YESNO}) {
         ts::ModalDriver driver;
         driver.InDialog([](HWND) { ts::Key(VK_ESCAPE); });
-        EXPECT_EQ(2u, QorMsgBox(L"x", kind, 0, nullptr)) << kind;
+        EXPECT_EQ(UINT{IDCANCEL}, QorMsgBox(L"x", kind, 0, nullptr)) << kind;
     }
 }
 
@@ -220,16 +145,16 @@ TEST(MsgBox, SystemMenuCloseAnswersCancel)
 {
     ts::ModalDriver driver;
     driver.InDialog([](HWND box) { ::PostMessageW(box, WM_SYSCOMMAND, SC_CLOSE, 0); });
-    EXPECT_EQ(2u, QorMsgBox(L"x", QOR_MSG_WARNING, 0, nullptr));
+    EXPECT_EQ(UINT{IDCANCEL}, QorMsgBox(L"x", QOR_MSG_WARNING, 0, nullptr));
 }
 
 TEST(MsgBox, EnterPressesTheFocusedButton)
 {
     ts::ModalDriver driver;
     driver.InDialog([](HWND) { ts::Key(VK_RETURN); });
-    EXPECT_EQ(7u, QorMsgBox(L"x", QOR_MSG_YESNO, 0, nullptr));
+    EXPECT_EQ(UINT{IDNO}, QorMsgBox(L"x", QOR_MSG_YESNO, 0, nullptr));
     driver.InDialog([](HWND) { ts::Key(VK_TAB); }).InDialog([](HWND) { ts::Key(VK_RETURN); });
-    EXPECT_EQ(2u, QorMsgBox(L"x", QOR_MSG_YESNO, 0, nullptr));
+    EXPECT_EQ(UINT{IDCANCEL}, QorMsgBox(L"x", QOR_MSG_YESNO, 0, nullptr));
 }
 
 TEST(MsgBox, TabGoesThroughTheButtonsInTheirOrder)
@@ -250,7 +175,7 @@ TEST(MsgBox, TabGoesThroughTheButtonsInTheirOrder)
 TEST(MsgBox, TopmostBitKeepsItAbove)
 {
     Shown shown;
-    EXPECT_EQ(1u, Answer(L"x", QOR_MSG_INFO | kTopmost, 0, IDOK, shown));
+    EXPECT_EQ(UINT{IDOK}, Answer(L"x", QOR_MSG_INFO | QOR_MSG_TOPMOST, 0, IDOK, shown));
     EXPECT_TRUE(shown.topmost);
     EXPECT_EQ(Expect({{IDOK, L"STR_OK"}}), shown.buttons);
 }
@@ -270,116 +195,16 @@ TEST(MsgBox, TopmostBitLeavesPlaceAndSize)
     const ts::ReplacedImport hook(L"afx.dll", "SetWindowPos", &RecordTopmost);
     g_topmostFlags = 0;
     Shown shown;
-    Answer(L"x", QOR_MSG_INFO | kTopmost, 0, IDOK, shown);
+    Answer(L"x", QOR_MSG_INFO | QOR_MSG_TOPMOST, 0, IDOK, shown);
     EXPECT_EQ(static_cast<UINT>(SWP_NOSIZE | SWP_NOMOVE), g_topmostFlags);
 }
 
 TEST(MsgBox, UpperBitsOfTheTypeDoNotMatter)
 {
     Shown shown;
-    EXPECT_EQ(7u, Answer(L"x", 0xABCD0005, 0, IDNO, shown));
+    EXPECT_EQ(UINT{IDNO}, Answer(L"x", 0xABCD0000 | QOR_MSG_YESNO, 0, IDNO, shown));
     EXPECT_FALSE(shown.topmost);
     EXPECT_EQ(3u, shown.buttons.size());
-}
-
-TEST(MsgBox, EmptyErrorTextSaysThatTheOperationFailed)
-{
-    Shown shown;
-    Answer(L"", 0, 0, IDOK, shown);
-    EXPECT_STREQ(LibString(L"STR_OPERATE_FAIL"), shown.text);
-    Answer(nullptr, 0, 0, IDOK, shown);
-    EXPECT_STREQ(LibString(L"STR_OPERATE_FAIL"), shown.text);
-}
-
-TEST(MsgBox, EmptyTextStaysEmptyForEveryOtherType)
-{
-    Shown shown;
-    Answer(L"", kTopmost, 0, IDOK, shown);
-    EXPECT_STREQ(L"", shown.text);
-    Answer(L"", QOR_MSG_WARNING, 0, IDOK, shown);
-    EXPECT_STREQ(L"", shown.text);
-}
-
-CString WithCode(LPCWSTR text, DWORD code)
-{
-    CString whole(text);
-    whole.AppendFormat(L"\r\n%s: %s", QorGetString(L"STR_ERROR"), QorFormatMsg(code).GetString());
-    return whole;
-}
-
-TEST(MsgBox, AppendsTheTextOfTheErrorCode)
-{
-    Shown shown;
-    Answer(L"It failed", 0, ERROR_ACCESS_DENIED, IDOK, shown);
-    EXPECT_STREQ(WithCode(L"It failed", ERROR_ACCESS_DENIED), shown.text);
-}
-
-TEST(MsgBox, AppendsTheTextOfAnHresult)
-{
-    Shown shown;
-    Answer(L"It failed", 0, static_cast<DWORD>(E_INVALIDARG), IDOK, shown);
-    EXPECT_STREQ(WithCode(L"It failed", static_cast<DWORD>(E_INVALIDARG)), shown.text);
-}
-
-TEST(MsgBox, AllOnesStandForTheLastError)
-{
-    Shown shown;
-    ts::ModalDriver driver;
-    LookAndPressOk(driver, shown);
-    ::SetLastError(ERROR_FILE_NOT_FOUND);
-    QorMsgBox(L"It failed", 0, 0xFFFFFFFF, nullptr);
-    EXPECT_STREQ(WithCode(L"It failed", ERROR_FILE_NOT_FOUND), shown.text);
-}
-
-TEST(MsgBox, LastErrorIsTheOneAtTheTimeOfTheCall)
-{
-    // Texts that are looked for in vain change the last error.
-    const ts::TempFolder folder;
-    const ts::EnvironmentVariable texts(L"QOR_LANG_DIR", folder.Path().c_str());
-    Shown shown;
-    ts::ModalDriver driver;
-    LookAndPressOk(driver, shown);
-    ::SetLastError(ERROR_CRC);
-    QorMsgBox(L"", 0, 0xFFFFFFFF, nullptr);
-    EXPECT_STREQ(WithCode(L"STR_OPERATE_FAIL", ERROR_CRC), shown.text);
-}
-
-TEST(MsgBox, LastErrorOfZeroAppendsNothing)
-{
-    Shown shown;
-    ts::ModalDriver driver;
-    LookAndPressOk(driver, shown);
-    ::SetLastError(0);
-    QorMsgBox(L"Plain", 0, 0xFFFFFFFF, nullptr);
-    EXPECT_STREQ(L"Plain", shown.text);
-}
-
-TEST(MsgBox, FormattedBoxTakesTheLastErrorToo)
-{
-    Shown shown;
-    ts::ModalDriver driver;
-    LookAndPressOk(driver, shown);
-    ::SetLastError(ERROR_FILE_NOT_FOUND);
-    QorMsgBox(QOR_MSG_ERROR, 0xFFFFFFFF, L"It %s", L"failed");
-    EXPECT_STREQ(WithCode(L"It failed", ERROR_FILE_NOT_FOUND), shown.text);
-}
-
-TEST(MsgBox, FormattedBoxWithoutAFormatIsEmpty)
-{
-    Shown shown;
-    ts::ModalDriver driver;
-    LookAndPressOk(driver, shown);
-    EXPECT_EQ(1u, QorMsgBox(QOR_MSG_INFO, 0, nullptr));
-    EXPECT_STREQ(L"", shown.text);
-}
-
-TEST(MsgBox, FormatsItsText)
-{
-    Shown shown;
-    ts::ModalDriver driver;
-    LookAndPressOk(driver, shown);
-    EXPECT_EQ(1u, QorMsgBox(QOR_MSG_INFO, 0, L"%s %d%%", L"free", 12));
-    EXPECT_STREQ(L"free 12%", shown.text);
 }
 
 struct Timer
@@ -415,18 +240,18 @@ std::vector<Timer> TimersOf(UINT type)
 
 TEST(MsgBox, ClosingTimeIsTheSecondByteInSeconds)
 {
-    for (const UINT seconds : {1u, 5u, 128u, 255u}) {
-        const std::vector<Timer> timers = TimersOf(0xFFFF0000 | seconds << 8);
-        ASSERT_EQ(1u, timers.size()) << seconds;
-        EXPECT_EQ(1u, timers[0].id);
-        EXPECT_EQ(seconds * 1000, timers[0].time);
+    for (const BYTE seconds : {BYTE{1}, BYTE{5}, BYTE{128}, BYTE{255}}) {
+        const std::vector<Timer> timers = TimersOf(0xFFFF0000 | QorMsgAutoClose(seconds));
+        ASSERT_EQ(1u, timers.size()) << int{seconds};
+        EXPECT_EQ(kTimer, timers[0].id);
+        EXPECT_EQ(UINT{seconds} * 1000, timers[0].time);
     }
 }
 
 TEST(MsgBox, WithoutSecondsThereIsNoTimer)
 {
-    EXPECT_TRUE(TimersOf(0).empty());
-    EXPECT_TRUE(TimersOf(kTopmost | QOR_MSG_INFO).empty());
+    EXPECT_TRUE(TimersOf(QOR_MSG_ERROR).empty());
+    EXPECT_TRUE(TimersOf(QOR_MSG_TOPMOST | QOR_MSG_INFO).empty());
 }
 
 TEST(MsgBox, TimerEndsWithTheBox)
@@ -434,23 +259,23 @@ TEST(MsgBox, TimerEndsWithTheBox)
     const ts::ReplacedImport hook(L"afx.dll", "KillTimer", &RecordKill);
     g_killed.clear();
     ts::ModalDriver driver;
-    driver.InDialog([](HWND box) { ::PostMessageW(box, WM_TIMER, 1, 0); });
-    EXPECT_EQ(32000u, QorMsgBox(L"x", 0x6400, 0, nullptr));
-    EXPECT_EQ(std::vector<UINT_PTR>{1}, g_killed);
+    driver.InDialog([](HWND box) { ::PostMessageW(box, WM_TIMER, kTimer, 0); });
+    EXPECT_EQ(QOR_MSG_TIMEOUT, QorMsgBox(L"x", QorMsgAutoClose(100), 0, nullptr));
+    EXPECT_EQ(std::vector<UINT_PTR>{kTimer}, g_killed);
 }
 
 TEST(MsgBox, ClosesItselfWhenTheTimeIsUp)
 {
     const DWORD start = ::GetTickCount();
-    EXPECT_EQ(32000u, QorMsgBox(L"x", 0x0102, 0, nullptr));
+    EXPECT_EQ(QOR_MSG_TIMEOUT, QorMsgBox(L"x", QorMsgAutoClose(1) | QOR_MSG_INFO, 0, nullptr));
     EXPECT_GE(::GetTickCount() - start, 950u);
 }
 
 TEST(MsgBox, AnyTimerMessageEndsItAsTimedOut)
 {
     ts::ModalDriver driver;
-    driver.InDialog([](HWND box) { ::PostMessageW(box, WM_TIMER, 99, 0); });
-    EXPECT_EQ(32000u, QorMsgBox(L"x", QOR_MSG_INFO, 0, nullptr));
+    driver.InDialog([](HWND box) { ::PostMessageW(box, WM_TIMER, kTimer + 98, 0); });
+    EXPECT_EQ(QOR_MSG_TIMEOUT, QorMsgBox(L"x", QOR_MSG_INFO, 0, nullptr));
 }
 
 TEST(MsgBox, StandsOnItsParentAndDisablesIt)
@@ -481,7 +306,7 @@ TEST(MsgBox, HasTheSizeOfItsTemplateWhateverItsText)
             ::PostMessageW(box, WM_COMMAND, IDOK, 0);
         });
         QorMsgBox(text, QOR_MSG_INFO, 0, nullptr);
-        EXPECT_EQ(CSize(398, 197), client.Size());
+        EXPECT_EQ(kBoxSize, client.Size());
     }
 }
 
@@ -497,9 +322,9 @@ TEST(MsgBox, ButtonsStandInTheBand)
         ::PostMessageW(box, WM_COMMAND, IDOK, 0);
     });
     QorMsgBox(L"x", QOR_MSG_CONFIRM, 0, nullptr);
-    EXPECT_EQ(398 - 18, cancel.right);
+    EXPECT_EQ(kBoxSize.cx - 18, cancel.right);
     EXPECT_EQ(cancel.left - 9, ok.right);
-    EXPECT_EQ(197 - 49 + (40 - 21) / 2 + 1, cancel.top);
+    EXPECT_EQ(BandY(kBoxSize.cy), cancel.top);
     EXPECT_EQ(cancel.top, ok.top);
 }
 
@@ -507,7 +332,7 @@ TEST(MsgBox, ComesFromTheLibraryThoughTheHostHasADialogOfThatNumber)
 {
     ASSERT_NE(nullptr, ::FindResourceW(nullptr, MAKEINTRESOURCEW(IDD_OF_THE_HOST), RT_DIALOG));
     Shown shown;
-    EXPECT_EQ(1u, Answer(L"What happened", QOR_MSG_INFO, 0, IDOK, shown));
+    EXPECT_EQ(UINT{IDOK}, Answer(L"What happened", QOR_MSG_INFO, 0, IDOK, shown));
     EXPECT_STREQ(L"What happened", shown.text);
 }
 
@@ -516,7 +341,7 @@ TEST(MsgBox, AParentWithoutAWindowIsNone)
     CWnd none;
     ts::ModalDriver driver;
     driver.InDialog([](HWND) { ts::Key(VK_ESCAPE); });
-    EXPECT_EQ(2u, QorMsgBox(L"x", QOR_MSG_INFO, 0, &none));
+    EXPECT_EQ(UINT{IDCANCEL}, QorMsgBox(L"x", QOR_MSG_INFO, 0, &none));
     EXPECT_TRUE(driver.Finished());
 }
 
@@ -571,8 +396,8 @@ TEST(MsgBox, NestedBoxesAnswerOneByOne)
     ts::HostWindow host;
     CNestingOwner owner;
     ASSERT_TRUE(owner.SubclassWindow(host.Hwnd()));
-    EXPECT_EQ(1u, QorMsgBox(L"outer", QOR_MSG_INFO, 0, &owner));
-    EXPECT_EQ(6u, owner.m_inner);
+    EXPECT_EQ(UINT{IDOK}, QorMsgBox(L"outer", QOR_MSG_INFO, 0, &owner));
+    EXPECT_EQ(UINT{IDYES}, owner.m_inner);
     EXPECT_TRUE(::IsWindowEnabled(host.Hwnd()));
     owner.UnsubclassWindow();
 }

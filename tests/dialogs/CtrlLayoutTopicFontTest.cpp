@@ -58,7 +58,7 @@ LOGFONTW StockFont()
 LOGFONTW Topic(LOGFONTW font, LONG height)
 {
     font.lfHeight = height;
-    font.lfWeight = 700;
+    font.lfWeight = FW_BOLD;
     return font;
 }
 
@@ -83,14 +83,14 @@ TEST(TopicFont, IsTriedAgainUntilItOrTheStockFaceCanBeMade)
     EXPECT_STREQ(L"Topic", text) << "the text does not need the font";
 
     // A control that does not exist needs no font and fixes no height.
-    QorSetTopicCtrl(&dialog, 4242, nullptr, -31);
+    QorSetTopicCtrl(&dialog, kNoSuchId, nullptr, -31);
 
     const LOGFONTW stock = StockFont();
     g_failures = 1;
     QorSetTopicCtrl(&dialog, IDC_FIRST, nullptr, -18);
     const LOGFONTW made = FontOf(dialog, IDC_FIRST);
     EXPECT_EQ(-18, made.lfHeight);
-    EXPECT_EQ(700, made.lfWeight);
+    EXPECT_EQ(FW_BOLD, made.lfWeight);
     EXPECT_STREQ(stock.lfFaceName, made.lfFaceName);
     EXPECT_EQ(stock.lfCharSet, made.lfCharSet);
 
