@@ -328,14 +328,6 @@ TEST(MsgBox, ButtonsStandInTheBand)
     EXPECT_EQ(cancel.top, ok.top);
 }
 
-TEST(MsgBox, ComesFromTheLibraryThoughTheHostHasADialogOfThatNumber)
-{
-    ASSERT_NE(nullptr, ::FindResourceW(nullptr, MAKEINTRESOURCEW(IDD_OF_THE_HOST), RT_DIALOG));
-    Shown shown;
-    EXPECT_EQ(UINT{IDOK}, Answer(L"What happened", QOR_MSG_INFO, 0, IDOK, shown));
-    EXPECT_STREQ(L"What happened", shown.text);
-}
-
 TEST(MsgBox, AParentWithoutAWindowIsNone)
 {
     CWnd none;
@@ -343,23 +335,6 @@ TEST(MsgBox, AParentWithoutAWindowIsNone)
     driver.InDialog([](HWND) { ts::Key(VK_ESCAPE); });
     EXPECT_EQ(UINT{IDCANCEL}, QorMsgBox(L"x", QOR_MSG_INFO, 0, &none));
     EXPECT_TRUE(driver.Finished());
-}
-
-TEST(MsgBox, ResourcesComeFromTheHostWhileItIsOpenAndAfterwards)
-{
-    const HINSTANCE host = ::GetModuleHandleW(nullptr);
-    const HINSTANCE before = AfxGetModuleState()->m_hCurrentResourceHandle;
-    AfxGetModuleState()->m_hCurrentResourceHandle = ::GetModuleHandleW(L"kernel32.dll");
-    HINSTANCE during = nullptr;
-    ts::ModalDriver driver;
-    driver.InDialog([&during](HWND box) {
-        during = AfxGetModuleState()->m_hCurrentResourceHandle;
-        ::PostMessageW(box, WM_COMMAND, IDOK, 0);
-    });
-    QorMsgBox(L"x", QOR_MSG_INFO, 0, nullptr);
-    EXPECT_EQ(host, during);
-    EXPECT_EQ(host, AfxGetModuleState()->m_hCurrentResourceHandle);
-    AfxGetModuleState()->m_hCurrentResourceHandle = before;
 }
 
 /** Opens a second box while the first is idle, answers it with Yes, and then the first with OK. */

@@ -10,14 +10,6 @@ static_assert(QOR_MSG_CONFIRM == 3 && QOR_MSG_RETRY == 4 && QOR_MSG_YESNO == 5);
 static_assert(QOR_MSG_TOPMOST == 0x80 && QorMsgAutoClose(5) == 0x0500);
 static_assert(QOR_MSG_TIMEOUT == 32000 && QOR_LAST_ERROR == 0xFFFFFFFF);
 
-inline CString TextOf(HWND wnd)
-{
-    CString text;
-    ::GetWindowTextW(wnd, text.GetBuffer(1024), 1024);
-    text.ReleaseBuffer();
-    return text;
-}
-
 /** What an open box shows. */
 struct Shown
 {
@@ -40,8 +32,8 @@ inline CRect RectOf(HWND ctrl)
 inline Shown Look(HWND box)
 {
     Shown shown;
-    shown.caption = TextOf(box);
-    shown.text = TextOf(::GetDlgItem(box, IDC_BOX_TEXT));
+    shown.caption = ts::TextOf(box);
+    shown.text = ts::TextOf(box, IDC_BOX_TEXT);
     shown.icon = reinterpret_cast<HICON>(::SendDlgItemMessageW(box, IDC_BOX_ICON, STM_GETICON, 0, 0));
     shown.topmost = (::GetWindowLongW(box, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
     shown.focus = ::GetDlgCtrlID(::GetFocus());
@@ -53,7 +45,7 @@ inline Shown Look(HWND box)
         }
     }
     for (const auto& [left, button] : byLeft) {
-        shown.buttons.emplace_back(::GetDlgCtrlID(button), TextOf(button));
+        shown.buttons.emplace_back(::GetDlgCtrlID(button), ts::TextOf(button));
         shown.skinned = shown.skinned && (::GetWindowLongW(button, GWL_STYLE) & BS_TYPEMASK) == BS_OWNERDRAW;
     }
     return shown;

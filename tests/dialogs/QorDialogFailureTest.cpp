@@ -41,7 +41,7 @@ TEST(DialogFailure, LeavesNothingBehindWhenItDoesNotOpen)
 
 TEST(DialogFailure, OpensWithoutThePictureOfItsCloseButton)
 {
-    const ts::ReplacedImport hook(L"QorUI.dll", "LoadBitmapW", &NoBitmap);
+    const ts::ReplacedImport hook(L"QorUI.dll", "LoadBitmapW", &ts::NoBitmapResource);
     CTestDialog dialog(IDD_OK_CANCEL, kBand);
     ts::ModalDriver driver;
     driver.InDialog([](HWND wnd) { ts::Click(::GetDlgItem(wnd, IDC_DLG_CLOSE)); });

@@ -10,14 +10,6 @@ class ServiceFailure : public testing::Test
 {
   protected:
     ~ServiceFailure() override { qordouble::Reset(); }
-
-    static CString TextOf(HWND dialog, int id)
-    {
-        CString text;
-        ::GetDlgItemTextW(dialog, id, text.GetBuffer(256), 256);
-        text.ReleaseBuffer();
-        return text;
-    }
 };
 
 TEST_F(ServiceFailure, ADialogsButtonsShowTheirKeys)
@@ -25,8 +17,8 @@ TEST_F(ServiceFailure, ADialogsButtonsShowTheirKeys)
     qordouble::Fail("QorGetModuleLang", ERROR_FILE_NOT_FOUND);
     CTestDialog dialog(IDD_OK_CANCEL, kBand);
     ASSERT_TRUE(dialog.Open());
-    EXPECT_STREQ(L"STR_OK", TextOf(dialog, IDOK));
-    EXPECT_STREQ(L"STR_CANCEL", TextOf(dialog, IDCANCEL));
+    EXPECT_STREQ(L"STR_OK", ts::TextOf(dialog, IDOK));
+    EXPECT_STREQ(L"STR_CANCEL", ts::TextOf(dialog, IDCANCEL));
 }
 
 TEST_F(ServiceFailure, ADialogWithoutItsElementKeepsItsTextsAndGivesKeys)
@@ -38,8 +30,8 @@ TEST_F(ServiceFailure, ADialogWithoutItsElementKeepsItsTextsAndGivesKeys)
     EXPECT_EQ(1, qordouble::CountCalls("QorSetDlgLang"));
     EXPECT_STREQ(L"STR_LOGON_FAIL", dialog.GetDlgString(L"STR_LOGON_FAIL"));
     dialog.SetDlgCtrlText(IDC_FIRST, 7, L"nine");
-    EXPECT_STREQ(L"value 7 of nine", TextOf(dialog, IDC_FIRST));
-    EXPECT_STREQ(L"second", TextOf(dialog, IDC_SECOND));
+    EXPECT_STREQ(L"value 7 of nine", ts::TextOf(dialog, IDC_FIRST));
+    EXPECT_STREQ(L"second", ts::TextOf(dialog, IDC_SECOND));
 }
 
 TEST_F(ServiceFailure, AMessageBoxShowsKeysAndAnswers)
@@ -51,10 +43,9 @@ TEST_F(ServiceFailure, AMessageBoxShowsKeysAndAnswers)
     CString message;
     ts::ModalDriver driver;
     driver.InDialog([&](HWND box) {
-        ::GetWindowTextW(box, caption.GetBuffer(256), 256);
-        caption.ReleaseBuffer();
-        buttons = TextOf(box, IDYES) + L" " + TextOf(box, IDNO) + L" " + TextOf(box, IDCANCEL);
-        message = TextOf(box, IDC_BOX_TEXT);
+        caption = ts::TextOf(box);
+        buttons = ts::TextOf(box, IDYES) + L" " + ts::TextOf(box, IDNO) + L" " + ts::TextOf(box, IDCANCEL);
+        message = ts::TextOf(box, IDC_BOX_TEXT);
         ts::Click(::GetDlgItem(box, IDYES));
     });
     EXPECT_EQ(UINT{IDYES}, QorMsgBox(L"Go on?", QOR_MSG_YESNO, ERROR_ACCESS_DENIED, nullptr));
@@ -69,7 +60,7 @@ TEST_F(ServiceFailure, AnEmptyErrorMessageShowsItsKey)
     CString message;
     ts::ModalDriver driver;
     driver.InDialog([&message](HWND box) {
-        message = TextOf(box, IDC_BOX_TEXT);
+        message = ts::TextOf(box, IDC_BOX_TEXT);
         ts::Click(::GetDlgItem(box, IDOK));
     });
     EXPECT_EQ(UINT{IDOK}, QorMsgBox(L"", QOR_MSG_ERROR, 0, nullptr));

@@ -1,19 +1,14 @@
 #include "TestDialogs.h"
 
 #include <QorPub/QorPub.h>
+#include <tests/support/Resources.h>
+#include <tests/support/ui/Drawn.h>
 
 #include <array>
 #include <memory>
 
 namespace
 {
-
-CString TextOf(CWnd& dialog, UINT id)
-{
-    CString text;
-    dialog.GetDlgItemText(static_cast<int>(id), text);
-    return text;
-}
 
 TEST(Dialog, MeasuresAsOnWindows)
 {
@@ -36,10 +31,7 @@ TEST(Dialog, CloseButtonShowsItsStrip)
     CTestDialog dialog(IDD_OK_CANCEL, kBand);
     ASSERT_TRUE(dialog.Open());
     ts::ParkMouse();
-    const HINSTANCE library = ::GetModuleHandleW(L"QorUI.dll");
-    CBitmap strip;
-    strip.Attach(::LoadBitmapW(library, MAKEINTRESOURCEW(IDB_DLG_CLOSE)));
-    const ts::Picture frame = ts::PictureOf(strip).Crop({0, 0, 42, 17});
+    const ts::Picture frame = ts::ResourcePicture(ts::Library(), IDB_DLG_CLOSE).Crop({0, 0, 42, 17});
     EXPECT_TRUE(ts::SamePicture(frame, ts::CaptureWindow(::GetDlgItem(dialog, IDC_DLG_CLOSE))));
 }
 
@@ -101,8 +93,8 @@ TEST(Dialog, GivesOkAndCancelTheLibrarysTexts)
 {
     CTestDialog dialog(IDD_OK_CANCEL, kBand);
     ASSERT_TRUE(dialog.Open());
-    EXPECT_STREQ(LibString(L"STR_OK"), TextOf(dialog, IDOK));
-    EXPECT_STREQ(LibString(L"STR_CANCEL"), TextOf(dialog, IDCANCEL));
+    EXPECT_STREQ(LibString(L"STR_OK"), ts::TextOf(dialog, IDOK));
+    EXPECT_STREQ(LibString(L"STR_CANCEL"), ts::TextOf(dialog, IDCANCEL));
     EXPECT_STRNE(L"STR_OK", LibString(L"STR_OK"));
 }
 

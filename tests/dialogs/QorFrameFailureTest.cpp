@@ -55,7 +55,7 @@ TEST(FrameFailure, LeavesNothingBehindWhenItIsNotCreated)
 
 TEST(FrameFailure, OpensWithoutThePicturesOfItsTitleButtons)
 {
-    const ts::ReplacedImport hook(L"QorUI.dll", "LoadBitmapW", &NoBitmap);
+    const ts::ReplacedImport hook(L"QorUI.dll", "LoadBitmapW", &ts::NoBitmapResource);
     CTestFrame frame;
     ASSERT_TRUE(frame.Open());
     ts::Click(::GetDlgItem(frame, IDC_FRAME_CLOSE));

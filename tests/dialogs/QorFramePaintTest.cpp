@@ -2,6 +2,7 @@
 
 #include <QorUI/app/draw/GdiPlusFlat.h>
 #include <tests/support/Imports.h>
+#include <tests/support/Resources.h>
 
 #include <memory>
 
@@ -50,8 +51,7 @@ TEST(Frame, BackgroundAndOutlineHaveTheirColours)
 /** A picture of the library's resources. */
 std::unique_ptr<Gdiplus::Image> LibraryPicture(UINT id)
 {
-    const HINSTANCE library = ::GetModuleHandleW(L"QorUI.dll");
-    auto* image = static_cast<const Gdiplus::Image*>(QorImageFromResource(library, MAKEINTRESOURCEW(id), L"PNG"));
+    auto* image = static_cast<const Gdiplus::Image*>(QorImageFromResource(ts::Library(), MAKEINTRESOURCEW(id), L"PNG"));
     return std::unique_ptr<Gdiplus::Image>(const_cast<Gdiplus::Image*>(image));
 }
 

@@ -1,6 +1,8 @@
 #include "TestFrame.h"
 
 #include <tests/support/Imports.h>
+#include <tests/support/Resources.h>
+#include <tests/support/ui/Drawn.h>
 
 #include <algorithm>
 
@@ -79,12 +81,10 @@ TEST(Frame, TitleButtonsShowTheirStrips)
     CTestFrame frame;
     ASSERT_TRUE(frame.Open());
     ts::ParkMouse();
-    const HINSTANCE library = ::GetModuleHandleW(L"QorUI.dll");
     const int widths[] = {26, 25, 42};
     for (int i = 0; i < 3; ++i) {
-        CBitmap strip;
-        strip.Attach(::LoadBitmapW(library, MAKEINTRESOURCEW(IDB_FRAME_MINIMIZE + i)));
-        const ts::Picture expected = ts::PictureOf(strip).Crop({0, 0, widths[i], 17});
+        const UINT id = IDB_FRAME_MINIMIZE + static_cast<UINT>(i);
+        const ts::Picture expected = ts::ResourcePicture(ts::Library(), id).Crop({0, 0, widths[i], 17});
         const HWND button = ::GetDlgItem(frame, static_cast<int>(kMinimize) + i);
         EXPECT_TRUE(ts::SamePicture(expected, ts::CaptureWindow(button))) << i;
     }

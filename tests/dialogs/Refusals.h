@@ -3,6 +3,7 @@
 #include "TestDialogs.h"
 
 #include <tests/support/Imports.h>
+#include <tests/support/Refusals.h>
 
 /** @file What the system refuses to dialogs and frame windows. */
 
@@ -37,8 +38,3 @@ class CRefused : public Window
         return message == WM_CREATE ? -1 : Window::DefWindowProc(message, wParam, lParam);
     }
 };
-
-inline HBITMAP WINAPI NoBitmap(HINSTANCE, LPCWSTR)
-{
-    return nullptr;
-}

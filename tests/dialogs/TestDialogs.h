@@ -7,6 +7,7 @@
 #include <QorUI/QorUI.h>
 #include <QorUI/res/resource.h>
 #include <tests/support/Support.h>
+#include <tests/support/ui/Control.h>
 
 /** @file What the tests of dialogs and frame windows share. */
 
