@@ -8,7 +8,6 @@
 #include <QorUI/app/draw/GdiSavers.h>
 #include <QorUI/app/look/Palette.h>
 #include <QorUI/app/module/LibText.h>
-#include <QorUI/app/module/QorUIApp.h>
 #include <QorUI/app/module/SystemVersion.h>
 #include <QorUI/res/resource.h>
 
