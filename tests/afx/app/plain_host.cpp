@@ -1,4 +1,4 @@
-#include "resource.h"
+#include <tests/afx/resource.h>
 
 #include <afxwin.h>
 

@@ -1,4 +1,5 @@
 #include "Painted.h"
+#include "resource.h"
 
 #include <tests/support/Support.h>
 #include <tests/support/ui/AfxHost.h>

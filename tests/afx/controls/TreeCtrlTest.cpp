@@ -1,3 +1,5 @@
+#include "resource.h"
+
 #include <tests/support/Support.h>
 #include <tests/support/ui/AfxHost.h>
 
