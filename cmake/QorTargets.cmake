@@ -141,6 +141,12 @@ function(_qor_finish name)
     endif()
 endfunction()
 
+# Precompiles the framework for a target: three quarters of the time that a source of the product takes. Not for the
+# framework itself, whose headers' own warnings would no longer be seen.
+function(qor_precompile_framework name)
+    target_precompile_headers(${name} PRIVATE <afxwin.h> <afxcmn.h> <algorithm> <functional> <memory> <string> <vector>)
+endfunction()
+
 # qor_dll(<name> SOURCES ... [EXCEPT ...] LIBS ... [HEADERS ...] [HEADERS_FROM folder] [PRIVATE_LIBS ...] [RC file.rc]
 #         [DEFINES ...] [CORE])
 # HEADERS are the public ones, which the SDK has under their path from HEADERS_FROM (default: the project's folder).
@@ -157,6 +163,7 @@ function(qor_dll name)
         add_library(${code} STATIC ${ARG_SOURCES})
         _qor_finish(${code} LIBS ${ARG_LIBS} DEFINES ${ARG_DEFINES})
         target_link_libraries(${code} PRIVATE ${ARG_PRIVATE_LIBS})
+        qor_precompile_framework(${code})
         add_library(${name} SHARED $<TARGET_OBJECTS:${code}>)
         set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
     else()
