@@ -16,6 +16,12 @@ SOURCE_SUFFIXES = {".cpp", ".h"}
 SECTION = re.compile(r"Strings|IDD_DLG_[A-Z0-9_]+")
 STRINGS_KEY = re.compile(r"STR_[A-Z0-9_]+")
 DIALOG_KEY = re.compile(r"Text|Ctrl[1-9][0-9]{0,4}|STR_[A-Z0-9_]+")
+MNEMONIC = re.compile(r"&(?:&|(?P<letter>.))", re.DOTALL)
+PAGE_FOLDER = "hosts/console/pages"
+# What the library's dialogs put on their buttons beside each other.
+BUTTON_ROWS = (("STR_YES", "STR_NO", "STR_CANCEL"), ("STR_RETRY", "STR_IGNORE", "STR_CANCEL"),
+               ("STR_OK", "STR_CANCEL"), ("STR_BACK", "STR_NEXT", "STR_FINISH", "STR_CANCEL"))
+
 USED_KEY = re.compile(r'"((?:STR|IDD_DLG)_[A-Z0-9_]*[A-Z0-9])"')
 
 PLACEHOLDER = re.compile(
@@ -179,6 +185,46 @@ def check_used(root, english, faults):
             faults.add(where, f"{key} is not in the English language data")
 
 
+def mnemonic(text):
+    """The letter that a text's ampersand marks, in upper case; None without one."""
+    letters = [match["letter"] for match in MNEMONIC.finditer(text) if match["letter"]]
+    return letters[-1].upper() if letters else None
+
+
+def check_mnemonics(where, texts, faults):
+    """Two texts that are shown together must not share a letter: it would only move between them."""
+    owners = {}
+    for key, text in texts.items():
+        letter = mnemonic(text)
+        if letter is not None:
+            owners.setdefault(letter, []).append(key)
+    for letter, keys in sorted(owners.items()):
+        if len(keys) > 1:
+            faults.add(where, f"{' and '.join(sorted(keys))} share the mnemonic {letter}")
+
+
+def keys_of_pages(root):
+    """{page: keys that it uses}"""
+    return {path.stem: set(USED_KEY.findall(path.read_text(encoding="utf-8", errors="replace")))
+            for path in sorted((root / PAGE_FOLDER).glob("*.cpp"))}
+
+
+def check_all_mnemonics(root, languages, faults):
+    pages = keys_of_pages(root)
+    for locale, files in languages.items():
+        strings = {}
+        for name, sections in files.items():
+            strings.update(sections.get("Strings", {}))
+            for section, texts in sections.items():
+                if section != "Strings":
+                    check_mnemonics(f"lang/{locale}/{name}: {section}", texts, faults)
+        for page, keys in pages.items():
+            check_mnemonics(f"lang/{locale}: {page}", {key: strings[key] for key in keys & strings.keys()}, faults)
+        for row in BUTTON_ROWS:
+            texts = {key: strings[key] for key in row if key in strings}
+            check_mnemonics(f"lang/{locale}: buttons", texts, faults)
+
+
 def check(root):
     """All faults of the language data of a source tree."""
     faults = Faults()
@@ -192,6 +238,7 @@ def check(root):
         if locale != ENGLISH:
             compare_language(f"lang/{locale}", english, translation, faults)
     check_used(root, english, faults)
+    check_all_mnemonics(root, languages, faults)
     return faults, languages
 
 

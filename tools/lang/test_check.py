@@ -105,6 +105,35 @@ class CheckTest(unittest.TestCase):
         self.write("hosts/console/B.h", 'x = L"IDD_DLG_TWO";\n')
         self.assert_one_fault("hosts/console/B.h:1", "IDD_DLG_TWO")
 
+    def with_text(self, text):
+        for name, data in (("en", ENGLISH), ("de", GERMAN)):
+            self.write(f"lang/{name}/App.exe.xml", data.replace("<Strings>", "<Strings>" + text))
+
+    def test_two_texts_of_a_page_share_a_mnemonic(self):
+        self.with_text("<STR_ONE>&amp;One</STR_ONE><STR_TWO>Tw&amp;o</STR_TWO>")
+        self.assertEqual(self.faults(), [])
+        self.write("hosts/console/pages/FirstPage.cpp", 'f(L"STR_ONE");\n')
+        self.write("hosts/console/pages/OtherPage.cpp", 'f(L"STR_TWO");\n')
+        self.assertEqual(self.faults(), [])
+        self.write("hosts/console/pages/OtherPage.cpp", 'f(L"STR_TWO");\nf(L"STR_ONE");\n')
+        faults = self.faults()
+        self.assertEqual(len(faults), 2, faults)
+        self.assertIn("lang/de: OtherPage: STR_ONE and STR_TWO share the mnemonic O", faults)
+
+    def test_two_texts_of_a_dialog_share_a_mnemonic(self):
+        for name, text in (("en", ENGLISH), ("de", GERMAN)):
+            text = text.replace("Name</Ctrl100>", "&amp;Name</Ctrl100><Ctrl101>&amp;Next</Ctrl101>")
+            self.write(f"lang/{name}/App.exe.xml", text)
+        self.assertEqual(len(self.faults()), 2)
+
+    def test_two_buttons_beside_each_other_share_a_mnemonic(self):
+        self.with_text("<STR_YES>&amp;Yes</STR_YES><STR_NO>Not &amp;yet</STR_NO>")
+        self.assertIn("lang/de: buttons: STR_NO and STR_YES share the mnemonic Y", self.faults())
+
+    def test_a_doubled_ampersand_is_no_mnemonic(self):
+        self.assertIsNone(check.mnemonic("Save && close"))
+        self.assertEqual(check.mnemonic("Save && &close"), "C")
+
     def test_missing_english(self):
         (self.root / "lang/en/App.exe.xml").unlink()
         (self.root / "lang/en").rmdir()

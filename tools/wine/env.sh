@@ -53,5 +53,7 @@ qor_set_environment()
     qor_check_fonts
     qor_set_language
     export WINEDEBUG="${WINEDEBUG:--all}"
+    # With the newer interpreter the widths that tools/wine/fonts adds are left aside.
+    export FREETYPE_PROPERTIES="truetype:interpreter-version=35"
     export WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=d"
 }
