@@ -1,5 +1,7 @@
 #pragma once
 
+#define __AFXWIN_H__
+
 /** @file
  *  Windows, dialogs, threads and the application, drawing objects, menus and the standard controls. */
 
@@ -15,3 +17,4 @@
 #include <afx/thread.h>
 #include <afx/wnd.h>
 #include <afxres.h>
+#include <atlconv.h>

@@ -7,7 +7,7 @@ namespace
 AFX_EXTENSION_MODULE g_Extension;
 
 // afx makes and destroys the library's static objects in the library's own module state; MFC needs no call for that.
-#ifdef _MFC_VER
+#ifndef AFX_HAS_STATIC_MODULE_INIT
 void EndStaticInit() {}
 void BeginStaticTerm() {}
 #else

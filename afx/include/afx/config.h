@@ -26,6 +26,9 @@
 #include <cstdlib>
 #include <cstring>
 
+/** The level of the documented interface that programs ask for. */
+#define _MFC_VER 0x0C00
+
 /** Marks what afx.dll offers to other modules. */
 #ifdef AFX_BUILD
 #define AFX_LIB __declspec(dllexport)
@@ -52,6 +55,18 @@
 #define AFX_CDECL
 #define AFX_MSG_CALL
 #define afx_msg
+
+/** The smaller and the larger one, for programs that know them as macros of the system's headers. */
+template <class T, class U>
+constexpr auto min(const T& a, const U& b)
+{
+    return a < b ? a : b;
+}
+template <class T, class U>
+constexpr auto max(const T& a, const U& b)
+{
+    return a < b ? b : a;
+}
 
 #ifndef UNREFERENCED_PARAMETER
 #define UNREFERENCED_PARAMETER(P) (static_cast<void>(P))

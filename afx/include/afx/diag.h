@@ -5,6 +5,8 @@
 
 #include <afx/config.h>
 
+#include <crtdbg.h>
+
 /** Called for a failed assertion.
  *  @param lpszFileName source file of the assertion
  *  @param nLine        line in that file
@@ -171,6 +173,11 @@ extern AFX_LIB CDumpContext afxDump;
 #define DEBUG_ONLY(f) ((void)0)
 #define TRACE(...) (false ? ::AfxTrace(__VA_ARGS__) : (void)0)
 #endif
+// The run-time library's own names for it, which do nothing there.
+#undef _ASSERT
+#undef _ASSERTE
+#define _ASSERT(f) ASSERT(f)
+#define _ASSERTE(f) ASSERT(f)
 #define ASSERT_POINTER(p, type) ASSERT((p) && ::AfxIsValidAddress((p), sizeof(type), FALSE))
 #define ASSERT_NULL_OR_POINTER(p, type) ASSERT(!(p) || ::AfxIsValidAddress((p), sizeof(type), FALSE))
 #define ASSERT_KINDOF(class_name, object) ASSERT((object)->IsKindOf(RUNTIME_CLASS(class_name)))

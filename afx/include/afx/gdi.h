@@ -289,6 +289,8 @@ class AFX_LIB CDC : public CObject
     /** Copies the region as the clip region. @return kind of the region, or ERROR. */
     int SelectObject(CRgn* pRgn);
     CGdiObject* SelectObject(CGdiObject* pObject);
+    /** For objects given by value or handle. @return the former object's handle. */
+    HGDIOBJ SelectObject(HGDIOBJ hObject);
     CPen* GetCurrentPen() const;
     CBrush* GetCurrentBrush() const;
     CPalette* GetCurrentPalette() const;

@@ -208,6 +208,9 @@ AFX_LIB
 #endif
 AFX_MODULE_STATE* AFXAPI AfxGetStaticModuleState();
 
+/** Says that the two functions below are there; only then a DLL calls them. */
+#define AFX_HAS_STATIC_MODULE_INIT
+
 /** Only with `afx_module`: ends the time in which the module's own state is current while its static objects are
  *  constructed. Call it first at process attach. */
 void AFXAPI AfxEndModuleStaticInit();

@@ -71,8 +71,10 @@ class AFX_LIB CButton : public CWnd
     /** Shows or hides the shield of commands that need more rights. @return the former icon. */
     HICON SetShield(BOOL fElevationRequired);
     BOOL SetDropDownState(BOOL fDropDown);
+#if _WIN32_WINNT >= 0x0600
     BOOL SetSplitInfo(PBUTTON_SPLITINFO pInfo);
     BOOL GetSplitInfo(PBUTTON_SPLITINFO pInfo) const;
+#endif
 
     /** Called for BS_OWNERDRAW; override it to draw. */
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);

@@ -70,6 +70,31 @@ class AFX_LIB CWinApp : public CWinThread
     LPCTSTR m_pszExeName;
     int m_nWaitCursorCount;
     HCURSOR m_hcurWaitCursorRestore;
+    LPCTSTR m_pszRegistryKey;  ///< Name of the company, or null: the profile is a file then.
+    LPCTSTR m_pszProfileName;  ///< Name of the profile's file, or of the program below the company's key.
+    LPCTSTR m_pszHelpFilePath; ///< Path of the help file: the program's with another ending.
+
+    /** Keeps the profile in the registry, below HKEY_CURRENT_USER\\Software\\<company>\\<program>. */
+    void SetRegistryKey(LPCTSTR lpszRegistryKey);
+    void SetRegistryKey(UINT nIDRegistryKey);
+    /** The program's key, made when it is missing; the caller closes it. Null without SetRegistryKey. */
+    HKEY GetAppRegistryKey();
+    HKEY GetSectionKey(LPCTSTR lpszSection);
+    UINT GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault);
+    BOOL WriteProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nValue);
+    CString GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszDefault = nullptr);
+    /** A null entry deletes the section, a null value the entry. */
+    BOOL WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszValue);
+    /** @param ppData receives a block that the caller frees with delete[]; null when there is none. */
+    BOOL GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes);
+    BOOL WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes);
+
+    /** Nothing is left to enable; for programs of the time when the controls' look was chosen so. @return TRUE. */
+    BOOL Enable3dControls() { return TRUE; }
+    BOOL Enable3dControlsStatic() { return TRUE; }
+
+    /** Opens the help for a topic; the base hands it to the main window's thread as the system's help call. */
+    virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
 
     HCURSOR LoadCursor(LPCTSTR lpszResourceName) const;
     HCURSOR LoadCursor(UINT nIDResource) const;
@@ -97,10 +122,19 @@ class AFX_LIB CWinApp : public CWinThread
     void SetCurrentHandles();
 
     afx_msg void OnAppExit();
+    afx_msg void OnHelp();
+    afx_msg void OnHelpIndex();
+    afx_msg void OnHelpFinder();
 
   protected:
     CString m_strAppName;
     CString m_strExeName;
+    CString m_strRegistryKey;
+    CString m_strProfileName;
+    CString m_strHelpFilePath;
+
+    /** Names the profile's file and the help file after the program, unless they have a name. */
+    void NameProfile();
 
     DECLARE_MESSAGE_MAP()
 };
@@ -142,3 +176,9 @@ AFX_LIB void AfxPostQuitMessage(int nExitCode);
 AFX_LIB BOOL AfxPumpMessage();
 AFX_LIB BOOL AfxPreTranslateMessage(MSG* pMsg);
 AFX_LIB BOOL AfxIsIdleMessage(MSG* pMsg);
+
+/** For programs that contain foreign controls; those need nothing enabled here. */
+inline void AfxEnableControlContainer(void* pOccManager = nullptr)
+{
+    UNUSED_ALWAYS(pOccManager);
+}

@@ -8,6 +8,11 @@
 // A macro of the system's headers that hides CWnd::GetNextWindow.
 #undef GetNextWindow
 
+inline HWND GetNextWindow(HWND hWnd, UINT nCmd)
+{
+    return ::GetWindow(hWnd, nCmd);
+}
+
 class CBitmap;
 class CDC;
 class CDataExchange;
@@ -36,8 +41,18 @@ class CWinThread;
 
 // Messages of the framework, sent within the process only.
 #define WM_QUERYAFXWNDPROC 0x0360 ///< Answered with 1 by windows whose procedure is the framework's.
+#define WM_SIZEPARENT 0x0361      ///< lParam AFX_SIZEPARENTPARAMS: a child of RepositionBars takes its share.
 #define WM_IDLEUPDATECMDUI 0x0363 ///< wParam TRUE: disable what has no handler.
 #define WM_KICKIDLE 0x036A        ///< Sent by modal loops when idle; wParam MSGF_DIALOGBOX, lParam idle count.
+
+/** What WM_SIZEPARENT carries. */
+struct AFX_SIZEPARENTPARAMS
+{
+    HDWP hDWP;      ///< Moves are deferred into this; null: nothing shall be moved.
+    RECT rect;      ///< What is left of the parent; a child takes its share away.
+    SIZE sizeTotal; ///< Adds up what the children take.
+    BOOL bStretch;  ///< Children fill the whole side.
+};
 
 /** A window of the system with an object that takes part in its messages. */
 class AFX_LIB CWnd : public CCmdTarget
@@ -264,6 +279,8 @@ class AFX_LIB CWnd : public CCmdTarget
                        UINT flags);
     int SetScrollPos(int nBar, int nPos, BOOL bRedraw = TRUE);
     void SetScrollRange(int nBar, int nMinPos, int nMaxPos, BOOL bRedraw = TRUE);
+    /** Enables or disables a scroll bar of the window, or the control that stands for it. */
+    void EnableScrollBarCtrl(int nBar, BOOL bEnable = TRUE);
     void ShowScrollBar(UINT nBar, BOOL bShow = TRUE);
     BOOL SetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, BOOL bRedraw = TRUE);
     BOOL GetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, UINT nMask = SIF_ALL);
@@ -280,6 +297,17 @@ class AFX_LIB CWnd : public CCmdTarget
     int GetDlgItemText(int nID, CString& rString) const;
     void SetDlgItemInt(int nID, UINT nValue, BOOL bSigned = TRUE);
     void SetDlgItemText(int nID, LPCTSTR lpszString);
+    /** Lets the children with ids from nIDFirst to nIDLast take their share of the client area (WM_SIZEPARENT) and
+     * gives the rest to nIDLeftOver. */
+    void RepositionBars(UINT nIDFirst, UINT nIDLast, UINT nIDLeftOver, UINT nFlag = reposDefault,
+                        LPRECT lpRectParam = nullptr, LPCRECT lpRectClient = nullptr, BOOL bStretch = TRUE);
+    enum RepositionFlags
+    {
+        reposDefault = 0, ///< Moves the children.
+        reposQuery = 1,   ///< Only tells in lpRectParam what would be left over.
+        reposExtra = 2,   ///< Keeps the borders of lpRectParam free inside of what is left over.
+        reposNoPosLeftOver = 0x8000
+    };
     CWnd* GetNextDlgGroupItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
     CWnd* GetNextDlgTabItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
     int DlgDirList(LPTSTR lpPathSpec, int nIDListBox, int nIDStaticPath, UINT nFileType);

@@ -54,6 +54,9 @@ CWinApp::CWinApp(LPCTSTR lpszAppName)
       m_pszExeName(nullptr),
       m_nWaitCursorCount(0),
       m_hcurWaitCursorRestore(nullptr),
+      m_pszRegistryKey(nullptr),
+      m_pszProfileName(nullptr),
+      m_pszHelpFilePath(nullptr),
       m_strAppName(lpszAppName)
 {
     if (lpszAppName) {
@@ -91,6 +94,7 @@ void CWinApp::SetCurrentHandles()
         m_strAppName = m_strExeName;
         m_pszAppName = m_strAppName;
     }
+    NameProfile();
     m_pModuleState->m_hCurrentInstanceHandle = m_hInstance;
     m_pModuleState->m_hCurrentResourceHandle = m_hInstance;
     m_pModuleState->m_lpszCurrentAppName = m_pszAppName;

@@ -1,5 +1,6 @@
 #include "bothcontexts.h"
 #include "core/adopt.h"
+#include "core/nullthis.h"
 #include "handlemaps.h"
 #include "handles.h"
 
@@ -55,7 +56,7 @@ CDC::operator HDC() const
 
 HDC CDC::GetSafeHdc() const
 {
-    return m_hDC;
+    return AfxIsNullThis(this) ? nullptr : m_hDC;
 }
 
 CWnd* CDC::GetWindow() const

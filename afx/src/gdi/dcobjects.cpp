@@ -76,6 +76,11 @@ int CDC::SelectObject(CRgn* pRgn)
                        [=](HDC hDC) { return static_cast<int>(reinterpret_cast<INT_PTR>(::SelectObject(hDC, hRgn))); });
 }
 
+HGDIOBJ CDC::SelectObject(HGDIOBJ hObject)
+{
+    return gdi::OnBoth(*this, HGDIOBJ{nullptr}, [=](HDC hDC) { return ::SelectObject(hDC, hObject); });
+}
+
 CGdiObject* CDC::SelectObject(CGdiObject* pObject)
 {
     return SelectOnBoth(*this, gdi::HandleOf(pObject));

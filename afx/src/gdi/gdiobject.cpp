@@ -1,3 +1,4 @@
+#include "core/nullthis.h"
 #include "handlemaps.h"
 
 #include <afxwin.h>
@@ -16,7 +17,7 @@ CGdiObject::operator HGDIOBJ() const
 
 HGDIOBJ CGdiObject::GetSafeHandle() const
 {
-    return m_hObject;
+    return AfxIsNullThis(this) ? nullptr : m_hObject;
 }
 
 CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ hObject)

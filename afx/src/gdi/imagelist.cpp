@@ -1,4 +1,5 @@
 #include "core/adopt.h"
+#include "core/nullthis.h"
 #include "handlemaps.h"
 #include "handles.h"
 
@@ -52,7 +53,7 @@ CImageList::operator HIMAGELIST() const
 
 HIMAGELIST CImageList::GetSafeHandle() const
 {
-    return m_hImageList;
+    return AfxIsNullThis(this) ? nullptr : m_hImageList;
 }
 
 CImageList* PASCAL CImageList::FromHandle(HIMAGELIST hImageList)

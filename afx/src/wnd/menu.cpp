@@ -1,4 +1,5 @@
 #include "core/adopt.h"
+#include "core/nullthis.h"
 #include "gdi/handlemaps.h"
 #include "gdi/handles.h"
 
@@ -60,7 +61,7 @@ void PASCAL CMenu::DeleteTempMap()
 
 HMENU CMenu::GetSafeHmenu() const
 {
-    return m_hMenu;
+    return AfxIsNullThis(this) ? nullptr : m_hMenu;
 }
 
 CMenu::operator HMENU() const

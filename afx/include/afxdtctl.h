@@ -1,0 +1,6 @@
+#pragma once
+
+/** @file
+ *  Date and time pickers; they stand with the other common controls. */
+
+#include <afxcmn.h>
