@@ -30,3 +30,14 @@ TEST(Dc, SelectObjectReturnsWhatWasSelected)
     EXPECT_EQ(formerFont->m_hObject, ::GetStockObject(SYSTEM_FONT));
     EXPECT_EQ(dc.SelectObject(formerFont), &font);
 }
+
+TEST(DcObjects, SelectObjectTakesObjectsByValueAndGivesTheFormerHandle)
+{
+    CDC dc;
+    ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
+    CFont font;
+    ASSERT_TRUE(font.CreateStockObject(DEFAULT_GUI_FONT));
+    const HGDIOBJ former = ::GetCurrentObject(dc.m_hDC, OBJ_FONT);
+    EXPECT_EQ(dc.SelectObject(font), former);
+    EXPECT_EQ(::GetCurrentObject(dc.m_hDC, OBJ_FONT), font.m_hObject);
+}

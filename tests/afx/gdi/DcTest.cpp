@@ -96,3 +96,9 @@ TEST(Dc, SaveAndRestoreBringBackTheState)
     EXPECT_EQ(dc.GetTextColor(), kRed);
     EXPECT_FALSE(dc.RestoreDC(7));
 }
+
+TEST(Dc, GivesNoHandleThroughANullPointer)
+{
+    CDC* volatile none = nullptr;
+    EXPECT_EQ(none->GetSafeHdc(), nullptr);
+}

@@ -124,3 +124,9 @@ TEST(GdiObject, LeavesNoHandleBehind)
         dc.CDC::SelectObject(formerFont);
     }));
 }
+
+TEST(GdiObject, GivesNoHandleThroughANullPointer)
+{
+    CGdiObject* volatile none = nullptr;
+    EXPECT_EQ(none->GetSafeHandle(), nullptr);
+}

@@ -216,3 +216,9 @@ TEST(ImageList, EmptyObjectFailsQuietly)
     EXPECT_FALSE(list.Remove(0));
     EXPECT_EQ(list.Add(::LoadIcon(nullptr, IDI_ERROR)), -1);
 }
+
+TEST(ImageList, GivesNoHandleThroughANullPointer)
+{
+    CImageList* volatile none = nullptr;
+    EXPECT_EQ(none->GetSafeHandle(), nullptr);
+}
