@@ -565,7 +565,8 @@ AFX_LIB LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, 
 
 /** Binds the next window that this thread creates to an object, from its first message on. */
 AFX_LIB void AfxHookWindowCreate(CWnd* pWnd);
-/** Ends AfxHookWindowCreate. @return FALSE when no window was bound. */
+/** Ends AfxHookWindowCreate. What the object threw when its window was bound leaves this function.
+ *  @return FALSE when no window was bound, or it is gone again because another hook refused it. */
 AFX_LIB BOOL AfxUnhookWindowCreate();
 
 /** Sets the text of a window only when it differs. */

@@ -1,4 +1,4 @@
-#include "wnd/internal.h"
+#include <afxwin.h>
 
 #include <common/Owner.h>
 

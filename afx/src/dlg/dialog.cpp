@@ -175,7 +175,6 @@ HWND CDialog::PreModal()
 
 void CDialog::PostModal()
 {
-    AfxUnhookWindowCreate();
     Detach();
     if (::IsWindow(m_hWndTop)) {
         ::EnableWindow(m_hWndTop, TRUE);

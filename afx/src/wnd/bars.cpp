@@ -1,4 +1,4 @@
-#include "wnd/internal.h"
+#include <afxwin.h>
 
 /* Children that share the client area of their parent. */
 

@@ -2,10 +2,39 @@
 
 #include <afxwin.h>
 
+#include <exception>
 #include <utility>
+#include <vector>
 
 namespace
 {
+/** An object that waits for its window, or has it since the creation hook ran. */
+struct Binding
+{
+    CWnd* pWnd;
+    HWND hWnd = nullptr;
+    std::exception_ptr error; ///< What the object threw when it was bound.
+};
+
+/** Creations of this thread, the innermost last: a window that is being made may make others. */
+std::vector<Binding>& Bindings()
+{
+    static thread_local std::vector<Binding> bindings;
+    return bindings;
+}
+
+/** Lets an object go whose window is gone although no message told it so. @return whether there was one. */
+bool ReleaseDeadWindow(const Binding& binding)
+{
+    // The object may be gone; as long as the map has it, it is not.
+    if (!binding.hWnd || ::IsWindow(binding.hWnd) || CWnd::FromHandlePermanent(binding.hWnd) != binding.pWnd) {
+        return false;
+    }
+    *AfxWndAccess::SuperProcAddress(binding.pWnd) = nullptr;
+    binding.pWnd->Detach();
+    return true;
+}
+
 /** The step by which every object takes its window over, one that exists as well as one that is being made. */
 void TakeOver(CWnd& wnd, HWND hWnd)
 {
@@ -24,13 +53,28 @@ bool IsImeWindow(const CREATESTRUCT& cs)
     return !IS_INTRESOURCE(cs.lpszClass) && ::lstrcmpi(cs.lpszClass, _T("IME")) == 0;
 }
 
+/** Binds the waiting object to its window. @return whether it could be; what it threw is kept. */
+bool Bind(_AFX_THREAD_STATE& state, HWND hWnd)
+{
+    CWnd* pWnd = std::exchange(state.m_pWndInit, nullptr);
+    Binding& binding = Bindings().back();
+    binding.hWnd = hWnd;
+    try {
+        TakeOver(*pWnd, hWnd);
+        return true;
+    } catch (...) {
+        Bindings().back().error = std::current_exception();
+        return false;
+    }
+}
+
 LRESULT CALLBACK CreationHook(int nCode, WPARAM wParam, LPARAM lParam)
 {
     _AFX_THREAD_STATE* pState = AfxGetThreadState();
     if (nCode == HCBT_CREATEWND && pState->m_pWndInit) {
         const auto* pCreate = reinterpret_cast<CBT_CREATEWND*>(lParam);
-        if (!IsImeWindow(*pCreate->lpcs)) {
-            TakeOver(*std::exchange(pState->m_pWndInit, nullptr), reinterpret_cast<HWND>(wParam));
+        if (!IsImeWindow(*pCreate->lpcs) && !Bind(*pState, reinterpret_cast<HWND>(wParam))) {
+            return 1; // refuses the window: no exception may cross the system's code
         }
     }
     return ::CallNextHookEx(pState->m_hHookOldCbtFilter, nCode, wParam, lParam);
@@ -88,6 +132,7 @@ void AfxHookWindowCreate(CWnd* pWnd)
             AfxThrowMemoryException();
         }
     }
+    Bindings().push_back({pWnd, nullptr, nullptr});
     pState->m_pWndInit = pWnd;
 }
 
@@ -100,5 +145,14 @@ BOOL AfxUnhookWindowCreate()
     }
     const BOOL bBound = pState->m_pWndInit == nullptr;
     pState->m_pWndInit = nullptr;
-    return bBound;
+    if (Bindings().empty()) {
+        return bBound;
+    }
+    const Binding binding = std::move(Bindings().back());
+    Bindings().pop_back();
+    const bool isDead = ReleaseDeadWindow(binding);
+    if (binding.error) {
+        std::rethrow_exception(binding.error);
+    }
+    return bBound && !isDead;
 }

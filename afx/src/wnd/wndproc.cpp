@@ -4,6 +4,8 @@
 
 #include <afxwin.h>
 
+#include <new>
+
 namespace
 {
 /** Places a dialog that nobody placed: remembers where it was before WM_INITDIALOG and centres it after. */
@@ -52,6 +54,17 @@ class CurrentMessage
     _AFX_THREAD_STATE* m_pState;
     MSG m_previous;
 };
+
+/** Runs the object's procedure. Memory that runs out under a handler is an exception of the framework. */
+LRESULT CallProcedure(CWnd* pWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
+{
+    try {
+        return AfxWndAccess::CallWindowProc(pWnd, nMsg, wParam, lParam);
+    } catch (const std::bad_alloc&) {
+        AfxThrowMemoryException();
+    }
+    return 0;
+}
 } // namespace
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
@@ -108,7 +121,7 @@ LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM l
     const DialogPlacement placement(hWnd, nMsg);
     LRESULT lResult = 0;
     try {
-        lResult = AfxWndAccess::CallWindowProc(pWnd, nMsg, wParam, lParam);
+        lResult = CallProcedure(pWnd, nMsg, wParam, lParam);
         placement.CenterIfUntouched();
     } catch (CException* e) {
         const MSG msg = {hWnd, nMsg, wParam, lParam, 0, {0, 0}};

@@ -293,6 +293,7 @@ TEST(OwnerDraw, MenuMeasuresAndDrawsItsItems)
     EXPECT_EQ(menu.measured[0], 41u);
     ASSERT_FALSE(menu.drawn.empty());
     EXPECT_EQ(menu.drawn[0], 41u);
+}
 
 TEST(Menu, GivesNoHandleThroughANullPointer)
 {

@@ -80,3 +80,63 @@ TEST(Subclassing, WindowThatEndsTakesTheObjectOutOfTheMap)
     EXPECT_EQ(nullptr, edit.m_hWnd);
     EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(hWnd));
 }
+
+namespace
+{
+/** Throws when it gets its window, as often as it is told. */
+class ThrowingWnd : public CWnd
+{
+  public:
+    int failures = 1;
+
+    void PreSubclassWindow() override
+    {
+        if (failures > 0) {
+            --failures;
+            AfxThrowResourceException();
+        }
+    }
+};
+
+LRESULT CALLBACK RefuseWindows(int code, WPARAM wParam, LPARAM lParam)
+{
+    return code == HCBT_CREATEWND ? 1 : ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+BOOL CreatePopup(CWnd& wnd)
+{
+    return wnd.CreateEx(0, AfxRegisterWndClass(0), TEXT("popup"), WS_POPUP, 0, 0, 10, 10, nullptr, nullptr);
+}
+} // namespace
+
+TEST(Creation, ObjectIsFreeAgainWhenAnotherHookRefusesItsWindow)
+{
+    CWnd wnd;
+    const HHOOK hook = ::SetWindowsHookEx(WH_CBT, RefuseWindows, nullptr, ::GetCurrentThreadId());
+    const BOOL refused = CreatePopup(wnd);
+    ::UnhookWindowsHookEx(hook);
+    EXPECT_FALSE(refused);
+    EXPECT_EQ(wnd.m_hWnd, nullptr);
+    EXPECT_TRUE(CreatePopup(wnd));
+    EXPECT_TRUE(::IsWindow(wnd.m_hWnd));
+}
+
+TEST(Creation, ExceptionOfAnObjectThatGetsItsWindowReachesTheCreator)
+{
+    ThrowingWnd wnd;
+    bool caught = false;
+    try {
+        CreatePopup(wnd);
+    } catch (CResourceException* e) {
+        caught = e != nullptr && e->IsKindOf(RUNTIME_CLASS(CResourceException));
+        e->Delete();
+    }
+    EXPECT_TRUE(caught);
+    EXPECT_EQ(wnd.m_hWnd, nullptr);
+    // No hook is left that would bind somebody else's window.
+    const HWND plain =
+        ::CreateWindowEx(0, TEXT("STATIC"), nullptr, WS_POPUP, 0, 0, 5, 5, nullptr, nullptr, nullptr, nullptr);
+    EXPECT_EQ(CWnd::FromHandlePermanent(plain), nullptr);
+    ::DestroyWindow(plain);
+    EXPECT_TRUE(CreatePopup(wnd));
+}

@@ -1,5 +1,7 @@
 #include <tests/afx/TestWindows.h>
 
+#include <new>
+
 namespace
 {
 class ThrowingWnd : public CWnd
@@ -9,6 +11,7 @@ class ThrowingWnd : public CWnd
     int paints = 0;
 
     LRESULT Throw(WPARAM, LPARAM) { AfxThrowUserException(); }
+    LRESULT RunOutOfMemory(WPARAM, LPARAM) { throw std::bad_alloc(); }
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct)
     {
         if (throwInCreate) {
@@ -28,6 +31,7 @@ class ThrowingWnd : public CWnd
 
 BEGIN_MESSAGE_MAP(ThrowingWnd, CWnd)
     ON_MESSAGE(WM_USER, &ThrowingWnd::Throw)
+    ON_MESSAGE(WM_USER + 1, &ThrowingWnd::RunOutOfMemory)
     ON_WM_CREATE()
     ON_WM_PAINT()
 END_MESSAGE_MAP()
@@ -38,6 +42,14 @@ TEST(HandlerExceptions, EndAtTheWindowProcedureWithResultZero)
     ThrowingWnd wnd;
     ASSERT_TRUE(wnd.Make());
     EXPECT_EQ(0, wnd.SendMessage(WM_USER));
+    EXPECT_TRUE(::IsWindow(wnd));
+}
+
+TEST(HandlerExceptions, MemoryThatRunsOutEndsAtTheWindowProcedureToo)
+{
+    ThrowingWnd wnd;
+    ASSERT_TRUE(wnd.Make());
+    EXPECT_EQ(0, wnd.SendMessage(WM_USER + 1));
     EXPECT_TRUE(::IsWindow(wnd));
 }
 
