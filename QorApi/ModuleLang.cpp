@@ -51,7 +51,7 @@ bool ModuleLang::Read(const std::wstring& path, bool needed, Sections& sections)
     CQorXml xml;
     DWORD status = xml.Load(path.c_str());
     const CXmlElem* root = status == ERROR_SUCCESS ? xml.GetRoot() : nullptr;
-    if (root && wcscmp(root->GetName(), kRootName) != 0) {
+    if (status == ERROR_SUCCESS && (!root || wcscmp(root->GetName(), kRootName) != 0)) {
         status = ERROR_INVALID_DATA;
     }
     if (status != ERROR_SUCCESS) {

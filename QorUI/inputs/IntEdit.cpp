@@ -11,6 +11,15 @@ constexpr int kTextTop = 1;
 constexpr int kTextRight = 18; ///< from the right edge to the end of the text
 constexpr DWORD kSpinStyle = WS_CHILD | WS_VISIBLE | UDS_WRAP | UDS_NOTHOUSANDS;
 
+/** After a key: what is typed next stands behind the digits. */
+void ShowClamped(CIntEdit& edit, int value)
+{
+    const HWND wnd = edit.m_hWnd; // the parent may destroy the control when it is told of the change
+    edit.SetValue(value);
+    const int end = ::GetWindowTextLengthW(wnd);
+    ::SendMessageW(wnd, EM_SETSEL, static_cast<WPARAM>(end), end);
+}
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(CIntEdit, CFlatEdit)
@@ -92,14 +101,14 @@ void CIntEdit::OnChar(UINT character, UINT repeats, UINT flags)
     CFlatEdit::OnChar(character, repeats, flags);
     const int value = GetValue();
     if (value < m_nMin || value > m_nMax) {
-        SetValue(value);
+        ShowClamped(*this, value);
     }
 }
 
 void CIntEdit::OnKeyUp(UINT key, UINT repeats, UINT flags)
 {
     if (key == VK_DELETE && GetValue() < m_nMin) {
-        SetValue(m_nMin);
+        ShowClamped(*this, m_nMin);
     }
     if (key == VK_RETURN && TakesReturn()) {
         ::SendMessageW(::GetParent(m_hWnd), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), 0), 0);

@@ -4,6 +4,7 @@
 
 BEGIN_MESSAGE_MAP(CConsolePage, CWnd)
     ON_WM_CREATE()
+    ON_WM_CLOSE()
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
     ON_WM_CTLCOLOR()
@@ -44,6 +45,11 @@ int CConsolePage::OnCreate(LPCREATESTRUCT create)
     font.lfWeight = FW_BOLD;
     m_boldFont.CreateFontIndirect(&font);
     return Build() ? 0 : -1;
+}
+
+void CConsolePage::OnClose()
+{
+    // Escape in an edit control of several lines asks its parent to close, which it takes for a dialog.
 }
 
 CFont* CConsolePage::PageFont() const

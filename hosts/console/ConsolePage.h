@@ -66,6 +66,7 @@ class CConsolePage : public CWnd
     CFont* PageFont() const;
 
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    afx_msg void OnClose();
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnPaint();

@@ -158,6 +158,20 @@ TEST_F(IntEdit, EmptiedTextBecomesAMinimumAboveZero)
     EXPECT_STREQ(L"5", ts::TextOf(m_edit));
 }
 
+TEST_F(IntEdit, NextDigitStandsBehindAClampedNumber)
+{
+    m_edit.SetRange(5, 120, 5);
+    m_edit.SetSel(0, -1);
+    ts::Key('1'); // below the minimum: 5
+    ts::Key('7');
+    EXPECT_STREQ(L"57", ts::TextOf(m_edit));
+    m_edit.SetWindowText(L"3");
+    m_edit.SetSel(0, 0);
+    ts::Key(VK_DELETE);
+    ts::Key('2');
+    EXPECT_STREQ(L"52", ts::TextOf(m_edit));
+}
+
 TEST_F(IntEdit, NumberInsideTheRangeIsNotRewritten)
 {
     ts::Type(L"007");

@@ -71,6 +71,17 @@ class CAccountPage : public CConsolePage
         QorLogoff();
         ShowUser();
     }
+
+    /** Enter in the password field logs on, as in a dialog whose default button does. */
+    BOOL PreTranslateMessage(MSG* message) override
+    {
+        if (message->message == WM_KEYDOWN && message->wParam == VK_RETURN &&
+            message->hwnd == ::GetDlgItem(m_hWnd, kPassword)) {
+            OnLogon();
+            return TRUE;
+        }
+        return CConsolePage::PreTranslateMessage(message);
+    }
     DECLARE_MESSAGE_MAP()
 
   private:

@@ -81,17 +81,23 @@ class CClockPage : public CConsolePage
   private:
     bool BuildInputs()
     {
-        const bool made =
-            AddLabel(L"", CRect(kSide, kTop, kSide + 240, kTop + 18), kTime) &&
-            AddCaption(ConText(L"STR_CON_CLK_HOUR"), CRect(kSide, kTop + 30, kSide + 70, kTop + 46)) &&
-            AddEdit(CRect(kSide + 74, kTop + 30, kSide + 114, kTop + 50), kHour, ES_NUMBER) &&
-            AddCaption(ConText(L"STR_CON_CLK_MINUTE"), CRect(kSide + 126, kTop + 30, kSide + 196, kTop + 46)) &&
-            AddEdit(CRect(kSide + 200, kTop + 30, kSide + 240, kTop + 50), kMinute, ES_NUMBER);
-        if (made) {
-            SetDlgItemInt(kHour, 9);
-            SetDlgItemInt(kMinute, 15);
+        return AddLabel(L"", CRect(kSide, kTop, kSide + 240, kTop + 18), kTime) &&
+               AddCaption(ConText(L"STR_CON_CLK_HOUR"), CRect(kSide, kTop + 30, kSide + 70, kTop + 46)) &&
+               AddNumber(CRect(kSide + 74, kTop + 30, kSide + 114, kTop + 50), kHour, 23, 9) &&
+               AddCaption(ConText(L"STR_CON_CLK_MINUTE"), CRect(kSide + 126, kTop + 30, kSide + 196, kTop + 46)) &&
+               AddNumber(CRect(kSide + 200, kTop + 30, kSide + 240, kTop + 50), kMinute, 59, 15);
+    }
+
+    bool AddNumber(const CRect& rect, UINT id, int maximum, int value)
+    {
+        auto& number = Own<CIntEdit>();
+        const DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_GROUP;
+        if (!number.CreateEx(WS_EX_CLIENTEDGE, WC_EDITW, L"", style, rect, this, id)) {
+            return false;
         }
-        return made;
+        number.SetFont(PageFont());
+        number.SetRange(0, maximum, value);
+        return true;
     }
 
     bool BuildButtons()

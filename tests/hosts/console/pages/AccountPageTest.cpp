@@ -30,6 +30,12 @@ TEST_F(AccountPage, LogsOnAndOffByKeyboard)
     EXPECT_STREQ(L"Nobody is logged on.", Text(kUser));
 }
 
+TEST_F(AccountPage, EnterInThePasswordFieldLogsOn)
+{
+    Press(kPassword, VK_RETURN);
+    EXPECT_EQ(0, Text(kUser).Find(L"Logged on: Administrator"));
+}
+
 TEST_F(AccountPage, AWrongPasswordIsRefusedInABox)
 {
     TypeInto(kPassword, L"wrong");

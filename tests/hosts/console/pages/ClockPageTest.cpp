@@ -38,6 +38,14 @@ TEST_F(ClockPage, TimeIsTypedAndSet)
     EXPECT_FALSE(ts::SamePicture(before, ts::CaptureWindow(Control(kClock))));
 }
 
+TEST_F(ClockPage, TakesNoTimeThatThereIsNot)
+{
+    TypeInto(kHour, L"99");
+    TypeInto(kMinute, L"77");
+    EXPECT_STREQ(L"23", Text(kHour));
+    EXPECT_STREQ(L"59", Text(kMinute));
+}
+
 TEST_F(ClockPage, HandsRunByKeyboard)
 {
     TypeInto(kHour, L"7");

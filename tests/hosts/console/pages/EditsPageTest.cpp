@@ -32,6 +32,16 @@ TEST_F(EditsPage, TextsAreTypedAndCharactersRefused)
     EXPECT_STREQ(L"word", Text(kSecret));
 }
 
+TEST_F(EditsPage, EscapeInAFieldOfSeveralLinesLeavesThePageThere)
+{
+    for (const UINT id : {kHours, kLog}) {
+        const HWND page = *m_frame.CurrentPage();
+        Press(id, VK_ESCAPE);
+        ts::Settle();
+        EXPECT_TRUE(::IsWindow(page)) << id;
+    }
+}
+
 TEST_F(EditsPage, NumbersAreTypedIntoTheirRange)
 {
     TypeInto(kHours, L"99");
