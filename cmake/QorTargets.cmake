@@ -110,7 +110,8 @@ function(_qor_resource_depends file)
     list(TRANSFORM QOR_RESOURCE_PARTS PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/${dir}/" OUTPUT_VARIABLE patterns)
     file(GLOB_RECURSE parts CONFIGURE_DEPENDS ${patterns})
     set_property(SOURCE "${file}" APPEND PROPERTY OBJECT_DEPENDS "${parts}" "${QOR_VERSION_DIR}/QorVersion.h")
-    set_property(SOURCE "${file}" APPEND PROPERTY INCLUDE_DIRECTORIES "${QOR_VERSION_DIR}")
+    # The framework's ids; the compiler has a header of that name, too.
+    set_property(SOURCE "${file}" APPEND PROPERTY INCLUDE_DIRECTORIES "${QOR_VERSION_DIR}" "${CMAKE_SOURCE_DIR}/afx/include")
 endfunction()
 set(QOR_RESOURCE_PARTS *.bmp *.png *.avi *.ico *.manifest *.h *.rc)
 
