@@ -4,8 +4,10 @@
  * Everything that the user-interface library offers to a host program.
  */
 
+#include <QorUI/app/base/HotState.h>
 #include <QorUI/app/base/PopupPoint.h>
 #include <QorUI/app/draw/Box.h>
+#include <QorUI/app/draw/BufferedPaint.h>
 #include <QorUI/app/draw/GradientLine.h>
 #include <QorUI/app/draw/GrayCopy.h>
 #include <QorUI/app/draw/ImageStrip.h>
@@ -47,5 +49,6 @@
 #include <QorUI/inputs/FlatRichEdit.h>
 #include <QorUI/inputs/IntEdit.h>
 #include <QorUI/inputs/SearchBox.h>
+#include <QorUI/inputs/TextBound.h>
 #include <QorUI/lists/FlatHdr.h>
 #include <QorUI/lists/FlatList.h>

@@ -36,7 +36,6 @@ constexpr LPCWSTR kFace = L"Tahoma";
 constexpr int kPoints = 7;
 constexpr LONG kNormalWeight = 500;
 constexpr LONG kBoldWeight = 700;
-constexpr COLORREF kSpecial = RGB(0, 0, 255);
 constexpr COLORREF kSelected = RGB(0, 84, 227);
 constexpr COLORREF kSelectedText = QorLook::kWhite;
 constexpr int kMeasuredYears = 10; ///< headers are measured so many years around the first one
@@ -79,7 +78,7 @@ CQorCalendar::CQorCalendar()
       m_nMaxSelDays(1),
       m_crBk(QorSysLook.m_clrWindow),
       m_crNormal(QorSysLook.m_clrGrayText),
-      m_crSpecial(kSpecial),
+      m_crSpecial(QorLook::kSpecialDay),
       m_pfnIsSpecial(nullptr),
       m_pData(nullptr),
       m_bTrackDay(FALSE),

@@ -121,7 +121,7 @@ HMODULE Resources()
 std::vector<BYTE> ResourceBytes(UINT id, LPCWSTR type)
 {
     const HRSRC resource = FindResourceW(Resources(), MAKEINTRESOURCEW(id), type);
-    if (resource == nullptr) {
+    if (!resource) {
         return {};
     }
     const BYTE* bytes = static_cast<const BYTE*>(LockResource(LoadResource(Resources(), resource)));

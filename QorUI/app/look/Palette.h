@@ -20,6 +20,7 @@ inline constexpr COLORREF kFrameBack = RGB(186, 210, 234);    ///< body of a fra
 inline constexpr COLORREF kFlatBorder = RGB(128, 128, 128);   ///< border of the flat input controls
 inline constexpr COLORREF kCaptionText = kWhite;              ///< caption of a picture button, text of a text link
 inline constexpr COLORREF kCmdHotBorder = RGB(182, 230, 251); ///< highlight of a command button: its outline
+inline constexpr COLORREF kSpecialDay = RGB(0, 0, 255);       ///< number of a marked day in a calendar
 inline constexpr COLORREF kCmdHotFill = RGB(229, 244, 252);   ///< highlight of a command button: its body
 
 inline constexpr int kButtonHeight = 21;      ///< every skinned push button

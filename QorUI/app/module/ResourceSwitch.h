@@ -16,6 +16,6 @@ class ResourceSwitch
     ResourceSwitch(const ResourceSwitch&) = delete;
     ResourceSwitch& operator=(const ResourceSwitch&) = delete;
 
-    /** For the end of a dialog's `OnInitDialog`: what is loaded while the dialog is open comes from the host. */
+    /** For what a dialog starts before its `OnInitDialog` ends: from here on resources come from the host. */
     static void ToHost() { AfxGetModuleState()->m_hCurrentResourceHandle = g_QorUIApp.m_hHost; }
 };

@@ -38,7 +38,7 @@ class AFX_LIB CDialogEx : public CDialog
     CSize m_sizeBkgrBitmap;
     CBrush m_brBkgr;
     BackgroundLocation m_BkgrLocation = BACKGR_TILE;
-    BOOL m_bAutoDestroyBmp = FALSE;
+    BOOL m_bAutoDestroyBmp = FALSE; ///< The bitmap goes with the dialog.
 
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnSize(UINT nType, int cx, int cy);

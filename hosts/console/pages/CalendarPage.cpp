@@ -259,8 +259,8 @@ class CCalendarPage : public CConsolePage
             m_calendar->DestroyWindow();
         }
         m_calendar = std::make_unique<CPageCalendar>();
-        m_calendar->SetBkColor(RGB(255, 255, 255));
-        m_calendar->SetColors(RGB(70, 70, 70), RGB(0, 0, 255));
+        m_calendar->SetBkColor(QorLook::kWhite);
+        m_calendar->SetColors(RGB(70, 70, 70), QorLook::kSpecialDay);
         m_calendar->SetFirstDayOfWeek(m_week == 0 ? 1 : 2);
         m_calendar->SetMaxSelDays(kMostDays[m_days]);
         m_calendar->SetCurrentYearMonth(m_year, m_month);

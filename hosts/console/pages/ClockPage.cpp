@@ -28,7 +28,7 @@ class CClockPage : public CConsolePage
   protected:
     bool Build() override
     {
-        if (!m_clock.Create(IDB_DIAL, this, kClock, kDialogBody)) {
+        if (!m_clock.Create(IDB_DIAL, this, kClock, QorLook::kDlgBody)) {
             return false;
         }
         m_clock.SetWindowPos(nullptr, kLeft, kTop, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);

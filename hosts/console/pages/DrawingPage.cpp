@@ -88,7 +88,7 @@ class CDrawingPage : public CConsolePage
     {
         QorDrawBox(dc, 12, kBoxTop, 60, 40, kUsed);
         QorDrawBox(dc, 84, kBoxTop, 60, 40, kFree);
-        QorDrawBox(dc, 156, kBoxTop, 24, 40, RGB(255, 255, 255));
+        QorDrawBox(dc, 156, kBoxTop, 24, 40, QorLook::kWhite);
         QorDrawGradientLine(&dc, CPoint(200, kBoxTop + 20), 300);
     }
 

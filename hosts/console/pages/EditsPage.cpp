@@ -20,7 +20,7 @@ constexpr int kFirstRow = 40;
 constexpr int kLogTop = 250;
 constexpr long kLineHeight = 12;
 constexpr long kTitleHeight = 16;
-constexpr COLORREF kText = RGB(0, 0, 0);
+constexpr COLORREF kText = QorLook::kBlack;
 constexpr COLORREF kWarning = RGB(192, 0, 0);
 constexpr DWORD kChild = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_GROUP;
 

@@ -131,7 +131,7 @@ class TextFit : public testing::TestWithParam<const wchar_t*>
     void SetUp() override
     {
         ASSERT_TRUE(QorSetLanguage(GetParam()));
-        ASSERT_EQ(0u, QorOpen());
+        ASSERT_EQ(static_cast<DWORD>(ERROR_SUCCESS), QorOpen());
         ASSERT_TRUE(m_frame.Create());
         m_frame.ShowWindow(SW_SHOW);
         ASSERT_TRUE(ts::BringToFront(m_frame));

@@ -18,9 +18,9 @@ class Pages : public testing::Test
     void SetUp() override
     {
         ASSERT_TRUE(QorSetLanguage(L"en"));
-        ASSERT_EQ(0u, QorOpen());
-        ASSERT_EQ(0u, QorLogonUser(QORUSER_BUILTIN_NAME, L""));
-        ASSERT_EQ(0u, QorFillDemoStore());
+        ASSERT_EQ(static_cast<DWORD>(ERROR_SUCCESS), QorOpen());
+        ASSERT_EQ(static_cast<DWORD>(ERROR_SUCCESS), QorLogonUser(QORUSER_BUILTIN_NAME, L""));
+        ASSERT_EQ(static_cast<DWORD>(ERROR_SUCCESS), QorFillDemoStore());
         QorLogoff();
         ASSERT_TRUE(m_frame.Create());
         m_frame.ShowWindow(SW_SHOW);
