@@ -207,7 +207,8 @@ void CArray<TYPE, ARG_TYPE>::Grow(INT_PTR nNeeded)
     constexpr INT_PTR kLeastGrowth = 4;
     const INT_PTR nHalf = m_nSize / 2 > kLeastGrowth ? m_nSize / 2 : kLeastGrowth;
     const INT_PTR nGrown = m_nMaxSize + (m_nGrowBy > 0 ? m_nGrowBy : nHalf);
-    Reallocate((m_nMaxSize == 0 && m_nGrowBy == 0) || nGrown < nNeeded ? nNeeded : nGrown);
+    const bool isFirst = m_nMaxSize == 0 && m_nGrowBy == 0;
+    Reallocate(!isFirst && nGrown > nNeeded ? nGrown : nNeeded);
 }
 
 template <class TYPE, class ARG_TYPE>
