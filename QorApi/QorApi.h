@@ -5,8 +5,8 @@
  * The product's service library: language data, users and rights, log-on, settings, snapshots, tasks, time records,
  * the connection to the store and the update check.
  *
- * Calls that can fail return a 32-bit status: ERROR_SUCCESS (0) is success, anything else is a Win32 error code or an HRESULT, whose
- * text QorFormatMsg() gives. Every call may be made from any thread.
+ * Calls that can fail return a 32-bit status: ERROR_SUCCESS (0) is success, anything else is a Win32 error code or an
+ * HRESULT, whose text QorFormatMsg() gives. Every call may be made from any thread.
  *
  * No call throws while there is memory. When it runs out, the work on the store answers ERROR_NOT_ENOUGH_MEMORY and the
  * sections of the language data are empty; whatever else makes texts may let a std::bad_alloc or a CMemoryException*

@@ -98,7 +98,7 @@ class CArray : public CObject
     void FreeExtra()
     {
         if (m_nMaxSize != m_nSize) {
-            Reallocate(m_nSize);
+            m_nSize > 0 ? Reallocate(m_nSize) : Free();
         }
     }
     void RemoveAll() { SetSize(0); }
@@ -172,17 +172,15 @@ class CArray : public CObject
 template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::Reallocate(INT_PTR nMaxSize)
 {
-    TYPE* pNew = nullptr;
-    if (nMaxSize > 0) {
-        if (static_cast<size_t>(nMaxSize) > static_cast<size_t>(PTRDIFF_MAX) / kElementSize) {
-            AfxThrowMemoryException();
-        }
-        pNew = static_cast<TYPE*>(::operator new(static_cast<size_t>(nMaxSize) * kElementSize, std::nothrow));
-        if (!pNew) {
-            AfxThrowMemoryException();
-        }
-        AfxMoveToEmpty(pNew, m_pData, m_nSize);
+    // At or below zero is a size that has run over.
+    if (nMaxSize <= 0 || static_cast<size_t>(nMaxSize) > static_cast<size_t>(PTRDIFF_MAX) / kElementSize) {
+        AfxThrowMemoryException();
     }
+    auto* pNew = static_cast<TYPE*>(::operator new(static_cast<size_t>(nMaxSize) * kElementSize, std::nothrow));
+    if (!pNew) {
+        AfxThrowMemoryException();
+    }
+    AfxMoveToEmpty(pNew, m_pData, m_nSize);
     AfxDestroyElements(m_pData, m_nSize);
     ::operator delete(m_pData);
     m_pData = pNew;

@@ -79,9 +79,9 @@ void CCmdTarget::OnFinalRelease()
 
 const AFX_MSGMAP* CCmdTarget::GetThisMessageMap()
 {
-    static const AFX_MSGMAP_ENTRY end = {0, 0, 0, 0, AfxSig_end, nullptr};
-    static const AFX_MSGMAP map = {nullptr, &end};
-    return &map;
+    static const AFX_MSGMAP_ENTRY kEnd = {0, 0, 0, 0, AfxSig_end, nullptr};
+    static const AFX_MSGMAP kMap = {nullptr, &kEnd};
+    return &kMap;
 }
 
 const AFX_MSGMAP* CCmdTarget::GetMessageMap() const

@@ -1,8 +1,7 @@
-#include <afxwin.h>
-
 #include <common/Owner.h>
 
 #include <afxole.h>
+#include <afxwin.h>
 
 #include <memory>
 #include <vector>

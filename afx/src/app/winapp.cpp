@@ -224,8 +224,8 @@ LPCTSTR AfxGetAppName()
     if (pState->m_lpszCurrentAppName) {
         return pState->m_lpszCurrentAppName;
     }
-    static const CString strProgram = ModuleBaseName(nullptr);
-    return strProgram;
+    static const CString kProgram = ModuleBaseName(nullptr);
+    return kProgram;
 }
 
 int AfxMessageBox(LPCTSTR lpszText, UINT nType, UINT nIDHelp)

@@ -76,7 +76,7 @@ void CDragListBox::Dropped(int nSrcIndex, CPoint pt)
 
 BOOL CDragListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    if (message != g_nDragListMessage) {
+    if (message != kDragListMessage) {
         return CListBox::OnChildNotify(message, wParam, lParam, pResult);
     }
     const auto* pInfo = reinterpret_cast<const DRAGLISTINFO*>(lParam);

@@ -10,8 +10,8 @@ IMPLEMENT_DYNAMIC(CRichEditCtrl, CWnd)
 BOOL AFXAPI AfxInitRichEdit2()
 {
     // Kept until the process ends: windows of the class may outlive whoever asked for it.
-    static const HMODULE library = ::LoadLibrary(_T("riched20.dll"));
-    return library != nullptr;
+    static const HMODULE kLibrary = ::LoadLibrary(_T("riched20.dll"));
+    return kLibrary != nullptr;
 }
 
 BOOL AFXAPI AfxInitRichEdit()

@@ -49,13 +49,13 @@ TemplateHead ReadHead(LPCDLGTEMPLATE pTemplate)
 
 void RegisterCommonControls()
 {
-    static const bool done = [] {
+    static const bool kDone = [] {
         INITCOMMONCONTROLSEX init = {sizeof init, ICC_WIN95_CLASSES | ICC_DATE_CLASSES | ICC_INTERNET_CLASSES |
                                                       ICC_USEREX_CLASSES | ICC_LINK_CLASS | ICC_STANDARD_CLASSES};
         ::InitCommonControlsEx(&init);
         return true;
     }();
-    UNUSED_ALWAYS(done);
+    UNUSED_ALWAYS(kDone);
 }
 } // namespace
 

@@ -187,7 +187,7 @@ void AddControlKinds(UnpackerTable& table)
 
 const UnpackerTable& Unpackers()
 {
-    static const UnpackerTable table = [] {
+    static const UnpackerTable kTable = [] {
         UnpackerTable t = {};
         AddPlainKinds(t);
         AddPointerKinds(t);
@@ -195,7 +195,7 @@ const UnpackerTable& Unpackers()
         AddControlKinds(t);
         return t;
     }();
-    return table;
+    return kTable;
 }
 
 /** The number that stands for the message in message maps. */

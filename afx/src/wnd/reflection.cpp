@@ -6,7 +6,7 @@
 
 // Notifications of controls are offered to the control's own object first.
 
-const UINT g_nDragListMessage = ::RegisterWindowMessage(DRAGLISTMSGSTRING);
+const UINT kDragListMessage = ::RegisterWindowMessage(DRAGLISTMSGSTRING);
 
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
     ON_WM_NCDESTROY()
@@ -22,7 +22,7 @@ BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
     ON_WM_HSCROLL()
     ON_WM_VSCROLL()
     ON_WM_PARENTNOTIFY()
-    ON_REGISTERED_MESSAGE(g_nDragListMessage, &CWnd::OnDragList)
+    ON_REGISTERED_MESSAGE(kDragListMessage, &CWnd::OnDragList)
 END_MESSAGE_MAP()
 
 namespace

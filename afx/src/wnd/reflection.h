@@ -3,4 +3,4 @@
 #include <afxwin.h>
 
 /** The registered message by which drag list boxes talk to their parent. */
-extern const UINT g_nDragListMessage;
+extern const UINT kDragListMessage;

@@ -15,8 +15,8 @@ class FontDc
   public:
     FontDc(int height, int weight)
         : m_dc(::CreateCompatibleDC(nullptr)),
-          m_font(::CreateFontW(height, 0, 0, 0, weight, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0, 0, 0,
-                               L"MS Shell Dlg"))
+          m_font(
+              ::CreateFontW(height, 0, 0, 0, weight, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0, 0, 0, L"MS Shell Dlg"))
     {
         ::SelectObject(m_dc, m_font);
     }
