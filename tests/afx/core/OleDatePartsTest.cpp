@@ -1,3 +1,5 @@
+#include "Dates.h"
+
 #include <tests/support/Support.h>
 
 #include <afxdisp.h>
@@ -8,27 +10,6 @@ namespace
 {
 
 constexpr double kSecond = 1.0 / 86400;
-
-COleDateTime Date(int year, int month, int day, int hour = 0, int minute = 0, int second = 0)
-{
-    return COleDateTime(year, month, day, hour, minute, second);
-}
-
-std::vector<int> PartsOf(const COleDateTime& date)
-{
-    return {date.GetYear(), date.GetMonth(), date.GetDay(), date.GetHour(), date.GetMinute(), date.GetSecond()};
-}
-
-COleDateTime WithStatus(COleDateTime::DateTimeStatus status)
-{
-    COleDateTime date(40000.0);
-    date.SetStatus(status);
-    return date;
-}
-
-const COleDateTime kInvalid = WithStatus(COleDateTime::invalid);
-
-const COleDateTime kNull = WithStatus(COleDateTime::null);
 
 } // namespace
 
